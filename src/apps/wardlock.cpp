@@ -1,0 +1,17 @@
+#include "MessageBox.h"
+#include "RunTimeError.h"
+#include "StationApplication.h"
+#include "mMain.h"
+
+#include <cstdlib>
+
+int main(int argc, char* argv[]) {
+    StationApplication app(argc, argv);
+    return app.RunGuarded([&] {
+        if (!Main(StationApplication::CommandLine()))
+            return EXIT_FAILURE;
+        const int status = StationApplication::exec();
+        ReleaseMainWindow();
+        return status;
+    });
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "DateTime.h"
+#include "mDeclareGlobals.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <stdexcept>
+
+enum class ConsoleCommand { Detect, Download, ReportTour };
+enum class ReportFormat { Text, Json, Csv, Pdf };
+
+/// What a call of the command line asks for.
+struct CommandLine {
+    ConsoleCommand command = ConsoleCommand::Detect;
+    QString home;
+    OperatorType login = MasterOperator;
+    QString device;
+    bool keep = false;
+    bool json = false;
+    int tour = 0;
+    QString reader;
+    DateTime date;
+    bool all = false;
+    bool events = false;
+    ReportFormat format = ReportFormat::Text;
+    QString output;
+};
+
+/// A call that makes no sense; what() tells why.
+class UsageError : public std::runtime_error {
+public:
+    explicit UsageError(const QString& reason) : std::runtime_error(reason.toStdString()) {}
+};
+
+/// Options may stand before or behind the command's words, and as "--name value" or
+/// "--name=value". Throws UsageError.
+CommandLine ParseCommandLine(const QStringList& arguments);
+
+QString UsageText();

@@ -1,0 +1,15 @@
+#include "mDeclareGlobals.h"
+
+bool gDebugMode = false;
+bool gDemoMode = false;
+int gEdition = 0;
+int gLanguage = -1;
+std::unique_ptr<Dictionary> gDictionary;
+QString gDatabasePath;
+QString gConnectionString;
+std::unique_ptr<Connection> gConn;
+bool gAutoSetTime = true;
+std::array<QString, 4> gCompanyInfo;
+bool gDockingDetected = false;
+bool gCommActive = false;
+bool gWaitCancelled = false;

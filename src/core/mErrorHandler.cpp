@@ -1,0 +1,60 @@
+#include "mErrorHandler.h"
+
+#include "Application.h"
+#include "Clock.h"
+#include "Format.h"
+#include "MessageBox.h"
+
+#include <QFile>
+
+#include <cstdlib>
+
+namespace {
+
+EndProgramRoutine g_endProgram = nullptr;
+
+} // namespace
+
+void WriteLog(const QString& message) {
+    const QString line = DefaultDateTimeText(Now()) + u'\t' + message + u'\n';
+    QFile log(AppFile(QStringLiteral("error.log")));
+    const QByteArray bytes = line.toUtf8();
+    if (!log.open(QIODevice::Append | QIODevice::Text) || log.write(bytes) != bytes.size() ||
+        !log.flush())
+        MsgBox(QStringLiteral("Error saving to error log file\n") + message, {},
+               MessageKind::Warning);
+}
+
+void ReportError(const QString& procedure, const RunTimeError& error, ErrorShow show) {
+    const QString head = QStringLiteral("Error %1 in %2").arg(error.Number()).arg(procedure);
+    WriteLog(head + QStringLiteral("\t(") + error.Description() + u')');
+    if (show != ErrorShow::Dialog)
+        return;
+    const QString text = head + QStringLiteral("\nwhile running %1.exe v%2.%3.%4\n\n")
+                                    .arg(AppExeName())
+                                    .arg(AppMajor())
+                                    .arg(Format(AppMinor(), QStringLiteral("00")))
+                                    .arg(AppRevision()) +
+                         QStringLiteral("Error = '") + error.Description() +
+                         QStringLiteral("'\n (Click 'OK' to continue or 'Cancel' to exit the "
+                                        "program) ");
+    const auto answer = MsgBox(text, QStringLiteral("Error"), MessageKind::Information,
+                               MessageButtons::OkCancel);
+    if (answer == MessageAnswer::Cancel)
+        EndProgram();
+}
+
+void ShowProcedureError(const QString& procedure, const RunTimeError& error) {
+    MsgBox(QStringLiteral("Error %1 in procedure ").arg(error.Number()) + procedure +
+               QStringLiteral(": ") + error.Description(),
+           {}, MessageKind::Warning);
+}
+
+void InstallEndProgram(EndProgramRoutine routine) { g_endProgram = routine; }
+
+void EndProgram() {
+    if (g_endProgram)
+        g_endProgram();
+    else
+        std::_Exit(EXIT_FAILURE);
+}

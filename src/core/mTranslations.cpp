@@ -1,0 +1,51 @@
+#include "mTranslations.h"
+
+#include "Application.h"
+#include "Format.h"
+#include "Settings.h"
+#include "mDeclareGlobals.h"
+#include "mErrorHandler.h"
+
+QString Translate(const QString& text) { return gDictionary ? gDictionary->Translate(text) : text; }
+
+QString Translate(const char* text) { return Translate(QString::fromUtf8(text)); }
+
+MessageAnswer IvMessageBox(const QString& text, MessageKind kind, MessageButtons buttons,
+                           const QString& caption) {
+    return gDictionary ? gDictionary->IvMessageBox(text, caption, kind, buttons)
+                       : MsgBox(text, caption, kind, buttons);
+}
+
+QString FormatStr(const QString& pattern, const QStringList& values) {
+    return Dictionary::FormatStr(pattern, values);
+}
+
+QString GetReportsTitle() { return Translate("KV-88 Wardlock Reports"); }
+
+QString GetVersionString() {
+    return Guarded("GetVersionString of Module mTranslations", ErrorShow::Dialog, [] {
+        return QString::number(AppMajor()) + u'.' + Format(AppMinor(), QStringLiteral("00"));
+    });
+}
+
+QString TitleWithVersion() {
+    return FormatStr(Translate("%0:s - Version %1:s"), {GetReportsTitle(), GetVersionString()});
+}
+
+void OpenDictionary() {
+    gDictionary = std::make_unique<Dictionary>();
+    gDictionary->CheckLevel = 2;
+    gDictionary->FileName = AppFile(QStringLiteral("WK3.MLD"));
+    gDictionary->language = gLanguage;
+    if (IgnoringErrors([] { gDictionary->Open(); }))
+        return;
+    IvMessageBox(gDictionary->Languages(gLanguage).englishName +
+                     QStringLiteral(" could not be displayed\n"
+                                    "Resetting to default system language..."),
+                 MessageKind::Information);
+    gLanguage = 1;
+    gDictionary->language = gLanguage;
+    SaveSetting(SettingsApplication, SettingsSection::Properties, QStringLiteral("Language"),
+                QString::number(gLanguage));
+    IgnoringErrors([] { gDictionary->Open(); });
+}

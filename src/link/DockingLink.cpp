@@ -1,0 +1,202 @@
+#include "DockingLink.h"
+
+#include "Clock.h"
+#include "Format.h"
+#include "RunTimeError.h"
+#include "Settings.h"
+#include "Trace.h"
+#include "mDeclareGlobals.h"
+#include "mErrorHandler.h"
+#include "mWardlock.h"
+
+namespace {
+
+const QString PortSettings = QStringLiteral("9600,n,8,1");
+const QString PortKey = QStringLiteral("ComPort");
+
+constexpr int AnswerPause = 500; ///< ms that the reader side is given after each command
+constexpr int LookAgainPause = 300;
+
+/// The status byte tells success; a reply without one does not.
+bool Succeeded(const QByteArray& reply, bool received) {
+    return received && reply.size() > 1 && reply[1] == 0;
+}
+
+QString EventText(int event) {
+    switch (event) {
+    case CommPort::comEventBreak: return QStringLiteral(")  A Break signal was received");
+    case CommPort::comEventFrame:
+        return QStringLiteral(")  Framing Error. The hardware detected a framing error.");
+    case CommPort::comEventOverrun:
+        return QStringLiteral(")  Port Overrun. A character was not read from the hardware before "
+                              "the next character arrived and was lost.");
+    case CommPort::comEventRxOver:
+        return QStringLiteral(
+            ")  Receive Buffer Overflow. There is no room in the receive buffer");
+    case CommPort::comEventRxParity:
+        return QStringLiteral(")  Parity Error. The hardware detected a parity error.");
+    case CommPort::comEventTxFull:
+        return QStringLiteral(")  Transmit Buffer Full. The transmit buffer was full while trying "
+                              "to queue a character.");
+    case CommPort::comEventDCB:
+        return QStringLiteral(")  Unexpected error retrieving Device Control Block (DCB) for the "
+                              "port.");
+    case CommPort::comEvCTS: return QStringLiteral(")  Change in Clear To Send line.");
+    case CommPort::comEvDSR:
+        return QStringLiteral(")  Change in Data Set Ready line. This event is only fired when DSR "
+                              "changes from 1 to 0.");
+    case CommPort::comEvEOF:
+        return QStringLiteral(")  End Of File (ASCII character 26) character received.");
+    default: return {};
+    }
+}
+
+} // namespace
+
+DockingLink::DockingLink(QObject* parent) : QObject(parent) {
+    connect(&m_comPort, &CommPort::OnComm, this, &DockingLink::OnComm);
+}
+
+void DockingLink::OnComm() {
+    const int event = m_comPort.CommEvent();
+    if (event == CommPort::comEvReceive) {
+        const QByteArray bytes = m_comPort.Input();
+        m_bytesSeen += bytes.size();
+        if (gCommActive)
+            m_inBuffer.Append(bytes);
+        return;
+    }
+    const QString text = EventText(event);
+    if (!text.isEmpty())
+        Trace(Format(Now(), QStringLiteral("Hh:Nn:Ss")) +
+              QStringLiteral("***!!! CommEvent (%1").arg(event) + text);
+}
+
+bool DockingLink::OpenPort(int number) {
+    if (m_comPort.PortOpen())
+        return true;
+    return IgnoringErrors([&] {
+        m_comPort.Number = number;
+        m_comPort.Settings = PortSettings;
+        m_comPort.SetPortOpen(true);
+        m_comPort.Input();
+        m_comPort.Output("\r\n");
+        m_comPort.Output("\r\n");
+    });
+}
+
+void DockingLink::ClosePort() {
+    if (m_comPort.PortOpen())
+        m_comPort.SetPortOpen(false);
+}
+
+void DockingLink::WaitFor(int tries, std::uint8_t header1, const QByteArray& data, int timeout,
+                          std::uint8_t expected, bool acceptAny, QByteArray& reply,
+                          bool& received) {
+    received = false;
+    const auto converse = [&] {
+        gCommActive = true;
+        const QByteArray frame = BuildPacket(Wire::Header0, header1, Wire::Header2, Wire::Header3,
+                                             Wire::Header4, data);
+        for (int attempt = 0; attempt < tries; ++attempt) {
+            if (gWaitCancelled) {
+                DoEvents();
+                return;
+            }
+            m_inBuffer.Clear();
+            DoEvents();
+            if (!m_comPort.PortOpen())
+                return;
+            m_comPort.Output(frame);
+            DoEvents();
+            Sleep(AnswerPause);
+            DoEvents();
+            DoEvents();
+            // By the time of day: a wait that crosses midnight goes on until a frame comes.
+            const double start = SecondsOfDay();
+            while (SecondsOfDay() - start < timeout / 1000.0) {
+                QByteArray packet;
+                bool found = false;
+                m_inBuffer.GetPacket(packet, found);
+                if (!found) {
+                    Trace(QStringLiteral("?  No packets in buffer"));
+                    Sleep(LookAgainPause);
+                    DoEvents();
+                } else if (acceptAny || ByteAt(packet, Wire::PayloadOffset) == expected) {
+                    m_inBuffer.Clear();
+                    reply = packet.mid(Wire::PayloadOffset).chopped(1);
+                    gCommActive = false;
+                    received = true;
+                    return;
+                } else {
+                    Trace(QStringLiteral("Didnt want that, look for more"));
+                }
+            }
+            DoEvents();
+            Sleep(timeout);
+        }
+        gCommActive = false;
+    };
+    Trapped(converse, [](const RunTimeError& error) {
+        Trace(QStringLiteral("** Error in WaitFor! ") + error.Description());
+    });
+}
+
+bool DockingLink::DetectStation() {
+    gCommActive = true;
+    m_inBuffer.Clear();
+    QByteArray reply;
+    bool received = false;
+    WaitFor(1, Wire::Header1, CmdDetect(), 900, Wire::ReplyDetect, false, reply, received);
+    return received;
+}
+
+bool DockingLink::TxNewDate(std::uint8_t hour, std::uint8_t minute, std::uint8_t dateMsb,
+                            std::uint8_t dateLsb) {
+    QByteArray reply;
+    bool received = false;
+    WaitFor(3, Wire::Header1, CmdSetClock(hour, minute, dateMsb, dateLsb), 1200, Wire::ReplyClock,
+            false, reply, received);
+    return Succeeded(reply, received);
+}
+
+bool DockingLink::SetClockToNow() {
+    const DateTime now = Now();
+    const QTime time = now.ToQTime();
+    const std::uint16_t code = DateCodeOf(now);
+    const auto msb = static_cast<std::uint8_t>(code / 256);
+    const auto lsb = static_cast<std::uint8_t>(code % 256);
+    Trace(QStringLiteral("Auto-setting date code to ") + Hex00(msb) + Hex00(lsb) +
+          QStringLiteral(" = "));
+    return TxNewDate(static_cast<std::uint8_t>(time.hour()),
+                     static_cast<std::uint8_t>(time.minute()), msb, lsb);
+}
+
+void DockingLink::EraseRequest(bool& succeeded) {
+    gCommActive = true;
+    m_inBuffer.Clear();
+    DoEvents();
+    Sleep(AnswerPause);
+    DoEvents();
+    QByteArray reply;
+    bool received = false;
+    WaitFor(1, Wire::Header1, CmdEraseMemory(), 1500, Wire::ReplyMemory, false, reply, received);
+    succeeded = Succeeded(reply, received);
+    gCommActive = false;
+}
+
+int SavedPortNumber() {
+    int number = 0;
+    IgnoringErrors([&] {
+        number = ToInteger(
+            GetSetting(SettingsApplication, SettingsSection::ComPort, PortKey, QStringLiteral("1")));
+    });
+    if (number < 1 || number > 8)
+        number = 1;
+    SavePortNumber(number);
+    return number;
+}
+
+void SavePortNumber(int number) {
+    SaveSetting(SettingsApplication, SettingsSection::ComPort, PortKey, QString::number(number));
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "CommPort.h"
+#include "cInBuffer.h"
+
+#include <QByteArray>
+#include <QObject>
+
+#include <cstdint>
+
+/// The road to the docking station: the port, the receive buffer that its events fill, and the one
+/// send-and-wait routine. Owned by the main window (or the command line), and handed to whatever
+/// speaks with the dock.
+///
+/// Everything runs on the interface thread. Bytes reach the buffer only while events are handled,
+/// and only while gCommActive is true; otherwise they are dropped.
+class DockingLink : public QObject {
+    Q_OBJECT
+public:
+    explicit DockingLink(QObject* parent = nullptr);
+
+    CommPort& comPort() { return m_comPort; }
+    cInBuffer& InBuffer() { return m_inBuffer; }
+    /// Bytes that have arrived so far, dropped ones included.
+    std::int64_t BytesSeen() const { return m_bytesSeen; }
+
+    /// True if the port is open already or could be opened.
+    bool OpenPort(int number);
+    /// Closes the port if it is open.
+    void ClosePort();
+
+    /// Sends a command and waits for its reply.
+    ///
+    /// The command is sent up to `tries` times. After each sending the reader side is given 500 ms;
+    /// then the buffer is looked at for `timeout` ms, and a try that brought nothing is followed
+    /// by a pause of that length again. A frame whose reply code is not `expected` is passed over,
+    /// unless `acceptAny`. `reply` becomes the payload: the reply code, then the status byte.
+    void WaitFor(int tries, std::uint8_t header1, const QByteArray& data, int timeout,
+                 std::uint8_t expected, bool acceptAny, QByteArray& reply, bool& received);
+
+    /// True if a docking station answers.
+    bool DetectStation();
+    /// Sets the reader's clock; true if the reader said so.
+    bool TxNewDate(std::uint8_t hour, std::uint8_t minute, std::uint8_t dateMsb,
+                   std::uint8_t dateLsb);
+    /// Sets the reader's clock to the present time; true if the reader said so.
+    bool SetClockToNow();
+    /// One erase command; `succeeded` if the reader said so.
+    void EraseRequest(bool& succeeded);
+
+private:
+    void OnComm();
+
+    CommPort m_comPort;
+    cInBuffer m_inBuffer;
+    std::int64_t m_bytesSeen = 0;
+};
+
+/// The port number of the setting; 1 where that is no number from 1 to 8. Saved again in any case.
+int SavedPortNumber();
+void SavePortNumber(int number);

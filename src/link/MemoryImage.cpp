@@ -1,0 +1,95 @@
+#include "MemoryImage.h"
+
+#include "Format.h"
+#include "Recordset.h"
+#include "Trace.h"
+#include "mTranslations.h"
+#include "mWardlock.h"
+
+#include <algorithm>
+
+int FramesFor(int recordCount) {
+    const int behindFirst = std::max(0, recordCount - Wire::FirstFrameRecords);
+    return 1 + (behindFirst + Wire::FrameRecords - 1) / Wire::FrameRecords;
+}
+
+int RecordCountOf(const QByteArray& firstFrame) {
+    const int low = ByteAt(firstFrame, Wire::CountOffset);
+    const int high = ByteAt(firstFrame, Wire::CountOffset + 1);
+    return static_cast<std::int16_t>(high * 256 + low);
+}
+
+QString ReaderIdOf(const QByteArray& firstFrame) {
+    const auto digits = [&](int index) {
+        return Hex00(ByteAt(firstFrame, Wire::IdentifierOffset + index));
+    };
+    return digits(2) + digits(3) + digits(1) + digits(0);
+}
+
+QString FirmwareTextOf(const QByteArray& firstFrame) {
+    return u'V' + Hex00(ByteAt(firstFrame, Wire::FirmwareOffset));
+}
+
+const cRawButton& ButtonDirectory::LookUpButtonData(const QString& code) {
+    const auto known = m_known.constFind(code);
+    if (known != m_known.constEnd())
+        return *known;
+    cRawButton button;
+    button.ButtonCode = code;
+    button.Name = Translate("Unknown");
+    Recordset rows;
+    rows.CursorLocation = adUseClient;
+    rows.Open(QStringLiteral("SELECT tblButtons.tButtonCode, tblListItems.wType, "
+                             "tblButtons.tButtonName, tblButtons.tButtonDesc, "
+                             "tblListItems.tName AS tGroupName, tblListItems.tDesc AS tGroupDesc "
+                             "FROM tblButtons INNER JOIN tblListItems ON "
+                             "tblButtons.lParentID = tblListItems.ID "
+                             "WHERE (((tblButtons.tButtonCode)='") +
+                  code + QStringLiteral("'));"),
+              *gConn);
+    if (rows.RecordCount() == 1) {
+        button.EventType = static_cast<int>(rows.Number(u"wType"));
+        button.Name = rows.Text(u"tButtonName");
+        button.Description = rows.Text(u"tButtonDesc");
+        button.GroupName = rows.Text(u"tGroupName");
+        button.GroupDesc = rows.Text(u"tGroupDesc");
+    }
+    return *m_known.insert(code, button);
+}
+
+colRawButtons DecodeImage(const colPackets& packets, ButtonDirectory& directory,
+                          const std::function<void()>& decoded) {
+    colRawButtons touches;
+    // Before the first marker a touch has a time of day on the zero date.
+    DateTime date;
+    int hour = 0;
+    for (const cPacket& packet : packets) {
+        const QByteArray& frame = packet.RawData;
+        const int start = packet.Tag == 1 ? Wire::FirstRecordOffset : Wire::RecordOffset;
+        const int records = (static_cast<int>(frame.size()) - 1 - start) / Wire::RecordBytes;
+        for (int record = 0; record < records; ++record) {
+            const int at = start + record * Wire::RecordBytes;
+            const int b0 = ByteAt(frame, at), b1 = ByteAt(frame, at + 1),
+                      b2 = ByteAt(frame, at + 2), b3 = ByteAt(frame, at + 3);
+            if (b0 == 0 && b1 == 0 && b2 == 0 && b3 == 0)
+                return touches; // the end mark
+            if (b3 == Wire::MarkerByte) {
+                hour = std::min(b0, 23);
+                date = DateTime::FromDays(DecodeDateCode(b2, b1));
+                Trace(QStringLiteral("Rx date = ") + Hex00(ByteAt(frame, at + 1)) +
+                      Hex00(ByteAt(frame, at + 2)));
+                Trace(QStringLiteral("*Decoded event date = ") +
+                      Format(date, QStringLiteral("Medium Date")));
+                continue;
+            }
+            const QString code = Hex00(ByteAt(frame, at + 2)) + Hex00(ByteAt(frame, at + 1)) +
+                                 Hex00(ByteAt(frame, at));
+            cRawButton touch = directory.LookUpButtonData(code);
+            touch.DateAndTime = date + DateTime::FromTime(hour, std::min(b3, 59));
+            touches.push_back(std::move(touch));
+            if (decoded)
+                decoded();
+        }
+    }
+    return touches;
+}

@@ -1,0 +1,263 @@
+#include "MemoryTransfer.h"
+
+#include "DockingLink.h"
+#include "Format.h"
+#include "MemoryImage.h"
+#include "Trace.h"
+#include "mErrorHandler.h"
+#include "mStore.h"
+#include "mTranslations.h"
+#include "mWardlock.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int StartInterval = 500;
+constexpr int PacketInterval = 350;
+constexpr int WatchdogInterval = 5000;
+
+QString Percent(int part, int whole, const char* pattern) {
+    return Format((part * 100LL + whole / 2) / whole, QString::fromLatin1(pattern)) + u'%';
+}
+
+} // namespace
+
+MemoryTransfer::MemoryTransfer(DockingLink& link, TransferView& view)
+    : m_link(link), m_view(view), m_tmrStart(StartInterval), m_tmrGetPackets(PacketInterval),
+      m_tmrTimeout(WatchdogInterval) {
+    connect(&m_tmrStart, &Timer::Tick, this, &MemoryTransfer::BeginReading);
+    connect(&m_tmrGetPackets, &Timer::Tick, this, &MemoryTransfer::TakePacket);
+    connect(&m_tmrTimeout, &Timer::Tick, this, [this] { Fail(Translate("Download Error")); });
+}
+
+MemoryTransfer::~MemoryTransfer() = default;
+
+void MemoryTransfer::Start() {
+    m_bytesAtStart = m_link.BytesSeen();
+    m_tmrStart.SetEnabled(true);
+}
+
+void MemoryTransfer::BeginReading() {
+    m_tmrStart.SetEnabled(false);
+    if (!bFirmwareVersion)
+        m_view.ShowText(Translate("Downloading data from reader"));
+    m_view.ShowWarning(true);
+    DoEvents();
+    Sleep(800);
+    DoEvents();
+    if (m_closed)
+        return;
+    m_bytesAtRequest = m_link.BytesSeen();
+    m_lineWasBusy = m_bytesAtRequest != m_bytesAtStart;
+    m_tmrGetPackets.SetEnabled(true);
+    gCommActive = true;
+    Trapped(
+        [this] {
+            const QByteArray frame =
+                BuildPacket(Wire::Header0, Wire::Header1, Wire::Header2, Wire::Header3,
+                            Wire::Header4, CmdReadMemory());
+            m_link.InBuffer().Clear();
+            m_link.comPort().Output(frame);
+        },
+        [this](const RunTimeError& error) {
+            Trace(error.Description());
+            Fail(Translate("Download Error"));
+        });
+}
+
+void MemoryTransfer::TakePacket() {
+    DoEvents();
+    if (m_closed)
+        return;
+    if (!m_answered && m_link.BytesSeen() != m_bytesAtRequest) {
+        m_answered = true;
+        m_tmrTimeout.SetEnabled(true);
+    }
+    QByteArray frame;
+    bool received = false;
+    m_link.InBuffer().GetPacket(frame, received);
+    if (!received) {
+        if (!m_link.comPort().PortOpen()) // the dock has gone, and all it sent is taken
+            Fail(Translate("Download Error"));
+        return;
+    }
+    Trace(BytesToHex(frame));
+    const PacketResult result = ProcessPacket(frame);
+    ShowProgress(m_frameCount, m_frameTotal);
+    if (m_frameTotal > 0)
+        m_view.ShowProgressText(Percent(m_frameCount, m_frameTotal, "0"));
+    switch (result) {
+    case NoReader: Fail(Translate("Reader not detected. Check reader and try again.")); break;
+    case TransferFault: Fail(Translate("Download Error") + QStringLiteral(" (002)")); break;
+    case Failed: Fail(Translate("Download Error")); break;
+    case Running:
+        m_tmrTimeout.SetEnabled(false);
+        DoEvents();
+        if (!m_closed)
+            m_tmrTimeout.SetEnabled(true);
+        break;
+    case Complete: EndReading(); break;
+    }
+}
+
+MemoryTransfer::PacketResult MemoryTransfer::ProcessPacket(const QByteArray& frame) {
+    if (frame.size() - 1 < Wire::LeastMemoryIndex)
+        return StatusOf(frame);
+    if (ByteAt(frame, Wire::PayloadOffset) != Wire::ReplyMemory)
+        return Running;
+    ++m_frameCount;
+    if (m_frameCount == 1) {
+        const PacketResult result = ProcessFirstFrame(frame);
+        if (result != Running)
+            return result;
+    }
+    m_packets.Add(frame).Tag = m_frameCount;
+    Trace(Format(m_frameCount, QStringLiteral("000")) + u' ' + BytesToHex(frame));
+    return m_frameCount == m_frameTotal ? Complete : Running;
+}
+
+MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray& frame) {
+    const QString readerId = ReaderIdOf(frame);
+    const bool trusted = !m_lineWasBusy && m_link.InBuffer().Lost() == 0;
+    if (!trusted && !IsKnownReader(readerId))
+        return Failed;
+    m_pipeId = readerId;
+    m_firmware = FirmwareTextOf(frame);
+    m_recordCount = RecordCountOf(frame);
+    if (m_recordCount < 0)
+        return Failed;
+    if (GetIDMode)
+        return Complete;
+    m_view.ShowReaderId(m_pipeId);
+    m_frameTotal = FramesFor(m_recordCount);
+    return Running;
+}
+
+MemoryTransfer::PacketResult MemoryTransfer::StatusOf(const QByteArray& frame) {
+    const int behindStatus = Wire::StatusOffset + Wire::StatusBytes;
+    if (frame.size() - 1 < behindStatus) // the last byte is the checksum
+        return Running;
+    const QByteArray status = frame.mid(Wire::StatusOffset, Wire::StatusBytes);
+    const auto allAre = [&](std::uint8_t value) {
+        return status.count(static_cast<char>(value)) == Wire::StatusBytes;
+    };
+    if (allAre(Wire::StatusTransferFault))
+        return TransferFault;
+    return allAre(Wire::StatusNoReader) ? NoReader : Running;
+}
+
+void MemoryTransfer::EndReading() {
+    m_view.ShowText(Translate("Download Completed"));
+    DoEvents();
+    if (m_closed)
+        return;
+    if (bFirmwareVersion) {
+        if (m_firmware == u"V08")
+            m_firmware = QStringLiteral("V06");
+        Finish();
+        return;
+    }
+    if (GetIDMode) {
+        Finish();
+        return;
+    }
+    m_tmrStart.SetEnabled(false);
+    m_tmrGetPackets.SetEnabled(false);
+    m_tmrTimeout.SetEnabled(false);
+    DoEvents();
+    Sleep(500);
+    DoEvents();
+    if (m_closed)
+        return;
+    if (!StreamHasEnded()) {
+        Fail(Translate("Download Error"));
+        return;
+    }
+    const bool processed = ProcessData();
+    if (m_closed)
+        return;
+    if (processed)
+        Finish();
+    else
+        Fail(Translate("Download Error"));
+}
+
+bool MemoryTransfer::StreamHasEnded() {
+    cInBuffer& buffer = m_link.InBuffer();
+    const std::int64_t lost = buffer.Lost();
+    for (;;) {
+        QByteArray frame;
+        bool received = false;
+        buffer.GetPacket(frame, received);
+        if (!received)
+            return buffer.Buffer().isEmpty() && buffer.Lost() == lost;
+        if (frame.size() - 1 >= Wire::LeastMemoryIndex)
+            return false;
+    }
+}
+
+bool MemoryTransfer::ProcessData() {
+    return Guarded("ProcessData of Form frmDownload", [this] {
+        m_recordCount = std::max(m_recordCount, 1);
+        m_view.ShowText(Translate("Processing Data"));
+        ShowProgress(0, m_recordCount);
+        DoEvents();
+        Sleep(200);
+        ButtonDirectory directory;
+        m_buttons = DecodeImage(m_packets, directory, [this] {
+            ++m_decoded;
+            ShowProgress(m_decoded, m_recordCount);
+            m_view.ShowProgressText(Percent(m_frameCount, m_frameTotal, "00"));
+        });
+        ShowProgress(m_recordCount, m_recordCount);
+        m_view.ShowProgressText(QStringLiteral("100%"));
+        Sleep(400);
+        DoEvents();
+        return true;
+    });
+}
+
+void MemoryTransfer::ShowProgress(int value, int maximum) {
+    m_view.ShowProgress(std::min(value, maximum), maximum);
+}
+
+void MemoryTransfer::Finish() {
+    m_view.ShowWarning(false);
+    m_ok = true;
+    m_view.Beep();
+    Close();
+}
+
+void MemoryTransfer::Fail(const QString& text) {
+    if (m_closed)
+        return;
+    m_view.ShowWarning(false);
+    m_tmrStart.SetEnabled(false);
+    m_tmrGetPackets.SetEnabled(false);
+    m_tmrTimeout.SetEnabled(false);
+    DoEvents();
+    if (m_closed)
+        return;
+    m_view.Beep();
+    m_buttons.clear();
+    IvMessageBox(text, MessageKind::Warning);
+    m_ok = false;
+    Close();
+}
+
+void MemoryTransfer::Cancel() {
+    m_ok = false;
+    Close();
+}
+
+void MemoryTransfer::Close() {
+    if (m_closed)
+        return;
+    m_closed = true;
+    m_tmrStart.SetEnabled(false);
+    m_tmrGetPackets.SetEnabled(false);
+    m_tmrTimeout.SetEnabled(false);
+    gCommActive = false;
+    emit Closed();
+}

@@ -1,0 +1,111 @@
+#include "Dictionary.h"
+
+#include "RunTimeError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+#include <QRegularExpression>
+#include <QResource>
+#include <QTranslator>
+
+namespace {
+
+// The file is a binary resource collection: a list of the languages and one compiled catalogue for
+// each but the language of the keys.
+const QString Root = QStringLiteral("/WK3");
+
+[[noreturn]] void ThrowUnreadable(const QString& what) {
+    throw RunTimeError(RunTimeErrorNumber::FileNotFound,
+                       QStringLiteral("Cannot open the dictionary: %1").arg(what));
+}
+
+} // namespace
+
+Dictionary::Dictionary() = default;
+
+Dictionary::~Dictionary() { Unload(); }
+
+void Dictionary::Unload() {
+    m_translator.reset();
+    m_languages.clear();
+    if (!m_registered.isEmpty())
+        QResource::unregisterResource(m_registered, Root);
+    m_registered.clear();
+}
+
+void Dictionary::Open() {
+    Unload();
+    if (!QResource::registerResource(FileName, Root))
+        ThrowUnreadable(QDir::toNativeSeparators(FileName));
+    m_registered = FileName;
+    QFile list(u':' + Root + QStringLiteral("/languages.json"));
+    if (!list.open(QIODevice::ReadOnly))
+        ThrowUnreadable(QDir::toNativeSeparators(FileName));
+    for (const QJsonValue& entry : QJsonDocument::fromJson(list.readAll()).array())
+        m_languages += {entry[u"englishName"].toString(), entry[u"nativeName"].toString(),
+                        entry[u"locale"].toString()};
+    const int number = language < 0 ? SystemLanguage() : language;
+    if (number >= m_languages.size())
+        ThrowUnreadable(QStringLiteral("no language %1").arg(number));
+    const QString locale = m_languages[number].locale;
+    if (locale.isEmpty())
+        return;
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(u':' + Root + u'/' + locale + QStringLiteral(".qm")))
+        ThrowUnreadable(m_languages[number].englishName);
+    m_translator = std::move(translator);
+}
+
+int Dictionary::SystemLanguage() const {
+    const QString system = QLocale().name();
+    for (int number = 0; number < m_languages.size(); ++number) {
+        const QString locale = m_languages[number].locale;
+        if (!locale.isEmpty() && (system == locale || system.startsWith(locale + u'_')))
+            return number;
+    }
+    return 0;
+}
+
+Language Dictionary::Languages(int number) const {
+    if (number >= 0 && number < m_languages.size())
+        return m_languages[number];
+    if (number < 0)
+        return {QLocale::languageToString(QLocale().language()), QLocale().nativeLanguageName(),
+                QLocale().name()};
+    return {QStringLiteral("Language %1").arg(number), {}, {}};
+}
+
+QString Dictionary::Translate(const QString& text) const {
+    if (!m_translator || text.isEmpty())
+        return text;
+    const QString translated = m_translator->translate("Wardlock", text.toUtf8().constData());
+    return translated.isEmpty() ? text : translated;
+}
+
+bool Dictionary::SelectLanguage(int& number) { return m_chooser && m_chooser(*this, number); }
+
+MessageAnswer Dictionary::IvMessageBox(const QString& text, const QString& caption,
+                                       MessageKind kind, MessageButtons buttons) const {
+    Message message{text, caption, kind, buttons, {}};
+    for (const QString& word : ButtonWords(buttons))
+        message.buttonTexts += Translate(word);
+    return ShowMessage(message);
+}
+
+QString Dictionary::FormatStr(const QString& pattern, const QStringList& values) {
+    static const QRegularExpression mark(QStringLiteral("%(\\d+):s"));
+    QString text;
+    qsizetype behind = 0;
+    for (auto marks = mark.globalMatch(pattern); marks.hasNext();) {
+        const auto match = marks.next();
+        text += QStringView(pattern).mid(behind, match.capturedStart() - behind);
+        text += values.value(match.captured(1).toInt());
+        behind = match.capturedEnd();
+    }
+    text += QStringView(pattern).mid(behind);
+    return text;
+}

@@ -1,0 +1,87 @@
+#include "Format.h"
+
+#include <QLocale>
+#include <QRegularExpression>
+
+namespace {
+
+bool Is(const QString& pattern, QStringView name) {
+    return pattern.compare(name, Qt::CaseInsensitive) == 0;
+}
+
+QString WithFourDigitYear(QString pattern) {
+    static const QRegularExpression twoDigits(QStringLiteral("(?<!y)yy(?!y)"));
+    return pattern.replace(twoDigits, QStringLiteral("yyyy"));
+}
+
+QString WithoutSeconds(QString pattern) {
+    static const QRegularExpression seconds(QStringLiteral("[^\\w']*s+([.,]z+)?"));
+    return pattern.remove(seconds);
+}
+
+QString LocaleText(DateTime value, const QString& qtPattern) {
+    const QLocale locale;
+    return locale.toString(QDateTime(value.ToQDate(), value.ToQTime()), qtPattern);
+}
+
+QString Padded(int value, int width) {
+    return QStringLiteral("%1").arg(value, width, 10, QLatin1Char('0'));
+}
+
+} // namespace
+
+QString GetShortDateFormat() {
+    return WithFourDigitYear(QLocale().dateFormat(QLocale::ShortFormat));
+}
+
+QString Format(DateTime value, const QString& pattern) {
+    if (Is(pattern, u"Short Date"))
+        return LocaleText(value, GetShortDateFormat());
+    if (Is(pattern, u"Medium Date"))
+        return QLocale().toString(value.ToQDate(), QStringLiteral("dd-MMM-yyyy"));
+    if (Is(pattern, u"Short Time"))
+        return LocaleText(value, WithoutSeconds(QLocale().timeFormat(QLocale::ShortFormat)));
+
+    const QDate date = value.ToQDate();
+    const QTime time = value.ToQTime();
+    QString text;
+    bool behindHour = false;
+    for (qsizetype at = 0; at < pattern.size();) {
+        const QChar letter = pattern[at].toLower();
+        qsizetype end = at;
+        while (end < pattern.size() && pattern[end].toLower() == letter)
+            ++end;
+        const int count = static_cast<int>(end - at);
+        const int width = count > 1 ? 2 : 1;
+        const bool minute = letter == u'n' || (letter == u'm' && behindHour && count < 3);
+        if (minute)
+            text += Padded(time.minute(), width);
+        else if (letter == u'd')
+            text += Padded(date.day(), width);
+        else if (letter == u'm')
+            text += count > 2 ? QLocale().monthName(date.month(), QLocale::ShortFormat)
+                              : Padded(date.month(), width);
+        else if (letter == u'y')
+            text += count > 2 ? Padded(date.year(), 4) : Padded(date.year() % 100, 2);
+        else if (letter == u'h')
+            text += Padded(time.hour(), width);
+        else if (letter == u's')
+            text += Padded(time.second(), width);
+        else
+            text += QStringView(pattern).mid(at, count);
+        if (letter.isLetter())
+            behindHour = letter == u'h';
+        at = end;
+    }
+    return text;
+}
+
+QString Format(long long value, const QString& pattern) {
+    return QStringLiteral("%1").arg(value, static_cast<int>(pattern.count(u'0')), 10,
+                                    QLatin1Char('0'));
+}
+
+QString DefaultDateTimeText(DateTime value) {
+    return Format(value, QStringLiteral("Short Date")) + u' ' +
+           QLocale().toString(value.ToQTime(), QStringLiteral("HH:mm:ss"));
+}

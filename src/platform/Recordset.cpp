@@ -1,0 +1,311 @@
+#include "Recordset.h"
+
+#include "Connection.h"
+#include "RunTimeError.h"
+
+#include <sqlcipher/sqlite3.h>
+
+namespace {
+
+void Finalize(sqlite3_stmt* statement) { sqlite3_finalize(statement); }
+
+Value ColumnValue(sqlite3_stmt* statement, int column) {
+    switch (sqlite3_column_type(statement, column)) {
+    case SQLITE_INTEGER: return Value(qint64{sqlite3_column_int64(statement, column)});
+    case SQLITE_FLOAT: return Value(sqlite3_column_double(statement, column));
+    case SQLITE_NULL: return {};
+    default: {
+        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+        return Value(QString::fromUtf8(text, sqlite3_column_bytes(statement, column)));
+    }
+    }
+}
+
+void AppendColumn(RowStore& rows, sqlite3_stmt* statement, int column) {
+    switch (sqlite3_column_type(statement, column)) {
+    case SQLITE_INTEGER: rows.AppendNumber(sqlite3_column_int64(statement, column)); break;
+    case SQLITE_FLOAT: rows.AppendReal(sqlite3_column_double(statement, column)); break;
+    case SQLITE_NULL: rows.AppendNull(); break;
+    default: {
+        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+        rows.AppendText(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
+    }
+    }
+}
+
+void Bind(sqlite3_stmt* statement, int position, const Value& value) {
+    if (const auto* number = std::get_if<qint64>(&value.Data())) {
+        sqlite3_bind_int64(statement, position, *number);
+    } else if (const auto* real = std::get_if<double>(&value.Data())) {
+        sqlite3_bind_double(statement, position, *real);
+    } else if (const auto* text = std::get_if<QString>(&value.Data())) {
+        const QByteArray utf8 = text->toUtf8();
+        sqlite3_bind_text(statement, position, utf8.constData(), static_cast<int>(utf8.size()),
+                          SQLITE_TRANSIENT);
+    } else {
+        sqlite3_bind_null(statement, position);
+    }
+}
+
+} // namespace
+
+Recordset::Recordset() : m_reader(nullptr, Finalize), m_writer(nullptr, Finalize) {}
+
+Recordset::~Recordset() = default;
+
+ObjectState Recordset::State() const { return m_connection ? adStateOpen : adStateClosed; }
+
+void Recordset::RequireOpen() const {
+    if (!m_connection)
+        throw RunTimeError(RunTimeErrorNumber::ObjectClosed,
+                           QStringLiteral("Operation is not allowed when the object is closed."));
+}
+
+Recordset::Statement Recordset::Prepare(const QByteArray& engineSql) const {
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v2(m_connection->Handle(), engineSql.constData(),
+                           static_cast<int>(engineSql.size()), &statement, nullptr) != SQLITE_OK)
+        m_connection->ThrowEngineError();
+    return {statement, Finalize};
+}
+
+void Recordset::Open(const QString& source, Connection& connection, CursorType cursor,
+                     LockType lock, CommandType command) {
+    if (m_connection)
+        throw RunTimeError(RunTimeErrorNumber::ObjectOpen,
+                           QStringLiteral("Operation is not allowed when the object is open."));
+    if (connection.State() != adStateOpen)
+        throw RunTimeError(RunTimeErrorNumber::ObjectClosed,
+                           QStringLiteral("Operation is not allowed when the object is closed."));
+    const QString statement =
+        command == adCmdTable ? QStringLiteral("SELECT * FROM %1").arg(source) : source;
+    m_sql = TranslateSql(statement, lock != adLockReadOnly);
+    m_writable = m_sql.hasRowKey;
+    m_server = cursor == adOpenForwardOnly && CursorLocation == adUseServer;
+    m_serverStarted = false;
+    m_current = 0;
+    m_edit = Edit::None;
+    m_rows.Clear();
+    m_connection = &connection;
+    try {
+        m_reader = Prepare(m_sql.text);
+        m_columns.clear();
+        const int count = sqlite3_column_count(m_reader.get()) - (m_sql.hasRowKey ? 1 : 0);
+        for (int column = 0; column < count; ++column)
+            m_columns += QString::fromUtf8(sqlite3_column_name(m_reader.get(), column));
+        if (!m_server)
+            FetchAll();
+    } catch (...) {
+        Close();
+        throw;
+    }
+}
+
+void Recordset::Close() {
+    m_connection = nullptr;
+    m_reader.reset();
+    m_writer.reset();
+    m_writerKind = Edit::None;
+    m_rows.Clear();
+    m_edit = Edit::None;
+}
+
+void Recordset::FetchAll() {
+    const int count = sqlite3_column_count(m_reader.get());
+    int code;
+    while ((code = sqlite3_step(m_reader.get())) == SQLITE_ROW) {
+        m_rows.BeginRow();
+        for (int column = 0; column < count; ++column)
+            AppendColumn(m_rows, m_reader.get(), column);
+        m_rows.EndRow();
+    }
+    if (code != SQLITE_DONE)
+        m_connection->ThrowEngineError();
+    m_reader.reset();
+}
+
+bool Recordset::FetchOne() {
+    m_serverStarted = true;
+    const int code = sqlite3_step(m_reader.get());
+    if (code != SQLITE_ROW && code != SQLITE_DONE)
+        m_connection->ThrowEngineError();
+    m_serverRow = code == SQLITE_ROW;
+    return m_serverRow;
+}
+
+int Recordset::RecordCount() {
+    RequireOpen();
+    WritePending();
+    return m_server ? -1 : static_cast<int>(m_rows.Count());
+}
+
+bool Recordset::Eof() {
+    RequireOpen();
+    if (m_edit == Edit::Adding)
+        return false;
+    if (!m_server)
+        return m_current >= m_rows.Count();
+    return m_serverStarted ? !m_serverRow : !FetchOne();
+}
+
+void Recordset::MoveFirst() {
+    RequireOpen();
+    WritePending();
+    m_current = 0;
+    if (m_server) {
+        sqlite3_reset(m_reader.get());
+        FetchOne();
+    }
+}
+
+void Recordset::MoveNext() {
+    RequireRow();
+    WritePending();
+    if (m_server)
+        FetchOne();
+    else
+        ++m_current;
+}
+
+void Recordset::RequireRow() {
+    if (Eof())
+        throw RunTimeError(RunTimeErrorNumber::AtBeginOrEnd,
+                           QStringLiteral("Either BOF or EOF is True, or the current record has "
+                                          "been deleted. Requested operation requires a current "
+                                          "record."));
+}
+
+Value Recordset::FieldAt(int column) {
+    RequireRow();
+    const auto index = static_cast<std::size_t>(column);
+    if (m_edit == Edit::Adding || (m_edit == Edit::Changing && m_assigned[index]))
+        return m_pending[index];
+    return m_server ? ColumnValue(m_reader.get(), column) : m_rows.At(m_current, column);
+}
+
+void Recordset::AddNew() {
+    RequireOpen();
+    if (!m_writable)
+        throw RunTimeError(RunTimeErrorNumber::InvalidPropertyValue,
+                           QStringLiteral("Current Recordset does not support updating."));
+    WritePending();
+    m_edit = Edit::Adding;
+    m_pending.assign(static_cast<std::size_t>(m_columns.size()), Value());
+    m_assigned.assign(static_cast<std::size_t>(m_columns.size()), false);
+}
+
+void Recordset::Set(QStringView name, Value value) {
+    const int column = Column(name);
+    RequireRow();
+    if (m_edit == Edit::None) {
+        if (!m_writable || m_server)
+            throw RunTimeError(RunTimeErrorNumber::InvalidPropertyValue,
+                               QStringLiteral("Current Recordset does not support updating."));
+        m_edit = Edit::Changing;
+        m_pending.assign(static_cast<std::size_t>(m_columns.size()), Value());
+        m_assigned.assign(static_cast<std::size_t>(m_columns.size()), false);
+    }
+    m_pending[static_cast<std::size_t>(column)] = std::move(value);
+    m_assigned[static_cast<std::size_t>(column)] = true;
+}
+
+void Recordset::Update() {
+    RequireOpen();
+    WritePending();
+}
+
+Recordset::Statement& Recordset::WriterFor(const std::vector<int>& assigned) {
+    if (m_writer && m_writerKind == m_edit && m_writerColumns == assigned)
+        return m_writer;
+    QStringList names;
+    for (const int column : assigned)
+        names += m_columns[column];
+    QString sql;
+    if (m_edit == Edit::Changing) {
+        sql = QStringLiteral("UPDATE %1 SET %2 = ? WHERE rowid = ?")
+                  .arg(m_sql.table, names.join(QStringLiteral(" = ?, ")));
+    } else if (names.isEmpty()) {
+        sql = QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(m_sql.table);
+    } else {
+        const QString marks = QStringLiteral("?, ").repeated(names.size()).chopped(2);
+        sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                  .arg(m_sql.table, names.join(QStringLiteral(", ")), marks);
+    }
+    m_writer = Prepare(sql.toUtf8());
+    m_writerKind = m_edit;
+    m_writerColumns = assigned;
+    return m_writer;
+}
+
+/// Gives the key of the row written.
+qint64 Recordset::WriteRow() {
+    std::vector<int> assigned;
+    for (int column = 0; column < m_columns.size(); ++column)
+        if (m_assigned[static_cast<std::size_t>(column)])
+            assigned.push_back(column);
+    const int keyColumn = static_cast<int>(m_columns.size());
+    const qint64 changedKey =
+        m_edit == Edit::Changing ? m_rows.At(m_current, keyColumn).Number() : 0;
+    sqlite3_stmt* writer = WriterFor(assigned).get();
+    int position = 0;
+    for (const int column : assigned)
+        Bind(writer, ++position, m_pending[static_cast<std::size_t>(column)]);
+    if (m_edit == Edit::Changing)
+        sqlite3_bind_int64(writer, ++position, changedKey);
+    const int code = sqlite3_step(writer);
+    sqlite3_reset(writer);
+    if (code != SQLITE_DONE)
+        m_connection->ThrowEngineError();
+    return m_edit == Edit::Changing ? changedKey
+                                    : sqlite3_last_insert_rowid(m_connection->Handle());
+}
+
+void Recordset::WritePending() {
+    if (m_edit == Edit::None)
+        return;
+    qint64 key = 0;
+    try {
+        key = WriteRow();
+    } catch (...) {
+        m_edit = Edit::None; // a row that cannot be written is dropped, not tried again
+        throw;
+    }
+    const Edit written = m_edit;
+    m_edit = Edit::None;
+    if (m_server)
+        return;
+    m_rows.BeginRow();
+    for (int column = 0; column < m_columns.size(); ++column) {
+        const auto index = static_cast<std::size_t>(column);
+        if (m_assigned[index])
+            m_rows.AppendValue(m_pending[index]);
+        else if (written == Edit::Changing)
+            m_rows.AppendValue(m_rows.At(m_current, column));
+        else if (m_columns[column].compare(u"ID", Qt::CaseInsensitive) == 0)
+            m_rows.AppendNumber(key);
+        else
+            m_rows.AppendNull();
+    }
+    m_rows.AppendNumber(key);
+    m_rows.EndRow();
+    if (written == Edit::Changing)
+        m_rows.MoveLastTo(m_current);
+    else
+        m_current = m_rows.Count() - 1;
+}
+
+qsizetype Recordset::RowCount() const { return m_rows.Count(); }
+
+int Recordset::Column(QStringView name) const {
+    for (int column = 0; column < m_columns.size(); ++column)
+        if (name == m_columns[column])
+            return column;
+    for (int column = 0; column < m_columns.size(); ++column)
+        if (name.compare(m_columns[column], Qt::CaseInsensitive) == 0)
+            return column;
+    throw RunTimeError(RunTimeErrorNumber::NoSuchItem,
+                       QStringLiteral("Item cannot be found in the collection corresponding to "
+                                      "the requested name or ordinal."));
+}
+
+QString Recordset::TextAt(qsizetype row, int column) const { return m_rows.At(row, column).Text(); }

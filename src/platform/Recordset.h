@@ -1,0 +1,109 @@
+#pragma once
+
+#include "ObjectState.h"
+#include "RowSource.h"
+#include "RowStore.h"
+#include "SqlTranslator.h"
+#include "Value.h"
+
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+class Connection;
+struct sqlite3_stmt;
+
+enum CursorLocationKind { adUseServer = 2, adUseClient = 3 };
+enum CursorType { adOpenForwardOnly = 0, adOpenStatic = 3 };
+enum LockType { adLockReadOnly = 1, adLockOptimistic = 3 };
+/// The source is a statement, or the bare name of a table.
+enum CommandType { adCmdText = 1, adCmdTable = 2 };
+
+/// The rows of one query.
+///
+/// With a client cursor the whole result is fetched when it opens and lies in memory, so
+/// RecordCount is exact. With a server cursor rows are fetched one by one, forward only, and
+/// RecordCount is unknown.
+///
+/// Rows can be added and changed when the statement reads from one table and the lock is not read
+/// only. AddNew begins a row; assignments fill it; Update writes it. Beginning another row or
+/// moving writes a row that is still pending. A closed recordset forgets it.
+///
+/// Everything that fails throws RunTimeError. The connection must outlive the open recordset.
+class Recordset : public RowSource {
+public:
+    Recordset();
+    ~Recordset() override;
+    Recordset(const Recordset&) = delete;
+    Recordset& operator=(const Recordset&) = delete;
+
+    CursorLocationKind CursorLocation = adUseServer;
+
+    void Open(const QString& source, Connection& connection, CursorType cursor = adOpenStatic,
+              LockType lock = adLockOptimistic, CommandType command = adCmdText);
+    void Close();
+    ObjectState State() const;
+
+    /// -1 with a server cursor.
+    int RecordCount();
+    bool Eof();
+    void MoveFirst();
+    void MoveNext();
+
+    /// The current row's value, or the pending one's while a row is being added.
+    Value Fields(QStringView name) { return FieldAt(Column(name)); }
+    Value FieldAt(int column);
+    QString Text(QStringView name) { return Fields(name).Text(); }
+    qint64 Number(QStringView name) { return Fields(name).Number(); }
+    DateTime Date(QStringView name) { return Fields(name).Date(); }
+
+    void AddNew();
+    /// Sets a column of the row being added, or of the current row.
+    void Set(QStringView name, Value value);
+    /// Writes what was set. A row added gets its automatic ID here. The row that was written is
+    /// then the current one.
+    void Update();
+
+    /// What the set holds and how much memory its values take, for measuring.
+    std::size_t MemoryBytes() const { return m_rows.MemoryBytes(); }
+
+    qsizetype RowCount() const override;
+    int Column(QStringView name) const override;
+    QString TextAt(qsizetype row, int column) const override;
+    bool IsNullAt(qsizetype row, int column) const override {
+        return m_rows.At(row, column).IsNull();
+    }
+    const QStringList& Columns() const { return m_columns; }
+
+private:
+    enum class Edit { None, Changing, Adding };
+    using Statement = std::unique_ptr<sqlite3_stmt, void (*)(sqlite3_stmt*)>;
+
+    void RequireOpen() const;
+    void RequireRow();
+    Statement Prepare(const QByteArray& engineSql) const;
+    void FetchAll();
+    bool FetchOne();
+    void WritePending();
+    qint64 WriteRow();
+    Statement& WriterFor(const std::vector<int>& assigned);
+
+    Connection* m_connection = nullptr;
+    EngineSql m_sql;
+    bool m_writable = false;
+    Statement m_reader;
+    bool m_server = false;
+    bool m_serverRow = false;
+    bool m_serverStarted = false;
+    QStringList m_columns;
+    RowStore m_rows;
+    qsizetype m_current = 0;
+
+    Edit m_edit = Edit::None;
+    std::vector<Value> m_pending;
+    std::vector<bool> m_assigned;
+    std::vector<int> m_writerColumns;
+    Edit m_writerKind = Edit::None;
+    Statement m_writer;
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+#include <exception>
+
+/// The one type that the platform throws. It is caught by the handler of the procedure that asked
+/// (mErrorHandler.h) and never crosses two procedures of the system.
+class RunTimeError : public std::exception {
+public:
+    RunTimeError(int number, QString description)
+        : m_number(number), m_description(std::move(description)), m_what(m_description.toUtf8()) {}
+
+    /// Always above zero. The numbers are those of RunTimeErrorNumber, or StoreEngine plus the
+    /// engine's own code.
+    int Number() const { return m_number; }
+    const QString& Description() const { return m_description; }
+    const char* what() const noexcept override { return m_what.constData(); }
+
+private:
+    int m_number;
+    QString m_description;
+    QByteArray m_what;
+};
+
+namespace RunTimeErrorNumber {
+constexpr int Overflow = 6;
+constexpr int SubscriptOutOfRange = 9;
+constexpr int WrongLength = 10;
+constexpr int TypeMismatch = 13;
+constexpr int FileNotFound = 53;
+constexpr int InvalidPropertyValue = 380;
+constexpr int AtBeginOrEnd = 3021;     ///< no current row
+constexpr int FileInUse = 3045;        ///< another process holds the store
+constexpr int NoSuchItem = 3265;       ///< no column, section or control of that name
+constexpr int ObjectClosed = 3704;     ///< the object is not open
+constexpr int ObjectOpen = 3705;       ///< the object is open already
+constexpr int PortNotAvailable = 8002; ///< no such serial device, or it cannot be opened
+constexpr int PortNotOpen = 8018;      ///< reading or writing a closed port
+constexpr int StoreEngine = 10000;     ///< plus the engine's result code
+} // namespace RunTimeErrorNumber

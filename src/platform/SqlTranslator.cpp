@@ -1,0 +1,189 @@
+#include "SqlTranslator.h"
+
+#include "DateTime.h"
+#include "RunTimeError.h"
+
+#include <QList>
+#include <QRegularExpression>
+
+namespace {
+
+enum class TokenKind { Word, Text, Date, Other };
+
+struct Token {
+    TokenKind kind;
+    QString text;
+};
+
+bool IsWordCharacter(QChar c) { return c.isLetterOrNumber() || c == u'_' || c == u'.'; }
+
+/// Text from `at` to the closing quote; a doubled quote stands for one.
+QString ReadQuoted(const QString& statement, qsizetype& at) {
+    const QChar quote = statement[at];
+    QString text;
+    for (++at; at < statement.size(); ++at) {
+        if (statement[at] == quote) {
+            if (at + 1 >= statement.size() || statement[at + 1] != quote)
+                break;
+            ++at;
+        }
+        text += statement[at];
+    }
+    ++at;
+    return text;
+}
+
+QList<Token> Split(const QString& statement) {
+    QList<Token> tokens;
+    for (qsizetype at = 0; at < statement.size();) {
+        const QChar c = statement[at];
+        if (c == u'\'' || c == u'"') {
+            tokens += {TokenKind::Text, ReadQuoted(statement, at)};
+        } else if (c == u'#') {
+            tokens += {TokenKind::Date, ReadQuoted(statement, at)};
+        } else if (IsWordCharacter(c)) {
+            const qsizetype start = at;
+            while (at < statement.size() && IsWordCharacter(statement[at]))
+                ++at;
+            tokens += {TokenKind::Word, statement.mid(start, at - start)};
+        } else {
+            if (!c.isSpace())
+                tokens += {TokenKind::Other, QString(c)};
+            ++at;
+        }
+    }
+    while (!tokens.isEmpty() && tokens.last().text == u";" &&
+           tokens.last().kind == TokenKind::Other)
+        tokens.removeLast();
+    return tokens;
+}
+
+bool IsWord(const Token& token, QStringView word) {
+    return token.kind == TokenKind::Word && token.text.compare(word, Qt::CaseInsensitive) == 0;
+}
+
+bool IsSign(const Token& token, QStringView sign) {
+    return token.kind == TokenKind::Other && token.text == sign;
+}
+
+QString DateNumber(const QString& literal) {
+    static const QRegularExpression form(
+        QStringLiteral("^\\s*(\\d{4})-(\\d{1,2})-(\\d{1,2})"
+                       "(?:\\s+(\\d{1,2}):(\\d{1,2})(?::(\\d{1,2}))?)?\\s*$"));
+    const auto match = form.match(literal);
+    const auto number = [&](int group) { return match.captured(group).toInt(); };
+    const QDate date(number(1), number(2), number(3));
+    const QTime time(number(4), number(5), number(6));
+    if (!match.hasMatch() || !date.isValid() || !time.isValid())
+        throw RunTimeError(RunTimeErrorNumber::TypeMismatch,
+                           QStringLiteral("Syntax error in date in query expression '#%1#'.")
+                               .arg(literal));
+    // Seventeen digits give the very double that a date-time of the same value is stored as. The
+    // exponent keeps it a real number to the engine.
+    return QString::number(DateTime::FromQt(QDateTime(date, time)).ToStore(), 'e', 17);
+}
+
+QString Rendered(const Token& token) {
+    switch (token.kind) {
+    case TokenKind::Text: return u'\'' + QString(token.text).replace(u'\'', QStringLiteral("''")) + u'\'';
+    case TokenKind::Date: return DateNumber(token.text);
+    case TokenKind::Word:
+        if (IsWord(token, u"autoincrement"))
+            return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");
+        if (IsWord(token, u"memo") || IsWord(token, u"VARCHAR"))
+            return QStringLiteral("TEXT");
+        break;
+    case TokenKind::Other: break;
+    }
+    return token.text;
+}
+
+/// The positions of a SELECT's clauses, as token indexes; -1 where there is none. Only the outer
+/// level counts, though a table's name may stand in the brackets of a join.
+struct SelectShape {
+    qsizetype from = -1;
+    qsizetype orderBy = -1;
+    QString firstTable;
+    bool oneTable = true;
+    bool plainRows = true; ///< rows of the table itself, not sums or groups of them
+};
+
+SelectShape ShapeOf(const QList<Token>& tokens) {
+    SelectShape shape;
+    int depth = 0;
+    for (qsizetype i = 0; i < tokens.size(); ++i) {
+        const Token& token = tokens[i];
+        if (IsSign(token, u"("))
+            ++depth;
+        else if (IsSign(token, u")"))
+            --depth;
+        else if (IsWord(token, u"JOIN"))
+            shape.oneTable = false;
+        else if (depth == 0 && (IsWord(token, u"GROUP") || IsWord(token, u"UNION") ||
+                                IsWord(token, u"DISTINCT")))
+            shape.plainRows = false;
+        else if (shape.from < 0 && (IsWord(token, u"COUNT") || IsWord(token, u"MAX") ||
+                                    IsWord(token, u"MIN") || IsWord(token, u"SUM")))
+            shape.plainRows = false;
+        else if (depth == 0 && IsWord(token, u"FROM") && shape.from < 0)
+            shape.from = i;
+        else if (depth == 0 && IsWord(token, u"ORDER") && shape.orderBy < 0)
+            shape.orderBy = i;
+        else if (shape.from >= 0 && shape.firstTable.isEmpty() && token.kind == TokenKind::Word)
+            shape.firstTable = token.text;
+    }
+    if (shape.firstTable.isEmpty())
+        shape.plainRows = false;
+    return shape;
+}
+
+/// Columns bear their type in the prefix: a "t" in front of a capital is text.
+bool IsTextColumn(const QString& name) {
+    const QString column = name.mid(name.lastIndexOf(u'.') + 1);
+    return column.size() > 1 && column[0] == u't' && column[1].isUpper();
+}
+
+QString OrderTail(const QList<Token>& tokens, const SelectShape& shape) {
+    const QString key = shape.firstTable + QStringLiteral(".rowid");
+    if (shape.orderBy < 0)
+        return QStringLiteral(" ORDER BY ") + key;
+    QString tail = QStringLiteral(" ORDER BY");
+    for (qsizetype i = shape.orderBy + 2; i < tokens.size(); ++i) {
+        tail += u' ' + Rendered(tokens[i]);
+        if (tokens[i].kind == TokenKind::Word && IsTextColumn(tokens[i].text))
+            tail += QStringLiteral(" COLLATE ") + QLatin1String(PeopleCollation);
+    }
+    return tail + QStringLiteral(", ") + key;
+}
+
+} // namespace
+
+EngineSql TranslateSql(const QString& statement, bool withRowKey) {
+    const QList<Token> tokens = Split(statement);
+    EngineSql result;
+    if (tokens.isEmpty())
+        return result;
+    const bool isSelect = IsWord(tokens[0], u"SELECT");
+    const SelectShape shape = isSelect ? ShapeOf(tokens) : SelectShape{};
+    const bool ordered = isSelect && shape.plainRows;
+    if (ordered && shape.oneTable) {
+        result.table = shape.firstTable;
+        result.hasRowKey = withRowKey;
+    }
+
+    QString text;
+    const qsizetype end = ordered && shape.orderBy >= 0 ? shape.orderBy : tokens.size();
+    for (qsizetype i = 0; i < end; ++i) {
+        if (i == 1 && IsWord(tokens[0], u"DELETE") && IsSign(tokens[1], u"*"))
+            continue;
+        if (result.hasRowKey && i == shape.from)
+            text += QStringLiteral(" , %1.rowid").arg(result.table);
+        if (i > 0)
+            text += u' ';
+        text += Rendered(tokens[i]);
+    }
+    if (ordered)
+        text += OrderTail(tokens, shape);
+    result.text = text.toUtf8();
+    return result;
+}

@@ -1,0 +1,100 @@
+#include "ReportPdf.h"
+
+#include "Clock.h"
+#include "DataReport.h"
+#include "RunTimeError.h"
+
+#include <QDir>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+
+namespace {
+
+/// What the document goes through on its way to the device: the writer looks at no failed write and
+/// takes the time of day from the machine; here the first failure is kept, and the time is that of
+/// the pages.
+class PdfStream : public QIODevice {
+public:
+    PdfStream(QIODevice& target, DateTime printedAt) : m_target(target) {
+        m_stamp = QDateTime(printedAt.ToQDate(), printedAt.ToQTime())
+                      .toString(QStringLiteral("yyyyMMddHHmmss"))
+                      .toLatin1();
+        open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    }
+
+    bool isSequential() const override { return true; }
+    const QString& Failure() const { return m_failure; }
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char* data, qint64 size) override {
+        if (!m_failure.isNull())
+            return -1;
+        const qint64 written = m_target.write(Stamped(QByteArray::fromRawData(data, size)));
+        if (written != size)
+            m_failure = m_target.errorString();
+        return written;
+    }
+
+private:
+    /// The date is as long as the one that it replaces: the document counts its bytes.
+    QByteArray Stamped(QByteArray bytes) {
+        static const QByteArray key = QByteArrayLiteral("/CreationDate (D:");
+        const qsizetype at = m_stamped ? -1 : bytes.indexOf(key);
+        if (at < 0)
+            return bytes;
+        m_stamped = true;
+        return bytes.replace(at + key.size(), m_stamp.size(), m_stamp);
+    }
+
+    QIODevice& m_target;
+    QByteArray m_stamp;
+    bool m_stamped = false;
+    QString m_failure;
+};
+
+[[noreturn]] void Fail(const QString& what, const QString& reason) {
+    throw RunTimeError(RunTimeErrorNumber::FileNotFound,
+                       QStringLiteral("%1 cannot be written: %2").arg(what, reason));
+}
+
+void WritePages(const DataReport& report, QIODevice& device, const QString& title,
+                const QString& what) {
+    const DateTime printedAt = Now();
+    PdfStream stream(device, printedAt);
+    QPdfWriter writer(&stream);
+    writer.setTitle(title);
+    writer.setPageSize(report.Paper());
+    writer.setPageMargins(QMarginsF());
+    QPainter painter;
+    if (!painter.begin(&writer))
+        Fail(what, device.errorString());
+    const double scale = writer.logicalDpiX() / DataReport::UnitsPerInch;
+    painter.scale(scale, scale);
+    const int pages = report.PageCount();
+    for (int page = 0; page < pages && stream.Failure().isNull(); ++page) {
+        if (page > 0)
+            writer.newPage();
+        report.PaintPage(painter, page, printedAt);
+    }
+    painter.end();
+    if (!stream.Failure().isNull())
+        Fail(what, stream.Failure());
+}
+
+} // namespace
+
+void ExportPdf(const DataReport& report, QIODevice& device, const QString& title) {
+    WritePages(report, device, title, QStringLiteral("The PDF"));
+}
+
+void ExportPdf(const DataReport& report, const QString& path, const QString& title) {
+    const QString what = QStringLiteral("The file \"%1\"").arg(QDir::toNativeSeparators(path));
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        Fail(what, file.errorString());
+    WritePages(report, file, title, what);
+    if (!file.commit())
+        Fail(what, file.errorString());
+}

@@ -1,0 +1,31 @@
+#include "ReportSection.h"
+
+#include "RunTimeError.h"
+
+ReportControl::ReportControl(QString name, ControlKind kind, const ControlStyle& style,
+                             QString caption, QString dataField)
+    : m_name(std::move(name)), m_kind(kind), m_style(style), m_caption(std::move(caption)),
+      m_dataField(std::move(dataField)) {}
+
+void ReportControl::SetCaption(const QString& caption, CaptionKind kind) {
+    m_caption = caption;
+    m_captionKind = kind;
+}
+
+ReportSection::ReportSection(QString name, SectionKind kind, int height)
+    : m_name(std::move(name)), m_kind(kind), m_height(height) {}
+
+const ReportControl* ReportSection::Find(QStringView name) const {
+    for (const ReportControl& control : m_controls)
+        if (name.compare(control.Name(), Qt::CaseInsensitive) == 0)
+            return &control;
+    return nullptr;
+}
+
+ReportControl& ReportSection::Controls(QStringView name) {
+    if (const ReportControl* found = Find(name))
+        return m_controls[static_cast<std::size_t>(found - m_controls.data())];
+    throw RunTimeError(
+        RunTimeErrorNumber::NoSuchItem,
+        QStringLiteral("The section \"%1\" has no control \"%2\".").arg(m_name, name));
+}

@@ -1,0 +1,115 @@
+#include "WindowTools.h"
+
+#include "RunTimeError.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QToolBar>
+
+namespace {
+
+/// Translates one property; its English text is remembered beside it.
+void TranslateProperty(QObject& object, const char* name, const TranslateText& translate) {
+    const QByteArray keyName = QByteArray("english_") + name;
+    QVariant key = object.property(keyName.constData());
+    if (!key.isValid()) {
+        key = object.property(name);
+        object.setProperty(keyName.constData(), key);
+    }
+    const QString english = key.toString();
+    if (!english.isEmpty())
+        object.setProperty(name, translate(english));
+}
+
+QMessageBox::Icon IconOf(MessageKind kind) {
+    switch (kind) {
+    case MessageKind::Critical: return QMessageBox::Critical;
+    case MessageKind::Information: return QMessageBox::Information;
+    case MessageKind::Question: return QMessageBox::Question;
+    case MessageKind::Warning: break;
+    }
+    return QMessageBox::Warning;
+}
+
+QList<MessageAnswer> AnswersOf(MessageButtons buttons) {
+    switch (buttons) {
+    case MessageButtons::OkCancel: return {MessageAnswer::Ok, MessageAnswer::Cancel};
+    case MessageButtons::YesNo: return {MessageAnswer::Yes, MessageAnswer::No};
+    case MessageButtons::RetryIgnore: return {MessageAnswer::Retry, MessageAnswer::Ignore};
+    case MessageButtons::Ok: break;
+    }
+    return {MessageAnswer::Ok};
+}
+
+} // namespace
+
+void TranslateWindow(QWidget& window, const TranslateText& translate) {
+    TranslateProperty(window, "windowTitle", translate);
+    for (QObject* child : window.findChildren<QObject*>()) {
+        // A label that is empty when the window loads is for a value, and never translated; a
+        // button of a toolbar takes its text from its action.
+        if (qobject_cast<QLabel*>(child) ||
+            (qobject_cast<QAbstractButton*>(child) && !qobject_cast<QToolBar*>(child->parent()))) {
+            TranslateProperty(*child, "text", translate);
+        } else if (qobject_cast<QAction*>(child)) {
+            TranslateProperty(*child, "text", translate);
+        } else if (qobject_cast<QGroupBox*>(child) || qobject_cast<QMenu*>(child)) {
+            TranslateProperty(*child, "title", translate);
+        }
+        if (qobject_cast<QWidget*>(child)) {
+            TranslateProperty(*child, "toolTip", translate);
+            TranslateProperty(*child, "accessibleName", translate);
+        }
+    }
+}
+
+MessageAnswer WindowMessageBoxes::Show(const Message& message) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("messageBox"));
+    box.setIcon(IconOf(message.kind));
+    box.setWindowTitle(message.caption);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(message.text);
+    const QList<MessageAnswer> answers = AnswersOf(message.buttons);
+    QList<QAbstractButton*> buttons;
+    for (qsizetype i = 0; i < answers.size(); ++i) {
+        // The last of two is the one that Escape presses.
+        const auto role = i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole;
+        buttons += box.addButton(message.buttonTexts.value(i), role);
+    }
+    box.setDefaultButton(static_cast<QPushButton*>(buttons.first()));
+    box.setEscapeButton(buttons.last());
+    // Whatever the pointer says of work behind it, a question wants an arrow.
+    const bool waiting = QApplication::overrideCursor() != nullptr;
+    if (waiting)
+        QApplication::setOverrideCursor(Qt::ArrowCursor);
+    box.exec();
+    if (waiting)
+        QApplication::restoreOverrideCursor();
+    const qsizetype pressed = buttons.indexOf(box.clickedButton());
+    return pressed < 0 ? HarmlessAnswer(message.buttons) : answers[pressed];
+}
+
+Hourglass::Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+
+Hourglass::~Hourglass() { QApplication::restoreOverrideCursor(); }
+
+QIcon ProgramIcon(const QString& name) {
+    return QIcon(QStringLiteral(":/icons/") + name + QStringLiteral(".svg"));
+}
+
+void ShowPicture(QLabel& label, const QString& path) {
+    QPixmap picture(path);
+    if (picture.isNull())
+        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
+                           QStringLiteral("File not found: '%1'").arg(QDir::toNativeSeparators(path)));
+    picture.setDevicePixelRatio(2.0);
+    label.setPixmap(picture);
+}

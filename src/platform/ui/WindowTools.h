@@ -1,0 +1,45 @@
+#pragma once
+
+#include "MessageBox.h"
+
+#include <QIcon>
+#include <QString>
+
+#include <functional>
+
+class QLabel;
+class QWidget;
+
+/// What windows share. Text in, text out; no window knows another through this.
+
+using TranslateText = std::function<QString(const QString&)>;
+
+/// Translates a window's own controls: title, captions, tool tips, list headers, menu items. The
+/// English texts are kept, so that it can be called again in another language.
+void TranslateWindow(QWidget& window, const TranslateText& translate);
+
+/// Real message boxes over the active window.
+class WindowMessageBoxes : public MessageBoxes {
+public:
+    MessageAnswer Show(const Message& message) override;
+};
+
+/// The hourglass while it lives.
+class Hourglass {
+public:
+    Hourglass();
+    ~Hourglass();
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+};
+
+/// An icon of the program by its name.
+QIcon ProgramIcon(const QString& name);
+
+/// Shows a picture file in a label, as large as it is drawn (its pixels count double, so that it
+/// stays sharp on a dense screen). Throws RunTimeError where the file cannot be read.
+void ShowPicture(QLabel& label, const QString& path);
+
+/// Lengths in the design's unit: 1440 to the inch, 15 to a pixel of an ordinary screen.
+constexpr int PixelsOf(int twips) { return twips / 15; }
+constexpr int TwipsOf(int pixels) { return pixels * 15; }

@@ -1,0 +1,121 @@
+#include "frmMdiReports.h"
+
+#include "WindowTools.h"
+#include "frmRptTour.h"
+#include "mErrorHandler.h"
+#include "mStore.h"
+#include "mTranslations.h"
+#include "ui_frmMdiReports.h"
+
+#include <QAction>
+#include <QKeyEvent>
+
+namespace {
+
+constexpr int KeyRole = Qt::UserRole;
+
+} // namespace
+
+frmMdiReports::frmMdiReports(ReportViewer& viewer, QWidget* parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::frmMdiReports>()), m_viewer(viewer) {
+    m_ui->setupUi(this);
+    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    connect(m_ui->lvwReports, &QTreeWidget::itemDoubleClicked, this, &frmMdiReports::OpenSelected);
+    m_ui->lvwReports->installEventFilter(this);
+    auto* open = new QAction(ProgramIcon(QStringLiteral("report")), Translate("&Open Report"), this);
+    open->setShortcut(QKeySequence::Open);
+    connect(open, &QAction::triggered, this, &frmMdiReports::OpenSelected);
+    addAction(open);
+    m_ui->lvwReports->addAction(open);
+    m_ui->lvwReports->setContextMenuPolicy(Qt::ActionsContextMenu);
+    LoadReportList();
+}
+
+frmMdiReports::~frmMdiReports() = default;
+
+const std::vector<frmMdiReports::CatalogueRow>& frmMdiReports::Catalogue() {
+    static const std::vector<CatalogueRow> rows = {
+        {"NewException", "Tour / Exception Report", "Exception Report",
+         &frmMdiReports::LoadTourReport},
+    };
+    return rows;
+}
+
+void frmMdiReports::LoadReportList() {
+    m_ui->lvwReports->clear();
+    m_ui->lvwReports->setHeaderLabels({Translate("Report Name"), Translate("Description")});
+    m_ui->lvwReports->setColumnWidth(0, PixelsOf(2500));
+    m_ui->lvwReports->setColumnWidth(1, PixelsOf(4000));
+    for (const CatalogueRow& row : Catalogue())
+        AddReportItem(QString::fromUtf8(row.key), Translate(row.name), Translate(row.description));
+    SizeColumns();
+}
+
+void frmMdiReports::AddReportItem(const QString& key, const QString& name,
+                                  const QString& description) {
+    auto* row = new QTreeWidgetItem(m_ui->lvwReports, {name, description});
+    row->setIcon(0, ProgramIcon(QStringLiteral("report")));
+    row->setData(0, KeyRole, key);
+    row->setToolTip(0, description);
+    row->setToolTip(1, description);
+}
+
+void frmMdiReports::SizeColumns() {
+    const int hundredth = (TwipsOf(m_ui->lvwReports->width()) - 240) / 100;
+    m_ui->lvwReports->setColumnWidth(0, PixelsOf(hundredth * 50));
+    m_ui->lvwReports->setColumnWidth(1, PixelsOf(hundredth * 50));
+}
+
+void frmMdiReports::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    SizeColumns();
+}
+
+bool frmMdiReports::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        const QTreeWidgetItem* row = m_ui->lvwReports->currentItem();
+        if (row && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+            // Caption and key change places here, so Enter finds no report and only the icon
+            // blinks. Operators know it so; Open Report (Ctrl+O) is the key that opens.
+            ReportParamShow(row->text(0), row->data(0, KeyRole).toString());
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void frmMdiReports::OpenSelected() {
+    Guarded("lvwReports_DblClick of Form frmMdiReports", [this] {
+        if (const QTreeWidgetItem* row = m_ui->lvwReports->currentItem())
+            ReportParamShow(row->data(0, KeyRole).toString(), row->text(0));
+    });
+}
+
+void frmMdiReports::ReportParamShow(const QString& key, const QString& text) {
+    Guarded("ReportParamShow of Form frmMdiReports", [&] {
+        QTreeWidgetItem* row = m_ui->lvwReports->currentItem();
+        if (!row)
+            return;
+        row->setIcon(0, ProgramIcon(QStringLiteral("arrow")));
+        for (const CatalogueRow& report : Catalogue())
+            if (key == QString::fromUtf8(report.key))
+                (this->*report.opener)(text);
+        row->setIcon(0, ProgramIcon(QStringLiteral("report")));
+    });
+}
+
+void frmMdiReports::LoadTourReport(const QString& caption) {
+    if (CountReaders() < 1) {
+        IvMessageBox(
+            Translate("You must add at least one reader before this report can be used"));
+        return;
+    }
+    if (CountTours() < 1) {
+        IvMessageBox(Translate("You must add at least one tour before this report can be used"));
+        return;
+    }
+    frmRptTour dialog(m_viewer, window());
+    dialog.Title(caption);
+    dialog.exec();
+}

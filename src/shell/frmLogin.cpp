@@ -1,0 +1,72 @@
+#include "frmLogin.h"
+
+#include "Application.h"
+#include "Settings.h"
+#include "WindowTools.h"
+#include "mErrorHandler.h"
+#include "mOperators.h"
+#include "mTranslations.h"
+#include "ui_frmLogin.h"
+
+namespace {
+
+constexpr int LastTry = 4;
+
+OperatorType LastLogin() {
+    int saved = MasterOperator;
+    IgnoringErrors([&] {
+        saved = ToInteger(GetSetting(SettingsApplication, SettingsSection::Info,
+                                     QStringLiteral("LastLogin"), QStringLiteral("1")));
+    });
+    return saved == MasterOperator ? MasterOperator : UserOperator;
+}
+
+} // namespace
+
+frmLogin::frmLogin(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::frmLogin>()) {
+    m_ui->setupUi(this);
+    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    setWindowTitle(ShortTitle + QStringLiteral(" - ") + Translate("Version") + u' ' +
+                   GetVersionString());
+    setWindowIcon(ProgramIcon(QStringLiteral("wardlock")));
+    (LastLogin() == MasterOperator ? m_ui->optUser_0 : m_ui->optUser_1)->setChecked(true);
+    Guarded("LoadSplashImage of Form frmSplash",
+            [this] { ShowPicture(*m_ui->imgLogo, AppFile(QStringLiteral("login.bmp"))); });
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmLogin::cmdOK_Click);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmLogin::cmdCancel_Click);
+}
+
+frmLogin::~frmLogin() = default;
+
+void frmLogin::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    FocusPassword();
+}
+
+void frmLogin::FocusPassword() {
+    m_ui->txtEnteredPassword->setFocus();
+    m_ui->txtEnteredPassword->selectAll();
+}
+
+void frmLogin::cmdOK_Click() {
+    const OperatorType type = m_ui->optUser_0->isChecked() ? MasterOperator : UserOperator;
+    m_result = Guarded("cmdOK_Click of Form frmLogin", ErrorShow::Dialog,
+                       [&] { return CheckOperator(type, m_ui->txtEnteredPassword->text()); });
+    if (m_result != NoOperator) {
+        accept();
+        return;
+    }
+    if (++m_failures < LastTry) {
+        IvMessageBox(Translate("The User Name / Password are incorrect. Please try again."),
+                     MessageKind::Warning, MessageButtons::Ok, ShortTitle);
+        FocusPassword();
+        return;
+    }
+    IvMessageBox(Translate("You could not be logged in.  Closing the program now."));
+    reject();
+}
+
+void frmLogin::cmdCancel_Click() {
+    m_result = NoOperator;
+    reject();
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "mDeclareGlobals.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class frmLogin;
+}
+
+/// The login: which operator, and his password. Four wrong passwords close it.
+class frmLogin : public QDialog {
+    Q_OBJECT
+public:
+    explicit frmLogin(QWidget* parent = nullptr);
+    ~frmLogin() override;
+
+    OperatorType LoginResult() const { return m_result; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void cmdOK_Click();
+    void cmdCancel_Click();
+    void FocusPassword();
+
+    std::unique_ptr<Ui::frmLogin> m_ui;
+    OperatorType m_result = NoOperator;
+    int m_failures = 0;
+};

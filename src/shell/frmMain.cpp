@@ -1,0 +1,329 @@
+#include "frmMain.h"
+
+#include "RunTimeError.h"
+#include "WindowTools.h"
+#include "deMain.h"
+#include "frmMdiDownload.h"
+#include "frmMdiMenu.h"
+#include "frmMdiReports.h"
+#include "frmPreview.h"
+#include "frmUserMaintenance.h"
+#include "mErrorHandler.h"
+#include "mHelp.h"
+#include "mTranslations.h"
+#include "ui_frmMain.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QToolButton>
+
+#include <array>
+
+namespace {
+
+struct ToolbarRow {
+    const char* key; ///< and the name of the icon
+    const char* caption;
+    void (frmMain::*action)();
+    Qt::Key shortcut; ///< with Ctrl
+};
+
+/// The page buttons in their order. "setup" has its place; it is hidden until its page is there.
+constexpr std::array<ToolbarRow, 4> Toolbar = {{
+    {"home", "Home", &frmMain::GoHome, Qt::Key_1},
+    {"download", "Download", &frmMain::GoOnline, Qt::Key_2},
+    {"reports", "Reports", &frmMain::GoReports, Qt::Key_3},
+    {"setup", "Setup", nullptr, Qt::Key_4},
+}};
+
+// Twips.
+constexpr int LeastWidth = 8000, LeastHeight = 6585;
+constexpr int StripHeight = 1125, ToolbarHeight = 825;
+constexpr int LeastButtonWidth = 700;
+
+} // namespace
+
+frmMain::frmMain()
+    : m_ui(std::make_unique<Ui::frmMain>()), m_panelPicture(new QLabel(this)),
+      m_panel1(new QLabel(this)), m_panel2(new QLabel(this)) {
+    m_ui->setupUi(this);
+    m_viewer = std::make_unique<PreviewViewer>(
+        this, [](const QString& text) { return Translate(text); });
+    m_panel1->setObjectName(QStringLiteral("panel1"));
+    m_panel2->setObjectName(QStringLiteral("panel2"));
+    m_ui->sbStatusBar->addWidget(m_panelPicture);
+    m_ui->sbStatusBar->addWidget(m_panel1, 1);
+    m_ui->sbStatusBar->addPermanentWidget(m_panel2);
+    setWindowIcon(ProgramIcon(QStringLiteral("wardlock")));
+    MDIForm_Load();
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::MDIForm_Load() {
+    Guarded("MDIForm_Load of Form frmMain", [this] {
+        TranslateFrame();
+        InitToolbar();
+        ConnectMenu();
+        HideUnbuilt();
+        m_ui->tbrMain->setMinimumHeight(PixelsOf(ToolbarHeight));
+        m_ui->pctMenu->setMinimumHeight(PixelsOf(StripHeight));
+        setMinimumSize(PixelsOf(LeastWidth), PixelsOf(LeastHeight));
+        setWindowTitle(TitleWithVersion());
+        UpdateLanguage();
+        RestoreSavedPosition();
+    });
+}
+
+/// Menu items whose dialogs have not come yet.
+void frmMain::HideUnbuilt() {
+    for (QAction* action :
+         {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore,
+          m_ui->mnuToolsPipeOptions, m_ui->mnuToolsClearPipe, m_ui->mnuToolsReaderFW,
+          m_ui->mnuToolCompany, m_ui->mnuHelpAbout})
+        action->setVisible(false);
+}
+
+void frmMain::ConnectMenu() {
+    connect(m_ui->mnuFileExit, &QAction::triggered, this, &QWidget::close);
+    connect(m_ui->mnuViewOptions, &QAction::triggered, this, &frmMain::GoOptions);
+    connect(m_ui->mnuUMAdmin, &QAction::triggered, this, [this] { EditOperator(MasterOperator); });
+    connect(m_ui->mnuUMUser, &QAction::triggered, this, [this] { EditOperator(UserOperator); });
+    connect(m_ui->mnuToolsLanguage, &QAction::triggered, this, [this] {
+        ChangeLanguage();
+        GoHome();
+    });
+    connect(m_ui->mnuHelpContents, &QAction::triggered, this, &frmMain::mnuHelpContents_Click);
+}
+
+void frmMain::InitToolbar() {
+    m_ui->tbrMain->clear();
+    for (const ToolbarRow& row : Toolbar) {
+        const QString key = QString::fromUtf8(row.key);
+        QAction* action = m_ui->tbrMain->addAction(ProgramIcon(key), Translate(row.caption));
+        action->setObjectName(key);
+        action->setShortcut(QKeySequence(Qt::CTRL | row.shortcut));
+        action->setToolTip(Translate(row.caption) + QStringLiteral(" (") +
+                           action->shortcut().toString(QKeySequence::NativeText) + u')');
+        if (row.action)
+            connect(action, &QAction::triggered, this, [this, row] { (this->*row.action)(); });
+        auto* button = static_cast<QToolButton*>(m_ui->tbrMain->widgetForAction(action));
+        button->setFocusPolicy(Qt::TabFocus);
+        button->setAccessibleName(Translate(row.caption));
+    }
+    QAction* first = m_ui->tbrMain->actions().first();
+    if (TwipsOf(m_ui->tbrMain->widgetForAction(first)->sizeHint().width()) < LeastButtonWidth)
+        first->setText(QStringLiteral("   ") + first->text() + QStringLiteral("   "));
+}
+
+QAction* frmMain::ToolbarButton(const QString& key) const {
+    return m_ui->tbrMain->findChild<QAction*>(key);
+}
+
+void frmMain::NavigateToolbarButtons(const QString& state) {
+    const QString marks = state.trimmed();
+    const QList<QAction*> buttons = m_ui->tbrMain->actions();
+    if (marks.size() != buttons.size())
+        throw RunTimeError(RunTimeErrorNumber::WrongLength,
+                           QStringLiteral("NavigateToolbarButtons: %1 marks for %2 buttons")
+                               .arg(marks.size())
+                               .arg(buttons.size()));
+    for (qsizetype i = 0; i < buttons.size(); ++i)
+        buttons[i]->setEnabled(marks[i] == u'1');
+    const bool master = m_userType == MasterOperator;
+    const bool hasSetupPage = Toolbar.back().action != nullptr;
+    ToolbarButton(QStringLiteral("setup"))->setVisible(master && hasSetupPage);
+    m_ui->mnuTools->menuAction()->setVisible(master);
+    for (QAction* action : {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore})
+        action->setEnabled(master);
+    for (QAction* action : m_ui->mnuTools->actions())
+        action->setEnabled(master); // their shortcuts, too, are not for a user
+    m_ui->mnuToolsPipeOptions->setEnabled(master && gDockingDetected);
+    m_ui->mnuToolsClearPipe->setEnabled(master && gDockingDetected);
+    if (!gDockingDetected)
+        ToolbarButton(QStringLiteral("download"))->setEnabled(false);
+}
+
+void frmMain::SetTitle(const QString& text) { m_ui->lblTitle->setText(QStringLiteral("  ") + text); }
+
+bool frmMain::UnloadPage() {
+    if (!m_page)
+        return true;
+    if (!m_page->close())
+        return false;
+    m_ui->layPage->removeWidget(m_page);
+    m_page->deleteLater(); // this may be running in one of its own events
+    m_page = nullptr;
+    m_downloadPage = nullptr;
+    return true;
+}
+
+void frmMain::ShowPage(QWidget* page) {
+    m_page = page;
+    m_ui->layPage->addWidget(page);
+    page->show();
+    page->setFocus();
+}
+
+void frmMain::GoHome() {
+    if (!UnloadPage())
+        return;
+    auto* page = new frmMdiMenu(m_ui->pageArea);
+    ShowPage(page);
+    page->Translate();
+    SetTitle(Translate("Home"));
+    IgnoringErrors([this] { NavigateToolbarButtons(QStringLiteral("0111")); });
+    m_portNumber = SavedPortNumber();
+    if (!m_online)
+        IgnoringErrors([this] { GoConnect(); });
+}
+
+void frmMain::GoOnline() {
+    Guarded("GoOnline of Form frmMain", [this] {
+        if (!UnloadPage())
+            return;
+        SetTitle(Translate("Download"));
+        m_downloadPage = new frmMdiDownload(m_link, m_ui->pageArea);
+        connect(m_downloadPage, &frmMdiDownload::BusyChanged, this, &frmMain::ShowBusy);
+        connect(m_downloadPage, &frmMdiDownload::StatusChanged, m_panel2, &QLabel::setText);
+        ShowPage(m_downloadPage);
+        NavigateToolbarButtons(QStringLiteral("1011"));
+    });
+}
+
+void frmMain::GoReports() {
+    Guarded("GoReports of Form frmMain", [this] {
+        if (!UnloadPage())
+            return;
+        ShowPage(new frmMdiReports(*m_viewer, m_ui->pageArea));
+        SetTitle(Translate("Reports"));
+        NavigateToolbarButtons(QStringLiteral("1101"));
+    });
+}
+
+void frmMain::ShowBusy(bool busy) {
+    m_ui->tbrMain->setEnabled(!busy);
+    m_ui->mnuBar->setEnabled(!busy);
+}
+
+void frmMain::RestoreSavedPosition() {
+    const auto saved = [](const char* key, const QString& fallback) {
+        return GetSetting(SettingsApplication, SettingsSection::Settings, QString::fromLatin1(key),
+                          fallback);
+    };
+    if (ToBoolean(saved("Maximized", BooleanText(false)))) {
+        setWindowState(Qt::WindowMaximized);
+        return;
+    }
+    setWindowState(Qt::WindowNoState);
+    const int left = ToLong(saved("MainLeft", QStringLiteral("0")));
+    const int top = ToLong(saved("MainTop", QStringLiteral("0")));
+    const int width = ToLong(saved("MainWidth", QStringLiteral("9615")));
+    const int height = ToLong(saved("MainHeight", QStringLiteral("6690")));
+    setGeometry(PixelsOf(left), PixelsOf(top), PixelsOf(width), PixelsOf(height));
+}
+
+void frmMain::MDIForm_Unload() {
+    const auto save = [](const char* key, const QString& value) {
+        SaveSetting(SettingsApplication, SettingsSection::Settings, QString::fromLatin1(key),
+                    value);
+    };
+    const auto savePlace = [&](int left, int top, int width, int height) {
+        save("MainLeft", QString::number(left));
+        save("MainTop", QString::number(top));
+        save("MainWidth", QString::number(width));
+        save("MainHeight", QString::number(height));
+    };
+    if (isMinimized()) {
+        save("Maximized", BooleanText(false));
+    } else if (isMaximized()) {
+        savePlace(0, 0, 9615, 6690);
+        save("Maximized", BooleanText(true));
+    } else {
+        const QRect place = geometry();
+        savePlace(TwipsOf(place.left()), TwipsOf(place.top()), TwipsOf(place.width()),
+                  TwipsOf(place.height()));
+        save("Maximized", BooleanText(false));
+    }
+    ExitApp();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    if (!UnloadPage()) {
+        event->ignore();
+        return;
+    }
+    MDIForm_Unload();
+    event->accept();
+}
+
+void frmMain::ExitApp() {
+    IgnoringErrors([this] {
+        m_link.ClosePort();
+        deMain.Close();
+        gConn.reset();
+    });
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window != this)
+            window->close();
+    QApplication::quit();
+}
+
+void frmMain::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    m_ui->lblTitle->setMinimumHeight(PixelsOf(StripHeight - ToolbarHeight));
+}
+
+void frmMain::EditOperator(OperatorType type) {
+    frmUserMaintenance dialog(this);
+    dialog.FormStart(type);
+    dialog.exec();
+}
+
+void frmMain::mnuHelpContents_Click() {
+    if (HelpFile().isEmpty()) {
+        IvMessageBox(Translate("Unable to display Help Contents. There is no Help associated with "
+                               "this project."),
+                     MessageKind::Information);
+        return;
+    }
+    Trapped([this] { ShowHelpContents(this); },
+            [](const RunTimeError& error) { IvMessageBox(error.Description()); });
+}
+
+void frmMain::TranslateFrame() {
+    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+}
+
+void frmMain::ChangeLanguage() {
+    const auto change = [this] {
+        if (gDictionary->SelectLanguage(gLanguage)) {
+            gDictionary->language = gLanguage;
+            gDictionary->Open();
+            SaveSetting(SettingsApplication, SettingsSection::Properties,
+                        QStringLiteral("Language"), QString::number(gLanguage));
+            UpdateLanguage();
+        }
+        TranslateFrame();
+        setWindowTitle(TitleWithVersion());
+        InitToolbar();
+        if (auto* home = qobject_cast<frmMdiMenu*>(m_page))
+            home->Translate();
+    };
+    Trapped(change, [this](const RunTimeError& error) {
+        ReportError(QStringLiteral("ChangeLanguage of Form frmMain"), error, ErrorShow::LogOnly);
+        ResetLanguage();
+    });
+}
+
+void frmMain::ResetLanguage() {
+    IvMessageBox(gDictionary->Languages(gLanguage).englishName +
+                     QStringLiteral(" could not be displayed\nResetting to default language..."),
+                 MessageKind::Information);
+    gLanguage = 0;
+    gDictionary->language = gLanguage;
+    SaveSetting(SettingsApplication, SettingsSection::Properties, QStringLiteral("Language"),
+                QString::number(gLanguage));
+    IgnoringErrors([] { gDictionary->Open(); });
+}

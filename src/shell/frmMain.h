@@ -1,0 +1,81 @@
+#pragma once
+
+#include "DockingLink.h"
+#include "mDeclareGlobals.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+class QLabel;
+class frmMdiDownload;
+class ReportViewer;
+namespace Ui {
+class frmMain;
+}
+
+/// The one frame window: menu, toolbar, title, status bar, and one page at a time. It owns the
+/// docking station link and hands it to pages and dialogs.
+class frmMain : public QMainWindow {
+    Q_OBJECT
+public:
+    frmMain();
+    ~frmMain() override;
+
+    /// Closes the store and every window.
+    void ExitApp();
+    void GoHome();
+    void GoOptions();
+    void GoReports();
+    /// Marks the present page: one character a toolbar button, "1" for enabled. Then takes back
+    /// what the operator, or the lack of a docking station, does not allow. Throws RunTimeError
+    /// for a text of another length, and changes nothing.
+    void NavigateToolbarButtons(const QString& state);
+    void SetTitle(const QString& text);
+    void ShowDockingDetect(bool detected);
+    void ShowOnlineMode(bool online);
+    OperatorType UserType() const { return m_userType; }
+    void SetUserType(OperatorType type) { m_userType = type; }
+
+    void GoOnline();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void MDIForm_Load();
+    void MDIForm_Unload();
+    void HideUnbuilt();
+    void ConnectMenu();
+    void InitToolbar();
+    void RestoreSavedPosition();
+
+    bool UnloadPage();
+    void ShowPage(QWidget* page);
+    void ShowBusy(bool busy);
+    void ShowStatus(const QString& text, const QString& icon);
+
+    void GoConnect();
+    void GoOffline();
+    QAction* ToolbarButton(const QString& key) const;
+
+    void ChangeLanguage();
+    void ResetLanguage();
+    void TranslateFrame();
+    void mnuHelpContents_Click();
+    void EditOperator(OperatorType type);
+
+    std::unique_ptr<Ui::frmMain> m_ui;
+    std::unique_ptr<ReportViewer> m_viewer;
+    DockingLink m_link;
+    QLabel* m_panelPicture;
+    QLabel* m_panel1;
+    QLabel* m_panel2;
+    QWidget* m_page = nullptr;
+    frmMdiDownload* m_downloadPage = nullptr;
+    OperatorType m_userType = NoOperator;
+    int m_portNumber = 1;
+    bool m_online = false;
+    bool m_dockingDetected = false;
+};

@@ -1,0 +1,84 @@
+// The main window's part in the link: connecting, the port choice, and showing the state.
+
+#include "Clock.h"
+#include "WindowTools.h"
+#include "frmGoOnline.h"
+#include "frmMain.h"
+#include "frmPrpComms.h"
+#include "mTranslations.h"
+
+#include <QAction>
+#include <QLabel>
+
+void frmMain::GoConnect() {
+    m_link.ClosePort();
+    DoEvents();
+    for (bool done = false; !done;) {
+        done = true;
+        frmGoOnline dialog(m_link, this);
+        dialog.Online = m_online;
+        dialog.MyCommPort = QString::number(m_portNumber);
+        dialog.exec();
+        if (!dialog.OK) {
+            m_online = false;
+            m_dockingDetected = false;
+            gDockingDetected = false;
+            IvMessageBox(Translate("Could not open the com port.") + u'\n' +
+                             Translate("Check settings and try again.") + u'\n' +
+                             Translate("Working in Offline Mode"),
+                         MessageKind::Information);
+            NavigateToolbarButtons(QStringLiteral("0111"));
+        } else {
+            m_online = dialog.Online;
+            m_dockingDetected = dialog.DockingDetected;
+            gDockingDetected = m_dockingDetected;
+            if (!m_dockingDetected) {
+                const auto answer =
+                    IvMessageBox(Translate("Could not connect to the docking station.") + u'\n' +
+                                     Translate("Check hardware and settings and try again."),
+                                 MessageKind::Information, MessageButtons::RetryIgnore);
+                done = answer == MessageAnswer::Ignore;
+            }
+            NavigateToolbarButtons(QStringLiteral("0111"));
+        }
+        ShowOnlineMode(m_online);
+        ShowDockingDetect(m_dockingDetected);
+    }
+}
+
+void frmMain::GoOffline() {
+    m_link.ClosePort();
+    m_online = false;
+    m_dockingDetected = false;
+}
+
+void frmMain::GoOptions() {
+    GoOffline();
+    DoEvents();
+    ShowOnlineMode(m_online);
+    frmPrpComms dialog(this);
+    dialog.comPort = m_portNumber;
+    dialog.Populate();
+    dialog.exec();
+    if (!dialog.OK)
+        return;
+    m_portNumber = dialog.comPort;
+    SavePortNumber(m_portNumber);
+    GoConnect();
+}
+
+void frmMain::ShowStatus(const QString& text, const QString& icon) {
+    m_panel1->setText(text);
+    m_panelPicture->setPixmap(ProgramIcon(icon).pixmap(QSize(16, 16), devicePixelRatioF()));
+}
+
+void frmMain::ShowDockingDetect(bool detected) {
+    ShowStatus(Translate(detected ? "Docking Station : OK" : "Docking Station : Not Detected"),
+               detected ? QStringLiteral("online") : QStringLiteral("offline"));
+}
+
+void frmMain::ShowOnlineMode(bool online) {
+    ShowStatus(online ? QStringLiteral("Status: ONLINE, COM %1").arg(m_portNumber)
+                      : QStringLiteral("Status: Offline"),
+               online ? QStringLiteral("online") : QStringLiteral("offline"));
+}

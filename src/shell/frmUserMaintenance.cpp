@@ -1,0 +1,70 @@
+#include "frmUserMaintenance.h"
+
+#include "WindowTools.h"
+#include "mErrorHandler.h"
+#include "mOperators.h"
+#include "mTranslations.h"
+#include "ui_frmUserMaintenance.h"
+
+#include <QEvent>
+#include <QTimer>
+
+frmUserMaintenance::frmUserMaintenance(QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::frmUserMaintenance>()) {
+    m_ui->setupUi(this);
+    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    m_ui->txtPassword->installEventFilter(this);
+    m_ui->txtRetypePassword->installEventFilter(this);
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmUserMaintenance::cmdOK_Click);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+frmUserMaintenance::~frmUserMaintenance() = default;
+
+void frmUserMaintenance::FormStart(OperatorType type) {
+    m_type = type;
+    m_ui->txtPassword->clear();
+    m_ui->txtRetypePassword->clear();
+    ReadOperatorRecord();
+    setWindowTitle(windowTitle() + QStringLiteral(" - ") +
+                   Translate(type == MasterOperator ? "Master" : "User"));
+}
+
+void frmUserMaintenance::ReadOperatorRecord() {
+    m_operator.reset();
+    GuardedWithBox("ReadOperatorRecord", [this] {
+        auto rows = std::make_unique<Recordset>();
+        rows->CursorLocation = adUseClient;
+        rows->Open(QStringLiteral("SELECT * FROM tblOperators WHERE LoginName = '") +
+                       LoginNameOf(m_type) + QStringLiteral("';"),
+                   *gConn);
+        m_operator = std::move(rows);
+    });
+}
+
+bool frmUserMaintenance::Update() {
+    return GuardedWithBox("Update", [this] {
+        if (!m_operator || m_operator->RecordCount() < 1)
+            return false;
+        m_operator->Set(u"Password", m_ui->txtPassword->text());
+        m_operator->Update();
+        return true;
+    });
+}
+
+void frmUserMaintenance::cmdOK_Click() {
+    if (m_ui->txtPassword->text() != m_ui->txtRetypePassword->text()) {
+        IvMessageBox(Translate("The passwords do not match, please re-enter"));
+        m_ui->txtPassword->setFocus();
+        return;
+    }
+    if (Update())
+        accept();
+}
+
+bool frmUserMaintenance::eventFilter(QObject* watched, QEvent* event) {
+    // A mouse press that gave the focus would take the selection back, hence behind the event.
+    if (event->type() == QEvent::FocusIn)
+        QTimer::singleShot(0, static_cast<QLineEdit*>(watched), &QLineEdit::selectAll);
+    return QDialog::eventFilter(watched, event);
+}

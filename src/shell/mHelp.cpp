@@ -1,0 +1,44 @@
+#include "mHelp.h"
+
+#include "Application.h"
+#include "RunTimeError.h"
+#include "WindowTools.h"
+#include "mTranslations.h"
+#include "ui_frmHelp.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+QString g_helpFile;
+
+} // namespace
+
+const QString& HelpFile() { return g_helpFile; }
+
+void SetHelpFile(const QString& path) { g_helpFile = path; }
+
+void UpdateLanguage() {
+    // The dictionary names each language's help file.
+    const QString localized = AppFile(Translate("WK3_ENG.HLP"));
+    if (QFileInfo::exists(localized))
+        SetHelpFile(localized);
+}
+
+void ShowHelpContents(QWidget* parent) {
+    QFile file(g_helpFile);
+    if (!file.open(QIODevice::ReadOnly))
+        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
+                           QDir::toNativeSeparators(g_helpFile) + QStringLiteral(": ") +
+                               file.errorString());
+    QDialog window(parent);
+    Ui::frmHelp ui;
+    ui.setupUi(&window);
+    TranslateWindow(window, [](const QString& text) { return Translate(text); });
+    ui.txtHelp->setMarkdown(QString::fromUtf8(file.readAll()));
+    QObject::connect(ui.cmdClose, &QPushButton::clicked, &window, &QDialog::accept);
+    window.exec();
+}

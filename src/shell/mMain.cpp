@@ -1,0 +1,148 @@
+#include "mMain.h"
+
+#include "Application.h"
+#include "Clock.h"
+#include "Format.h"
+#include "MessageBox.h"
+#include "Settings.h"
+#include "WindowTools.h"
+#include "deMain.h"
+#include "frmLanguage.h"
+#include "frmLogin.h"
+#include "frmMain.h"
+#include "frmSplash.h"
+#include "mErrorHandler.h"
+#include "mHelp.h"
+#include "mStore.h"
+#include "mTranslations.h"
+
+#include <QApplication>
+
+#include <optional>
+
+namespace {
+
+constexpr int SplashPause = 2000; ///< ms
+constexpr int CompanyLineLength = 50;
+
+std::unique_ptr<InstanceLock> g_instance;
+std::unique_ptr<frmMain> g_frmMain;
+
+void ReadCommandLine(const QString& commandLine) {
+    gDebugMode = commandLine.contains(QStringLiteral("-debug"));
+    if (gDebugMode)
+        WriteLog(AppExeName() + QStringLiteral(" Started at ") + DefaultDateTimeText(Now()));
+    gDemoMode = commandLine.contains(QStringLiteral("-demo"));
+    // The switch is for that one line: whatever else tests the flag stays silent.
+    gDebugMode = false;
+    gEdition = 0;
+}
+
+bool ReadLanguage() {
+    const auto read = [] {
+        gLanguage = ToInteger(GetSetting(SettingsApplication, SettingsSection::Properties,
+                                         QStringLiteral("Language"), QStringLiteral("-1")));
+        if (gDebugMode)
+            WriteLog(QStringLiteral("Setting Dictionary Object, Language = %1").arg(gLanguage));
+        return true;
+    };
+    return Trapped(read, [](const RunTimeError& error) {
+        WriteLog(QStringLiteral("Error in mMain, error handler and exit."));
+        ReportError(QStringLiteral("Main of Module mMain"), error, ErrorShow::LogOnly);
+    });
+}
+
+/// Tests, compacts and opens the store, and connects the report data environment.
+bool OpenStore(frmSplash& splash) {
+    splash.ShowMessage(Translate("Opening Database..."));
+    gDatabasePath = AppFile(QStringLiteral("main.mdb"));
+    gConnectionString = ConnectionText(gDatabasePath, StorePassword);
+    if (!ADOTest(gDatabasePath, StorePassword)) {
+        WriteLog(QStringLiteral("ADOTest Failed. Exiting..."));
+        return false;
+    }
+    splash.ShowMessage(Translate("Compacting Database..."));
+    CompactStore(ProviderText, gDatabasePath, AppFile(QStringLiteral("temp.mdb")), StorePassword);
+    if (!ADOInit(gDatabasePath, StorePassword)) {
+        WriteLog(QStringLiteral("ADOInit Failed. Exiting..."));
+        return false;
+    }
+    deMain.Connect(gConnectionString);
+    return true;
+}
+
+bool OpenBehindSplash() {
+    frmSplash splash;
+    splash.ShowVersion(TitleWithVersion());
+    splash.ShowMessage(Translate("Loading Application..."));
+    splash.show();
+    DoEvents();
+    splash.ShowMessage(Translate("Initializing Online Help..."));
+    SetHelpFile(AppFile(Translate("WK3_ENG.HLP")));
+    if (!OpenStore(splash))
+        return false;
+    Sleep(SplashPause);
+    splash.repaint();
+    return true;
+}
+
+void CloseAfterFailedLogin() {
+    IgnoringErrors([] {
+        deMain.Close();
+        gConn.reset();
+    });
+    for (QWidget* window : QApplication::topLevelWidgets())
+        window->close();
+}
+
+void ReadRemainingSettings() {
+    const auto saved = [](const QString& key, const QString& fallback) {
+        return GetSetting(SettingsApplication, SettingsSection::Properties, key, fallback);
+    };
+    gAutoSetTime = ToBoolean(saved(QStringLiteral("AutoSetTime"), BooleanText(true)));
+    for (std::size_t line = 0; line < gCompanyInfo.size(); ++line)
+        gCompanyInfo[line] =
+            saved(QStringLiteral("CompanyInfo%1").arg(line + 1), {}).left(CompanyLineLength);
+}
+
+} // namespace
+
+bool Main(const QString& commandLine) {
+    ReadCommandLine(commandLine);
+    if (!ReadLanguage())
+        return false;
+    OpenDictionary();
+    gDictionary->InstallChooser(&frmLanguage::Choose);
+    g_instance = TakeInstanceLock();
+    if (!g_instance) {
+        MsgBox(QStringLiteral("The program is already running!"), ShortTitle,
+               MessageKind::Critical);
+        return false;
+    }
+    std::optional<Hourglass> hourglass(std::in_place);
+    if (!OpenBehindSplash())
+        return false;
+    OperatorType login;
+    {
+        frmLogin window;
+        hourglass.reset();
+        window.exec();
+        login = window.LoginResult();
+    }
+    if (login == NoOperator) {
+        CloseAfterFailedLogin();
+        return false;
+    }
+    WriteLog(QStringLiteral("Logged in as user type = %1").arg(login));
+    g_frmMain = std::make_unique<frmMain>();
+    g_frmMain->SetUserType(login);
+    g_frmMain->GoHome();
+    g_frmMain->show();
+    ReadRemainingSettings();
+    return true;
+}
+
+void ReleaseMainWindow() {
+    g_frmMain.reset();
+    g_instance.reset();
+}

@@ -1,0 +1,3 @@
+#include "deMain.h"
+
+DataEnvironment deMain;

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Connection.h"
+
+/// The report data environment: a second connection to the store, by its connection text, for
+/// reports whose query is hierarchical.
+class DataEnvironment {
+public:
+    /// Connects anew. Throws RunTimeError.
+    void Connect(const QString& connectionText) {
+        Close();
+        m_main.Open(connectionText);
+    }
+    void Close() { m_main.Close(); }
+    Connection& Main() { return m_main; }
+
+private:
+    Connection m_main;
+};
+
+/// Connected at start, closed when the program ends.
+extern DataEnvironment deMain;

@@ -1,0 +1,30 @@
+#include "mOperators.h"
+
+#include "Recordset.h"
+#include "Settings.h"
+
+QString LoginNameOf(OperatorType type) {
+    return type == MasterOperator ? QStringLiteral("KEEPER") : QStringLiteral("CREW");
+}
+
+OperatorType CheckOperator(OperatorType type, const QString& entered) {
+    const QString name = LoginNameOf(type);
+    Recordset operators;
+    operators.CursorLocation = adUseClient;
+    operators.Open(QStringLiteral("SELECT * From tblOperators WHERE LoginName = '") + name +
+                       QStringLiteral("';"),
+                   *gConn);
+    if (operators.RecordCount() < 1) {
+        operators.AddNew();
+        operators.Set(u"LoginName", name);
+        operators.Set(u"Password", name);
+        operators.Update();
+        return NoOperator;
+    }
+    SaveSetting(SettingsApplication, SettingsSection::Info, QStringLiteral("LastLogin"),
+                QString::number(type));
+    operators.MoveFirst();
+    const bool equal =
+        operators.Text(u"Password").toUpper() == entered.trimmed().toUpper();
+    return equal ? type : NoOperator;
+}

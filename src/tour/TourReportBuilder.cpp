@@ -1,0 +1,201 @@
+#include "TourReportBuilder.h"
+
+#include "Format.h"
+#include "TourExceptionTable.h"
+#include "TourMatching.h"
+#include "darTourException.h"
+#include "mDeclareGlobals.h"
+#include "mErrorHandler.h"
+#include "mReports.h"
+#include "mTranslations.h"
+
+#include <vector>
+
+namespace {
+
+const QString ShortTime = QStringLiteral("Short Time");
+
+QString PlaceText(const QString& group, const QString& name) {
+    return group + QStringLiteral(" - ") + name;
+}
+
+QString ClockText(DateTime time) { return Format(time, QStringLiteral("hh:nn")); }
+
+void ShowFailure(const char* code) {
+    IvMessageBox(Translate("Error in creating new Tour") + QStringLiteral("\r\n") +
+                 QString::fromUtf8(code));
+}
+
+QString StatusWord(TouchClass touchClass) {
+    switch (touchClass) {
+    case TouchClass::Early: return Translate("EARLY");
+    case TouchClass::OnTime: return Translate("ON TIME");
+    case TouchClass::Late: return Translate("LATE");
+    case TouchClass::OutOfSequence: return Translate("OUT OF SEQUENCE");
+    case TouchClass::NotOnTour: return Translate("NOT ON TOUR");
+    case TouchClass::NotAssigned: break;
+    }
+    return {};
+}
+
+/// The one pass over points and touches that writes the report's lines. Its outcome depends on the
+/// order of its steps: a touch assigned to a point is used up for all later ones, printed or not.
+class LineWriter {
+public:
+    LineWriter(cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table)
+        : m_tour(tour), m_request(request), m_table(table) {}
+
+    /// False if a point's neighbours could not be told.
+    bool WriteAll() {
+        for (std::size_t i = 0; i < m_tour.TourPoints().size(); ++i)
+            if (!WritePoint(i))
+                return false;
+        if (m_noLinesWritten) {
+            m_table.WriteNote(Translate("NO EXCEPTIONS"));
+            m_table.WriteSeparator();
+        }
+        return true;
+    }
+
+private:
+    bool WritePoint(std::size_t position) {
+        const cTourPoint& point = m_tour.TourPoints()[position];
+        cTourPoint previous, next;
+        if (!GetPrevAndNextTourPoints(position, m_tour.TourPoints(), point.PointDateTime, previous,
+                                      next))
+            return false;
+        const QString status = Translate(point.PointOK ? "ON TIME" : "EXCEPTION");
+        bool tourLineWritten = false;
+        colLocations left;
+        for (cLocation& touch : m_tour.Buttons()) {
+            const TouchClass touchClass = Classify(touch, point, previous, next, m_tour);
+            m_showPoint = !(point.PointOK && !m_request.ShowAll);
+            if (touchClass == TouchClass::NotAssigned) {
+                left.push_back(std::move(touch));
+                continue;
+            }
+            if (!m_showPoint)
+                continue;
+            if (!tourLineWritten)
+                WriteTourLine(point, status);
+            tourLineWritten = true;
+            WriteTouch(touch, touchClass);
+        }
+        // Where no touch was left to look at, this still goes by the touch looked at last, under an
+        // earlier point: a tour whose touches are all used up by points that need no line shows
+        // none for the points behind, either.
+        if (m_showPoint && !tourLineWritten)
+            WriteTourLine(point, Translate("MISSING"));
+        m_tour.Buttons() = std::move(left);
+        return true;
+    }
+
+    void WriteTourLine(const cTourPoint& point, const QString& status) {
+        const DateTime time = point.PointDateTime;
+        const DateTime tolerance = m_tour.GetToleranceAsDate();
+        const QString range = Format(time - tolerance, ShortTime) + u' ' + Translate("to") + u' ' +
+                              Format(time + tolerance, ShortTime);
+        m_table.WriteTourLine(point.PointIndex, Format(time, ShortTime), range,
+                              PlaceText(point.SiteName, point.ButtonName), status);
+        m_noLinesWritten = false;
+    }
+
+    void WriteTouch(const cLocation& touch, TouchClass touchClass) {
+        m_table.WriteDetailLine(ClockText(touch.DateAndTime), StatusWord(touchClass),
+                                PlaceText(touch.GroupName, touch.Name));
+        if (!m_request.IncludeEvents)
+            return;
+        for (const cEvent& event : touch.Events)
+            m_table.WriteDetailLine(ClockText(event.DateAndTime), Translate("EVENT"),
+                                    PlaceText(event.GroupName, event.Name));
+    }
+
+    cTourReport& m_tour;
+    const TourReportRequest& m_request;
+    TourExceptionTable& m_table;
+    bool m_noLinesWritten = true;
+    bool m_showPoint = false;
+};
+
+/// Loads and matches; false if there is nothing to report, which the operator has been told.
+bool LoadTour(cTourReport& tour) {
+    if (!tour.LoadTourHeader()) {
+        ShowFailure("<ERROR #0001>");
+        return false;
+    }
+    if (!tour.LoadTourPoints()) {
+        ShowFailure("<ERROR #0002>");
+        return false;
+    }
+    if (!tour.LoadReaderEvents())
+        return false;
+    if (tour.Buttons().empty()) {
+        IvMessageBox(Translate("No Data on the report"));
+        return false;
+    }
+    if (!TryToMatchTourPoints(tour)) {
+        ShowFailure("<ERROR #0004>");
+        return false;
+    }
+    return true;
+}
+
+/// Makes the scratch table and writes all lines; one sync of the store for all of them.
+bool WriteTable(cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table) {
+    Transaction transaction(*gConn);
+    if (!TourExceptionTable::ResetTempTourTable()) {
+        ShowFailure("<ERROR #0005>");
+        return false;
+    }
+    table.Open();
+    if (!LineWriter(tour, request, table).WriteAll()) {
+        ShowFailure("<ERROR #0006>");
+        return false;
+    }
+    table.Rows().MoveFirst(); // writes the row that is still pending
+    transaction.Commit();
+    return true;
+}
+
+void Print(const cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table,
+           ReportViewer& viewer) {
+    darTourException report;
+    report.SetDataSource(&table.Rows());
+    report.SetReportParam(PrintDateText(4), Format(tour.StartDate, QStringLiteral("Short Date")),
+                          tour.GetTourFullName(), request.ReaderText,
+                          GetReportTitle(request.ShowAll), QString::number(tour.Tolerance),
+                          CompanyText(), Translate(request.IncludeEvents ? "Yes" : "No"));
+    report.SetText(Translate("Print Date:"), GetReportsTitle(), Translate("Page"),
+                   Translate("Reader ID:"), Translate("Tour Date:"), Translate("Tour Name:"),
+                   Translate("Tolerance (min):"), Translate("Time"), Translate("Site/Location"),
+                   Translate("Status"), Translate("End Of Report"), Translate("Show Events:"));
+    ShowLayoutFrame(report, viewer);
+}
+
+} // namespace
+
+QString GetReportTitle(bool showAll) {
+    return Translate(showAll ? "Tour Report" : "Exception Report");
+}
+
+void BuildTourReport(const TourReportRequest& request, ReportViewer& viewer) {
+    const auto build = [&] {
+        cTourReport tour;
+        tour.TourID = request.TourID;
+        tour.StartDate = request.StartDate;
+        tour.ReaderId = request.ReaderId;
+        if (!LoadTour(tour))
+            return;
+        TourExceptionTable table;
+        if (WriteTable(tour, request, table))
+            Print(tour, request, table, viewer);
+        table.Close();
+        TourExceptionTable::Drop();
+    };
+    Trapped(build, [](const RunTimeError& error) {
+        ReportError(QStringLiteral("BuildTourReport of Form frmRptTour"), error,
+                    ErrorShow::LogOnly);
+        TourExceptionTable::Drop();
+        ShowFailure("<ERROR #9999>");
+    });
+}

@@ -1,0 +1,125 @@
+#include "cTourReport.h"
+
+#include "Recordset.h"
+#include "mDeclareGlobals.h"
+#include "mErrorHandler.h"
+#include "mStore.h"
+#include "mTranslations.h"
+
+namespace {
+
+/// A tour without tolerance still reads what lies this far from it, in minutes.
+constexpr int WindowWithoutTolerance = 15;
+
+void OpenQuery(Recordset& rows, const QString& sql) {
+    rows.CursorLocation = adUseClient;
+    rows.Open(sql, *gConn, adOpenStatic, adLockOptimistic, adCmdText);
+}
+
+cLocation LocationOf(Recordset& rows) {
+    return {rows.Date(u"dtDateTime"),
+            FixedCode(rows.Text(u"tButtonCode")),
+            rows.Text(u"tButtonName"),
+            rows.Text(u"tButtonDesc"),
+            rows.Text(u"tGroupName"),
+            rows.Text(u"tGroupDesc"),
+            {}};
+}
+
+cEvent EventOf(Recordset& rows) {
+    return {rows.Date(u"dtDateTime"),     FixedCode(rows.Text(u"tButtonCode")),
+            rows.Text(u"tButtonName"),    rows.Text(u"tButtonDesc"),
+            rows.Text(u"tGroupName"),     rows.Text(u"tGroupDesc")};
+}
+
+} // namespace
+
+bool cTourReport::LoadTourHeader() {
+    if (TourID < 1)
+        return false;
+    return Guarded("LoadTourHeader of Class Module cTourReport", [this] {
+        Recordset header;
+        OpenQuery(header, QStringLiteral("SELECT tblTours.ID, tblTours.tName, tblTours.tDesc, "
+                                         "tblTours.iTolerance, tblTours.dtStartTime FROM tblTours "
+                                         "WHERE tblTours.ID=") +
+                              QString::number(TourID) + QStringLiteral(" ; "));
+        if (header.RecordCount() < 1)
+            return false;
+        TourName = header.Text(u"tName");
+        TourDesc = header.Text(u"tDesc");
+        Tolerance = static_cast<int>(header.Number(u"iTolerance"));
+        TourWindow = GetToleranceAsDate();
+        StartTime = header.Date(u"dtStartTime");
+        return true;
+    });
+}
+
+bool cTourReport::LoadTourPoints() {
+    m_tourPoints.clear();
+    return Guarded("LoadTourPoints of Class Module cTourReport", [this] {
+        Recordset rows;
+        OpenQuery(rows,
+                  QStringLiteral("SELECT tblTourPoints.lIndex, tblTourPoints.dtTime, "
+                                 "tblTourPoints.tButtonCode, tblButtons.tButtonName, "
+                                 "tblButtons.tButtonDesc, tblListItems.tName AS tSiteName "
+                                 "FROM (tblTourPoints LEFT JOIN tblButtons ON "
+                                 "tblTourPoints.tButtonCode = tblButtons.tButtonCode) "
+                                 "LEFT JOIN tblListItems ON tblButtons.lParentID = tblListItems.ID "
+                                 "Where (((tblTourPoints.lParentID) = ") +
+                      QString::number(TourID) +
+                      QStringLiteral(")) ORDER BY tblTourPoints.lIndex; "));
+        if (rows.RecordCount() < 1)
+            return false;
+        const QTime start = StartTime.ToQTime();
+        // Each point's time is the interval since the one before, so a tour that passes midnight
+        // goes on into the next day by plain addition.
+        DateTime time = StartDate.DatePart() + DateTime::FromTime(start.hour(), start.minute());
+        for (; !rows.Eof(); rows.MoveNext()) {
+            time = time + rows.Date(u"dtTime");
+            m_tourPoints.push_back({static_cast<int>(rows.Number(u"lIndex")), time,
+                                    rows.Text(u"tButtonCode"), rows.Text(u"tButtonName"),
+                                    rows.Text(u"tButtonDesc"), rows.Text(u"tSiteName"), false});
+        }
+        return true;
+    });
+}
+
+bool cTourReport::LoadReaderEvents() {
+    return Guarded("LoadReaderEvents of Class Module cTourReport", [this] {
+        const int margin =
+            Tolerance >= 1 && Tolerance < 60 ? Tolerance : WindowWithoutTolerance;
+        TourWindow = DateTime::FromTime(0, margin);
+        m_buttons.clear();
+        Recordset rows;
+        OpenQuery(rows,
+                  QStringLiteral("SELECT ID, dtDateTime, tButtonCode, tButtonName, tButtonDesc, "
+                                 "tGroupName, tGroupDesc, wGroupType FROM tblEvents "
+                                 "WHERE ((wGroupType = 1) OR (wGroupType = 2)) AND (tPipeID = '") +
+                      ReaderId + QStringLiteral("') AND (dtDateTime >= #") + m_GetStartDate() +
+                      QStringLiteral("#) AND (dtDateTime <= #") + m_GetEndDate() +
+                      QStringLiteral("#) ORDER BY dtDateTime, ID;"));
+        if (rows.RecordCount() < 1) {
+            IvMessageBox(Translate("No Data on the report"));
+            return false;
+        }
+        for (; !rows.Eof(); rows.MoveNext()) {
+            if (rows.Number(u"wGroupType") == SiteGroup)
+                m_buttons.push_back(LocationOf(rows));
+            else if (!m_buttons.empty()) // an event before the first location has no place
+                m_buttons.back().Events.push_back(EventOf(rows));
+        }
+        return true;
+    });
+}
+
+QString cTourReport::m_GetStartDate() const {
+    return Guarded("m_GetStartDate of Class Module cTourReport", [this] {
+        return SqlDateTimeFmt(m_tourPoints.front().PointDateTime - TourWindow);
+    });
+}
+
+QString cTourReport::m_GetEndDate() const {
+    return Guarded("m_GetEndDate of Class Module cTourReport", [this] {
+        return SqlDateTimeFmt(m_tourPoints.back().PointDateTime + TourWindow);
+    });
+}

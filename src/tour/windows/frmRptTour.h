@@ -1,0 +1,43 @@
+#pragma once
+
+#include "DateTime.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class ReportViewer;
+namespace Ui {
+class frmRptTour;
+}
+
+/// The dialog of the tour report: tour, date, reader and options. It stays open after a preview.
+class frmRptTour : public QDialog {
+    Q_OBJECT
+public:
+    /// The viewer outlives the dialog.
+    frmRptTour(ReportViewer& viewer, QWidget* parent);
+    ~frmRptTour() override;
+
+    int TourID = 0;
+    DateTime StartDate;
+    bool IncludeEvents = false;
+    bool OK = false;
+    QString ReaderId;
+    /// Sets the caption.
+    void Title(const QString& text) { setWindowTitle(text); }
+
+    /// Closing saves the two options.
+    void done(int result) override;
+
+private:
+    void FillTours();
+    void FillReaders();
+    void ReadSelectedReader();
+    void ReadOptions();
+    void cmdPrintPreview_Click();
+    void cmdCancel_Click();
+
+    std::unique_ptr<Ui::frmRptTour> m_ui;
+    ReportViewer& m_viewer;
+};
