@@ -122,7 +122,7 @@ int Detect(const CommandLine& line) {
     return Done;
 }
 
-int Download(const CommandLine& line) {
+int Download(const CommandLine& line, const ConsoleBoxes& boxes) {
     DockingLink link;
     if (!Connect(link, line.device))
         return NotDone;
@@ -132,7 +132,8 @@ int Download(const CommandLine& line) {
     download.Run();
     const MemoryDownload::Outcome& outcome = download.LastOutcome();
     if (!outcome.read) {
-        Complain(view.MessageText());
+        if (boxes.Last().isEmpty()) // else the transfer has said what went wrong
+            Complain(view.MessageText());
         return NotDone;
     }
     WriteOut(line.json ? DownloadJson(outcome) : DownloadText(outcome, view.MessageText()), {});
@@ -181,7 +182,7 @@ int RunCommand(const CommandLine& line) {
         return NotDone;
     switch (line.command) {
     case ConsoleCommand::Detect: return Detect(line);
-    case ConsoleCommand::Download: return Download(line);
+    case ConsoleCommand::Download: return Download(line, boxes);
     case ConsoleCommand::ReportTour: return ReportTour(line, boxes);
     }
     return NotDone;

@@ -47,9 +47,14 @@ QList<Token> Split(const QString& statement) {
                 ++at;
             tokens += {TokenKind::Word, statement.mid(start, at - start)};
         } else {
+            // "<=", "<>" and their like stay in one piece.
+            static const QString comparison = QStringLiteral("<>=!");
+            const qsizetype start = at++;
+            while (comparison.contains(c) && at < statement.size() &&
+                   comparison.contains(statement[at]))
+                ++at;
             if (!c.isSpace())
-                tokens += {TokenKind::Other, QString(c)};
-            ++at;
+                tokens += {TokenKind::Other, statement.mid(start, at - start)};
         }
     }
     while (!tokens.isEmpty() && tokens.last().text == u";" &&

@@ -1,0 +1,575 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Wardlock</name>
+    <message>
+        <source>The User Name / Password are incorrect. Please try again.</source>
+        <translation>Benutzer oder Kennwort ist falsch. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Could not open the com port.</source>
+        <translation>Der COM-Anschluss konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Check settings and try again.</source>
+        <translation>Bitte die Einstellungen prüfen und noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Could not connect to the docking station.</source>
+        <translation>Keine Verbindung zur Dockingstation.</translation>
+    </message>
+    <message>
+        <source>Check hardware and settings and try again.</source>
+        <translation>Bitte Gerät und Einstellungen prüfen und noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Working in Offline Mode</source>
+        <translation>Es wird ohne Dockingstation gearbeitet</translation>
+    </message>
+    <message>
+        <source>Docking Station : OK</source>
+        <translation>Dockingstation: OK</translation>
+    </message>
+    <message>
+        <source>Docking Station : Not Detected</source>
+        <translation>Dockingstation: nicht gefunden</translation>
+    </message>
+    <message>
+        <source>The touches could not be stored. The reader was not erased.</source>
+        <translation>Die Kontakte konnten nicht gespeichert werden. Der Leser wurde nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>Reader Memory NOT erased!</source>
+        <translation>Leserspeicher NICHT gelöscht!</translation>
+    </message>
+    <message>
+        <source>Reader Memory erased</source>
+        <translation>Leserspeicher gelöscht</translation>
+    </message>
+    <message>
+        <source>Reader ID:</source>
+        <translation>Leser-Nr.:</translation>
+    </message>
+    <message>
+        <source>KV-88 Wardlock Reports</source>
+        <translation>KV-88 Wardlock Berichte</translation>
+    </message>
+    <message>
+        <source>%0:s - Version %1:s</source>
+        <translation>%0:s - Version %1:s</translation>
+    </message>
+    <message>
+        <source>Download Failed</source>
+        <translation>Auslesen fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Download Successful</source>
+        <translation>Auslesen erfolgreich</translation>
+    </message>
+    <message>
+        <source>Data Readings = </source>
+        <translation>Kontakte = </translation>
+    </message>
+    <message>
+        <source>The Reader was empty</source>
+        <translation>Der Leser war leer</translation>
+    </message>
+    <message>
+        <source>Reader Clock update failed.  Please try again.</source>
+        <translation>Die Uhr des Lesers konnte nicht gestellt werden. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to clear the reader? </source>
+        <translation>Soll der Leser wirklich gelöscht werden? </translation>
+    </message>
+    <message>
+        <source>Reader Erase Failed.  Try again?</source>
+        <translation>Der Leser konnte nicht gelöscht werden. Noch einmal versuchen?</translation>
+    </message>
+    <message>
+        <source>Reader Erased</source>
+        <translation>Leser gelöscht</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Download Error</source>
+        <translation>Fehler beim Auslesen</translation>
+    </message>
+    <message>
+        <source>Downloading data from reader</source>
+        <translation>Der Leser wird ausgelesen</translation>
+    </message>
+    <message>
+        <source>Reader not detected. Check reader and try again.</source>
+        <translation>Kein Leser gefunden. Bitte den Leser prüfen und noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Download Completed</source>
+        <translation>Auslesen beendet</translation>
+    </message>
+    <message>
+        <source>Processing Data</source>
+        <translation>Daten werden verarbeitet</translation>
+    </message>
+    <message>
+        <source>Ready...</source>
+        <translation>Bereit...</translation>
+    </message>
+    <message>
+        <source>Opening COM port...</source>
+        <translation>COM-Anschluss wird geöffnet...</translation>
+    </message>
+    <message>
+        <source>Could Not Open Com </source>
+        <translation>Nicht zu öffnen: COM </translation>
+    </message>
+    <message>
+        <source>Please try another COM port or check that the COM port is not in use by another program.</source>
+        <translation>Bitte einen anderen COM-Anschluss wählen oder prüfen, ob ein anderes Programm ihn benutzt.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorieren</translation>
+    </message>
+    <message>
+        <source>Checking Docking Station...</source>
+        <translation>Dockingstation wird gesucht...</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>no device</source>
+        <translation>kein Gerät</translation>
+    </message>
+    <message>
+        <source>&amp;Open Report</source>
+        <translation>Bericht ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Report Name</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Tour / Exception Report</source>
+        <translation>Rundgangs- / Abweichungsbericht</translation>
+    </message>
+    <message>
+        <source>You must add at least one reader before this report can be used</source>
+        <translation>Für diesen Bericht muss mindestens ein Leser angelegt sein</translation>
+    </message>
+    <message>
+        <source>You must add at least one tour before this report can be used</source>
+        <translation>Für diesen Bericht muss mindestens ein Rundgang angelegt sein</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>You could not be logged in.  Closing the program now.</source>
+        <translation>Die Anmeldung ist nicht gelungen. Das Programm wird beendet.</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Auslesen</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Berichte</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Einrichten</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Button Name</source>
+        <translation>Kontaktstelle</translation>
+    </message>
+    <message>
+        <source>Group Name</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Unable to display Help Contents. There is no Help associated with this project.</source>
+        <translation>Die Hilfe kann nicht gezeigt werden. Zu diesem Programm gehört keine Hilfe.</translation>
+    </message>
+    <message>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <translation>Copyright © 2026 die Autoren von Wardlock. Freie Software unter der MIT-Lizenz.</translation>
+    </message>
+    <message>
+        <source>Master</source>
+        <translation>Leiter</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>The passwords do not match, please re-enter</source>
+        <translation>Die Kennwörter stimmen nicht überein, bitte neu eingeben</translation>
+    </message>
+    <message>
+        <source>Opening Database...</source>
+        <translation>Datenbank wird geöffnet...</translation>
+    </message>
+    <message>
+        <source>Compacting Database...</source>
+        <translation>Datenbank wird verdichtet...</translation>
+    </message>
+    <message>
+        <source>Loading Application...</source>
+        <translation>Programm wird geladen...</translation>
+    </message>
+    <message>
+        <source>Initializing Online Help...</source>
+        <translation>Hilfe wird vorbereitet...</translation>
+    </message>
+    <message>
+        <source>Error in creating new Tour</source>
+        <translation>Fehler beim Anlegen des Rundgangs</translation>
+    </message>
+    <message>
+        <source>EARLY</source>
+        <translation>ZU FRÜH</translation>
+    </message>
+    <message>
+        <source>ON TIME</source>
+        <translation>PÜNKTLICH</translation>
+    </message>
+    <message>
+        <source>LATE</source>
+        <translation>ZU SPÄT</translation>
+    </message>
+    <message>
+        <source>OUT OF SEQUENCE</source>
+        <translation>FALSCHE FOLGE</translation>
+    </message>
+    <message>
+        <source>NOT ON TOUR</source>
+        <translation>NICHT AUF TOUR</translation>
+    </message>
+    <message>
+        <source>NO EXCEPTIONS</source>
+        <translation>KEINE ABWEICHUNGEN</translation>
+    </message>
+    <message>
+        <source>EXCEPTION</source>
+        <translation>ABWEICHUNG</translation>
+    </message>
+    <message>
+        <source>MISSING</source>
+        <translation>FEHLT</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>EVENT</source>
+        <translation>EREIGNIS</translation>
+    </message>
+    <message>
+        <source>No Data on the report</source>
+        <translation>Keine Daten für den Bericht</translation>
+    </message>
+    <message>
+        <source>Print Date:</source>
+        <translation>Druckdatum:</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Tour Date:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Tour Name:</source>
+        <translation>Rundgang:</translation>
+    </message>
+    <message>
+        <source>Tolerance (min):</source>
+        <translation>Toleranz (min):</translation>
+    </message>
+    <message>
+        <source>Site/Location</source>
+        <translation>Objekt/Kontaktstelle</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>End Of Report</source>
+        <translation>Ende des Berichts</translation>
+    </message>
+    <message>
+        <source>Show Events:</source>
+        <translation>Mit Ereignissen:</translation>
+    </message>
+    <message>
+        <source>Tour Report</source>
+        <translation>Rundgangsbericht</translation>
+    </message>
+    <message>
+        <source>Exception Report</source>
+        <translation>Abweichungsbericht</translation>
+    </message>
+    <message>
+        <source>Reader ID</source>
+        <translation>Leser-Nr.</translation>
+    </message>
+    <message>
+        <source>Transfer progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Transfer progress in percent</source>
+        <translation>Fortschritt in Prozent</translation>
+    </message>
+    <message>
+        <source>Do not remove the reader until download is complete.</source>
+        <translation>Den Leser nicht entfernen, bevor das Auslesen beendet ist.</translation>
+    </message>
+    <message>
+        <source>Docking Station</source>
+        <translation>Dockingstation</translation>
+    </message>
+    <message>
+        <source>Connection progress</source>
+        <translation>Stand der Verbindung</translation>
+    </message>
+    <message>
+        <source>&amp;Download Data</source>
+        <translation>&amp;Daten auslesen</translation>
+    </message>
+    <message>
+        <source>&amp;Erase Reader</source>
+        <translation>&amp;Leser löschen</translation>
+    </message>
+    <message>
+        <source>Download result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Touches read</source>
+        <translation>Gelesene Kontakte</translation>
+    </message>
+    <message>
+        <source>Communications  Setup</source>
+        <translation>Verbindung einrichten</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Anschluss:</translation>
+    </message>
+    <message>
+        <source>&amp;Device:</source>
+        <translation>&amp;Gerät:</translation>
+    </message>
+    <message>
+        <source>The device that this port number stands for</source>
+        <translation>Das Gerät, für das diese Nummer steht</translation>
+    </message>
+    <message>
+        <source>Leave the device on automatic unless the docking station is on another one.</source>
+        <translation>Das Gerät auf Automatisch lassen, wenn die Dockingstation nicht an einem anderen hängt.</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Help text</source>
+        <translation>Hilfetext</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Sprache:</translation>
+    </message>
+    <message>
+        <source>&amp;Master</source>
+        <translation>&amp;Leiter</translation>
+    </message>
+    <message>
+        <source>&amp;User</source>
+        <translation>&amp;Benutzer</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Kennwort:</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Page title</source>
+        <translation>Seitentitel</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Extras</translation>
+    </message>
+    <message>
+        <source>User &amp;Maintenance</source>
+        <translation>&amp;Kennwörter</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Com &amp;Options...</source>
+        <translation>&amp;COM-Anschluss...</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Program icon</source>
+        <translation>Programmsymbol</translation>
+    </message>
+    <message>
+        <source>User Maintenance</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>&amp;Retype Password:</source>
+        <translation>Kennwort &amp;wiederholen:</translation>
+    </message>
+    <message>
+        <source>Report Parameters</source>
+        <translation>Berichtsangaben</translation>
+    </message>
+    <message>
+        <source>Select the tour and start date to create the report</source>
+        <translation>Rundgang und Datum für den Bericht wählen</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Angaben</translation>
+    </message>
+    <message>
+        <source>Tour</source>
+        <translation>Rundgang</translation>
+    </message>
+    <message>
+        <source>Tour Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Reader</source>
+        <translation>Leser</translation>
+    </message>
+    <message>
+        <source>Report Options</source>
+        <translation>Umfang</translation>
+    </message>
+    <message>
+        <source>Show All Tour Points</source>
+        <translation>Alle Kontaktstellen zeigen</translation>
+    </message>
+    <message>
+        <source>Only Show Exceptions</source>
+        <translation>Nur Abweichungen zeigen</translation>
+    </message>
+    <message>
+        <source>Include Events</source>
+        <translation>Mit Ereignissen</translation>
+    </message>
+    <message>
+        <source>&amp;Print Preview</source>
+        <translation>&amp;Vorschau</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,255 @@
+// The command line as scripts use it: the built programs, a store file and a simulated dock.
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QString Reader = QStringLiteral("4B5831A7");
+
+struct Outcome {
+    int status;
+    QByteArray out;
+    QByteArray err;
+
+    QJsonObject Json() const { return QJsonDocument::fromJson(out).object(); }
+};
+
+/// A home with the demonstration store, settings of its own, and a simulated dock on demand.
+class Office {
+public:
+    Office() {
+        m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath("config"));
+        m_environment.insert(QStringLiteral("WARDLOCK_PASSWORD"), QStringLiteral("keeper"));
+        m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+        QDir(m_dir.path()).mkdir(QStringLiteral("home"));
+        Run(MKSTORE, {QStringLiteral("--demo"), Store()});
+    }
+    ~Office() {
+        if (m_dock.state() == QProcess::NotRunning)
+            return;
+        m_dock.write("quit\n");
+        m_dock.waitForFinished();
+    }
+
+    QString Home() const { return m_dir.filePath(QStringLiteral("home")); }
+    QString Store() const { return Home() + QStringLiteral("/main.mdb"); }
+    QString Path(const QString& name) const { return m_dir.filePath(name); }
+    void SetPassword(const QString& password) {
+        m_environment.insert(QStringLiteral("WARDLOCK_PASSWORD"), password);
+    }
+
+    Outcome Run(const QString& program, const QStringList& arguments) const {
+        QProcess process;
+        process.setProcessEnvironment(m_environment);
+        process.start(program, arguments);
+        process.closeWriteChannel();
+        process.waitForFinished(60'000);
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+    Outcome Ctl(const QString& words) const {
+        return Run(WARDLOCKCTL, (QStringLiteral("--home ") + Home() + u' ' + words).split(u' '));
+    }
+
+    /// Starts a dock with these lines of a scenario and gives its device.
+    QString Dock(const QByteArray& scenario) {
+        QFile file(Path(QStringLiteral("dock.scenario")));
+        file.open(QIODevice::WriteOnly);
+        file.write(scenario);
+        file.close();
+        m_dock.start(DOCKSIM, {QStringLiteral("--scenario"), file.fileName()});
+        while (!m_dock.canReadLine() && m_dock.waitForReadyRead(5000))
+            ;
+        return QString::fromUtf8(m_dock.readLine()).trimmed();
+    }
+    QJsonObject DockState() {
+        m_dock.write("state\n");
+        while (!m_dock.canReadLine() && m_dock.waitForReadyRead(5000))
+            ;
+        return QJsonDocument::fromJson(m_dock.readLine()).object();
+    }
+
+private:
+    QTemporaryDir m_dir;
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+    QProcess m_dock;
+};
+
+const QByteArray Night = "reader 4B5831A7\n"
+                         "touch 2026-11-21 23:14 1A40C2\n"
+                         "touch 2026-11-21 23:16 7E0001\n"
+                         "touch 2026-11-22 00:41 ABCDEF\n";
+
+QString ReportWords(const char* more) {
+    return QStringLiteral("report tour --tour 2 --reader 4B5831A7 --date 2026-11-21 ") +
+           QString::fromLatin1(more);
+}
+
+} // namespace
+
+class ConsoleTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void RefusesWrongUsage_data() {
+        QTest::addColumn<QString>("words");
+        for (const char* words :
+             {"", "detect", "detect --device", "frobnicate --device /dev/null",
+              "download --device x --tour 1", "detect --device x --device y", "report tour",
+              "report tour --tour x --reader 1 --date 2026-11-21 --format text",
+              "report tour --tour 1 --reader 1 --date 21.11.2026 --format text",
+              "report tour --tour 1 --reader 1 --date 2026-02-30 --format text",
+              "report tour --tour 1 --reader 1 --date 2026-11-21 --format html",
+              "detect --device x --operator guest", "download --device x --keep=yes"})
+            QTest::newRow(words) << QString::fromLatin1(words);
+    }
+    void RefusesWrongUsage() {
+        QFETCH(QString, words);
+        const Office office;
+        const Outcome outcome = office.Run(WARDLOCKCTL, words.split(u' ', Qt::SkipEmptyParts));
+        QCOMPARE(outcome.status, 2);
+        QVERIFY2(outcome.err.contains("usage: wardlockctl"), outcome.err.constData());
+        QVERIFY(outcome.out.isEmpty());
+    }
+
+    void NeedsALogin_data() {
+        QTest::addColumn<QString>("login");
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<int>("status");
+        QTest::newRow("master") << "master" << "Keeper" << 0;
+        QTest::newRow("user") << "user" << " crew " << 0;
+        QTest::newRow("wrong") << "master" << "crew" << 1;
+        QTest::newRow("empty") << "user" << "" << 1;
+    }
+    void NeedsALogin() {
+        QFETCH(QString, login);
+        QFETCH(QString, password);
+        QFETCH(int, status);
+        Office office;
+        office.SetPassword(password);
+        const QString device = office.Dock(Night);
+        const Outcome outcome = office.Ctl(QStringLiteral("detect --device ") + device +
+                                           QStringLiteral(" --operator ") + login);
+        QCOMPARE(outcome.status, status);
+        QCOMPARE(outcome.err.count('\n'), status);
+    }
+
+    void FreshStoreMakesItsOperators() {
+        Office office;
+        QFile::remove(office.Store());
+        QCOMPARE(office.Run(MKSTORE, {office.Store()}).status, 0);
+        const QString words = ReportWords("--format json");
+        const Outcome first = office.Ctl(words);
+        QCOMPARE(first.status, 1);
+        QVERIFY(first.err.contains("The User Name / Password are incorrect."));
+        const Outcome second = office.Ctl(words);
+        QCOMPARE(second.Json()[u"message"].toString(),
+                 QStringLiteral("Error in creating new Tour\r\n<ERROR #0001>"));
+    }
+
+    void DownloadsReportsAndErases() {
+        Office office;
+        const QString device = office.Dock(Night);
+        const Outcome download = office.Ctl(QStringLiteral("download --json --device ") + device);
+        QCOMPARE(download.status, 0);
+        const QJsonObject json = download.Json();
+        QCOMPARE(json[u"reader"].toString(), Reader);
+        QCOMPARE(json[u"erased"].toBool(), true);
+        const QJsonArray touches = json[u"touches"].toArray();
+        QCOMPARE(touches.size(), 3);
+        QCOMPARE(touches[1].toObject(), (QJsonObject{{"time", "2026-11-21T23:16:00"},
+                                                     {"code", "7E0001"},
+                                                     {"name", "Door found open"},
+                                                     {"group", "Incidents"},
+                                                     {"type", 2}}));
+        QCOMPARE(touches[2][u"name"].toString(), QStringLiteral("Unknown"));
+        const QJsonObject dock = office.DockState();
+        QCOMPARE(dock[u"touches"].toInt(), 0);
+        QVERIFY(dock[u"clock"].isString());
+
+        const Outcome report = office.Ctl(ReportWords("--events --all --format json"));
+        QCOMPARE(report.status, 0);
+        QCOMPARE(report.Json()[u"title"].toString(), QStringLiteral("Tour Report"));
+        const QJsonArray rows = report.Json()[u"rows"].toArray();
+        QCOMPARE(rows[1].toObject().size(), 11);
+        QCOMPARE(rows[1][u"tStatus"].toString(), QStringLiteral("ON TIME"));
+        QVERIFY(rows[1][u"txtEventTime"].isNull());
+        QCOMPARE(rows[3][u"txtEventStatus"].toString(), QStringLiteral("EVENT"));
+
+        const Outcome text = office.Ctl(ReportWords("--format text"));
+        QVERIFY(text.out.contains("Exception Report") && text.out.contains("NO EXCEPTIONS"));
+        const Outcome csv = office.Ctl(ReportWords("--format csv"));
+        QVERIFY(csv.out.startsWith("\"tItem\",\"tTourTime\""));
+        QVERIFY(office.Ctl(ReportWords("--format pdf")).out.startsWith("%PDF"));
+        const QString unwritable = office.Path(QStringLiteral("nowhere/report.pdf"));
+        const Outcome failed =
+            office.Ctl(ReportWords("--format pdf --output ") + unwritable);
+        QCOMPARE(failed.status, 1);
+        QCOMPARE(failed.err.count('\n'), 1);
+    }
+
+    void KeepsWhatItIsTold() {
+        Office office;
+        const QString device = office.Dock(Night);
+        const Outcome outcome =
+            office.Ctl(QStringLiteral("download --keep --json --device ") + device);
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.Json()[u"erased"].toBool(), false);
+        QCOMPARE(office.DockState()[u"touches"].toInt(), 3);
+    }
+
+    void TellsWhatWasNotDone_data() {
+        QTest::addColumn<QByteArray>("scenario");
+        QTest::addColumn<QByteArray>("words");
+        QTest::addColumn<int>("touchesKept");
+        QTest::newRow("erase refused") << Night + "fault refuse erase 1\n"
+                                       << QByteArray("Reader Memory NOT erased!") << 3;
+        QTest::newRow("no reader") << Night + "remove\n"
+                                   << QByteArray("Reader not detected.") << 3;
+        QTest::newRow("silent dock") << Night + "fault silent\n"
+                                     << QByteArray("Could not connect to the docking station.")
+                                     << 3;
+        QTest::newRow("silent to the read") << Night + "fault silent read\n"
+                                            << QByteArray("Download Failed") << 3;
+    }
+    void TellsWhatWasNotDone() {
+        QFETCH(QByteArray, scenario);
+        QFETCH(QByteArray, words);
+        QFETCH(int, touchesKept);
+        Office office;
+        const QString device = office.Dock(scenario);
+        const Outcome outcome = office.Ctl(QStringLiteral("download --device ") + device);
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.err.contains(words), outcome.err.constData());
+        QCOMPARE(outcome.err.count('\n'), 1);
+        QCOMPARE(office.DockState()[u"touches"].toInt(), touchesKept);
+    }
+
+    void MissingThingsEndWithOneLine_data() {
+        QTest::addColumn<QString>("words");
+        QTest::addColumn<bool>("store");
+        QTest::newRow("no device") << "detect --device /dev/does-not-exist" << true;
+        QTest::newRow("no store") << "detect --device /dev/null" << false;
+    }
+    void MissingThingsEndWithOneLine() {
+        QFETCH(QString, words);
+        QFETCH(bool, store);
+        const Office office;
+        if (!store)
+            QFile::remove(office.Store());
+        const Outcome outcome = office.Ctl(words);
+        QCOMPARE(outcome.status, 1);
+        QCOMPARE(outcome.err.count('\n'), 1);
+        QVERIFY(outcome.out.isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(ConsoleTest)
+#include "ConsoleTest.moc"
