@@ -28,7 +28,10 @@ frmMdiReports::frmMdiReports(ReportViewer& viewer, QWidget* parent)
     addAction(open);
     m_ui->lvwReports->addAction(open);
     m_ui->lvwReports->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_ui->lvwReports->setIconSize(QSize(20, 20));
     LoadReportList();
+    m_ui->lvwReports->setCurrentItem(m_ui->lvwReports->topLevelItem(0));
+    setFocusProxy(m_ui->lvwReports);
 }
 
 frmMdiReports::~frmMdiReports() = default;

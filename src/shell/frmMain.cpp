@@ -1,6 +1,7 @@
 #include "frmMain.h"
 
 #include "RunTimeError.h"
+#include "Settings.h"
 #include "WindowTools.h"
 #include "deMain.h"
 #include "frmMdiDownload.h"
@@ -221,7 +222,8 @@ void frmMain::RestoreSavedPosition() {
     const int top = ToLong(saved("MainTop", QStringLiteral("0")));
     const int width = ToLong(saved("MainWidth", QStringLiteral("9615")));
     const int height = ToLong(saved("MainHeight", QStringLiteral("6690")));
-    setGeometry(PixelsOf(left), PixelsOf(top), PixelsOf(width), PixelsOf(height));
+    move(PixelsOf(left), PixelsOf(top));
+    resize(PixelsOf(width), PixelsOf(height));
 }
 
 void frmMain::MDIForm_Unload() {
@@ -241,9 +243,7 @@ void frmMain::MDIForm_Unload() {
         savePlace(0, 0, 9615, 6690);
         save("Maximized", BooleanText(true));
     } else {
-        const QRect place = geometry();
-        savePlace(TwipsOf(place.left()), TwipsOf(place.top()), TwipsOf(place.width()),
-                  TwipsOf(place.height()));
+        savePlace(TwipsOf(x()), TwipsOf(y()), TwipsOf(width()), TwipsOf(height()));
         save("Maximized", BooleanText(false));
     }
     ExitApp();

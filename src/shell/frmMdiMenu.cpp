@@ -20,6 +20,8 @@ frmMdiMenu::frmMdiMenu(QWidget* parent)
     m_ui->setupUi(this);
     Guarded("Form_Load of Form frmMdiMenu", [this] {
         gCommActive = false;
+        setBackgroundRole(QPalette::Base); // the ground that the pictures are drawn for
+        setAutoFillBackground(true);
         QFont font = m_ui->lblMainTitle->font();
         font.setPointSizeF(font.pointSizeF() * 1.8);
         font.setBold(true);

@@ -23,7 +23,12 @@ frmMdiDownload::frmMdiDownload(DockingLink& link, QWidget* parent)
     m_ui->cmdOnline_0->setIcon(ProgramIcon(QStringLiteral("download")));
     m_ui->cmdOnline_1->setIcon(ProgramIcon(QStringLiteral("erase")));
     m_ui->lvwDownload->setModel(&m_touches);
+    // Its place stays while it is hidden, so that the buttons stay where they are.
+    QSizePolicy policy = m_ui->lblMsg->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_ui->lblMsg->setSizePolicy(policy);
     m_ui->lblMsg->hide();
+    setFocusProxy(m_ui->cmdOnline_0);
     Translate();
     connect(m_ui->cmdOnline_0, &QPushButton::clicked, this, [this] { cmdOnline_Click(0); });
     connect(m_ui->cmdOnline_1, &QPushButton::clicked, this, [this] { cmdOnline_Click(1); });

@@ -58,8 +58,9 @@ void TranslateWindow(QWidget& window, const TranslateText& translate) {
         if (qobject_cast<QLabel*>(child) ||
             (qobject_cast<QAbstractButton*>(child) && !qobject_cast<QToolBar*>(child->parent()))) {
             TranslateProperty(*child, "text", translate);
-        } else if (qobject_cast<QAction*>(child)) {
-            TranslateProperty(*child, "text", translate);
+        } else if (const auto* action = qobject_cast<QAction*>(child)) {
+            if (!action->menu()) // a menu's own action takes its text from the menu
+                TranslateProperty(*child, "text", translate);
         } else if (qobject_cast<QGroupBox*>(child) || qobject_cast<QMenu*>(child)) {
             TranslateProperty(*child, "title", translate);
         }

@@ -1,0 +1,133 @@
+#pragma once
+
+// Drives the real station: real windows found by object name, real message boxes, a real store file
+// and a simulated dock.
+
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <vector>
+
+/// A list of steps that are tried in turn while modal windows run their own loops. A step waits for
+/// what it needs by giving false.
+class Script : public QObject {
+public:
+    using Step = std::function<bool()>;
+
+    Script() {
+        m_timer.setInterval(5);
+        QObject::connect(&m_timer, &QTimer::timeout, this, &Script::Poll);
+    }
+
+    void Then(Step step) { m_steps.push_back(std::move(step)); }
+
+    /// Presses a button of the message box that is shown, and keeps its text.
+    void Answer(const QString& button) {
+        Then([this, button] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box)
+                return false;
+            m_texts += box->text();
+            for (QAbstractButton* candidate : box->buttons())
+                if (candidate->text() == button)
+                    candidate->click();
+            return true;
+        });
+    }
+
+    /// Clicks a button of the window with that name, once it is shown and enabled.
+    void Click(const QString& window, const QString& button) {
+        Then([=] {
+            auto* found = Find<QAbstractButton>(window, button);
+            if (!found || !found->isEnabled())
+                return false;
+            // Not from here: the click may run a dialog of its own, and the script goes on in it.
+            QTimer::singleShot(0, found, &QAbstractButton::click);
+            return true;
+        });
+    }
+
+    template <typename T> static T* Find(const QString& window, const QString& control) {
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            if (!top->isVisible())
+                continue;
+            QWidget* frame =
+                top->objectName() == window ? top : top->findChild<QWidget*>(window);
+            if (frame && frame->isVisible())
+                return frame->findChild<T*>(control);
+        }
+        return nullptr;
+    }
+
+    void Start() {
+        m_elapsed.start();
+        m_timer.start();
+    }
+    /// Runs events until every step is done; false after half a minute.
+    bool Finish() {
+        return QTest::qWaitFor([this] { return m_next >= m_steps.size(); }, 30'000);
+    }
+    const QStringList& Texts() const { return m_texts; }
+    std::size_t StepsDone() const { return m_next; }
+
+private:
+    void Poll() {
+        if (m_polling || m_next >= m_steps.size())
+            return;
+        m_polling = true;
+        if (m_steps[m_next]())
+            ++m_next;
+        m_polling = false;
+        if (m_elapsed.elapsed() > 30'000 && m_next < m_steps.size()) {
+            // Stuck: end every window, so that the test fails instead of hanging.
+            qWarning("the script is stuck at step %zu", m_next);
+            m_timer.stop();
+            QTimer::singleShot(0, [] {
+                while (QWidget* modal = QApplication::activeModalWidget())
+                    modal->close();
+                QApplication::quit();
+            });
+        }
+    }
+
+    std::vector<Step> m_steps;
+    std::size_t m_next = 0;
+    bool m_polling = false;
+    QStringList m_texts;
+    QTimer m_timer;
+    QElapsedTimer m_elapsed;
+};
+
+/// A simulated dock with the lines of a scenario.
+class Dock {
+public:
+    explicit Dock(const QByteArray& scenario) {
+        QFile file(m_dir.filePath(QStringLiteral("scenario")));
+        file.open(QIODevice::WriteOnly);
+        file.write(scenario);
+        file.close();
+        m_process.start(DOCKSIM, {QStringLiteral("--scenario"), file.fileName()});
+        while (!m_process.canReadLine() && m_process.waitForReadyRead(5000))
+            ;
+        m_device = QString::fromUtf8(m_process.readLine()).trimmed();
+    }
+    ~Dock() {
+        m_process.write("quit\n");
+        m_process.waitForFinished();
+    }
+    const QString& Device() const { return m_device; }
+
+private:
+    QTemporaryDir m_dir;
+    QProcess m_process;
+    QString m_device;
+};
