@@ -164,10 +164,12 @@ private slots:
         report.Start();
         auto* reports = Script::Find<QAbstractItemView>(QStringLiteral("frmMdiReports"),
                                                         QStringLiteral("lvwReports"));
+        DoEvents(); // lays the page out
         QTest::keyClick(reports, Qt::Key_Return); // opens nothing
         QVERIFY(!QApplication::activeModalWidget());
-        QTest::mouseDClick(reports->viewport(), Qt::LeftButton, {},
-                           reports->visualRect(reports->model()->index(0, 0)).center());
+        const QPoint row = reports->visualRect(reports->model()->index(0, 0)).center();
+        QTest::mouseClick(reports->viewport(), Qt::LeftButton, {}, row);
+        QTest::mouseDClick(reports->viewport(), Qt::LeftButton, {}, row);
         QVERIFY(report.Finish());
         QVERIFY2(caption.contains(QStringLiteral("Tour Report")), qPrintable(caption));
         QCOMPARE(Saved(SettingsSection::Settings, "ShowAllStatus"), QStringLiteral("True"));

@@ -1,0 +1,63 @@
+#include "TestHome.h"
+
+#include "Application.h"
+#include "DemoStore.h"
+#include "Recordset.h"
+#include "Schema.h"
+
+#include <QFile>
+#include <QSettings>
+#include <QTest>
+
+TestHome::TestHome(Content content) {
+    SetAppPath(m_folder.path());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("config"));
+    if (content == NoStore)
+        return;
+    CreateStoreFile(Store(), StorePassword);
+    if (!Open())
+        qFatal("no store to test with");
+    CreateTables(*gConn);
+    if (content == DemoSite)
+        DemoStore::Fill(*gConn);
+}
+
+TestHome::~TestHome() {
+    Close();
+    SetAppPath({});
+}
+
+QString TestHome::TakeLog() const {
+    QFile log(File("error.log"));
+    if (!log.open(QIODevice::ReadOnly))
+        return {};
+    QStringList lines = QString::fromUtf8(log.readAll()).split(u'\n');
+    log.remove();
+    for (QString& line : lines)
+        line = line.mid(line.indexOf(u'\t') + 1);
+    return lines.join(u'\n').trimmed();
+}
+
+QStringList RowsOf(const QString& query) {
+    Recordset rows;
+    rows.CursorLocation = adUseClient;
+    rows.Open(query, *gConn, adOpenStatic, adLockReadOnly);
+    QStringList lines;
+    for (; !rows.Eof(); rows.MoveNext()) {
+        QStringList values;
+        for (int column = 0; column < rows.Columns().size(); ++column) {
+            const Value value = rows.FieldAt(column);
+            values += value.IsNull() ? QStringLiteral("NULL") : value.Text();
+        }
+        lines += values.join(u'|');
+    }
+    return lines;
+}
+
+QStringList ContentOfStore() {
+    QStringList lines;
+    for (const QString& table :
+         RowsOf("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name"))
+        lines += QStringList(table) + RowsOf("SELECT * FROM " + table);
+    return lines;
+}

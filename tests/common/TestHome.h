@@ -1,0 +1,47 @@
+#pragma once
+
+#include "RunTimeError.h"
+#include "mDeclareGlobals.h"
+#include "mStore.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// An application folder of its own, with settings of its own; both are gone afterwards.
+class TestHome {
+public:
+    enum Content { NoStore, EmptyStore, DemoSite };
+    /// With a store, it is open in gConn.
+    explicit TestHome(Content content);
+    ~TestHome();
+
+    QString File(const QString& name) const { return m_folder.filePath(name); }
+    QString Store() const { return File(QStringLiteral("main.mdb")); }
+    QString Temp() const { return File(QStringLiteral("temp.mdb")); }
+
+    bool Open() const { return ADOInit(Store(), StorePassword); }
+    static void Close() { gConn.reset(); }
+    void Compact() const { CompactStore(ProviderText, Store(), Temp(), StorePassword); }
+
+    /// What was logged since the last call, without the times.
+    QString TakeLog() const;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// Runs a query on gConn; a row a line, its values parted by "|", a null as "NULL".
+QStringList RowsOf(const QString& query);
+
+/// All tables of gConn with all their rows, the engine's own bookkeeping of IDs included.
+QStringList ContentOfStore();
+
+/// The number of the RunTimeError that the body throws, or 0.
+template <typename Body> int ErrorOf(Body&& body) {
+    try {
+        body();
+    } catch (const RunTimeError& error) {
+        return error.Number();
+    }
+    return 0;
+}

@@ -1,0 +1,221 @@
+// A memory stream that does not arrive as it was sent. Frames carry no number, so whatever happens
+// to the bytes, a download must either store exactly what the reader holds, or store nothing, erase
+// nothing, say "Download Error" and end by itself.
+
+#include "LinkTestTools.h"
+
+#include "MemoryImage.h"
+#include "mWardlock.h"
+
+namespace {
+
+/// The speed at which a single run takes some 20 ms, and one at which no load of the machine makes
+/// the watchdog bark.
+constexpr double Fastest = 400, Steady = 40;
+
+const QByteArray Taught = Hex("A7314B58");
+const QByteArray Untaught = Hex("11223344");
+
+/// A memory whose further frames all would pass for a first one: their first record reads as a
+/// record count of 5.
+QByteArrayList TreacherousRecords(int count) {
+    QByteArrayList records = SomeRecords(count);
+    for (int i = 58; i < count; i += 60)
+        records[i] = Hex("05000001");
+    return records;
+}
+
+} // namespace
+
+class DamageTest : public QObject {
+    Q_OBJECT
+
+    struct Reader {
+        QByteArrayList frames;
+        QStringList touches;
+
+        Reader(int count, const QByteArray& identifier)
+            : frames(ImageFrames(count, TreacherousRecords(count), FramesFor(count), identifier)) {
+            const QByteArrayList records = TreacherousRecords(count);
+            for (const QByteArray& record : records.mid(1))
+                touches += QString::fromLatin1(
+                               (record.mid(2, 1) + record.mid(1, 1) + record.left(1)).toHex())
+                               .toUpper() +
+                           QStringLiteral(" 2.1.2000 15:%1").arg(record[3], 2, 10, QLatin1Char('0'));
+        }
+        QByteArray Stream() const { return frames.join(); }
+    };
+
+    Office m_office;
+    ScriptedBoxes m_boxes;
+    LineEnd m_line;
+    DockingLink m_link;
+    QMap<QString, int> m_verdicts;
+
+    /// What a download of this stream comes to: "stored", "Download Error" or another of the
+    /// transfer's messages, "waits" for Cancel, or what went wrong.
+    QString Verdict(const QByteArray& stream, const Reader& reader, double speed) {
+        const TestClock clock(DateTime::FromQt(QDate(2026, 3, 1)), speed);
+        m_line.Commands.clear();
+        m_line.Answers[CmdReadMemory()] = stream;
+        m_boxes.Script({});
+        RecordingView view(m_link);
+        view.Patience = 60'000;
+        MemoryDownload download(m_link, view);
+        download.Run();
+        const QString verdict = Judge(reader, view, download.LastOutcome().readerId);
+        if (!Office::Rows().isEmpty())
+            Office::Forget();
+        ++m_verdicts[verdict];
+        return verdict;
+    }
+
+    QString Judge(const Reader& reader, const RecordingView& view, const QString& readerId) const {
+        const QStringList rows = Office::Rows();
+        const int erasures = m_line.Commands.value(CmdEraseMemory());
+        if (!view.ProgressInRange)
+            return QStringLiteral("the progress left its range");
+        if (gCommActive || m_line.Commands.value(CmdReadMemory()) != 1)
+            return QStringLiteral("the conversation did not end");
+        if (rows == reader.touches && erasures == 1 && m_boxes.Texts.isEmpty() &&
+            readerId == ReaderIdOf(reader.frames.first()))
+            return QStringLiteral("stored");
+        if (!rows.isEmpty() || erasures != 0 || view.MessageText != u"Download Failed")
+            return QStringLiteral("%1 rows of reader %2, %3 erasures, %4")
+                .arg(rows.size())
+                .arg(readerId)
+                .arg(erasures)
+                .arg(view.MessageText);
+        if (view.WasCancelled && m_boxes.Texts.isEmpty())
+            return QStringLiteral("waits");
+        return m_boxes.Texts.join(u'|');
+    }
+
+    /// One run of the proof. Gives an empty text where it holds.
+    QString Fault(const QByteArray& stream, const Reader& reader, const QString& what) {
+        const QString verdict = Verdict(stream, reader, Fastest);
+        return verdict == u"stored" || verdict == u"Download Error" ? QString()
+                                                                    : what + QStringLiteral(": ") + verdict;
+    }
+
+private slots:
+    void initTestCase() {
+        m_line.Answers[CmdEraseMemory()] = FrameOf(Hex("F300"));
+        gAutoSetTime = false;
+        QVERIFY(m_link.OpenPort(1));
+    }
+
+    void init() { m_verdicts.clear(); }
+
+    // What the other tests damage is good before.
+    void Streams_data() {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QByteArray>("identifier");
+        QTest::addColumn<QByteArray>("before"); // stands before the frame with this number
+        QTest::addColumn<int>("frame");
+        QTest::addColumn<QString>("verdict");
+        const QString stored = QStringLiteral("stored");
+        const QString error = QStringLiteral("Download Error");
+        const auto row = [](const char* name, int count, const QByteArray& identifier, int frame,
+                            const QByteArray& before, const QString& verdict) {
+            QTest::newRow(name) << count << identifier << before << frame << verdict;
+        };
+        row("1 frame", 40, Taught, 1, {}, stored);
+        row("1 frame, untaught", 58, Untaught, 1, {}, stored);
+        row("2 frames", 59, Taught, 1, {}, stored);
+        row("2 frames, untaught", 118, Untaught, 1, {}, stored);
+        row("5 frames", 270, Taught, 1, {}, stored);
+        const QByteArray noise = Hex("FF00FFFF1755FFFFFF0055AA");
+        row("noise, taught", 100, Taught, 1, noise, stored);
+        row("noise, untaught", 100, Untaught, 1, noise, error);
+        row("noise before frame 2", 100, Untaught, 2, noise, stored);
+        row("noise behind", 100, Taught, 3, noise, error);
+        row("a frame too many", 100, Taught, 3, ImageFrames(5, {}, 1).first(), error);
+        const QByteArray other = FrameOf(Hex("2400C2401A"));
+        row("short frame before", 100, Untaught, 1, other, stored);
+        row("short frame between", 100, Untaught, 2, other, stored);
+        row("short frame behind", 100, Untaught, 3, other, stored);
+        row("long frame of another code", 100, Untaught, 1,
+            FrameOf(Hex("F4").leftJustified(241, '\x05')), stored);
+        row("status too short for its bytes", 100, Untaught, 1,
+            FrameOf(Hex("F3").leftJustified(8, '\xFF')), stored);
+        const QByteArray fault = FrameOf(Hex("F3").leftJustified(9, '\x01'));
+        row("transfer fault", 100, Taught, 1, fault, error + QStringLiteral(" (002)"));
+        row("transfer fault between", 100, Taught, 2, fault, error + QStringLiteral(" (002)"));
+        const QString noReader =
+            QStringLiteral("Reader not detected. Check reader and try again.");
+        row("no reader", 100, Taught, 1, FrameOf(Hex("2A").leftJustified(9, '\xFF')), noReader);
+        row("no reader, longest status", 100, Taught, 2,
+            FrameOf(Hex("F3").leftJustified(240, '\xFF')), noReader);
+        row("status of unequal bytes", 100, Taught, 2,
+            FrameOf(Hex("F3").leftJustified(8, '\xFF') + Hex("01")), stored);
+        row("invalid memory", 100, Taught, 1, ImageFrames(-1, {}, 1).first(), error);
+        row("negative count", 100, Taught, 1, ImageFrames(0x8000, {}, 1).first(), error);
+    }
+    void Streams() {
+        QFETCH(int, count);
+        QFETCH(QByteArray, identifier);
+        QFETCH(QByteArray, before);
+        QFETCH(int, frame);
+        const Reader reader(count, identifier);
+        QByteArrayList frames = reader.frames;
+        frames.insert(frame - 1, before);
+        QTEST(Verdict(frames.join(), reader, Steady), "verdict");
+    }
+
+    // Only a line on which nothing at all arrives waits for the operator.
+    void Silence() {
+        const Reader reader(40, Taught);
+        QCOMPARE(Verdict({}, reader, Fastest), "waits");
+        QCOMPARE(Verdict(Hex("00"), reader, Fastest), "Download Error");
+    }
+
+    void EverySingleByte_data() {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QByteArray>("identifier");
+        QTest::newRow("1 frame") << 40 << Taught;
+        QTest::newRow("2 frames") << 100 << Untaught;
+        QTest::newRow("5 frames") << 260 << Taught;
+    }
+    void EverySingleByte() {
+        QFETCH(int, count);
+        QFETCH(QByteArray, identifier);
+        const Reader reader(count, identifier);
+        const QByteArray stream = reader.Stream();
+        for (qsizetype at = 0; at < stream.size(); ++at) {
+            const qsizetype frame = at / 252;
+            if ((frame == 2 || frame == 3) && at % 3 != 0)
+                continue;
+            QByteArray dropped = stream, inverted = stream, nudged = stream;
+            dropped.remove(at, 1);
+            inverted[at] = static_cast<char>(~stream[at]);
+            nudged[at] = static_cast<char>(stream[at] ^ 1);
+            const QString where = QStringLiteral(" byte %1").arg(at);
+            QCOMPARE(Fault(dropped, reader, "dropped" + where), "");
+            QCOMPARE(Fault(inverted, reader, "inverted" + where), "");
+            QCOMPARE(Fault(nudged, reader, "nudged" + where), "");
+        }
+        qInfo() << m_verdicts;
+    }
+
+    void EveryRun_data() { EverySingleByte_data(); }
+    void EveryRun() {
+        QFETCH(int, count);
+        QFETCH(QByteArray, identifier);
+        const Reader reader(count, identifier);
+        const QByteArray stream = reader.Stream();
+        for (qsizetype start = 0; start < stream.size(); start += 21)
+            for (const qsizetype length : {2, 4, 9, 21, 100, 231, 241, 252, 253, 400, 504, 1008}) {
+                QByteArray rest = stream;
+                rest.remove(start, length);
+                if (!rest.isEmpty())
+                    QCOMPARE(Fault(rest, reader,
+                                   QStringLiteral("%1 bytes lost from %2").arg(length).arg(start)),
+                             "");
+            }
+        qInfo() << m_verdicts;
+    }
+};
+
+QTEST_GUILESS_MAIN(DamageTest)
+#include "DamageTest.moc"

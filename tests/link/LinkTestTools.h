@@ -1,0 +1,298 @@
+#pragma once
+
+#include "Application.h"
+#include "Clock.h"
+#include "CommPort.h"
+#include "DemoStore.h"
+#include "DockingLink.h"
+#include "Format.h"
+#include "MemoryDownload.h"
+#include "MemoryTransfer.h"
+#include "MessageBox.h"
+#include "Recordset.h"
+#include "Schema.h"
+#include "StorePassword.h"
+#include "mDeclareGlobals.h"
+#include "mStore.h"
+
+#include <QEventLoop>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QSocketNotifier>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <fcntl.h>
+#include <functional>
+#include <numeric>
+#include <stdexcept>
+#include <stdlib.h>
+#include <unistd.h>
+
+// What the tests of the reader link share: an office with the demonstration store, the far end of
+// the line (the simulated dock, or a bare pseudo-terminal), and memory images made by hand.
+
+inline QByteArray Hex(const char* digits) { return QByteArray::fromHex(digits); }
+
+/// A frame, put together apart from the code under test.
+inline QByteArray FrameOf(const QByteArray& payload) {
+    QByteArray body = Hex("0301035100") + static_cast<char>(payload.size()) + payload;
+    const int sum = std::accumulate(body.begin(), body.end(), 0);
+    return Hex("FFFFFF55") + body + static_cast<char>(sum);
+}
+
+/// The frames of a memory image. `identifier` as it stands on the wire.
+inline QByteArrayList ImageFrames(int count, const QByteArrayList& records, qsizetype frames,
+                                  const QByteArray& identifier = Hex("A7314B58")) {
+    QByteArrayList result;
+    QByteArray memory = records.join();
+    for (qsizetype k = 0; k < frames; ++k) {
+        QByteArray payload(1, '\xF3');
+        if (k == 0)
+            payload += QByteArray(1, static_cast<char>(count)) + static_cast<char>(count >> 8) +
+                       identifier + Hex("0600");
+        const qsizetype room = 241 - payload.size();
+        payload += memory.left(room).leftJustified(room, '\0');
+        memory.remove(0, room);
+        result += FrameOf(payload);
+    }
+    return result;
+}
+
+/// A marker and touches with codes that count up.
+inline QByteArrayList SomeRecords(int count) {
+    QByteArrayList records{Hex("0F0100AA")};
+    for (int i = 1; i < count; ++i)
+        records += QByteArray(1, static_cast<char>(i)) + static_cast<char>(0x40 + i / 100) +
+                   '\x1A' + static_cast<char>(i % 60);
+    return records;
+}
+
+/// Answers message boxes from a list, then harmlessly, and keeps what they said.
+class ScriptedBoxes : public MessageBoxes {
+public:
+    ScriptedBoxes() { InstallMessageBoxes(this); }
+    ~ScriptedBoxes() override { InstallMessageBoxes(nullptr); }
+    MessageAnswer Show(const Message& message) override {
+        Texts += message.text;
+        return Answers.isEmpty() ? HarmlessAnswer(message.buttons) : Answers.takeFirst();
+    }
+    void Script(const QList<MessageAnswer>& answers) {
+        Texts.clear();
+        Answers = answers;
+    }
+
+    QList<MessageAnswer> Answers;
+    QStringList Texts;
+};
+
+/// An application folder with the demonstration store open, and settings of its own.
+class Office {
+public:
+    Office() {
+        qputenv("XDG_CONFIG_HOME", m_dir.path().toLocal8Bit());
+        SetAppPath(m_dir.path());
+        const QString path = m_dir.filePath(QStringLiteral("main.mdb"));
+        CreateStoreFile(path, StorePassword);
+        if (!ADOInit(path, StorePassword))
+            throw std::runtime_error("no store");
+        CreateTables(*gConn);
+        DemoStore::Fill(*gConn);
+    }
+    ~Office() {
+        OverrideDevice({});
+        gConn.reset();
+    }
+    QString Path(const char* name) const { return m_dir.filePath(QString::fromLatin1(name)); }
+
+    /// The stored touches, "CODE d.m.yyyy h:nn" each, in the order in which they were stored.
+    static QStringList Rows() {
+        QStringList rows;
+        Recordset events;
+        events.CursorLocation = adUseClient;
+        events.Open(QStringLiteral("SELECT * FROM tblEvents ORDER BY ID"), *gConn);
+        for (; !events.Eof(); events.MoveNext())
+            rows += TouchText(events.Text(u"tButtonCode"), events.Date(u"dtDateTime"));
+        return rows;
+    }
+    static QString TouchText(const QString& code, DateTime time) {
+        return code + time.ToQDate().toString(QStringLiteral(" d.M.yyyy ")) +
+               time.ToQTime().toString(QStringLiteral("H:mm"));
+    }
+    static void Forget() { gConn->Execute(QStringLiteral("DELETE * FROM tblEvents")); }
+
+private:
+    QTemporaryDir m_dir;
+};
+
+/// The simulated docking station, as a program of its own.
+class Dock {
+public:
+    Dock(const Office& office, const QByteArray& scenario)
+        : Device(office.Path("dock")), m_log(office.Path("dock.log")) {
+        QFile file(office.Path("dock.scenario"));
+        if (!file.open(QIODevice::WriteOnly) || file.write(scenario) < 0)
+            throw std::runtime_error("no scenario");
+        file.close();
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(QStringLiteral(DOCKSIM), {QStringLiteral("--scenario"), file.fileName(),
+                                                  QStringLiteral("--log"), m_log,
+                                                  QStringLiteral("--link"), Device});
+        if (ReadLine().isEmpty())
+            throw std::runtime_error("no dock");
+        OverrideDevice(Device);
+    }
+    ~Dock() {
+        m_process.write("quit\n");
+        m_process.waitForFinished();
+    }
+
+    void Say(const QByteArray& line) { m_process.write(line + '\n'); }
+    QJsonObject State() {
+        Say("state");
+        return QJsonDocument::fromJson(ReadLine()).object();
+    }
+    int Erasures() { return State()[QStringLiteral("erased")].toInt(); }
+    QString Clock() { return State()[QStringLiteral("clock")].toString(); }
+    /// How many of the lines that were logged so far have this text.
+    qsizetype Logged(const char* text) const {
+        QFile file(m_log);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().count(text) : -1;
+    }
+    bool HasEnded() { return m_process.waitForFinished(); }
+
+    const QString Device;
+
+private:
+    QByteArray ReadLine() {
+        while (!m_process.canReadLine() && m_process.waitForReadyRead(5000))
+            ;
+        return m_process.readLine();
+    }
+
+    QString m_log;
+    QProcess m_process;
+};
+
+/// The far end of a line without a dock behind it: what it answers to a command is up to the test.
+class LineEnd {
+public:
+    LineEnd() : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK)) {
+        if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0)
+            throw std::runtime_error("no pseudo-terminal");
+        OverrideDevice(QString::fromLocal8Bit(ptsname(m_master)));
+        m_notifier = std::make_unique<QSocketNotifier>(m_master, QSocketNotifier::Read);
+        QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { Serve(); });
+    }
+    ~LineEnd() {
+        m_notifier.reset();
+        close(m_master);
+    }
+
+    void Send(const QByteArray& bytes) const {
+        if (write(m_master, bytes.constData(), static_cast<size_t>(bytes.size())) != bytes.size())
+            throw std::runtime_error("the line is full");
+    }
+
+    /// Answers by command payload, and how often each command came.
+    QMap<QByteArray, QByteArray> Answers;
+    QMap<QByteArray, int> Commands;
+
+private:
+    void Serve() {
+        char bytes[512];
+        const auto count = read(m_master, bytes, sizeof bytes);
+        m_received += QByteArray(bytes, std::max<ssize_t>(count, 0));
+        for (;;) {
+            const qsizetype at = m_received.indexOf(Hex("FFFFFF55"));
+            if (at < 0 || m_received.size() < at + 10)
+                return;
+            const qsizetype length = m_received.at(at + 9);
+            if (m_received.size() < at + length + 11)
+                return;
+            const QByteArray payload = m_received.mid(at + 10, length);
+            m_received.remove(0, at + length + 11);
+            ++Commands[payload];
+            Send(Answers.value(payload));
+        }
+    }
+
+    int m_master;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    QByteArray m_received;
+};
+
+/// A download without windows that keeps what it was shown.
+class RecordingView : public DownloadView, public TransferView {
+public:
+    explicit RecordingView(DockingLink& link) : m_link(link) {}
+
+    /// Called after each thing that a transfer shows.
+    std::function<void(MemoryTransfer&)> Watch;
+    bool GetIDMode = false, bFirmwareVersion = false;
+    /// A transfer that runs longer than this, in milliseconds, is cancelled, as an operator would.
+    int Patience = 20'000;
+
+    TransferResult RunTransfer() override {
+        MemoryTransfer transfer(m_link, *this);
+        transfer.GetIDMode = GetIDMode;
+        transfer.bFirmwareVersion = bFirmwareVersion;
+        m_transfer = &transfer;
+        Progress.clear();
+        ProgressInRange = true;
+        QEventLoop loop;
+        QObject::connect(&transfer, &MemoryTransfer::Closed, &loop, &QEventLoop::quit);
+        Timer patience(Patience);
+        WasCancelled = false;
+        QObject::connect(&patience, &Timer::Tick, &loop, [&] {
+            WasCancelled = true;
+            Answered = transfer.HasAnswered();
+            transfer.Cancel();
+        });
+        patience.SetEnabled(true);
+        transfer.Start();
+        loop.exec();
+        m_transfer = nullptr;
+        return transfer.Result();
+    }
+    void ShowBusy(bool busy) override { Busy += busy; }
+    void ShowMessageText(const QString& text) override { MessageText = text; }
+    void ClearList() override { Listed = 0; }
+    void ShowTouches(const colRawButtons& touches) override { Listed = touches.size(); }
+    void ShowLastRow() override {}
+    void ShowStatus(const QString& text) override { Status = text; }
+
+    void ShowText(const QString& text) override {
+        TransferText = text;
+        Look();
+    }
+    void ShowReaderId(const QString& readerId) override {
+        ReaderId = readerId;
+        Look();
+    }
+    void ShowWarning(bool) override {}
+    void ShowProgress(int value, int maximum) override {
+        ProgressInRange = ProgressInRange && value >= 0 && value <= maximum;
+        Look();
+    }
+    void ShowProgressText(const QString& text) override { Progress += text; }
+    void Beep() override {}
+
+    QString MessageText, Status, TransferText, ReaderId;
+    QStringList Progress;
+    QList<bool> Busy;
+    std::size_t Listed = 0;
+    bool ProgressInRange = true, WasCancelled = false, Answered = false;
+
+private:
+    void Look() {
+        if (Watch && m_transfer)
+            Watch(*m_transfer);
+    }
+
+    DockingLink& m_link;
+    MemoryTransfer* m_transfer = nullptr;
+};

@@ -1,0 +1,302 @@
+// What the platform lends without a store: dates, text forms, settings, the dictionary.
+
+#include "DateTime.h"
+#include "Dictionary.h"
+#include "Format.h"
+#include "ScriptedBoxes.h"
+#include "Settings.h"
+#include "TestHome.h"
+#include "mTranslations.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+#include <QXmlStreamReader>
+
+namespace {
+
+const DateTime Evening =
+    DateTime::FromQt(QDate(2026, 11, 5)) + DateTime::FromTime(22, 7, 58);
+
+/// Digits as the locale writes them, put back into 0 to 9.
+QString LatinDigits(const QString& text) {
+    QString latin;
+    for (const char32_t letter : text.toUcs4())
+        latin += QChar::isDigit(letter) ? QString::number(QChar::digitValue(letter))
+                                        : QString::fromUcs4(&letter, 1);
+    return latin;
+}
+
+} // namespace
+
+class PlatformTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void cleanup() { QLocale::setDefault(QLocale::c()); }
+
+    void SumsAreExact() {
+        constexpr qint64 day = 46347;
+        const DateTime midnight = DateTime::FromDays(day);
+        for (int start = 0; start < 1440; ++start) {
+            for (int tolerance = 0; tolerance < 60; ++tolerance) {
+                // As another program would have stored them: fractions of a day.
+                const DateTime margin = DateTime::FromStore(tolerance / 1440.0);
+                for (int interval = tolerance % 7; interval < 1440; interval += 7) {
+                    const DateTime point = midnight + DateTime::FromStore(start / 1440.0) +
+                                           DateTime::FromStore(interval / 1440.0);
+                    const qint64 minutes = day * 1440 + start + interval;
+                    const DateTime early = point - margin, late = point + margin;
+                    if (early != DateTime::FromMilliseconds((minutes - tolerance) * 60'000) ||
+                        late.ToStore() != static_cast<double>(minutes + tolerance) / 1440.0 ||
+                        (late - early).Half() != margin)
+                        QFAIL(qPrintable(QStringLiteral("start %1 interval %2 tolerance %3")
+                                             .arg(start).arg(interval).arg(tolerance)));
+                }
+            }
+        }
+    }
+
+    void EveryMinuteComesBackFromTheStore() {
+        const qint64 first = DateTime::FromQt(QDate(1880, 1, 1)).WholeDays() * 1440;
+        const qint64 last = DateTime::FromQt(QDate(2100, 1, 1)).WholeDays() * 1440;
+        for (qint64 minute = first; minute < last; ++minute) {
+            const DateTime time = DateTime::FromMilliseconds(minute * 60'000);
+            if (DateTime::FromStore(time.ToStore()) != time)
+                QFAIL(qPrintable(QString::number(minute)));
+        }
+    }
+
+    void DatesBeforeDayZero_data() {
+        QTest::addColumn<double>("stored");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<qint64>("days");
+        QTest::newRow("day zero") << 0.0 << "1899-12-30 00:00:00" << qint64{0};
+        QTest::newRow("before") << -0.25 << "1899-12-29 18:00:00" << qint64{-1};
+        QTest::newRow("whole") << -1.0 << "1899-12-29 00:00:00" << qint64{-1};
+        QTest::newRow("long before") << -109205.5 << "1600-12-31 12:00:00" << qint64{-109206};
+        QTest::newRow("half a second up") << 36525.999999 << "1999-12-31 23:59:59" << qint64{36525};
+        QTest::newRow("2000") << 36526.0 << "2000-01-01 00:00:00" << qint64{36526};
+    }
+    void DatesBeforeDayZero() {
+        QFETCH(double, stored);
+        const DateTime date = DateTime::FromStore(stored);
+        QTEST(Format(date, "YYYY-MM-DD Hh:Nn:Ss"), "text");
+        QTEST(qint64{date.WholeDays()}, "days");
+        QCOMPARE(date.DatePart() + date.TimePart(), date);
+        QCOMPARE(DateTime::FromQt(date.ToQDate()), date.DatePart());
+    }
+
+    void Formats_data() {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const char* locale, const char* pattern, const char* text) {
+            QTest::addRow("%s %s", locale, pattern) << locale << pattern << QString::fromUtf8(text);
+        };
+        row("C", "Short Time", "22:07");
+        row("en_US", "Short Date", "11/5/2026");
+        row("en_US", "short time", "10:07 PM");
+        row("de_DE", "Short Date", "05.11.2026");
+        row("de_DE", "Short Time", "22:07");
+        row("de_DE", "Medium Date", "05-Nov.-2026");
+        row("en_GB", "SHORT DATE", "05/11/2026");
+        row("en_GB", "Short Time", "22:07");
+        row("en_GB", "Medium Date", "05-Nov-2026");
+        row("C", "hh:mm", "22:07");
+        row("C", "Hh:Nn", "22:07");
+        row("C", "h:m:s", "22:7:58");
+        row("C", "mm/yyyy hh:mm mm", "11/2026 22:07 11");
+        row("C", "dd mmm yyyy", "05 Nov 2026");
+        row("en_US", "dd/mmm/yyyy", "05/Nov/2026");
+        row("C", "d-m-yy", "5-11-26");
+        // Text for the store and the log's clock are the same everywhere.
+        row("ar", "YYYY-MM-DD Hh:Nn:Ss", "2026-11-05 22:07:58");
+        row("fa", "hh:nn", "22:07");
+    }
+    void Formats() {
+        QFETCH(QString, locale);
+        QFETCH(QString, pattern);
+        QLocale::setDefault(QLocale(locale));
+        QTEST(Format(Evening, pattern), "text");
+    }
+
+    void NamedFormatsInEveryLocale() {
+        for (const QLocale& locale :
+             QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript,
+                                      QLocale::AnyCountry)) {
+            QLocale::setDefault(locale);
+            const QString time = LatinDigits(Format(Evening, "Short Time"));
+            static const QRegularExpression clock("(22|10)\\D+0?7");
+            QVERIFY2(time.contains(clock) && !time.contains("58"),
+                     qPrintable(locale.name() + u' ' + time));
+            const QString date = LatinDigits(Format(Evening, "Short Date"));
+            QVERIFY2(date.count("2026") == 1 && date.contains(u'5'),
+                     qPrintable(locale.name() + u' ' + date));
+            QVERIFY(LatinDigits(DefaultDateTimeText(Evening)).contains("22:07:58"));
+        }
+    }
+
+    void ClockChangesDoNotShow_data() {
+        QTest::addColumn<DateTime>("date");
+        // Local clocks have no such time, or have it twice.
+        QTest::newRow("spring") << DateTime::FromQt(QDate(2026, 3, 29));
+        QTest::newRow("autumn") << DateTime::FromQt(QDate(2026, 10, 25));
+    }
+    void ClockChangesDoNotShow() {
+        QFETCH(DateTime, date);
+        if (QDateTime(QDate(2026, 3, 29), QTime(4, 0)).offsetFromUtc() != 7200)
+            QSKIP("needs the time zone Europe/Berlin");
+        QLocale::setDefault(QLocale("de_DE"));
+        for (int minute = 0; minute < 1440; ++minute) {
+            const QString text = QTime::fromMSecsSinceStartOfDay(minute * 60'000).toString("HH:mm");
+            const DateTime time = date + DateTime::FromTime(0, minute);
+            QCOMPARE(Format(time, "Short Time"), text);
+        }
+    }
+
+    void WholeNumbers() {
+        QCOMPARE(Format(7, "000"), "007");
+        QCOMPARE(Format(1234, "000"), "1234");
+        QCOMPARE(Format(7, "#0"), "7");
+        QCOMPARE(Format(0, "00"), "00");
+    }
+
+    void Conversions_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("integer");
+        QTest::addColumn<QString>("whole");
+        QTest::addColumn<QString>("boolean");
+        const QString mismatch = "error 13", overflow = "error 6";
+        QTest::newRow("half to even, down") << "2.5" << "2" << "2" << "True";
+        QTest::newRow("half to even, up") << "3.5" << "4" << "4" << "True";
+        QTest::newRow("negative half") << "-0.5" << "0" << "0" << "True";
+        QTest::newRow("blanks") << " 42 " << "42" << "42" << "True";
+        QTest::newRow("zero") << "0" << "0" << "0" << "False";
+        QTest::newRow("16 bits") << "32767.4" << "32767" << "32767" << "True";
+        QTest::newRow("over 16 bits") << "32767.5" << overflow << "32768" << "True";
+        QTest::newRow("under 16 bits") << "-32769" << overflow << "-32769" << "True";
+        QTest::newRow("over 32 bits") << "2147483648" << overflow << overflow << "True";
+        QTest::newRow("exponent") << "1e3" << "1000" << "1000" << "True";
+        QTest::newRow("true") << "tRUE" << mismatch << mismatch << "True";
+        QTest::newRow("false") << " False" << mismatch << mismatch << "False";
+        QTest::newRow("empty") << "" << mismatch << mismatch << mismatch;
+        QTest::newRow("words") << "12 apples" << mismatch << mismatch << mismatch;
+        QTest::newRow("not a number") << "nan" << mismatch << mismatch << mismatch;
+    }
+    void Conversions() {
+        QFETCH(QString, text);
+        const auto outcome = [&](auto&& convert) {
+            QString result;
+            const int error = ErrorOf([&] { result = convert(text); });
+            return error ? QStringLiteral("error %1").arg(error) : result;
+        };
+        QTEST(outcome([](auto& t) { return QString::number(ToInteger(t)); }), "integer");
+        QTEST(outcome([](auto& t) { return QString::number(ToLong(t)); }), "whole");
+        QTEST(outcome([](auto& t) { return BooleanText(ToBoolean(t)); }), "boolean");
+    }
+
+    void SettingsKeepText() {
+        const TestHome home(TestHome::NoStore);
+        QCOMPARE(GetSetting("Wardlock Lite", "Info", "Line", "1, 2"), "1, 2");
+        for (const QString& text : {QString("Größe; a=b, \"c\"\n%1"), QString(), QString("007"),
+                                    QString("@Invalid()")}) {
+            SaveSetting("Wardlock Lite", "Info", "Line", text);
+            QCOMPARE(GetSetting("Wardlock Lite", "Info", "Line", "fallback"), text);
+        }
+        QCOMPARE(GetSetting("Wardlock Lite", "Settings", "Line", "fallback"), "fallback");
+        QCOMPARE(GetSetting("Other", "Info", "Line", "fallback"), "fallback");
+    }
+
+    void Patterns() {
+        QCOMPARE(FormatStr("%0:s - Version %1:s", {"A", "1.00"}), "A - Version 1.00");
+        QCOMPARE(FormatStr("%1:s%0:s%1:s 100%", {"%1:s", "x"}), "x%1:sx 100%");
+        QCOMPARE(FormatStr("%2:s|%0:d", {"only one"}), "|%0:d");
+    }
+
+    void DictionaryThatCannotBeRead_data() {
+        QTest::addColumn<QByteArray>("content");
+        QFile whole(BESIDE + "/WK3.MLD");
+        QVERIFY(whole.open(QIODevice::ReadOnly));
+        QTest::newRow("missing") << QByteArray();
+        QTest::newRow("no dictionary") << QByteArray(5000, 'x');
+        QTest::newRow("cut off") << whole.read(whole.size() / 2);
+    }
+    void DictionaryThatCannotBeRead() {
+        QFETCH(QByteArray, content);
+        const TestHome home(TestHome::NoStore);
+        if (!content.isEmpty()) {
+            QFile file(home.File("WK3.MLD"));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        }
+        ScriptedBoxes boxes;
+        gLanguage = 2;
+        OpenDictionary();
+        QCOMPARE(boxes.TakeTexts(), QStringList{"Language 2 could not be displayed\n"
+                                                "Resetting to default system language..."});
+        QCOMPARE(gLanguage, 1);
+        QCOMPARE(GetSetting(SettingsApplication, "Properties", "Language"), "1");
+        QCOMPARE(Translate("MISSING"), "MISSING");
+        QCOMPARE(IvMessageBox("x", MessageKind::Question, MessageButtons::YesNo),
+                 MessageAnswer::No);
+        QCOMPARE(boxes.Messages.value(0).buttonTexts, (QStringList{"Yes", "No"}));
+    }
+
+    void German() {
+        if (!QFile::exists(LANGUAGES + "/de.ts"))
+            QSKIP("no German dictionary");
+        const TestHome home(TestHome::NoStore);
+        QVERIFY(QFile::copy(BESIDE + "/WK3.MLD", home.File("WK3.MLD")));
+        ScriptedBoxes boxes;
+        gLanguage = 2;
+        OpenDictionary();
+        QCOMPARE(boxes.TakeTexts(), QStringList());
+        QCOMPARE(gDictionary->Languages(2).nativeName, "Deutsch");
+        QVERIFY(Translate("MISSING") != "MISSING");
+        QCOMPARE(Translate("no such entry %0:s"), "no such entry %0:s");
+        IvMessageBox("x", MessageKind::Question, MessageButtons::YesNo);
+        QCOMPARE(boxes.Messages.value(0).buttonTexts, (QStringList{"Ja", "Nein"}));
+        gLanguage = 3;
+        OpenDictionary();
+        QCOMPARE(boxes.Messages.size(), 2);
+        QCOMPARE(Translate("MISSING"), "MISSING");
+        gDictionary.reset();
+        gLanguage = -1;
+    }
+
+    // A translation must keep what the program puts values into.
+    void TranslationsKeepTheirMarks() {
+        static const QRegularExpression mark("%\\d+:s|%[pPdt]");
+        const auto marksOf = [](const QString& text) {
+            QStringList marks;
+            for (auto all = mark.globalMatch(text); all.hasNext();)
+                marks += all.next().captured();
+            marks.sort();
+            return marks;
+        };
+        int texts = 0;
+        for (const QString& name : QDir(LANGUAGES).entryList({"*.ts"})) {
+            QFile file(LANGUAGES + u'/' + name);
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QString source;
+            for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+                if (!xml.isStartElement())
+                    continue;
+                if (xml.name() == u"source") {
+                    source = xml.readElementText();
+                } else if (xml.name() == u"translation") {
+                    QVERIFY2(!xml.attributes().hasAttribute("type"), qPrintable(source));
+                    const QString translation = xml.readElementText();
+                    QVERIFY2(!translation.isEmpty(), qPrintable(source));
+                    QVERIFY2(marksOf(translation) == marksOf(source), qPrintable(source));
+                    ++texts;
+                }
+            }
+        }
+        QVERIFY(texts > 0 || QDir(LANGUAGES).entryList({"*.ts"}).isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(PlatformTest)
+#include "PlatformTest.moc"

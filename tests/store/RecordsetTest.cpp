@@ -1,0 +1,296 @@
+// The store's dialect and recordsets, on a real store file.
+
+#include "Connection.h"
+#include "DateTime.h"
+#include "Recordset.h"
+#include "SqlTranslator.h"
+#include "TestHome.h"
+
+#include <QDate>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+void Run(const QString& statement) { gConn->Execute(statement); }
+
+std::unique_ptr<Recordset> Opened(const QString& source, CommandType command = adCmdText) {
+    auto rows = std::make_unique<Recordset>();
+    rows->CursorLocation = adUseClient;
+    rows->Open(source, *gConn, adOpenStatic, adLockOptimistic, command);
+    return rows;
+}
+
+const QString Events = QStringLiteral("SELECT ID, tButtonCode FROM tblEvents");
+
+} // namespace
+
+class RecordsetTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TestHome> m_home;
+
+private slots:
+    void initTestCase() {
+        QLocale::setDefault(QLocale("de_DE")); // texts are ordered by the language at opening
+        m_home = std::make_unique<TestHome>(TestHome::EmptyStore);
+    }
+    void cleanupTestCase() { m_home.reset(); }
+    void init() { Run("BEGIN"); }
+    void cleanup() { Run("ROLLBACK"); }
+
+    // Statements in the dialect, parted by line ends; the last one asks for what came of them.
+    void Dialect_data() {
+        QTest::addColumn<QString>("statements");
+        QTest::addColumn<QStringList>("rows");
+        QTest::newRow("delete all")
+            << "INSERT INTO tblReaders VALUES ('1', 'a')\n"
+               "INSERT INTO tblReaders VALUES ('2', 'b')\n"
+               "delete * FROM tblReaders WHERE tReaderId = '1' ;\nSELECT * FROM tblReaders ;"
+            << QStringList{"2|b"};
+        QTest::newRow("quotes")
+            << "INSERT INTO tblReaders VALUES (\"Keeper's\", \"a \"\"b\"\" 'c'\")\n"
+               "INSERT INTO tblReaders VALUES ('it''s', '#1999-01-01# memo \"x\" ORDER BY ;')\n"
+               "SELECT * FROM tblReaders WHERE tReaderId = \"Keeper's\" OR tReaderId = 'it''s'"
+            << QStringList{"Keeper's|a \"b\" 'c'", "it's|#1999-01-01# memo \"x\" ORDER BY ;"};
+        QTest::newRow("scratch tables")
+            << "CREATE TABLE tblT( ID autoincrement, Field0 memo, tB VARCHAR NULL )\n"
+               "INSERT INTO tblT (Field0) VALUES ('x')\nINSERT INTO tblT (tB) VALUES ('007')\n"
+               "SELECT * FROM tblT"
+            << QStringList{"1|x|NULL", "2|NULL|007"};
+        QTest::newRow("numbers are not used twice")
+            << "CREATE TABLE tblT( ID autoincrement, Field0 memo)\n"
+               "INSERT INTO tblT (Field0) VALUES ('x')\nDELETE * FROM tblT\n"
+               "INSERT INTO tblT (Field0) VALUES ('y')\nSELECT * FROM tblT"
+            << QStringList{"2|y"};
+        const QString dates = "INSERT INTO tblTours (tName, dtStartTime) VALUES "
+                              "('a', #2026-03-01#), ('b', #2026-3-1 08:30#), "
+                              "('c', #2026-03-01 08:30:01#), ('d', #1899-12-29 12:00:00#)\n"
+                              "SELECT tName FROM tblTours WHERE dtStartTime ";
+        QTest::newRow(">=") << dates + ">= #2026-03-01 08:30:00#" << QStringList{"b", "c"};
+        QTest::newRow(">") << dates + ">#2026-03-01 08:30:00#" << QStringList{"c"};
+        QTest::newRow("<=") << dates + "<=#2026-03-01 00:00:00#" << QStringList{"a", "d"};
+        QTest::newRow("<>") << dates + "<> #2026-03-01 08:30:00#" << QStringList{"a", "c", "d"};
+        QTest::newRow("before day zero") << dates + "= -0.5" << QStringList{"d"};
+        const QString names = "INSERT INTO tblListItems (wType, tName) VALUES (1, 'c'), (1, 'B'), "
+                              "(1, 'Zug'), (2, 'b'), (1, 'Öl'), (1, 'a'), (2, 'B'), (1, 'ob')\n"
+                              "SELECT wType, tName FROM tblListItems ";
+        const QStringList ordered{"1|a", "1|B", "2|b", "2|B", "1|c", "1|ob", "1|Öl", "1|Zug"};
+        QTest::newRow("as people order") << names + "ORDER BY tName ;" << ordered;
+        QTest::newRow("qualified") << names + "order by tblListItems.tName" << ordered;
+        QTest::newRow("backwards, ties in turn")
+            << names + "WHERE wType = 2 ORDER BY tName DESC" << QStringList{"2|b", "2|B"};
+        QTest::newRow("two columns")
+            << names + "WHERE tName < 'a' ORDER BY wType DESC, tName"
+            << QStringList{"2|B", "1|B", "1|Zug"};
+        QTest::newRow("exact equality") << names + "WHERE tName = 'B'" << QStringList{"1|B", "2|B"};
+        QTest::newRow("groups") << "INSERT INTO tblListItems (wType) VALUES (2), (1), (2)\n"
+                                   "SELECT wType, COUNT(*) AS n FROM tblListItems GROUP BY wType"
+                                << QStringList{"1|1", "2|2"};
+        QTest::newRow("no table") << "SELECT 1 AS a, 'b' AS b" << QStringList{"1|b"};
+        QTest::newRow("order of storing, whatever the index")
+            << "INSERT INTO tblEvents (tPipeID, dtDateTime) VALUES ('R', 30), ('R', 20), "
+               "('S', 25), ('R', 10), ('R', 20)\nSELECT dtDateTime FROM tblEvents "
+               "WHERE tPipeID = 'R' AND dtDateTime >= 10 AND dtDateTime <= 30"
+            << QStringList{"30", "20", "10", "20"};
+        QTest::newRow("deleted button and deleted group in a left join")
+            << "INSERT INTO tblListItems (wType, tName) VALUES (1, 'Site')\n"
+               "INSERT INTO tblButtons (lParentID, tButtonCode, tButtonName) VALUES "
+               "(1, 'AA', 'Gate'), (99, 'BB', 'Door')\n"
+               "INSERT INTO tblTourPoints (lParentID, lIndex, tButtonCode) VALUES "
+               "(1, 2, 'CC'), (1, 1, 'AA'), (2, 1, 'AA'), (1, 3, 'BB')\n"
+               "SELECT tblTourPoints.lIndex, tblButtons.tButtonName, tblListItems.tName AS "
+               "tSiteName FROM (tblTourPoints LEFT JOIN tblButtons ON tblTourPoints.tButtonCode = "
+               "tblButtons.tButtonCode) LEFT JOIN tblListItems ON tblButtons.lParentID = "
+               "tblListItems.ID Where (((tblTourPoints.lParentID) = 1)) ORDER BY "
+               "tblTourPoints.lIndex; "
+            << QStringList{"1|Gate|Site", "2|NULL|NULL", "3|Door|NULL"};
+    }
+    void Dialect() {
+        QFETCH(QString, statements);
+        QStringList lines = statements.split(u'\n');
+        const QString query = lines.takeLast();
+        for (const QString& line : lines)
+            Run(line);
+        QTEST(RowsOf(query), "rows");
+    }
+
+    void NoDates_data() {
+        QTest::addColumn<QString>("literal");
+        for (const char* text : {"", "2026-02-29", "2026-13-01", "01/02/2026", "2026-01-01 24:00",
+                                 "2026-01-01 10:00:60", "tomorrow"})
+            QTest::newRow(text) << text;
+    }
+    void NoDates() {
+        QFETCH(QString, literal);
+        QCOMPARE(ErrorOf([&] { Run("DELETE * FROM tblEvents WHERE dtDateTime < #" + literal + '#'); }),
+                 RunTimeErrorNumber::TypeMismatch);
+    }
+
+    // A literal must be the very double that the same instant is stored as, or "=" and ">=" miss.
+    void LiteralsEqualStoredDates() {
+        constexpr int batch = 1000;
+        const qint64 first = DateTime::FromQt(QDate(1890, 1, 1)).Milliseconds() / 1000;
+        qint64 second = first;
+        for (int round = 0; round < 120; ++round) {
+            QString sql = "SELECT 0";
+            QList<DateTime> dates;
+            for (int i = 0; i < batch; ++i) {
+                dates += DateTime::FromMilliseconds(second * 1000);
+                sql += ", #" + SqlDateTimeFmt(dates.last()) + '#';
+                // Whole minutes and any second, over two hundred years, every minute of the night
+                // in which clocks are put on.
+                second += round % 2 ? 60 * 997 : 50'021;
+                if (round == 60)
+                    second = DateTime::FromQt(QDate(2026, 3, 29)).Milliseconds() / 1000 + i * 60;
+            }
+            const auto row = Opened(sql);
+            for (int i = 0; i < batch; ++i)
+                QCOMPARE(row->FieldAt(i + 1), Value(dates[i]));
+        }
+        QVERIFY(second > first);
+    }
+
+    void RowsAreAdded() {
+        auto rows = Opened("tblEvents", adCmdTable);
+        QVERIFY(rows->Eof());
+        rows->AddNew();
+        rows->Set(u"tbuttoncode", QString("AA"));
+        QCOMPARE(rows->Text(u"tButtonCode"), "AA");
+        QCOMPARE(RowsOf(Events), QStringList()); // pending
+        rows->AddNew();                          // writes the row before
+        QVERIFY(rows->Fields(u"tButtonCode").IsNull());
+        QCOMPARE(RowsOf(Events), QStringList{"1|AA"});
+        rows->Set(u"tButtonCode", QString("BB"));
+        rows->Update();
+        rows->Update(); // nothing is pending
+        QCOMPARE(rows->Number(u"ID"), 2);
+        rows->AddNew();
+        rows->Set(u"tButtonCode", QString("CC"));
+        QCOMPARE(rows->RecordCount(), 3); // writes it
+        rows->AddNew();
+        rows->MoveFirst(); // writes a row of defaults
+        QCOMPARE(rows->Text(u"tButtonCode"), "AA");
+        rows->AddNew();
+        rows->Set(u"tButtonCode", QString("EE"));
+        rows->Close(); // forgets it
+        QCOMPARE(RowsOf(Events), (QStringList{"1|AA", "2|BB", "3|CC", "4|NULL"}));
+    }
+
+    void RowsAreChanged() {
+        Run("INSERT INTO tblReaders VALUES ('1', 'a'), ('2', 'b'), ('2', 'b')");
+        auto rows = Opened("SELECT * FROM tblReaders WHERE tReaderId = '2'");
+        rows->Set(u"tDescription", QString("new"));
+        QCOMPARE(rows->Text(u"tDescription"), "new");
+        QCOMPARE(rows->Text(u"tReaderId"), "2");
+        rows->Update();
+        QCOMPARE(rows->Text(u"tDescription"), "new");
+        rows->MoveNext();
+        rows->Set(u"tDescription", Value());
+        rows->MoveNext(); // writes it
+        QVERIFY(rows->Eof());
+        QCOMPARE(rows->RecordCount(), 2);
+        QCOMPARE(RowsOf("SELECT * FROM tblReaders"), (QStringList{"1|a", "2|new", "2|NULL"}));
+    }
+
+    void ARowThatCannotBeWrittenIsDropped() {
+        Run("CREATE TABLE tblT (a TEXT UNIQUE)");
+        auto rows = Opened("SELECT * FROM tblT");
+        for (const QString& text : {QString("x"), QString("x"), QString("y")}) {
+            rows->AddNew();
+            rows->Set(u"a", text);
+            const int error = ErrorOf([&] { rows->Update(); });
+            QCOMPARE(error, rows->RecordCount() < 2 && text == "x" && error
+                                ? RunTimeErrorNumber::StoreEngine + 19
+                                : 0);
+        }
+        QCOMPARE(RowsOf("SELECT * FROM tblT"), (QStringList{"x", "y"}));
+    }
+
+    // Values at the edges of the packed form come back as they went in.
+    void ValuesKeep() {
+        QList<Value> values{Value(), Value(QString()), Value(0.1), Value(-0.0), Value(1e300)};
+        for (const qint64 edge : {qint64{0}, qint64{255}, qint64{1} << 31, qint64{1} << 32})
+            for (const qint64 number : {edge - 1, edge, edge + 1, -edge - 1, -edge, -edge + 1})
+                values += Value(number);
+        for (const int length : {1, 127, 128, 16'383, 16'384, 1'048'570, 3'000'000})
+            values += Value(QString(length, u'x') + QStringLiteral("ß€𝄞"));
+        Run("CREATE TABLE tblT (ID autoincrement, a)");
+        auto rows = Opened("SELECT * FROM tblT");
+        for (const Value& value : values) {
+            rows->AddNew();
+            rows->Set(u"a", value);
+        }
+        rows->MoveFirst();
+        const auto again = Opened("SELECT * FROM tblT");
+        QCOMPARE(again->RecordCount(), values.size());
+        for (const Value& value : values) {
+            QVERIFY(again->FieldAt(1) == value && rows->FieldAt(1) == value);
+            QCOMPARE(again->Number(u"ID"), rows->Number(u"ID"));
+            again->MoveNext();
+            rows->MoveNext();
+        }
+    }
+
+    void ServerCursor() {
+        Run("INSERT INTO tblReaders VALUES ('1', 'a'), ('2', 'b')");
+        Recordset rows;
+        rows.Open("tblReaders", *gConn, adOpenForwardOnly, adLockOptimistic, adCmdTable);
+        QCOMPARE(rows.RecordCount(), -1);
+        QStringList ids;
+        for (int pass = 0; pass < 2; ++pass, rows.MoveFirst())
+            for (; !rows.Eof(); rows.MoveNext())
+                ids += rows.Text(u"tReaderId");
+        QCOMPARE(ids, (QStringList{"1", "2", "1", "2"}));
+        rows.AddNew();
+        rows.Set(u"tReaderId", QString("3"));
+        rows.Update();
+        QCOMPARE(RowsOf("SELECT tReaderId FROM tblReaders"), (QStringList{"1", "2", "3"}));
+    }
+
+    void WrongUse_data() {
+        using Use = std::function<void(Recordset&)>;
+        QTest::addColumn<Use>("use");
+        QTest::addColumn<int>("error");
+        const auto row = [](const char* name, int error, const Use& use) {
+            QTest::newRow(name) << use << error;
+        };
+        const auto open = [](Recordset& rows, const char* sql) { rows.Open(sql, *gConn); };
+        row("closed: Eof", 3704, [](auto& r) { r.Eof(); });
+        row("closed: RecordCount", 3704, [](auto& r) { r.RecordCount(); });
+        row("closed: MoveNext", 3704, [](auto& r) { r.MoveNext(); });
+        row("closed: AddNew", 3704, [](auto& r) { r.AddNew(); });
+        row("closed: Update", 3704, [](auto& r) { r.Update(); });
+        row("closed again", 3704, [=](auto& r) { open(r, "SELECT 1"); r.Close(); r.Eof(); });
+        row("open twice", 3705, [=](auto& r) { open(r, "SELECT 1"); open(r, "SELECT 1"); });
+        row("closed connection", 3704, [](auto& r) { Connection none; r.Open("SELECT 1", none); });
+        row("closed connection runs nothing", 3704, [](auto&) { Connection().Execute("SELECT 1"); });
+        row("no such field", 3265, [=](auto& r) { open(r, "SELECT 1 AS a"); r.Fields(u"b"); });
+        row("no row", 3021, [=](auto& r) { open(r, "SELECT * FROM tblTours"); r.Text(u"tName"); });
+        row("behind the end", 3021, [=](auto& r) { open(r, "SELECT 1"); r.MoveNext(); r.MoveNext(); });
+        row("change without a row", 3021,
+            [=](auto& r) { open(r, "SELECT * FROM tblTours"); r.Set(u"tName", 1); });
+        row("text for a number", 13, [=](auto& r) { open(r, "SELECT 'x' AS a"); r.Number(u"a"); });
+        row("add to a join", 380, [=](auto& r) {
+            open(r, "SELECT tblTours.ID FROM tblTours INNER JOIN tblTourPoints ON "
+                    "tblTours.ID = tblTourPoints.lParentID");
+            r.AddNew();
+        });
+        row("add to sums", 380, [=](auto& r) { open(r, "SELECT COUNT(*) AS n FROM tblTours"); r.AddNew(); });
+        row("add to read only", 380, [](auto& r) {
+            r.Open("SELECT * FROM tblTours", *gConn, adOpenStatic, adLockReadOnly);
+            r.AddNew();
+        });
+        row("no such table", 10001, [=](auto& r) { open(r, "SELECT * FROM tblNone"); });
+        row("no SQL", 10001, [](auto&) { gConn->Execute("DELETE everything"); });
+    }
+    void WrongUse() {
+        QFETCH(std::function<void(Recordset&)>, use);
+        Recordset rows;
+        QTEST(ErrorOf([&] { use(rows); }), "error");
+    }
+};
+
+QTEST_GUILESS_MAIN(RecordsetTest)
+#include "RecordsetTest.moc"

@@ -1,0 +1,294 @@
+// The store as a file: what opens, what does not, who may, and what compaction and a killed program
+// leave behind.
+
+#include "Connection.h"
+#include "ForkedChild.h"
+#include "Recordset.h"
+#include "ScriptedBoxes.h"
+#include "TestHome.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTest>
+
+#include <random>
+
+#include <sqlcipher/sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+/// Rows as a download writes them, in one statement.
+void AddEvents(int count) {
+    gConn->Execute(QStringLiteral(
+                       "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE "
+                       "i < %1) INSERT INTO tblEvents (dtDLDateTime, tPipeID, dtDateTime, "
+                       "tButtonCode, tButtonName, wGroupType) SELECT 46000, '4B5831A7', "
+                       "45000 + i / 1440.0, '1A40C2', i, 1 FROM n")
+                       .arg(count));
+}
+
+QByteArray BytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void Write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+ino_t FileNumber(const QString& path) {
+    struct stat status {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_ino : 0;
+}
+
+} // namespace
+
+class StoreFileTest : public QObject {
+    Q_OBJECT
+
+    std::mt19937 m_random{20261121};
+
+    void PauseUpTo(unsigned milliseconds) { ::usleep(m_random() % (milliseconds * 1000)); }
+
+private slots:
+    void DoesNotOpen_data() {
+        QTest::addColumn<std::function<void(const QString&)>>("spoil");
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<int>("error");
+        const auto row = [](const char* name, int error, std::function<void(const QString&)> spoil,
+                            const QString& password = StorePassword) {
+            QTest::newRow(name) << std::move(spoil) << password << error;
+        };
+        row("missing", 53, [](auto& path) { QFile::remove(path); });
+        row("a folder", 53, [](auto& path) { QFile::remove(path); QDir().mkdir(path); });
+        row("empty", 10026, [](auto& path) { QFile::resize(path, 0); });
+        row("garbage", 10026, [](auto& path) { Write(path, QByteArray(20'000, 'g')); });
+        row("cut in half", 10011,
+            [](auto& path) { QFile::resize(path, QFileInfo(path).size() / 2); });
+        row("cut to its first bytes", 10026, [](auto& path) { QFile::resize(path, 100); });
+        row("damaged first page", 10026, [](auto& path) {
+            QByteArray bytes = BytesOf(path);
+            bytes[500] = static_cast<char>(bytes[500] ^ 1);
+            Write(path, bytes);
+        });
+        row("no password on it", 10026, [](auto& path) {
+            QFile::remove(path);
+            sqlite3* plain = nullptr;
+            sqlite3_open(QFile::encodeName(path).constData(), &plain);
+            sqlite3_exec(plain, "CREATE TABLE tblOperators (a)", nullptr, nullptr, nullptr);
+            sqlite3_close(plain);
+        });
+        row("wrong password", 10026, [](auto&) {}, "Kelp7734");
+    }
+    void DoesNotOpen() {
+        QFETCH(std::function<void(const QString&)>, spoil);
+        QFETCH(QString, password);
+        QFETCH(int, error);
+        const TestHome home(TestHome::DemoSite);
+        TestHome::Close();
+        spoil(home.Store());
+        const QByteArray before = BytesOf(home.Store());
+        ScriptedBoxes boxes;
+        QVERIFY(!ADOTest(home.Store(), password));
+        QCOMPARE(boxes.Messages.value(0).caption, QString());
+        QCOMPARE(boxes.TakeTexts(), QStringList("*** System Error: Cannot Open the database at " +
+                                                home.Store()));
+        const QString log = home.TakeLog();
+        const QString number = QStringLiteral("\nError #%1\n").arg(error);
+        QVERIFY2(log.startsWith("ADOTest Failed. Exiting..." + number), qPrintable(log));
+        QVERIFY(!ADOInit(home.Store(), password));
+        QCOMPARE(boxes.Messages.value(0).caption, "Wardlock Lite");
+        QCOMPARE(boxes.Messages.value(0).kind, MessageKind::Critical);
+        QCOMPARE(boxes.TakeTexts(), QStringList("Cannot Open the database, please check that the "
+                                                "database file is available."));
+        QVERIFY(home.TakeLog().startsWith("ADOInit Failed. Exiting..." + number));
+        CompactStore(ProviderText, home.Store(), home.Temp(), password);
+        QVERIFY(!QFile::exists(home.Temp()));
+        QVERIFY(!QFile::exists(home.File("main.ldb")));
+        QCOMPARE(boxes.TakeTexts(), QStringList()); // compaction says nothing
+        QVERIFY(BytesOf(home.Store()) == before);
+    }
+
+    void StockShellOpensIt() {
+        if (QStandardPaths::findExecutable("sqlcipher").isEmpty())
+            QSKIP("no sqlcipher shell");
+        const TestHome home(TestHome::DemoSite);
+        TestHome::Close();
+        for (int pass = 0; pass < 2; ++pass, home.Compact()) {
+            QProcess shell;
+            shell.start("sqlcipher", {home.Store()});
+            shell.write("PRAGMA key = 'kelp7734';\nSELECT ID, tButtonName FROM tblButtons WHERE "
+                        "tButtonCode = '7E0003';\nPRAGMA integrity_check;\n");
+            shell.closeWriteChannel();
+            QVERIFY(shell.waitForFinished());
+            const QByteArray out = shell.readAllStandardOutput();
+            QVERIFY2(out.endsWith("11|Water leak\nok\n"), out.constData());
+        }
+    }
+
+    void OneProcessAtATime() {
+        const TestHome home(TestHome::DemoSite);
+        const QString lock = home.File("main.ldb");
+        QVERIFY(QFile::exists(lock));
+        {
+            Connection second; // of the same process
+            second.Open(ConnectionText(home.Store(), StorePassword));
+            TestHome::Close();
+            QVERIFY(QFile::exists(lock));
+        }
+        QVERIFY(!QFile::exists(lock));
+
+        ForkedChild other([&](int out) {
+            home.Open();
+            (void)::write(out, "o", 1);
+            ::pause();
+        });
+        QCOMPARE(other.Read(1), "o");
+        ScriptedBoxes boxes;
+        QVERIFY(!ADOTest(home.Store(), StorePassword));
+        QVERIFY(home.TakeLog().contains("Error #3045\nCould not use '"));
+        const ino_t before = FileNumber(home.Store());
+        home.Compact();
+        QCOMPARE(FileNumber(home.Store()), before); // not while the other works on it
+        other.Kill();
+        QVERIFY(QFile::exists(lock));
+        boxes.TakeTexts();
+        QVERIFY(home.Open());
+        QCOMPARE(boxes.TakeTexts(), QStringList());
+    }
+
+    // A program killed between making the lock file and filling it, or a machine that lost power.
+    void LockFileWithoutContent_data() {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("zeros") << QByteArray(64, '\0');
+        QTest::newRow("cut off") << QByteArray("123");
+    }
+    void LockFileWithoutContent() {
+        QFETCH(QByteArray, content);
+        const TestHome home(TestHome::DemoSite);
+        TestHome::Close();
+        Write(home.File("main.ldb"), content);
+        ScriptedBoxes boxes;
+        QVERIFY2(home.Open(), qPrintable(home.TakeLog()));
+    }
+
+    void CompactionKeepsAllButTheWaste() {
+        const TestHome home(TestHome::DemoSite);
+        AddEvents(20'000);
+        gConn->Execute("DELETE * FROM tblEvents WHERE ID > 10000 OR tButtonName = '5'");
+        gConn->Execute("INSERT INTO tblReaders VALUES ('99', 'z'), ('11', 'a'), ('55', 'm')");
+        gConn->Execute("DELETE * FROM tblReaders WHERE tReaderId = '99'");
+        const QStringList schema = RowsOf("SELECT sql FROM sqlite_master ORDER BY name");
+        const QStringList before = ContentOfStore();
+        TestHome::Close();
+        const qint64 size = QFileInfo(home.Store()).size();
+        Write(home.Temp(), "left over");
+        Write(home.Temp() + "-journal", "left over");
+        home.Compact();
+        QVERIFY(!QFile::exists(home.Temp()) && !QFile::exists(home.Temp() + "-journal"));
+        QVERIFY(QFileInfo(home.Store()).size() < size * 3 / 4);
+        QVERIFY(home.Open());
+        QCOMPARE(ContentOfStore(), before);
+        QCOMPARE(RowsOf("SELECT sql FROM sqlite_master ORDER BY name"), schema);
+        AddEvents(1);
+        QCOMPARE(RowsOf("SELECT MAX(ID) AS n FROM tblEvents"), QStringList("20001"));
+        QCOMPARE(home.TakeLog(), QString());
+    }
+
+    void FailedCompactionLeavesTheStore() {
+        const TestHome home(TestHome::DemoSite);
+        AddEvents(2000);
+        TestHome::Close();
+        const QByteArray whole = BytesOf(home.Store());
+        QByteArray damaged = whole;
+        damaged[damaged.size() / 2] = static_cast<char>(damaged[damaged.size() / 2] ^ 1);
+        Write(home.Store(), damaged); // a page in the middle: the store opens all the same
+        home.Compact();
+        QVERIFY(BytesOf(home.Store()) == damaged && !QFile::exists(home.Temp()));
+        Write(home.Store(), whole);
+        QVERIFY(QDir().mkdir(home.Temp())); // no room for the copy
+        home.Compact();
+        QVERIFY(BytesOf(home.Store()) == whole);
+        QVERIFY(home.Open());
+    }
+
+    void CompactionMayBeKilled() {
+        const TestHome home(TestHome::DemoSite);
+        AddEvents(10'000);
+        const QStringList before = ContentOfStore();
+        TestHome::Close();
+        int replaced = 0;
+        for (int round = 0; round < 20; ++round) {
+            const ino_t old = FileNumber(home.Store());
+            ForkedChild child([&](int) {
+                for (;;)
+                    home.Compact();
+            });
+            PauseUpTo(300);
+            child.Kill();
+            replaced += FileNumber(home.Store()) != old;
+            QVERIFY2(ADOTest(home.Store(), StorePassword), qPrintable(home.TakeLog()));
+            const ino_t killed = FileNumber(home.Store());
+            home.Compact();
+            QVERIFY(FileNumber(home.Store()) != killed && !QFile::exists(home.Temp()));
+            QVERIFY(home.Open());
+            QVERIFY(ContentOfStore() == before);
+            TestHome::Close();
+        }
+        QVERIFY2(replaced > 0 && replaced < 20, qPrintable(QString::number(replaced)));
+    }
+
+    // Every download that was reported done is whole; one that was not is whole or not there.
+    void DownloadMayBeKilled() {
+        const TestHome home(TestHome::DemoSite);
+        TestHome::Close();
+        constexpr int rowsEach = 500;
+        int stored = 0;
+        for (int round = 0; round < 20; ++round) {
+            ForkedChild child([&](int out) {
+                home.Open();
+                (void)::write(out, "o", 1);
+                for (int batch = stored + 1;; ++batch) {
+                    Transaction transaction(*gConn);
+                    Recordset events;
+                    events.Open("tblEvents", *gConn, adOpenForwardOnly, adLockOptimistic,
+                                adCmdTable);
+                    for (int row = 0; row < rowsEach; ++row) {
+                        events.AddNew();
+                        events.Set(u"wGroupType", batch);
+                        events.Set(u"tButtonName", QString(60, u'x'));
+                        events.Update();
+                    }
+                    events.Close();
+                    transaction.Commit();
+                    (void)::write(out, "d", 1);
+                }
+            });
+            QCOMPARE(child.Read(1), "o");
+            PauseUpTo(60);
+            child.Kill();
+            const int reported = stored + static_cast<int>(child.Read(100'000).size());
+            QVERIFY2(home.Open(), qPrintable(home.TakeLog()));
+            const QStringList batches =
+                RowsOf("SELECT wGroupType, COUNT(*) AS n FROM tblEvents GROUP BY wGroupType");
+            stored = static_cast<int>(batches.size());
+            QVERIFY(stored == reported || stored == reported + 1);
+            for (int batch = 1; batch <= stored; ++batch)
+                QCOMPARE(batches[batch - 1], QStringLiteral("%1|%2").arg(batch).arg(rowsEach));
+            TestHome::Close();
+            const ino_t before = FileNumber(home.Store());
+            home.Compact();
+            QVERIFY(FileNumber(home.Store()) != before);
+        }
+        QVERIFY(stored > 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(StoreFileTest)
+#include "StoreFileTest.moc"

@@ -1,0 +1,91 @@
+// Operators and the store's small routines.
+
+#include "Recordset.h"
+#include "Settings.h"
+#include "TestHome.h"
+#include "mOperators.h"
+
+#include <QTest>
+
+class StoreRoutinesTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void OperatorsMakeThemselvesKnown() {
+        const TestHome home(TestHome::EmptyStore);
+        const auto lastLogin = [] { return GetSetting("Wardlock Lite", "Info", "LastLogin", "-"); };
+        QCOMPARE(CheckOperator(UserOperator, "CREW"), NoOperator);
+        QCOMPARE(lastLogin(), "-");
+        QCOMPARE(RowsOf("SELECT * FROM tblOperators"), QStringList("CREW|CREW"));
+        QCOMPARE(CheckOperator(UserOperator, "wrong"), NoOperator);
+        QCOMPARE(lastLogin(), "2"); // remembered, though the password was wrong
+        QCOMPARE(CheckOperator(UserOperator, " crew\t"), UserOperator);
+        QCOMPARE(CheckOperator(MasterOperator, "CREW"), NoOperator);
+        QCOMPARE(lastLogin(), "2");
+        QCOMPARE(CheckOperator(MasterOperator, "Keeper"), MasterOperator);
+        QCOMPARE(lastLogin(), "1");
+        QCOMPARE(RowsOf("SELECT * FROM tblOperators"),
+                 (QStringList{"CREW|CREW", "KEEPER|KEEPER"}));
+    }
+
+    void Passwords_data() {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("entered");
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("any case") << "'sEcret1'" << "SeCRET1" << true;
+        QTest::newRow("umlauts") << "'größe'" << "GRÖSSE" << true;
+        QTest::newRow("blanks around the entry") << "'a b'" << "  a b " << true;
+        QTest::newRow("a stored blank is never matched") << "'ab '" << "ab " << false;
+        QTest::newRow("part") << "'secret'" << "secre" << false;
+        QTest::newRow("empty") << "''" << "  " << true;
+        QTest::newRow("none stored") << "NULL" << "" << true;
+        QTest::newRow("empty entry") << "'x'" << "" << false;
+    }
+    void Passwords() {
+        QFETCH(QString, stored);
+        QFETCH(QString, entered);
+        QFETCH(bool, accepted);
+        const TestHome home(TestHome::EmptyStore);
+        gConn->Execute("INSERT INTO tblOperators VALUES ('keeper', 'other'), ('KEEPER', " + stored +
+                       "), ('KEEPER', 'second row')");
+        QCOMPARE(CheckOperator(MasterOperator, entered),
+                 accepted ? MasterOperator : NoOperator);
+        QCOMPARE(CountReaders(), 0);
+    }
+
+    void ScratchTable() {
+        const TestHome home(TestHome::DemoSite);
+        QVERIFY(TableExists("tblEvents"));
+        QVERIFY(!TableExists("tblReportTemp") && !TableExists("idxEventTime"));
+        QVERIFY(InitRptTmp());
+        gConn->Execute("INSERT INTO tblReportTemp (Field0, Field9) VALUES ('a', 'b')");
+        QVERIFY(InitRptTmp());
+        QCOMPARE(RowsOf("SELECT * FROM tblReportTemp"), QStringList());
+        QVERIFY(!CreateTblReportTemp("tblReportTemp"));
+        QVERIFY(home.TakeLog().startsWith(
+            "Error 10001 in CreateTblReportTemp of Form frmRptHardwareListParam\t("));
+        gConn->Close();
+        QVERIFY(!InitRptTmp());
+        QVERIFY(home.TakeLog().startsWith(
+            "Error 3704 in InitRptTmp of Form frmRptHardwareListParam\t("));
+    }
+
+    void Counts() {
+        const TestHome home(TestHome::DemoSite);
+        gConn->Execute("INSERT INTO tblReaders VALUES ('9', 'x'), ('10', 'x')");
+        QCOMPARE(CountReaders(), 3);
+        QCOMPARE(CountTours(), 2);
+        QVERIFY(IsKnownReader("10") && !IsKnownReader("1"));
+    }
+
+    void DatesAsSql() {
+        const DateTime date = DateTime::FromDays(36526) + DateTime::FromTime(7, 5, 9);
+        QCOMPARE(SqlDateFmt(date), "2000-01-01");
+        QCOMPARE(SqlDateTimeFmt(date), "2000-01-01 07:05:09");
+        QCOMPARE(ConnectionText("p", "w"), "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=p;"
+                                           "Jet OLEDB:Database Password = w");
+    }
+};
+
+QTEST_GUILESS_MAIN(StoreRoutinesTest)
+#include "StoreRoutinesTest.moc"
