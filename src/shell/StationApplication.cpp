@@ -13,6 +13,7 @@ void ShowRunTimeError(const RunTimeError& error) {
 } // namespace
 
 StationApplication::StationApplication(int& argc, char** argv) : QApplication(argc, argv) {
+    setApplicationName(QStringLiteral("Wardlock")); // what a box without a caption is titled
     setQuitOnLastWindowClosed(false); // the main window ends the program, not a dialog before it
     InstallMessageBoxes(&m_boxes);
 }
