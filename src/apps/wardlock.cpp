@@ -9,7 +9,7 @@ int main(int argc, char* argv[]) {
     StationApplication app(argc, argv);
     return app.RunGuarded([&] {
         if (!Main(StationApplication::CommandLine()))
-            return EXIT_FAILURE;
+            return EXIT_SUCCESS; // it has said what there was to say
         const int status = StationApplication::exec();
         ReleaseMainWindow();
         return status;

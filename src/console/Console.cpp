@@ -6,7 +6,7 @@
 #include "ConsoleReport.h"
 #include "DockingLink.h"
 #include "Recordset.h"
-#include "Settings.h"
+#include "mSettings.h"
 #include "TourReportBuilder.h"
 #include "mErrorHandler.h"
 #include "mOperators.h"
@@ -71,24 +71,19 @@ void WriteOut(const QByteArray& bytes, const QString& path) {
 
 /// Opens dictionary and store and checks the login; false once it has said why not.
 bool OpenStation(const CommandLine& line) {
-    gLanguage = ToInteger(GetSetting(SettingsApplication, SettingsSection::Properties,
-                                     QStringLiteral("Language"), QStringLiteral("-1")));
+    ReadLanguageSetting();
     // A missing dictionary is the station's matter; here the English texts do as well.
     gDictionary = std::make_unique<Dictionary>();
     gDictionary->FileName = AppFile(QStringLiteral("WK3.MLD"));
     gDictionary->language = gLanguage;
     IgnoringErrors([] { gDictionary->Open(); });
-    gAutoSetTime = ToBoolean(GetSetting(SettingsApplication, SettingsSection::Properties,
-                                        QStringLiteral("AutoSetTime"), BooleanText(true)));
-    for (std::size_t i = 0; i < gCompanyInfo.size(); ++i)
-        gCompanyInfo[i] = GetSetting(SettingsApplication, SettingsSection::Properties,
-                                     QStringLiteral("CompanyInfo%1").arg(i + 1))
-                              .left(50);
+    ReadRemainingSettings();
     gDatabasePath = AppFile(QStringLiteral("main.mdb"));
     gConnectionString = ConnectionText(gDatabasePath, StorePassword);
     if (!ADOTest(gDatabasePath, StorePassword) || !ADOInit(gDatabasePath, StorePassword))
         return false;
-    if (CheckOperator(line.login, qEnvironmentVariable("WARDLOCK_PASSWORD")) == NoOperator) {
+    if (CheckOperator(line.login, qEnvironmentVariable("WARDLOCK_PASSWORD"), RememberLogin::No) ==
+        NoOperator) {
         Complain(Translate("The User Name / Password are incorrect. Please try again."));
         return false;
     }
@@ -136,7 +131,10 @@ int Download(const CommandLine& line, const ConsoleBoxes& boxes) {
             Complain(view.MessageText());
         return NotDone;
     }
-    WriteOut(line.json ? DownloadJson(outcome) : DownloadText(outcome, view.MessageText()), {});
+    if (line.json)
+        WriteOut(DownloadJson(outcome), {});
+    else if (outcome.stored)
+        WriteOut(DownloadText(outcome, view.MessageText()), {});
     if (!outcome.stored) {
         Complain(Translate("The touches could not be stored. The reader was not erased."));
         return NotDone;
@@ -191,11 +189,11 @@ int RunCommand(const CommandLine& line) {
 } // namespace
 
 int RunConsole(const QStringList& arguments) {
-    if (arguments.contains(QStringLiteral("--help"))) {
-        WriteOut(UsageText().toUtf8(), {});
-        return Done;
-    }
     try {
+        if (arguments.contains(QStringLiteral("--help"))) {
+            WriteOut(UsageText().toUtf8(), {});
+            return Done;
+        }
         return RunCommand(ParseCommandLine(arguments));
     } catch (const UsageError& error) {
         Complain(QStringLiteral("wardlockctl: ") + QString::fromStdString(error.what()));

@@ -2,7 +2,6 @@
 
 #include "Connection.h"
 #include "Dictionary.h"
-#include "StorePassword.h"
 
 #include <array>
 #include <memory>

@@ -20,7 +20,8 @@ enum class ErrorShow { LogOnly, Dialog };
 void ReportError(const QString& procedure, const RunTimeError& error,
                  ErrorShow show = ErrorShow::Dialog);
 
-/// The older style of some store code: a box alone, "Error 13 in procedure SqlDateFmt: ...".
+/// A box and no line in the log: "Error 13 in procedure SqlDateFmt: ...". Some store code tells its
+/// failures so.
 void ShowProcedureError(const QString& procedure, const RunTimeError& error);
 
 /// How the program ends at once. Tests put something else in its place.
@@ -54,7 +55,7 @@ template <typename Body> auto Guarded(const char* label, Body&& body) {
     return Guarded(label, ErrorShow::LogOnly, body);
 }
 
-/// The same in the older style.
+/// The same, told by ShowProcedureError.
 template <typename Body> auto GuardedWithBox(const char* procedure, Body&& body) {
     return Trapped(body, [&](const RunTimeError& error) {
         ShowProcedureError(QString::fromUtf8(procedure), error);

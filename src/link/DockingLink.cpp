@@ -11,7 +11,6 @@
 
 namespace {
 
-const QString PortSettings = QStringLiteral("9600,n,8,1");
 const QString PortKey = QStringLiteral("ComPort");
 
 constexpr int AnswerPause = 500; ///< ms that the reader side is given after each command
@@ -53,6 +52,8 @@ QString EventText(int event) {
 
 } // namespace
 
+const QString DockingLink::CommSettings = QStringLiteral("9600,n,8,1");
+
 DockingLink::DockingLink(QObject* parent) : QObject(parent) {
     connect(&m_comPort, &CommPort::OnComm, this, &DockingLink::OnComm);
 }
@@ -72,12 +73,12 @@ void DockingLink::OnComm() {
               QStringLiteral("***!!! CommEvent (%1").arg(event) + text);
 }
 
-bool DockingLink::OpenPort(int number) {
+bool DockingLink::OpenPort(int number, const QString& settings) {
     if (m_comPort.PortOpen())
         return true;
     return IgnoringErrors([&] {
         m_comPort.Number = number;
-        m_comPort.Settings = PortSettings;
+        m_comPort.Settings = settings;
         m_comPort.SetPortOpen(true);
         m_comPort.Input();
         m_comPort.Output("\r\n");
@@ -181,7 +182,8 @@ void DockingLink::EraseRequest(bool& succeeded) {
     QByteArray reply;
     bool received = false;
     WaitFor(1, Wire::Header1, CmdEraseMemory(), 1500, Wire::ReplyMemory, false, reply, received);
-    succeeded = Succeeded(reply, received);
+    // A memory frame that comes late bears the same code, but is no answer to this.
+    succeeded = Succeeded(reply, received) && reply.size() + Wire::Overhead <= Wire::LeastMemoryIndex;
     gCommActive = false;
 }
 

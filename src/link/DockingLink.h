@@ -17,6 +17,9 @@
 class DockingLink : public QObject {
     Q_OBJECT
 public:
+    /// How a docking station talks: rate, parity, data bits, stop bits.
+    static const QString CommSettings;
+
     explicit DockingLink(QObject* parent = nullptr);
 
     CommPort& comPort() { return m_comPort; }
@@ -25,7 +28,7 @@ public:
     std::int64_t BytesSeen() const { return m_bytesSeen; }
 
     /// True if the port is open already or could be opened.
-    bool OpenPort(int number);
+    bool OpenPort(int number, const QString& settings = CommSettings);
     /// Closes the port if it is open.
     void ClosePort();
 

@@ -47,14 +47,17 @@ void StoreTouches(const colRawButtons& touches, const QString& readerId) {
 
 void MemoryDownload::Run() {
     m_outcome = {};
-    m_busy = true;
     m_view.ShowMessageText({});
     m_view.ClearList();
-    m_view.ShowBusy(true);
+    SetBusy(true);
     Guarded("cmdOnline_Click of Form frmMdiDownload", [this] { ReadStoreErase(); });
     m_view.ShowLastRow();
-    m_busy = false;
-    m_view.ShowBusy(false);
+    SetBusy(false);
+}
+
+void MemoryDownload::SetBusy(bool busy) {
+    m_busy = busy;
+    m_view.ShowBusy(busy);
 }
 
 void MemoryDownload::ShowText(const QString& text) {
@@ -65,13 +68,13 @@ void MemoryDownload::ShowText(const QString& text) {
 void MemoryDownload::ReadStoreErase() {
     TransferResult transfer = m_view.RunTransfer();
     DoEvents();
-    if (!transfer.ok) {
+    if (!transfer.OK) {
         ShowText(Translate("Download Failed"));
         return;
     }
     m_outcome.read = true;
-    m_outcome.readerId = transfer.readerId;
-    m_outcome.touches = std::move(transfer.touches);
+    m_outcome.readerId = transfer.PipeID;
+    m_outcome.touches = std::move(transfer.Buttons);
     const colRawButtons& touches = m_outcome.touches;
     ShowText(Translate("Download Successful") + u'\n' + Translate("Data Readings = ") +
              QString::number(touches.size()));
@@ -101,14 +104,24 @@ void MemoryDownload::EraseReader(bool silent, bool& succeeded) {
                                 MessageKind::Question,
                                 MessageButtons::YesNo) != MessageAnswer::Yes)
         return;
+    // The conversation handles events: nothing else may be begun meanwhile, nor the page left.
+    const bool alone = !m_busy;
+    if (alone)
+        SetBusy(true);
+    EraseUntilDone(succeeded);
+    if (alone)
+        SetBusy(false);
+    if (succeeded && !silent) {
+        m_view.ClearList();
+        m_view.ShowStatus(Translate("Reader Erased"));
+        IvMessageBox(Translate("Reader Erased"), MessageKind::Information);
+    }
+}
+
+void MemoryDownload::EraseUntilDone(bool& succeeded) {
     for (m_link.EraseRequest(succeeded); !succeeded; m_link.EraseRequest(succeeded)) {
         if (IvMessageBox(Translate("Reader Erase Failed.  Try again?"), MessageKind::Question,
                          MessageButtons::YesNo) != MessageAnswer::Yes)
             return;
-    }
-    if (!silent) {
-        m_view.ClearList();
-        m_view.ShowStatus(Translate("Reader Erased"));
-        IvMessageBox(Translate("Reader Erased"), MessageKind::Information);
     }
 }

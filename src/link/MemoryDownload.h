@@ -39,7 +39,7 @@ public:
     /// operator may try again, silent or not.
     void EraseReader(bool silent, bool& succeeded);
 
-    /// True from the start of a download to its end.
+    /// True from the start of a download, or of an erase on its own, to its end.
     bool Busy() const { return m_busy; }
 
     /// What the last Run did.
@@ -54,7 +54,9 @@ public:
     const Outcome& LastOutcome() const { return m_outcome; }
 
 private:
+    void SetBusy(bool busy);
     void ReadStoreErase();
+    void EraseUntilDone(bool& succeeded);
     void ShowText(const QString& text);
 
     DockingLink& m_link;

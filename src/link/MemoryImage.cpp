@@ -8,6 +8,33 @@
 
 #include <algorithm>
 
+namespace {
+
+struct Record {
+    std::uint8_t b0, b1, b2, b3;
+
+    bool IsEndMark() const { return b0 == 0 && b1 == 0 && b2 == 0 && b3 == 0; }
+};
+
+/// Goes through the records of an image up to the end mark or the end of the frames.
+void ForEachRecord(const colPackets& packets, const std::function<void(const Record&)>& visit) {
+    for (const cPacket& packet : packets) {
+        const QByteArray& frame = packet.RawData;
+        const int start = packet.Tag == 1 ? Wire::FirstRecordOffset : Wire::RecordOffset;
+        const int records = (static_cast<int>(frame.size()) - 1 - start) / Wire::RecordBytes;
+        for (int i = 0; i < records; ++i) {
+            const int at = start + i * Wire::RecordBytes;
+            const Record record{ByteAt(frame, at), ByteAt(frame, at + 1), ByteAt(frame, at + 2),
+                                ByteAt(frame, at + 3)};
+            if (record.IsEndMark())
+                return;
+            visit(record);
+        }
+    }
+}
+
+} // namespace
+
 int FramesFor(int recordCount) {
     const int behindFirst = std::max(0, recordCount - Wire::FirstFrameRecords);
     return 1 + (behindFirst + Wire::FrameRecords - 1) / Wire::FrameRecords;
@@ -57,39 +84,37 @@ const cRawButton& ButtonDirectory::LookUpButtonData(const QString& code) {
     return *m_known.insert(code, button);
 }
 
+bool BeginsWithMarker(const QByteArray& firstFrame) {
+    return ByteAt(firstFrame, Wire::FirstRecordOffset + 3) == Wire::MarkerByte;
+}
+
+int RecordsIn(const colPackets& packets) {
+    int count = 0;
+    ForEachRecord(packets, [&](const Record&) { ++count; });
+    return count;
+}
+
 colRawButtons DecodeImage(const colPackets& packets, ButtonDirectory& directory,
                           const std::function<void()>& decoded) {
     colRawButtons touches;
     // Before the first marker a touch has a time of day on the zero date.
     DateTime date;
     int hour = 0;
-    for (const cPacket& packet : packets) {
-        const QByteArray& frame = packet.RawData;
-        const int start = packet.Tag == 1 ? Wire::FirstRecordOffset : Wire::RecordOffset;
-        const int records = (static_cast<int>(frame.size()) - 1 - start) / Wire::RecordBytes;
-        for (int record = 0; record < records; ++record) {
-            const int at = start + record * Wire::RecordBytes;
-            const int b0 = ByteAt(frame, at), b1 = ByteAt(frame, at + 1),
-                      b2 = ByteAt(frame, at + 2), b3 = ByteAt(frame, at + 3);
-            if (b0 == 0 && b1 == 0 && b2 == 0 && b3 == 0)
-                return touches; // the end mark
-            if (b3 == Wire::MarkerByte) {
-                hour = std::min(b0, 23);
-                date = DateTime::FromDays(DecodeDateCode(b2, b1));
-                Trace(QStringLiteral("Rx date = ") + Hex00(ByteAt(frame, at + 1)) +
-                      Hex00(ByteAt(frame, at + 2)));
-                Trace(QStringLiteral("*Decoded event date = ") +
-                      Format(date, QStringLiteral("Medium Date")));
-                continue;
-            }
-            const QString code = Hex00(ByteAt(frame, at + 2)) + Hex00(ByteAt(frame, at + 1)) +
-                                 Hex00(ByteAt(frame, at));
-            cRawButton touch = directory.LookUpButtonData(code);
-            touch.DateAndTime = date + DateTime::FromTime(hour, std::min(b3, 59));
-            touches.push_back(std::move(touch));
-            if (decoded)
-                decoded();
+    ForEachRecord(packets, [&](const Record& record) {
+        if (record.b3 == Wire::MarkerByte) {
+            hour = std::min<int>(record.b0, 23);
+            date = DateTime::FromDays(DecodeDateCode(record.b2, record.b1));
+            Trace(QStringLiteral("Rx date = ") + Hex00(record.b1) + Hex00(record.b2));
+            Trace(QStringLiteral("*Decoded event date = ") +
+                  Format(date, QStringLiteral("Medium Date")));
+            return;
         }
-    }
+        const QString code = Hex00(record.b2) + Hex00(record.b1) + Hex00(record.b0);
+        cRawButton touch = directory.LookUpButtonData(code);
+        touch.DateAndTime = date + DateTime::FromTime(hour, std::min<int>(record.b3, 59));
+        touches.push_back(std::move(touch));
+        if (decoded)
+            decoded();
+    });
     return touches;
 }

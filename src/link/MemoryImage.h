@@ -22,6 +22,11 @@ QString ReaderIdOf(const QByteArray& firstFrame);
 /// "V" and two hexadecimal digits.
 QString FirmwareTextOf(const QByteArray& firstFrame);
 
+/// True if the image's first record is a marker.
+bool BeginsWithMarker(const QByteArray& firstFrame);
+/// Records in front of the end mark, or of the end of the frames; markers count.
+int RecordsIn(const colPackets& packets);
+
 /// What is known of buttons, looked up in the store once a code.
 class ButtonDirectory {
 public:

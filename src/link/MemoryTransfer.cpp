@@ -17,6 +17,9 @@ constexpr int StartInterval = 500;
 constexpr int PacketInterval = 350;
 constexpr int WatchdogInterval = 5000;
 
+/// What the empty end of an image would name, were it taken for a first frame.
+const QString NoReaderId = QStringLiteral("00000000");
+
 QString Percent(int part, int whole, const char* pattern) {
     return Format((part * 100LL + whole / 2) / whole, QString::fromLatin1(pattern)) + u'%';
 }
@@ -50,6 +53,10 @@ void MemoryTransfer::BeginReading() {
         return;
     m_bytesAtRequest = m_link.BytesSeen();
     m_lineWasBusy = m_bytesAtRequest != m_bytesAtStart;
+    if (m_lineWasBusy) { // what came may have been the answer to an earlier request, or its end
+        m_answered = true;
+        m_tmrTimeout.SetEnabled(true);
+    }
     m_tmrGetPackets.SetEnabled(true);
     gCommActive = true;
     Trapped(
@@ -117,12 +124,21 @@ MemoryTransfer::PacketResult MemoryTransfer::ProcessPacket(const QByteArray& fra
     return m_frameCount == m_frameTotal ? Complete : Running;
 }
 
+MemoryTransfer::Evidence MemoryTransfer::EvidenceOf(const QByteArray& firstFrame) const {
+    const QString readerId = ReaderIdOf(firstFrame);
+    if (IsKnownReader(readerId))
+        return Evidence::Sure;
+    const bool soundStream = !m_lineWasBusy && m_link.InBuffer().Lost() == 0;
+    if (!soundStream || readerId == NoReaderId)
+        return Evidence::None;
+    return BeginsWithMarker(firstFrame) ? Evidence::Sure : Evidence::Count;
+}
+
 MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray& frame) {
-    const QString readerId = ReaderIdOf(frame);
-    const bool trusted = !m_lineWasBusy && m_link.InBuffer().Lost() == 0;
-    if (!trusted && !IsKnownReader(readerId))
+    m_evidence = EvidenceOf(frame);
+    if (m_evidence == Evidence::None)
         return Failed;
-    m_pipeId = readerId;
+    m_pipeId = ReaderIdOf(frame);
     m_firmware = FirmwareTextOf(frame);
     m_recordCount = RecordCountOf(frame);
     if (m_recordCount < 0)
@@ -170,7 +186,9 @@ void MemoryTransfer::EndReading() {
     DoEvents();
     if (m_closed)
         return;
-    if (!StreamHasEnded()) {
+    const bool believed =
+        m_evidence == Evidence::Sure || RecordsIn(m_packets) == m_recordCount;
+    if (!believed || !StreamHasEnded()) {
         Fail(Translate("Download Error"));
         return;
     }
@@ -247,6 +265,8 @@ void MemoryTransfer::Fail(const QString& text) {
 }
 
 void MemoryTransfer::Cancel() {
+    if (m_closed)
+        return;
     m_ok = false;
     Close();
 }

@@ -24,10 +24,10 @@ public:
 
 /// What came of a memory transfer.
 struct TransferResult {
-    bool ok = false;
-    colRawButtons touches;
-    QString readerId;
-    QString firmware; ///< "V" and two hexadecimal digits; empty before the first frame
+    bool OK = false;
+    colRawButtons Buttons;
+    QString PipeID;    ///< the reader's identifier
+    QString tFirmware; ///< "V" and two hexadecimal digits; empty before the first frame
 };
 
 /// Runs one memory read: sends the command, takes the memory frames on a timer and decodes them
@@ -38,11 +38,15 @@ struct TransferResult {
 ///           --> no frame for 5000 ms, a fault, Cancel  --> Closed, no touches
 ///
 /// The frames of a memory image carry no number, so a lost first frame would let the second pass
-/// for it: a made-up reader with made-up touches, and an erase behind. The transfer therefore fails
-/// unless the stream itself is sound: where bytes came before the first frame that belong to no
-/// frame, or the line was not quiet when the request was sent, the first frame must name a reader
-/// that has been taught; and nothing but status frames may follow the last. The watchdog runs from
-/// the first byte on, so that only complete silence waits for the operator.
+/// for it: a made-up reader with made-up touches, and an erase behind. So a first frame is believed
+/// if it names a reader that has been taught. That of another reader is believed only if
+///
+/// - the line was quiet when the request was sent, and no byte came in front of the frame, and
+/// - its first record is a marker, as a reader writes one before its first touch, or else the image
+///   turns out to hold just as many records as its count says.
+///
+/// And nothing but status frames may follow the last frame. The watchdog runs from the first byte
+/// on, so that only complete silence waits for the operator.
 class MemoryTransfer : public QObject {
     Q_OBJECT
 public:
@@ -67,6 +71,8 @@ signals:
     void Closed();
 
 private:
+    /// What tells that the first frame is the first.
+    enum class Evidence { None, Count, Sure };
     enum PacketResult { Running = 0, Complete = 1, Failed = -1, TransferFault = -2, NoReader = -3 };
 
     void BeginReading();
@@ -74,6 +80,7 @@ private:
     PacketResult ProcessPacket(const QByteArray& frame);
     PacketResult ProcessFirstFrame(const QByteArray& frame);
     static PacketResult StatusOf(const QByteArray& frame);
+    Evidence EvidenceOf(const QByteArray& firstFrame) const;
     void EndReading();
     bool StreamHasEnded();
     bool ProcessData();
@@ -99,6 +106,7 @@ private:
     std::int64_t m_bytesAtStart = 0;
     std::int64_t m_bytesAtRequest = 0;
     bool m_lineWasBusy = false;
+    Evidence m_evidence = Evidence::None;
     bool m_answered = false;
     bool m_ok = false;
     bool m_closed = false;

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QStandardPaths>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -30,7 +31,8 @@ public:
     explicit LockFileInstance(const QString& path) : m_file(path) {
         m_file.setStaleLockTime(0); // only a dead holder makes the lock stale, never its age
     }
-    bool Take() { return m_file.tryLock(0); }
+    /// False only if somebody holds it: where no lock can be kept, none is missed.
+    bool Take() { return m_file.tryLock(0) || m_file.error() != QLockFile::LockFailedError; }
 
 private:
     QLockFile m_file;
@@ -71,7 +73,11 @@ QString AppFile(const QString& name) {
     return QDir::toNativeSeparators(QDir(AppPath()).filePath(name));
 }
 
-QString AppExeName() { return QFileInfo(QCoreApplication::applicationFilePath()).baseName(); }
+QString GetMyDocumentsPath() {
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+QString AppExeName() { return QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName(); }
 
 int AppMajor() { return WARDLOCK_VERSION_MAJOR; }
 int AppMinor() { return WARDLOCK_VERSION_MINOR; }
@@ -81,8 +87,9 @@ std::unique_ptr<InstanceLock> TakeInstanceLock() {
     // Not in the application folder, which may not be writable, but named after it: two folders
     // are two installations.
     const QByteArray folder = QFileInfo(AppPath()).canonicalFilePath().toUtf8();
+    const QByteArray user = QDir::homePath().toUtf8();
     const QByteArray name =
-        QCryptographicHash::hash(folder, QCryptographicHash::Sha1).toHex().left(16);
+        QCryptographicHash::hash(folder + '\n' + user, QCryptographicHash::Sha1).toHex().left(16);
     auto lock = std::make_unique<LockFileInstance>(
         QDir::temp().filePath(QStringLiteral("wardlock-%1.lock").arg(QLatin1String(name))));
     if (!lock->Take())

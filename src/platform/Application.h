@@ -12,6 +12,8 @@ QString AppPath();
 void SetAppPath(const QString& folder);
 /// A file beside the program, in the platform's own separators.
 QString AppFile(const QString& name);
+/// The user's documents folder, where file dialogs start.
+QString GetMyDocumentsPath();
 /// The executable's name without its extension.
 QString AppExeName();
 
@@ -25,7 +27,8 @@ class InstanceLock {
 public:
     virtual ~InstanceLock() = default;
 };
-/// Null when another process holds it.
+/// Null when another process of this user holds it. (Between users the store's own lock file stands
+/// guard.)
 std::unique_ptr<InstanceLock> TakeInstanceLock();
 
 /// Writes a file's data and its folder entry through to the disk. Throws RunTimeError.

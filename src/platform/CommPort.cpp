@@ -59,6 +59,7 @@ void CommPort::SetPortOpen(bool open) {
         throw RunTimeError(RunTimeErrorNumber::PortNotAvailable,
                            device.isEmpty() ? QStringLiteral("Invalid port number")
                                             : device + QStringLiteral(": ") + port->errorString());
+    port->clear(QSerialPort::Input); // what waited in the system was meant for somebody else
     connect(port.get(), &QSerialPort::readyRead, this, [this] { Raise(comEvReceive); });
     connect(port.get(), &QSerialPort::errorOccurred, this,
             [this](QSerialPort::SerialPortError error) { HandleError(error); });

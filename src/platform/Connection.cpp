@@ -176,17 +176,18 @@ void CreateStoreFile(const QString& path, const QString& password) {
         throw RunTimeError(RunTimeErrorNumber::FileInUse,
                            QStringLiteral("The file '%1' exists already.")
                                .arg(QDir::toNativeSeparators(path)));
-    sqlite3* database =
-        OpenFile(path, password, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    // An empty store has no page yet; a table that comes and goes gives it its first.
+    sqlite3* database = nullptr;
     try {
+        database = OpenFile(path, password, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+        // An empty store has no page yet; a table that comes and goes gives it its first.
         Run(database, QStringLiteral("CREATE TABLE tblNone (ID INTEGER)"));
         Run(database, QStringLiteral("DROP TABLE tblNone"));
+        sqlite3_close(database);
     } catch (...) {
         sqlite3_close(database);
+        QFile::remove(path); // never leave half a store
         throw;
     }
-    sqlite3_close(database);
 }
 
 void CompactDatabase(const QString& source, const QString& destination) {

@@ -19,11 +19,6 @@ QString WithoutSeconds(QString pattern) {
     return pattern.remove(seconds);
 }
 
-QString LocaleText(DateTime value, const QString& qtPattern) {
-    const QLocale locale;
-    return locale.toString(QDateTime(value.ToQDate(), value.ToQTime()), qtPattern);
-}
-
 QString Padded(int value, int width) {
     return QStringLiteral("%1").arg(value, width, 10, QLatin1Char('0'));
 }
@@ -36,11 +31,12 @@ QString GetShortDateFormat() {
 
 QString Format(DateTime value, const QString& pattern) {
     if (Is(pattern, u"Short Date"))
-        return LocaleText(value, GetShortDateFormat());
+        return QLocale().toString(value.ToQDate(), GetShortDateFormat());
     if (Is(pattern, u"Medium Date"))
         return QLocale().toString(value.ToQDate(), QStringLiteral("dd-MMM-yyyy"));
     if (Is(pattern, u"Short Time"))
-        return LocaleText(value, WithoutSeconds(QLocale().timeFormat(QLocale::ShortFormat)));
+        return QLocale().toString(value.ToQTime(),
+                                  WithoutSeconds(QLocale().timeFormat(QLocale::ShortFormat)));
 
     const QDate date = value.ToQDate();
     const QTime time = value.ToQTime();

@@ -22,8 +22,8 @@ struct Message {
 class MessageBoxes {
 public:
     virtual ~MessageBoxes() = default;
-    /// Returns when it has been answered. Closing a box answers as Escape would: with the button
-    /// that does nothing.
+    /// Returns when it has been answered. Closing a box answers as Escape would: with its last
+    /// button.
     virtual MessageAnswer Show(const Message& message) = 0;
 };
 

@@ -85,7 +85,7 @@ QString DateNumber(const QString& literal) {
                                .arg(literal));
     // Seventeen digits give the very double that a date-time of the same value is stored as. The
     // exponent keeps it a real number to the engine.
-    return QString::number(DateTime::FromQt(QDateTime(date, time)).ToStore(), 'e', 17);
+    return QString::number((DateTime::FromQt(date) + DateTime::FromTime(number(4), number(5), number(6))).ToStore(), 'e', 17);
 }
 
 QString Rendered(const Token& token) {

@@ -11,7 +11,7 @@ StoreLock::StoreLock(const QString& storePath) {
     static QHash<QString, std::weak_ptr<QLockFile>> held;
     const QFileInfo store(storePath);
     const QString path =
-        QDir(store.absolutePath()).filePath(store.completeBaseName() + QStringLiteral(".ldb"));
+        QDir(QFileInfo(store.absolutePath()).canonicalFilePath()).filePath(store.completeBaseName() + QStringLiteral(".ldb"));
     m_file = held.value(path).lock();
     if (m_file)
         return;

@@ -8,6 +8,7 @@
 #include "ui_frmMdiReports.h"
 
 #include <QAction>
+#include <QHeaderView>
 #include <QKeyEvent>
 
 namespace {
@@ -28,6 +29,7 @@ frmMdiReports::frmMdiReports(ReportViewer& viewer, QWidget* parent)
     addAction(open);
     m_ui->lvwReports->addAction(open);
     m_ui->lvwReports->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_ui->lvwReports->header()->setStretchLastSection(false);
     m_ui->lvwReports->setIconSize(QSize(20, 20));
     LoadReportList();
     m_ui->lvwReports->setCurrentItem(m_ui->lvwReports->topLevelItem(0));

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int LastTry = 4;
 
+/// A saved number that is none must not keep anybody from logging in.
 OperatorType LastLogin() {
     int saved = MasterOperator;
     IgnoringErrors([&] {
@@ -32,6 +33,7 @@ frmLogin::frmLogin(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui:
     (LastLogin() == MasterOperator ? m_ui->optUser_0 : m_ui->optUser_1)->setChecked(true);
     Guarded("LoadSplashImage of Form frmSplash",
             [this] { ShowPicture(*m_ui->imgLogo, AppFile(QStringLiteral("login.bmp"))); });
+    SelectAllOnFocus(*m_ui->txtEnteredPassword);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmLogin::cmdOK_Click);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmLogin::cmdCancel_Click);
 }
@@ -50,8 +52,14 @@ void frmLogin::FocusPassword() {
 
 void frmLogin::cmdOK_Click() {
     const OperatorType type = m_ui->optUser_0->isChecked() ? MasterOperator : UserOperator;
-    m_result = Guarded("cmdOK_Click of Form frmLogin", ErrorShow::Dialog,
-                       [&] { return CheckOperator(type, m_ui->txtEnteredPassword->text()); });
+    bool checked = false;
+    m_result = Guarded("cmdOK_Click of Form frmLogin", ErrorShow::Dialog, [&] {
+        const OperatorType result = CheckOperator(type, m_ui->txtEnteredPassword->text());
+        checked = true;
+        return result;
+    });
+    if (!checked) // the store failed, not the operator
+        return;
     if (m_result != NoOperator) {
         accept();
         return;

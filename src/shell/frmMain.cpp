@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include "Clock.h"
 #include "RunTimeError.h"
 #include "Settings.h"
 #include "WindowTools.h"
@@ -68,12 +69,13 @@ void frmMain::MDIForm_Load() {
         InitToolbar();
         ConnectMenu();
         HideUnbuilt();
+        setWindowTitle(TitleWithVersion());
+        UpdateLanguage();
+        m_ui->lblTitle->setMinimumHeight(PixelsOf(StripHeight - ToolbarHeight));
         m_ui->tbrMain->setMinimumHeight(PixelsOf(ToolbarHeight));
         m_ui->pctMenu->setMinimumHeight(PixelsOf(StripHeight));
         setMinimumSize(PixelsOf(LeastWidth), PixelsOf(LeastHeight));
-        setWindowTitle(TitleWithVersion());
-        UpdateLanguage();
-        RestoreSavedPosition();
+        RestoreSavedPosition(); // last: a saved number that is none costs the place alone
     });
 }
 
@@ -99,7 +101,7 @@ void frmMain::ConnectMenu() {
 }
 
 void frmMain::InitToolbar() {
-    m_ui->tbrMain->clear();
+    qDeleteAll(m_ui->tbrMain->actions());
     for (const ToolbarRow& row : Toolbar) {
         const QString key = QString::fromUtf8(row.key);
         QAction* action = m_ui->tbrMain->addAction(ProgramIcon(key), Translate(row.caption));
@@ -138,8 +140,6 @@ void frmMain::NavigateToolbarButtons(const QString& state) {
     m_ui->mnuTools->menuAction()->setVisible(master);
     for (QAction* action : {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore})
         action->setEnabled(master);
-    for (QAction* action : m_ui->mnuTools->actions())
-        action->setEnabled(master); // their shortcuts, too, are not for a user
     m_ui->mnuToolsPipeOptions->setEnabled(master && gDockingDetected);
     m_ui->mnuToolsClearPipe->setEnabled(master && gDockingDetected);
     if (!gDockingDetected)
@@ -203,6 +203,13 @@ void frmMain::GoReports() {
     });
 }
 
+/// Handles what waits, but lets no click through to pages and menus.
+void frmMain::DoEventsWithoutMenu() {
+    ShowBusy(true);
+    DoEvents();
+    ShowBusy(false);
+}
+
 void frmMain::ShowBusy(bool busy) {
     m_ui->tbrMain->setEnabled(!busy);
     m_ui->mnuBar->setEnabled(!busy);
@@ -254,11 +261,14 @@ void frmMain::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    MDIForm_Unload();
+    if (m_open)
+        MDIForm_Unload();
     event->accept();
 }
 
 void frmMain::ExitApp() {
+    if (!std::exchange(m_open, false))
+        return;
     IgnoringErrors([this] {
         m_link.ClosePort();
         deMain.Close();
@@ -267,12 +277,8 @@ void frmMain::ExitApp() {
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window != this)
             window->close();
+    hide();
     QApplication::quit();
-}
-
-void frmMain::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    m_ui->lblTitle->setMinimumHeight(PixelsOf(StripHeight - ToolbarHeight));
 }
 
 void frmMain::EditOperator(OperatorType type) {

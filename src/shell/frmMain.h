@@ -26,6 +26,7 @@ public:
     void ExitApp();
     void GoHome();
     void GoOptions();
+    void GoOnline();
     void GoReports();
     /// Marks the present page: one character a toolbar button, "1" for enabled. Then takes back
     /// what the operator, or the lack of a docking station, does not allow. Throws RunTimeError
@@ -37,11 +38,8 @@ public:
     OperatorType UserType() const { return m_userType; }
     void SetUserType(OperatorType type) { m_userType = type; }
 
-    void GoOnline();
-
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void MDIForm_Load();
@@ -53,6 +51,7 @@ private:
 
     bool UnloadPage();
     void ShowPage(QWidget* page);
+    void DoEventsWithoutMenu();
     void ShowBusy(bool busy);
     void ShowStatus(const QString& text, const QString& icon);
 
@@ -76,6 +75,7 @@ private:
     frmMdiDownload* m_downloadPage = nullptr;
     OperatorType m_userType = NoOperator;
     int m_portNumber = 1;
+    bool m_open = true; ///< ExitApp has not run yet
     bool m_online = false;
     bool m_dockingDetected = false;
 };

@@ -1,6 +1,5 @@
 // The main window's part in the link: connecting, the port choice, and showing the state.
 
-#include "Clock.h"
 #include "WindowTools.h"
 #include "frmGoOnline.h"
 #include "frmMain.h"
@@ -12,17 +11,18 @@
 
 void frmMain::GoConnect() {
     m_link.ClosePort();
-    DoEvents();
+    DoEventsWithoutMenu();
     for (bool done = false; !done;) {
         done = true;
         frmGoOnline dialog(m_link, this);
         dialog.Online = m_online;
         dialog.MyCommPort = QString::number(m_portNumber);
+        dialog.MyCommSettings = DockingLink::CommSettings;
         dialog.exec();
         if (!dialog.OK) {
             m_online = false;
             m_dockingDetected = false;
-            gDockingDetected = false;
+            gDockingDetected = false; // else Download would stay open without a port
             IvMessageBox(Translate("Could not open the com port.") + u'\n' +
                              Translate("Check settings and try again.") + u'\n' +
                              Translate("Working in Offline Mode"),
@@ -54,7 +54,7 @@ void frmMain::GoOffline() {
 
 void frmMain::GoOptions() {
     GoOffline();
-    DoEvents();
+    DoEventsWithoutMenu();
     ShowOnlineMode(m_online);
     frmPrpComms dialog(this);
     dialog.comPort = m_portNumber;

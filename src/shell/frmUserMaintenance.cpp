@@ -6,15 +6,12 @@
 #include "mTranslations.h"
 #include "ui_frmUserMaintenance.h"
 
-#include <QEvent>
-#include <QTimer>
-
 frmUserMaintenance::frmUserMaintenance(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmUserMaintenance>()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
-    m_ui->txtPassword->installEventFilter(this);
-    m_ui->txtRetypePassword->installEventFilter(this);
+    SelectAllOnFocus(*m_ui->txtPassword);
+    SelectAllOnFocus(*m_ui->txtRetypePassword);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmUserMaintenance::cmdOK_Click);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -60,11 +57,4 @@ void frmUserMaintenance::cmdOK_Click() {
     }
     if (Update())
         accept();
-}
-
-bool frmUserMaintenance::eventFilter(QObject* watched, QEvent* event) {
-    // A mouse press that gave the focus would take the selection back, hence behind the event.
-    if (event->type() == QEvent::FocusIn)
-        QTimer::singleShot(0, static_cast<QLineEdit*>(watched), &QLineEdit::selectAll);
-    return QDialog::eventFilter(watched, event);
 }

@@ -21,9 +21,6 @@ public:
     /// To be called before it is shown.
     void FormStart(OperatorType type);
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void ReadOperatorRecord();
     bool Update();

@@ -4,7 +4,6 @@
 #include "Clock.h"
 #include "Format.h"
 #include "MessageBox.h"
-#include "Settings.h"
 #include "WindowTools.h"
 #include "deMain.h"
 #include "frmLanguage.h"
@@ -13,6 +12,7 @@
 #include "frmSplash.h"
 #include "mErrorHandler.h"
 #include "mHelp.h"
+#include "mSettings.h"
 #include "mStore.h"
 #include "mTranslations.h"
 
@@ -23,7 +23,6 @@
 namespace {
 
 constexpr int SplashPause = 2000; ///< ms
-constexpr int CompanyLineLength = 50;
 
 std::unique_ptr<InstanceLock> g_instance;
 std::unique_ptr<frmMain> g_frmMain;
@@ -40,8 +39,7 @@ void ReadCommandLine(const QString& commandLine) {
 
 bool ReadLanguage() {
     const auto read = [] {
-        gLanguage = ToInteger(GetSetting(SettingsApplication, SettingsSection::Properties,
-                                         QStringLiteral("Language"), QStringLiteral("-1")));
+        ReadLanguageSetting();
         if (gDebugMode)
             WriteLog(QStringLiteral("Setting Dictionary Object, Language = %1").arg(gLanguage));
         return true;
@@ -53,9 +51,11 @@ bool ReadLanguage() {
 }
 
 /// Tests, compacts and opens the store, and connects the report data environment.
-bool OpenStore(frmSplash& splash) {
+bool TestCompactAndOpen(frmSplash& splash) {
     splash.ShowMessage(Translate("Opening Database..."));
     gDatabasePath = AppFile(QStringLiteral("main.mdb"));
+    if (gDebugMode)
+        WriteLog(QStringLiteral("Database path = ") + gDatabasePath);
     gConnectionString = ConnectionText(gDatabasePath, StorePassword);
     if (!ADOTest(gDatabasePath, StorePassword)) {
         WriteLog(QStringLiteral("ADOTest Failed. Exiting..."));
@@ -79,7 +79,7 @@ bool OpenBehindSplash() {
     DoEvents();
     splash.ShowMessage(Translate("Initializing Online Help..."));
     SetHelpFile(AppFile(Translate("WK3_ENG.HLP")));
-    if (!OpenStore(splash))
+    if (!TestCompactAndOpen(splash))
         return false;
     Sleep(SplashPause);
     splash.repaint();
@@ -93,16 +93,6 @@ void CloseAfterFailedLogin() {
     });
     for (QWidget* window : QApplication::topLevelWidgets())
         window->close();
-}
-
-void ReadRemainingSettings() {
-    const auto saved = [](const QString& key, const QString& fallback) {
-        return GetSetting(SettingsApplication, SettingsSection::Properties, key, fallback);
-    };
-    gAutoSetTime = ToBoolean(saved(QStringLiteral("AutoSetTime"), BooleanText(true)));
-    for (std::size_t line = 0; line < gCompanyInfo.size(); ++line)
-        gCompanyInfo[line] =
-            saved(QStringLiteral("CompanyInfo%1").arg(line + 1), {}).left(CompanyLineLength);
 }
 
 } // namespace

@@ -7,7 +7,7 @@ QString LoginNameOf(OperatorType type) {
     return type == MasterOperator ? QStringLiteral("KEEPER") : QStringLiteral("CREW");
 }
 
-OperatorType CheckOperator(OperatorType type, const QString& entered) {
+OperatorType CheckOperator(OperatorType type, const QString& entered, RememberLogin remember) {
     const QString name = LoginNameOf(type);
     Recordset operators;
     operators.CursorLocation = adUseClient;
@@ -21,8 +21,9 @@ OperatorType CheckOperator(OperatorType type, const QString& entered) {
         operators.Update();
         return NoOperator;
     }
-    SaveSetting(SettingsApplication, SettingsSection::Info, QStringLiteral("LastLogin"),
-                QString::number(type));
+    if (remember == RememberLogin::Yes)
+        SaveSetting(SettingsApplication, SettingsSection::Info, QStringLiteral("LastLogin"),
+                    QString::number(type));
     operators.MoveFirst();
     const bool equal =
         operators.Text(u"Password").toUpper() == entered.trimmed().toUpper();

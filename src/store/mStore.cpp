@@ -4,6 +4,7 @@
 #include "Format.h"
 #include "MessageBox.h"
 #include "Recordset.h"
+#include "StoreLock.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"
@@ -74,6 +75,9 @@ bool ADOInit(const QString& path, const QString& password) {
 void CompactStore(const QString& provider, const QString& path, const QString& tempPath,
                   const QString& password) {
     IgnoringErrors([&] {
+        // Held until the new file is in place: who opened the old one in between would write into
+        // nothing.
+        const StoreLock hold(path);
         // Left behind by a start that was killed; the engine's own file beside it as well.
         QFile::remove(tempPath);
         QFile::remove(tempPath + QStringLiteral("-journal"));
@@ -82,6 +86,7 @@ void CompactStore(const QString& provider, const QString& path, const QString& t
             provider + tempPath +
                 QStringLiteral(";Jet OLEDB:Engine Type=5; Jet OLEDB:Database Password=") +
                 password);
+        QFile::setPermissions(tempPath, QFile::permissions(path));
         ReplaceFile(tempPath, path);
     });
     QFile::remove(tempPath);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DateTime.h"
+#include "StorePassword.h"
 
 #include <QString>
 

@@ -46,7 +46,7 @@ class DamageTest : public QObject {
         QByteArray Stream() const { return frames.join(); }
     };
 
-    Office m_office;
+    TestHome m_home{TestHome::DemoSite};
     ScriptedBoxes m_boxes;
     LineEnd m_line;
     DockingLink m_link;
@@ -58,26 +58,26 @@ class DamageTest : public QObject {
         const TestClock clock(DateTime::FromQt(QDate(2026, 3, 1)), speed);
         m_line.Commands.clear();
         m_line.Answers[CmdReadMemory()] = stream;
-        m_boxes.Script({});
         RecordingView view(m_link);
         view.Patience = 60'000;
         MemoryDownload download(m_link, view);
         download.Run();
         const QString verdict = Judge(reader, view, download.LastOutcome().readerId);
-        if (!Office::Rows().isEmpty())
-            Office::Forget();
+        if (!StoredTouches().isEmpty())
+            ForgetTouches();
         ++m_verdicts[verdict];
         return verdict;
     }
 
-    QString Judge(const Reader& reader, const RecordingView& view, const QString& readerId) const {
-        const QStringList rows = Office::Rows();
+    QString Judge(const Reader& reader, const RecordingView& view, const QString& readerId) {
+        const QStringList rows = StoredTouches();
+        const QString messages = m_boxes.TakeTexts().join(u'|');
         const int erasures = m_line.Commands.value(CmdEraseMemory());
         if (!view.ProgressInRange)
             return QStringLiteral("the progress left its range");
         if (gCommActive || m_line.Commands.value(CmdReadMemory()) != 1)
             return QStringLiteral("the conversation did not end");
-        if (rows == reader.touches && erasures == 1 && m_boxes.Texts.isEmpty() &&
+        if (rows == reader.touches && erasures == 1 && messages.isEmpty() &&
             readerId == ReaderIdOf(reader.frames.first()))
             return QStringLiteral("stored");
         if (!rows.isEmpty() || erasures != 0 || view.MessageText != u"Download Failed")
@@ -86,9 +86,9 @@ class DamageTest : public QObject {
                 .arg(readerId)
                 .arg(erasures)
                 .arg(view.MessageText);
-        if (view.WasCancelled && m_boxes.Texts.isEmpty())
+        if (view.WasCancelled && messages.isEmpty())
             return QStringLiteral("waits");
-        return m_boxes.Texts.join(u'|');
+        return messages;
     }
 
     /// One run of the proof. Gives an empty text where it holds.

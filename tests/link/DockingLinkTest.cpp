@@ -16,7 +16,7 @@ constexpr double Fast = 25;
 class DockingLinkTest : public QObject {
     Q_OBJECT
 
-    Office m_office;
+    TestHome m_home{TestHome::DemoSite};
 
 private slots:
     void cleanup() {
@@ -26,7 +26,7 @@ private slots:
 
     void Detects() {
         const TestClock clock(Fast);
-        Dock dock(m_office, "");
+        Dock dock(m_home, "");
         DockingLink link;
         QVERIFY(link.OpenPort(1));
         QVERIFY(link.OpenPort(1)); // it is open already
@@ -46,7 +46,7 @@ private slots:
 
     // One try takes the answer pause, the time-out and the pause behind it, by the real clock.
     void SilenceTakesItsTime() {
-        Dock dock(m_office, "silent");
+        Dock dock(m_home, "silent");
         DockingLink link;
         QVERIFY(link.OpenPort(1));
         QElapsedTimer timer;
@@ -80,7 +80,7 @@ private slots:
         QFETCH(bool, obeyed);
         const TestClock clock(DateTime::FromQt(QDateTime(QDate(2026, 3, 1), QTime(8, 30, 10))),
                               Fast);
-        Dock dock(m_office, "fault " + fault);
+        Dock dock(m_home, "fault " + fault);
         DockingLink link;
         QVERIFY(link.OpenPort(1));
         QTEST(link.SetClockToNow(), "succeeds");
@@ -91,7 +91,7 @@ private slots:
     // The first half is there at the first look, the other comes between two looks.
     void ReplyInTwoPieces() {
         const TestClock clock(DateTime::FromQt(QDate(2026, 3, 1)), 5);
-        Dock dock(m_office, "cut 140");
+        Dock dock(m_home, "cut 140");
         DockingLink link;
         QVERIFY(link.OpenPort(1));
         QVERIFY(link.TxNewDate(23, 59, 0x01, 0x02));
@@ -139,7 +139,7 @@ private slots:
 
     void Erases() {
         const TestClock clock(Fast);
-        Dock dock(m_office, "refuse erase 1 02\ntouch 2026-03-01 08:30 1A40C2");
+        Dock dock(m_home, "refuse erase 1 02\ntouch 2026-03-01 08:30 1A40C2");
         DockingLink link;
         QVERIFY(link.OpenPort(1));
         bool succeeded = true;
@@ -179,7 +179,7 @@ private slots:
     }
 
     void BytesBetweenConversationsAreDropped() {
-        Dock dock(m_office, "");
+        Dock dock(m_home, "");
         DockingLink link;
         QVERIFY(link.OpenPort(1));
         dock.Say("button 1A40C2");
@@ -191,13 +191,13 @@ private slots:
     }
 
     void PortsThatCannotBeOpened() {
-        OverrideDevice(m_office.Path("nothing"));
+        OverrideDevice(m_home.File("nothing"));
         DockingLink link;
         QVERIFY(!link.OpenPort(1));
-        OverrideDevice(m_office.Path("main.mdb"));
+        OverrideDevice(m_home.File("main.mdb"));
         QVERIFY(!link.OpenPort(1));
         {
-            Dock dock(m_office, "");
+            Dock dock(m_home, "");
             DockingLink other;
             QVERIFY(other.OpenPort(1));
             QVERIFY(!link.OpenPort(1));
@@ -209,7 +209,7 @@ private slots:
         QTRY_VERIFY(!link.comPort().PortOpen());
         const TestClock clock(Fast);
         QVERIFY(!link.DetectStation());
-        Dock again(m_office, "");
+        Dock again(m_home, "");
         QVERIFY(link.OpenPort(1));
         QVERIFY(link.DetectStation());
     }

@@ -1,19 +1,14 @@
 #pragma once
 
-#include "Application.h"
 #include "Clock.h"
 #include "CommPort.h"
-#include "DemoStore.h"
 #include "DockingLink.h"
-#include "Format.h"
 #include "MemoryDownload.h"
 #include "MemoryTransfer.h"
-#include "MessageBox.h"
 #include "Recordset.h"
-#include "Schema.h"
-#include "StorePassword.h"
+#include "ScriptedBoxes.h"
+#include "TestHome.h"
 #include "mDeclareGlobals.h"
-#include "mStore.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -21,7 +16,6 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QSocketNotifier>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -32,8 +26,8 @@
 #include <stdlib.h>
 #include <unistd.h>
 
-// What the tests of the reader link share: an office with the demonstration store, the far end of
-// the line (the simulated dock, or a bare pseudo-terminal), and memory images made by hand.
+// What the tests of the reader link share: memory images made by hand, the far end of the line (the
+// simulated dock, or a bare pseudo-terminal), and a download that nobody watches.
 
 inline QByteArray Hex(const char* digits) { return QByteArray::fromHex(digits); }
 
@@ -71,69 +65,31 @@ inline QByteArrayList SomeRecords(int count) {
     return records;
 }
 
-/// Answers message boxes from a list, then harmlessly, and keeps what they said.
-class ScriptedBoxes : public MessageBoxes {
-public:
-    ScriptedBoxes() { InstallMessageBoxes(this); }
-    ~ScriptedBoxes() override { InstallMessageBoxes(nullptr); }
-    MessageAnswer Show(const Message& message) override {
-        Texts += message.text;
-        return Answers.isEmpty() ? HarmlessAnswer(message.buttons) : Answers.takeFirst();
-    }
-    void Script(const QList<MessageAnswer>& answers) {
-        Texts.clear();
-        Answers = answers;
-    }
+/// A touch as "CODE d.m.yyyy h:nn".
+inline QString TouchText(const QString& code, DateTime time) {
+    return code + time.ToQDate().toString(QStringLiteral(" d.M.yyyy ")) +
+           time.ToQTime().toString(QStringLiteral("H:mm"));
+}
 
-    QList<MessageAnswer> Answers;
-    QStringList Texts;
-};
+/// The stored touches in the order in which they were stored.
+inline QStringList StoredTouches() {
+    QStringList rows;
+    Recordset events;
+    events.CursorLocation = adUseClient;
+    events.Open(QStringLiteral("SELECT * FROM tblEvents ORDER BY ID"), *gConn);
+    for (; !events.Eof(); events.MoveNext())
+        rows += TouchText(events.Text(u"tButtonCode"), events.Date(u"dtDateTime"));
+    return rows;
+}
 
-/// An application folder with the demonstration store open, and settings of its own.
-class Office {
-public:
-    Office() {
-        qputenv("XDG_CONFIG_HOME", m_dir.path().toLocal8Bit());
-        SetAppPath(m_dir.path());
-        const QString path = m_dir.filePath(QStringLiteral("main.mdb"));
-        CreateStoreFile(path, StorePassword);
-        if (!ADOInit(path, StorePassword))
-            throw std::runtime_error("no store");
-        CreateTables(*gConn);
-        DemoStore::Fill(*gConn);
-    }
-    ~Office() {
-        OverrideDevice({});
-        gConn.reset();
-    }
-    QString Path(const char* name) const { return m_dir.filePath(QString::fromLatin1(name)); }
-
-    /// The stored touches, "CODE d.m.yyyy h:nn" each, in the order in which they were stored.
-    static QStringList Rows() {
-        QStringList rows;
-        Recordset events;
-        events.CursorLocation = adUseClient;
-        events.Open(QStringLiteral("SELECT * FROM tblEvents ORDER BY ID"), *gConn);
-        for (; !events.Eof(); events.MoveNext())
-            rows += TouchText(events.Text(u"tButtonCode"), events.Date(u"dtDateTime"));
-        return rows;
-    }
-    static QString TouchText(const QString& code, DateTime time) {
-        return code + time.ToQDate().toString(QStringLiteral(" d.M.yyyy ")) +
-               time.ToQTime().toString(QStringLiteral("H:mm"));
-    }
-    static void Forget() { gConn->Execute(QStringLiteral("DELETE * FROM tblEvents")); }
-
-private:
-    QTemporaryDir m_dir;
-};
+inline void ForgetTouches() { gConn->Execute(QStringLiteral("DELETE * FROM tblEvents")); }
 
 /// The simulated docking station, as a program of its own.
 class Dock {
 public:
-    Dock(const Office& office, const QByteArray& scenario)
-        : Device(office.Path("dock")), m_log(office.Path("dock.log")) {
-        QFile file(office.Path("dock.scenario"));
+    Dock(const TestHome& home, const QByteArray& scenario)
+        : Device(home.File("dock")), m_log(home.File("dock.log")) {
+        QFile file(home.File("dock.scenario"));
         if (!file.open(QIODevice::WriteOnly) || file.write(scenario) < 0)
             throw std::runtime_error("no scenario");
         file.close();
@@ -162,7 +118,9 @@ public:
         QFile file(m_log);
         return file.open(QIODevice::ReadOnly) ? file.readAll().count(text) : -1;
     }
-    bool HasEnded() { return m_process.waitForFinished(); }
+    bool HasEnded() {
+        return m_process.state() == QProcess::NotRunning || m_process.waitForFinished();
+    }
 
     const QString Device;
 

@@ -28,7 +28,7 @@ colRawButtons Decode(const QByteArrayList& frames) {
 QString Text(const colRawButtons& touches) {
     QStringList texts;
     for (const cRawButton& touch : touches)
-        texts += Office::TouchText(touch.ButtonCode, touch.DateAndTime);
+        texts += TouchText(touch.ButtonCode, touch.DateAndTime);
     return texts.join(u',');
 }
 
@@ -37,7 +37,7 @@ QString Text(const colRawButtons& touches) {
 class WireTest : public QObject {
     Q_OBJECT
 
-    Office m_office;
+    TestHome m_home{TestHome::DemoSite};
 
 private slots:
     void Commands() {
@@ -63,9 +63,9 @@ private slots:
         QCOMPARE(build(167), FrameOf(QByteArray(167, '\x80')));
         for (const qsizetype size : {168, 255, 256})
             QVERIFY_THROWS_EXCEPTION(RunTimeError, build(size));
-        QVERIFY(boxes.Texts.isEmpty());
+        QVERIFY(boxes.Messages.isEmpty());
         QVERIFY_THROWS_EXCEPTION(RunTimeError, build(257));
-        QCOMPARE(boxes.Texts, {"Illegal value in Build packet : Data too long"});
+        QCOMPARE(boxes.TakeTexts(), {"Illegal value in Build packet : Data too long"});
     }
 
     void Texts() {

@@ -213,7 +213,6 @@ private slots:
         };
         QCOMPARE(main->findChild<QMenu*>(QStringLiteral("mnuTools"))->menuAction()->isVisible(),
                  tools);
-        QCOMPARE(action("mnuViewOptions")->isEnabled(), tools);
         QVERIFY(action("mnuFileExit")->isEnabled());
         for (const char* unbuilt : {"setup", "mnuFileArchive", "mnuFileBackup", "mnuFileRestore",
                                     "mnuToolsPipeOptions", "mnuToolsClearPipe", "mnuToolsReaderFW",
@@ -331,6 +330,37 @@ private slots:
         QCOMPARE(MainWindow()->findChild<QMenu*>(QStringLiteral("mnuFile"))->title(),
                  QStringLiteral("&File"));
         QCOMPARE(Saved(SettingsSection::Properties, "Language"), QStringLiteral("0"));
+        QVERIFY(!MainWindow()->findChild<QAction*>(QStringLiteral("setup"))->isVisible());
+        QVERIFY(!MainWindow()->findChild<QAction*>(QStringLiteral("download"))->isEnabled());
+    }
+
+    void NothingElseIsBegunDuringAnErase() {
+        Dock dock(Night + "fault silent erase\n");
+        OverrideDevice(dock.Device());
+        Script login;
+        LogIn(login, QStringLiteral("keeper"));
+        login.Start();
+        QVERIFY(Main({}));
+        MainWindow()->GoOnline();
+        auto* erase = Script::Find<QAbstractButton>(QStringLiteral("frmMdiDownload"),
+                                                    QStringLiteral("cmdOnline_1"));
+        bool refused = false;
+        Script script;
+        script.Answer(QStringLiteral("Yes"));
+        script.Then([&] {
+            if (erase->isEnabled())
+                return false;
+            MainWindow()->GoHome();
+            MainWindow()->close();
+            refused = MainWindow()->isVisible() && erase->isVisible();
+            return true;
+        });
+        script.Answer(QStringLiteral("No"));
+        script.Start();
+        erase->click();
+        QVERIFY(script.Finish());
+        QVERIFY(refused);
+        QVERIFY(erase->isEnabled());
     }
 
     void BadStartsEndAsTheyShould_data() {

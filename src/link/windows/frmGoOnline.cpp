@@ -30,7 +30,7 @@ void frmGoOnline::Connect() {
     message(Translate("Ready..."));
     message(Translate("Opening COM port...") + QStringLiteral("\n\n"));
     Sleep(300);
-    if (!m_link.OpenPort(MyCommPort.toInt())) {
+    if (!m_link.OpenPort(MyCommPort.toInt(), MyCommSettings)) {
         AppendMessage(Translate("Could Not Open Com ") + MyCommPort + u'\n' +
                       Translate("Please try another COM port or check that the COM port is not in "
                                 "use by another program."));

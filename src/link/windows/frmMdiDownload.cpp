@@ -23,6 +23,7 @@ frmMdiDownload::frmMdiDownload(DockingLink& link, QWidget* parent)
     m_ui->cmdOnline_0->setIcon(ProgramIcon(QStringLiteral("download")));
     m_ui->cmdOnline_1->setIcon(ProgramIcon(QStringLiteral("erase")));
     m_ui->lvwDownload->setModel(&m_touches);
+    m_ui->lvwDownload->header()->setStretchLastSection(false);
     // Its place stays while it is hidden, so that the buttons stay where they are.
     QSizePolicy policy = m_ui->lblMsg->sizePolicy();
     policy.setRetainSizeWhenHidden(true);

@@ -2,6 +2,17 @@
 
 #include "RowSource.h"
 
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+bool IsRule(const QString& text) {
+    return std::all_of(text.begin(), text.end(), [](QChar letter) { return letter == u'_'; });
+}
+
+} // namespace
+
 QString PageWords::Expanded(const QString& pattern) const {
     if (!pattern.contains(u'%'))
         return pattern;
@@ -83,7 +94,15 @@ void PagePainter::PaintFixed(const ReportControl& control, QPoint origin) {
 void PagePainter::PaintLine(const ControlStyle& style, QPoint origin) {
     const QPoint from = style.box.topLeft() + origin;
     const QPoint to = from + QPoint(style.box.width(), style.box.height());
-    m_painter.setPen(QPen(style.colour, style.thickness, Qt::SolidLine, Qt::FlatCap));
+    DrawLine(from, to, style.colour, style.thickness);
+}
+
+/// As thick as a whole number of the device's dots: alike lines look alike wherever they fall.
+void PagePainter::DrawLine(QPointF from, QPointF to, const QColor& colour, qreal thickness) {
+    const qreal dots = std::max(1.0, std::round(thickness * m_painter.deviceTransform().m22()));
+    QPen pen(colour, dots, Qt::SolidLine, Qt::FlatCap);
+    pen.setCosmetic(true);
+    m_painter.setPen(pen);
     m_painter.drawLine(from, to);
     m_colour = QColor();
 }
@@ -102,10 +121,24 @@ void PagePainter::PaintLabel(const ControlStyle& style, QPoint origin, const QSt
     }
 }
 
+/// A text of underscores alone is a rule. Letter by letter its joints would show.
+void PagePainter::PaintRule(const ControlStyle& style, const QRectF& box, qreal baseline,
+                            qsizetype letters) {
+    const ReportFont& font = m_fonts[static_cast<std::size_t>(style.font)];
+    const qreal width = font.Width(QStringLiteral("_")) * static_cast<qreal>(letters);
+    const QPointF from(box.left(), baseline + font.UnderlinePosition());
+    DrawLine(from, from + QPointF(std::min(width, box.width()), 0), style.colour,
+             font.UnderlineThickness());
+}
+
 void PagePainter::PaintText(const ControlStyle& style, const QRectF& box, qreal baseline,
                             const QString& text) {
-    const ReportFont& font = Use(style);
     const bool clip = style.overflow == Overflow::Clip;
+    if (clip && IsRule(text)) {
+        PaintRule(style, box, baseline, text.size());
+        return;
+    }
+    const ReportFont& font = Use(style);
     const QString shown = clip ? font.Reaching(text, box.width()) : font.Fitted(text, box.width());
     qreal left = box.left();
     if (style.alignment & Qt::AlignRight)

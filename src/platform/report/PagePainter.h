@@ -38,6 +38,8 @@ private:
     void PaintFixed(const ReportControl& control, QPoint origin);
     void PaintLine(const ControlStyle& style, QPoint origin);
     void PaintLabel(const ControlStyle& style, QPoint origin, const QString& caption);
+    void DrawLine(QPointF from, QPointF to, const QColor& colour, qreal thickness);
+    void PaintRule(const ControlStyle& style, const QRectF& box, qreal baseline, qsizetype letters);
     void PaintText(const ControlStyle& style, const QRectF& box, qreal baseline,
                    const QString& text);
     const ReportFont& Use(const ControlStyle& style);

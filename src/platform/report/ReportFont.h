@@ -19,6 +19,9 @@ public:
     qreal Ascent() const { return m_ascent; }
     qreal Height() const { return m_height; }
     qreal LineSpacing() const { return m_lineSpacing; }
+    /// Where an underline runs, below the baseline, and how thick it is.
+    qreal UnderlinePosition() const { return m_metrics.underlinePos(); }
+    qreal UnderlineThickness() const { return m_metrics.lineWidth(); }
 
     qreal Width(const QString& text) const;
     /// The text as it fits a width: itself, or shortened with an ellipsis. Most texts fit by far

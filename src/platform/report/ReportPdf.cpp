@@ -67,11 +67,11 @@ void WritePages(const DataReport& report, QIODevice& device, const QString& titl
     writer.setTitle(title);
     writer.setPageSize(report.Paper());
     writer.setPageMargins(QMarginsF());
+    // The pages' own unit: nothing is scaled, and the document's numbers are short.
+    writer.setResolution(static_cast<int>(DataReport::UnitsPerInch));
     QPainter painter;
     if (!painter.begin(&writer))
         Fail(what, device.errorString());
-    const double scale = writer.logicalDpiX() / DataReport::UnitsPerInch;
-    painter.scale(scale, scale);
     const int pages = report.PageCount();
     for (int page = 0; page < pages && stream.Failure().isNull(); ++page) {
         if (page > 0)

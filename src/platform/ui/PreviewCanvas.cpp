@@ -2,8 +2,10 @@
 
 #include "Clock.h"
 #include "DataReport.h"
+#include "RunTimeError.h"
 
 #include <QPainter>
+#include <QScopeGuard>
 
 #include <algorithm>
 
@@ -54,10 +56,22 @@ void PreviewCanvas::paintEvent(QPaintEvent*) {
     painter.fillRect(sheet.translated(3, 3), QColor(0, 0, 0, 60));
     painter.fillRect(sheet, Qt::white);
     painter.setClipRect(sheet);
+    // Nobody could catch it behind this: the failure takes the page's place.
+    try {
+        PaintSheet(painter, sheet);
+    } catch (const RunTimeError& error) {
+        painter.setPen(Qt::black);
+        painter.drawText(sheet.adjusted(Margin, Margin, -Margin, -Margin), Qt::TextWordWrap,
+                         error.Description());
+    }
+    ++m_painted;
+}
+
+void PreviewCanvas::PaintSheet(QPainter& painter, const QRectF& sheet) {
+    painter.save();
+    const auto restore = qScopeGuard([&] { painter.restore(); });
     painter.translate(sheet.topLeft());
     const double scale = PixelsPerInch() / DataReport::UnitsPerInch;
     painter.scale(scale, scale);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     m_report.PaintPage(painter, m_page, m_printedAt);
-    ++m_painted;
 }

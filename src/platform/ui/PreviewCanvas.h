@@ -6,7 +6,7 @@
 
 class DataReport;
 
-/// One page of a report on a sheet of paper, at any zoom.
+/// One page of a report on a sheet of paper, at any zoom. Nothing but that page is ever painted.
 class PreviewCanvas : public QWidget {
     Q_OBJECT
 public:
@@ -18,12 +18,14 @@ public:
     /// The zoom at which the sheet fills a width, or fits into an area; both in pixels.
     double ZoomForWidth(int width) const;
     double ZoomForArea(QSize area) const;
+    /// How often a page was painted, for measuring.
     int PagesPainted() const { return m_painted; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void PaintSheet(QPainter& painter, const QRectF& sheet);
     QSizeF PageInches() const;
     double PixelsPerInch() const { return logicalDpiX() * m_zoom; }
     void Resize();

@@ -8,9 +8,11 @@
 #include <QDir>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
 #include <QToolBar>
 
 namespace {
@@ -73,6 +75,8 @@ void TranslateWindow(QWidget& window, const TranslateText& translate) {
 
 MessageAnswer WindowMessageBoxes::Show(const Message& message) {
     QMessageBox box(QApplication::activeWindow());
+    if (!box.parentWidget()) // the splash, which is never active, must not cover it
+        box.setWindowFlag(Qt::WindowStaysOnTopHint);
     box.setObjectName(QStringLiteral("messageBox"));
     box.setIcon(IconOf(message.kind));
     box.setWindowTitle(message.caption);
@@ -97,6 +101,23 @@ MessageAnswer WindowMessageBoxes::Show(const Message& message) {
     const qsizetype pressed = buttons.indexOf(box.clickedButton());
     return pressed < 0 ? HarmlessAnswer(message.buttons) : answers[pressed];
 }
+
+namespace {
+
+class SelectingFilter : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        // Behind the event: the mouse press that gave the focus would take the selection back.
+        if (event->type() == QEvent::FocusIn)
+            QTimer::singleShot(0, static_cast<QLineEdit*>(watched), &QLineEdit::selectAll);
+        return false;
+    }
+};
+
+} // namespace
+
+void SelectAllOnFocus(QLineEdit& field) { field.installEventFilter(new SelectingFilter(&field)); }
 
 Hourglass::Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
 

@@ -8,14 +8,16 @@
 #include <functional>
 
 class QLabel;
+class QLineEdit;
 class QWidget;
 
 /// What windows share. Text in, text out; no window knows another through this.
 
 using TranslateText = std::function<QString(const QString&)>;
 
-/// Translates a window's own controls: title, captions, tool tips, list headers, menu items. The
-/// English texts are kept, so that it can be called again in another language.
+/// Translates a window and all in it: title, captions, tool tips, accessible names, menus. Texts that
+/// are filled by code, list headers among them, are not touched. The English texts are kept, so that
+/// it can be called again in another language.
 void TranslateWindow(QWidget& window, const TranslateText& translate);
 
 /// Real message boxes over the active window.
@@ -23,6 +25,9 @@ class WindowMessageBoxes : public MessageBoxes {
 public:
     MessageAnswer Show(const Message& message) override;
 };
+
+/// Selects a field's whole text whenever it gets the focus.
+void SelectAllOnFocus(QLineEdit& field);
 
 /// The hourglass while it lives.
 class Hourglass {
@@ -40,6 +45,6 @@ QIcon ProgramIcon(const QString& name);
 /// stays sharp on a dense screen). Throws RunTimeError where the file cannot be read.
 void ShowPicture(QLabel& label, const QString& path);
 
-/// Lengths in the design's unit: 1440 to the inch, 15 to a pixel of an ordinary screen.
+/// Lengths in twips: 1440 to the inch, 15 to a pixel of an ordinary screen.
 constexpr int PixelsOf(int twips) { return twips / 15; }
 constexpr int TwipsOf(int pixels) { return pixels * 15; }

@@ -7,35 +7,97 @@
 #include "RunTimeError.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QFileDialog>
-#include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <vector>
 
 namespace {
 
-constexpr int PreviewWidth = 12630;    // twips
-constexpr int LessThanScreen = 720;    // twips
+constexpr int PreviewWidth = 12630; // twips
+constexpr int LessThanScreen = 720; // twips
+constexpr int WheelNotch = 120;     // eighths of a degree
+constexpr int PrinterError = 482;
 constexpr std::array<double, 9> ZoomSteps = {0.25, 0.5, 0.75, 1.0, 1.25, 1.5, 2.0, 3.0, 4.0};
 
 QString KeysText(const QList<QKeySequence>& keys) {
-    return keys.isEmpty() ? QString()
-                          : QStringLiteral(" (") + keys.first().toString(QKeySequence::NativeText) +
-                                u')';
+    return keys.isEmpty()
+               ? QString()
+               : QStringLiteral(" (") + keys.first().toString(QKeySequence::NativeText) + u')';
+}
+
+/// The sheets of one print job, in the order in which they leave the printer.
+std::vector<int> SheetsOf(const QPrinter& printer, int pageCount, int currentPage) {
+    int first = 0;
+    int last = pageCount - 1;
+    if (printer.printRange() == QPrinter::CurrentPage) {
+        first = last = currentPage;
+    } else if (printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0) {
+        first = std::min(printer.fromPage() - 1, last);
+        last = std::clamp(printer.toPage() - 1, first, last);
+    }
+    const int copies = printer.supportsMultipleCopies() ? 1 : printer.copyCount();
+    const int runs = printer.collateCopies() ? copies : 1;
+    std::vector<int> sheets;
+    for (int run = 0; run < runs; ++run)
+        for (int page = first; page <= last; ++page)
+            sheets.insert(sheets.end(), static_cast<std::size_t>(copies / runs), page);
+    if (printer.pageOrder() == QPrinter::LastPageFirst)
+        std::reverse(sheets.begin(), sheets.end());
+    return sheets;
+}
+
+/// Puts the report's paper into the middle of the printer's, and scales it down where it is larger.
+void FitPaper(QPainter& painter, const QPrinter& printer, QSizeF page) {
+    const QSizeF sheet = printer.paperRect(QPrinter::DevicePixel).size();
+    const double scale = std::min({printer.logicalDpiX() / DataReport::UnitsPerInch,
+                                   sheet.width() / page.width(), sheet.height() / page.height()});
+    painter.translate((sheet.width() - page.width() * scale) / 2,
+                      (sheet.height() - page.height() * scale) / 2);
+    painter.scale(scale, scale);
+}
+
+[[noreturn]] void PrintingFailed(const QPrinter& printer) {
+    throw RunTimeError(
+        PrinterError,
+        QStringLiteral("The printer \"%1\" takes no pages.").arg(printer.printerName()));
+}
+
+/// What a bar shows the middle of, as a part of all.
+double MiddleOf(const QScrollBar& bar) {
+    return (bar.value() + bar.pageStep() / 2.0) / std::max(1, bar.maximum() + bar.pageStep());
+}
+
+void SetMiddle(QScrollBar& bar, double middle) {
+    bar.setValue(static_cast<int>(
+        std::lround(middle * (bar.maximum() + bar.pageStep()) - bar.pageStep() / 2.0)));
+}
+
+/// A title as a file name that every system takes.
+QString FileName(QString title) {
+    static const QRegularExpression unfit(QStringLiteral("[\\x00-\\x1f<>:\"/\\\\|?*]+"));
+    title = title.replace(unfit, QStringLiteral(" ")).simplified();
+    return title.isEmpty() ? QStringLiteral("Report") : title;
 }
 
 } // namespace
@@ -48,7 +110,6 @@ frmPreview::frmPreview(const DataReport& report, TranslateText translate, QWidge
     setObjectName(QStringLiteral("frmPreview"));
     setWindowTitle(report.Caption());
     m_scroll->setObjectName(QStringLiteral("scrPage"));
-    m_scroll->setAccessibleName(m_translate(QStringLiteral("Page")));
     m_scroll->setWidget(m_canvas);
     m_scroll->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     m_scroll->setBackgroundRole(QPalette::Mid);
@@ -68,19 +129,33 @@ frmPreview::frmPreview(const DataReport& report, TranslateText translate, QWidge
 int frmPreview::PagesPainted() const { return m_canvas->PagesPainted(); }
 
 void frmPreview::PlaceWindow() {
-    const QRect available = screen()->availableGeometry();
+    const QWidget* main = this;
+    while (main->parentWidget())
+        main = main->parentWidget()->window();
+    const QRect area = main->screen()->geometry();
     const int wanted = PixelsOf(PreviewWidth);
-    const int otherwise = parentWidget() ? parentWidget()->window()->width() : available.width();
-    move(available.topLeft());
-    resize(available.width() >= wanted ? wanted : otherwise,
-           available.height() - PixelsOf(LessThanScreen));
+    move(area.topLeft());
+    resize(area.width() >= wanted || main == this ? wanted : main->width(),
+           area.height() - PixelsOf(LessThanScreen));
+}
+
+/// The size above is that of the window with its frame, which is known once it is on the screen.
+void frmPreview::TakeFrameOff() {
+    if (!isMaximized())
+        resize(size().shrunkBy(windowHandle()->frameMargins()));
+}
+
+void frmPreview::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!event->spontaneous())
+        QTimer::singleShot(0, this, &frmPreview::TakeFrameOff);
 }
 
 QAction* frmPreview::AddAction(const char* name, const char* text, const QList<QKeySequence>& keys,
                                void (frmPreview::*handler)()) {
     const QString caption = m_translate(QString::fromUtf8(text));
-    auto* action = new QAction(
-        ProgramIcon(QStringLiteral("preview-") + QString::fromLatin1(name)), caption, this);
+    auto* action = new QAction(ProgramIcon(QStringLiteral("preview-") + QString::fromLatin1(name)),
+                               caption, this);
     action->setObjectName(QString::fromLatin1(name));
     action->setShortcuts(keys);
     action->setToolTip(caption + KeysText(keys));
@@ -99,19 +174,7 @@ void frmPreview::BuildToolbar() {
     m_toolbar->addSeparator();
     m_first = AddAction("first", "First page", {Qt::Key_Home}, &frmPreview::First);
     m_previous = AddAction("previous", "Previous page", {Qt::Key_PageUp}, &frmPreview::Previous);
-    m_pageField->setObjectName(QStringLiteral("txtPage"));
-    m_pageField->setAccessibleName(m_translate(QStringLiteral("Page number")));
-    m_pageField->setToolTip(m_translate(QStringLiteral("Page number")) + QStringLiteral(" (Ctrl+G)"));
-    m_pageField->setAlignment(Qt::AlignRight);
-    m_pageField->setMaximumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000000")) + 12);
-    m_pageField->setValidator(new QIntValidator(1, m_report.PageCount(), this));
-    connect(m_pageField, &QLineEdit::returnPressed, this, [this] {
-        GoToPage(m_pageField->text().toInt() - 1);
-        m_scroll->setFocus();
-    });
-    m_toolbar->addWidget(m_pageField);
-    m_pageCount->setObjectName(QStringLiteral("lblPageCount"));
-    m_toolbar->addWidget(m_pageCount);
+    BuildPageField();
     m_next = AddAction("next", "Next page", {Qt::Key_PageDown}, &frmPreview::Next);
     m_last = AddAction("last", "Last page", {Qt::Key_End}, &frmPreview::Last);
     m_toolbar->addSeparator();
@@ -128,10 +191,38 @@ void frmPreview::BuildToolbar() {
     AddAction("fit-width", "Fit width", {QKeySequence(Qt::CTRL | Qt::Key_1)},
               &frmPreview::FitWidth);
     AddAction("fit-page", "Whole page", {QKeySequence(Qt::CTRL | Qt::Key_2)}, &frmPreview::FitPage);
+    m_toolbar->addSeparator();
+    AddAction("close", "Close", {Qt::Key_Escape}, &frmPreview::Close);
     auto* edit = new QAction(this);
     edit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     connect(edit, &QAction::triggered, this, &frmPreview::EditPage);
     addAction(edit);
+}
+
+void frmPreview::BuildPageField() {
+    const QString caption = m_translate(QStringLiteral("Page number"));
+    m_pageField->setObjectName(QStringLiteral("txtPage"));
+    m_pageField->setAccessibleName(caption);
+    m_pageField->setToolTip(caption + KeysText({QKeySequence(Qt::CTRL | Qt::Key_G)}));
+    m_pageField->setAlignment(Qt::AlignRight);
+    m_pageField->setMaximumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000000")) + 12);
+    static const QRegularExpression digits(QStringLiteral("[0-9]{0,8}"));
+    m_pageField->setValidator(new QRegularExpressionValidator(digits, this));
+    connect(m_pageField, &QLineEdit::editingFinished, this, &frmPreview::TakePageField);
+    connect(m_pageField, &QLineEdit::returnPressed, m_scroll, qOverload<>(&QWidget::setFocus));
+    m_toolbar->addWidget(m_pageField);
+    m_pageCount->setObjectName(QStringLiteral("lblPageCount"));
+    m_toolbar->addWidget(m_pageCount);
+}
+
+/// A number beyond the last page is the last page; no number is the page that is shown.
+void frmPreview::TakePageField() {
+    bool isNumber = false;
+    const int typed = m_pageField->text().toInt(&isNumber);
+    if (isNumber && typed != m_page + 1)
+        GoToPage(typed - 1);
+    else
+        ShowState();
 }
 
 void frmPreview::EditPage() {
@@ -143,6 +234,7 @@ void frmPreview::Last() { GoToPage(m_report.PageCount() - 1); }
 
 void frmPreview::GoToPage(int page) {
     m_page = std::clamp(page, 0, m_report.PageCount() - 1);
+    m_wheelBeyondEdge = 0;
     m_canvas->ShowPage(m_page);
     m_scroll->verticalScrollBar()->setValue(0);
     ShowState();
@@ -150,8 +242,19 @@ void frmPreview::GoToPage(int page) {
 
 void frmPreview::SetZoom(double factor) {
     m_fit = Fit::None;
-    m_zoom = std::clamp(factor, ZoomSteps.front(), ZoomSteps.back());
+    ZoomTo(std::clamp(factor, ZoomSteps.front(), ZoomSteps.back()));
+}
+
+/// What is in the middle of the window stays there.
+void frmPreview::ZoomTo(double factor) {
+    QScrollBar& across = *m_scroll->horizontalScrollBar();
+    QScrollBar& down = *m_scroll->verticalScrollBar();
+    const double middleAcross = MiddleOf(across);
+    const double middleDown = down.value() == 0 ? 0 : MiddleOf(down);
+    m_zoom = factor;
     m_canvas->SetZoom(m_zoom);
+    SetMiddle(across, middleAcross);
+    SetMiddle(down, middleDown);
     ShowState();
 }
 
@@ -182,17 +285,17 @@ void frmPreview::ApplyFit() {
         return;
     const QSize area = m_scroll->maximumViewportSize();
     const int bar = m_scroll->verticalScrollBar()->sizeHint().width();
-    m_zoom = m_fit == Fit::Width ? m_canvas->ZoomForWidth(area.width() - bar)
-                                 : m_canvas->ZoomForArea(area);
-    m_canvas->SetZoom(m_zoom);
-    ShowState();
+    ZoomTo(m_fit == Fit::Width ? m_canvas->ZoomForWidth(area.width() - bar)
+                               : m_canvas->ZoomForArea(area));
 }
 
 void frmPreview::ShowState() {
     const int pages = m_report.PageCount();
     m_pageField->setText(QString::number(m_page + 1));
-    m_pageCount->setText(u' ' + m_translate(QStringLiteral("of")) + u' ' + QString::number(pages) +
-                         u' ');
+    const QString ofPages = m_translate(QStringLiteral("of")) + u' ' + QString::number(pages);
+    m_pageCount->setText(u' ' + ofPages + u' ');
+    m_scroll->setAccessibleName(m_translate(QStringLiteral("Page")) + u' ' +
+                                QString::number(m_page + 1) + u' ' + ofPages);
     m_zoomText->setText(QStringLiteral("%1 %").arg(std::lround(m_zoom * 100)));
     m_first->setEnabled(m_page > 0);
     m_previous->setEnabled(m_page > 0);
@@ -205,16 +308,21 @@ void frmPreview::resizeEvent(QResizeEvent* event) {
     ApplyFit();
 }
 
-/// Past the edge of a page the wheel turns it.
-bool frmPreview::Scroll(int pages) {
+/// At the edge of a page the wheel turns it, a notch a page: a touch pad sends many small steps.
+bool frmPreview::TurnPageByWheel(int delta) {
     const QScrollBar* bar = m_scroll->verticalScrollBar();
-    const bool atEdge = pages > 0 ? bar->value() == bar->maximum() : bar->value() == bar->minimum();
-    const int page = m_page + pages;
-    if (!atEdge || page < 0 || page >= m_report.PageCount())
+    const bool atEdge = delta < 0 ? bar->value() == bar->maximum() : bar->value() == bar->minimum();
+    const int page = m_page + (delta < 0 ? 1 : -1);
+    if (!atEdge || page < 0 || page >= m_report.PageCount()) {
+        m_wheelBeyondEdge = 0;
         return false;
-    GoToPage(page);
-    if (pages < 0)
-        m_scroll->verticalScrollBar()->setValue(bar->maximum());
+    }
+    m_wheelBeyondEdge += delta;
+    if (std::abs(m_wheelBeyondEdge) >= WheelNotch) {
+        GoToPage(page);
+        if (delta > 0)
+            m_scroll->verticalScrollBar()->setValue(bar->maximum());
+    }
     return true;
 }
 
@@ -223,20 +331,28 @@ bool frmPreview::eventFilter(QObject* watched, QEvent* event) {
         const auto* wheel = static_cast<QWheelEvent*>(event);
         const int delta = wheel->angleDelta().y();
         if (wheel->modifiers() & Qt::ControlModifier) {
-            delta > 0 ? ZoomIn() : ZoomOut();
+            if (delta != 0)
+                delta > 0 ? ZoomIn() : ZoomOut();
             return true;
         }
-        if (delta != 0 && Scroll(delta > 0 ? -1 : 1))
+        if (delta != 0 && TurnPageByWheel(delta))
             return true;
     }
     return QDialog::eventFilter(watched, event);
+}
+
+void frmPreview::Tell(const char* text, const QString& reason) {
+    ShowMessage({m_translate(QString::fromUtf8(text)) + QStringLiteral("\r\n") + reason,
+                 windowTitle(),
+                 MessageKind::Warning,
+                 MessageButtons::Ok,
+                 {m_translate(QStringLiteral("OK"))}});
 }
 
 void frmPreview::Print() {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageSize(m_report.Paper());
     printer.setDocName(m_report.Caption());
-    printer.setFullPage(true);
     printer.setFromTo(1, m_report.PageCount());
     QPrintDialog dialog(&printer, this);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
@@ -244,47 +360,49 @@ void frmPreview::Print() {
     dialog.setMinMax(1, m_report.PageCount());
     if (dialog.exec() != QDialog::Accepted)
         return;
-    int first = 0, last = m_report.PageCount() - 1;
-    if (printer.printRange() == QPrinter::CurrentPage) {
-        first = last = m_page;
-    } else if (printer.printRange() == QPrinter::PageRange) {
-        first = printer.fromPage() - 1;
-        last = printer.toPage() - 1;
+    try {
+        const Hourglass hourglass;
+        PrintReport(m_report, printer, m_page);
+    } catch (const RunTimeError& error) {
+        Tell("The report could not be printed.", error.Description());
     }
-    const Hourglass hourglass;
-    const DateTime printedAt = Now();
-    QPainter painter;
-    bool ok = painter.begin(&printer);
-    for (int page = first; ok && page <= last; ++page) {
-        if (page > first)
-            ok = printer.newPage();
-        painter.save();
-        const double scale = printer.logicalDpiX() / DataReport::UnitsPerInch;
-        painter.scale(scale, scale);
-        m_report.PaintPage(painter, page, printedAt);
-        painter.restore();
-    }
-    ok = painter.isActive() && painter.end() && ok;
-    if (!ok)
-        MsgBox(m_translate(QStringLiteral("The report could not be printed.")), windowTitle(),
-               MessageKind::Warning);
 }
 
 void frmPreview::Export() {
-    const QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString path = QFileDialog::getSaveFileName(
-        this, m_translate(QStringLiteral("Export to PDF")),
-        folder + u'/' + m_report.Caption() + QStringLiteral(".pdf"),
-        QStringLiteral("PDF (*.pdf)"));
-    if (path.isEmpty())
+    QFileDialog dialog(this, m_translate(QStringLiteral("Export to PDF")),
+                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                       QStringLiteral("PDF (*.pdf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.selectFile(FileName(m_report.Caption()) + QStringLiteral(".pdf"));
+    if (dialog.exec() != QDialog::Accepted)
         return;
     try {
         const Hourglass hourglass;
-        ExportPdf(m_report, path, m_report.Caption());
+        ExportPdf(m_report, dialog.selectedFiles().value(0), m_report.Caption());
     } catch (const RunTimeError& error) {
-        MsgBox(error.Description(), windowTitle(), MessageKind::Warning);
+        Tell("The report could not be exported.", error.Description());
     }
+}
+
+void PrintReport(const DataReport& report, QPrinter& printer, int currentPage) {
+    printer.setFullPage(true);
+    const DateTime printedAt = Now();
+    QPainter painter;
+    if (!painter.begin(&printer))
+        PrintingFailed(printer);
+    FitPaper(painter, printer, report.PageSize());
+    bool firstSheet = true;
+    for (const int page : SheetsOf(printer, report.PageCount(), currentPage)) {
+        if (!firstSheet && !printer.newPage())
+            PrintingFailed(printer);
+        firstSheet = false;
+        report.PaintPage(painter, page, printedAt);
+    }
+    const bool ended = painter.end();
+    if (!ended || printer.printerState() == QPrinter::Error ||
+        printer.printerState() == QPrinter::Aborted)
+        PrintingFailed(printer);
 }
 
 void PreviewViewer::Show(DataReport& report) {

@@ -8,9 +8,9 @@
 class DataReport;
 class PreviewCanvas;
 class QAction;
-class QComboBox;
 class QLabel;
 class QLineEdit;
+class QPrinter;
 class QScrollArea;
 class QToolBar;
 
@@ -32,6 +32,7 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     enum class Fit { None, Width, Page };
@@ -39,10 +40,15 @@ private:
     QAction* AddAction(const char* name, const char* text, const QList<QKeySequence>& keys,
                        void (frmPreview::*handler)());
     void BuildToolbar();
+    void BuildPageField();
     void PlaceWindow();
+    void TakeFrameOff();
     void ApplyFit();
     void ShowState();
-    bool Scroll(int pages);
+    void TakePageField();
+    bool TurnPageByWheel(int delta);
+    void ZoomTo(double factor);
+    void Tell(const char* text, const QString& reason);
 
     void First() { GoToPage(0); }
     void Previous() { GoToPage(m_page - 1); }
@@ -56,6 +62,7 @@ private:
     void FitPage();
     void Print();
     void Export();
+    void Close() { reject(); }
 
     const DataReport& m_report;
     TranslateText m_translate;
@@ -70,9 +77,15 @@ private:
     QAction* m_next = nullptr;
     QAction* m_last = nullptr;
     int m_page = 0;
+    int m_wheelBeyondEdge = 0; ///< in eighths of a degree
     double m_zoom = 1.0;
     Fit m_fit = Fit::Width;
 };
+
+/// Prints the pages that the printer's settings ask for, as often and in the order that they ask;
+/// `currentPage`, from 0, is the one on the screen. A sheet smaller than the report's paper takes
+/// the page scaled down. Throws RunTimeError where printing fails.
+void PrintReport(const DataReport& report, QPrinter& printer, int currentPage);
 
 /// Shows reports in a preview window over `parent`, modally.
 class PreviewViewer : public ReportViewer {

@@ -1,0 +1,415 @@
+// What the store's floors cost above the bare engine: a download, a walk over many rows, the tour
+// report in a large store, compaction.
+
+#include "Connection.h"
+#include "Figures.h"
+#include "MemoryDownload.h"
+#include "MemoryImage.h"
+#include "Recordset.h"
+#include "ReportViewer.h"
+#include "Schema.h"
+#include "TourReportBuilder.h"
+#include "mStore.h"
+#include "mWardlock.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <sqlcipher/sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int EventCount = 1'000'000, FewEvents = 10'000, KnownButtons = 500;
+const QString Reader = QStringLiteral("4B5831A7");
+const DateTime TourDay = DateTime::FromQt(QDate(2026, 6, 15));
+
+using Step = std::function<void()>;
+struct Side {
+    Step prepare; ///< not timed
+    Step run;
+};
+
+/// Rounds in turn, and in turn the other way round.
+void Compare(Figures& figures, const char* name, int rounds, double limit, const Side& ours,
+             const Side& baseline) {
+    std::vector<double> oursTimes, baselineTimes;
+    const auto time = [](const Side& side, std::vector<double>& times) {
+        side.prepare();
+        ::sync(); // nobody is to pay for what the one before left to be written
+        QElapsedTimer timer;
+        timer.start();
+        side.run();
+        times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    };
+    for (int round = 0; round < rounds; ++round) {
+        if (round % 2 == 0)
+            time(ours, oursTimes);
+        time(baseline, baselineTimes);
+        if (round % 2 != 0)
+            time(ours, oursTimes);
+    }
+    const auto median = [](std::vector<double>& times) {
+        std::sort(times.begin(), times.end());
+        return times[times.size() / 2];
+    };
+    figures.Report(name, "ms", median(oursTimes), median(baselineTimes), limit);
+}
+
+/// The engine without any of our code around it, with the same settings.
+class Bare {
+public:
+    explicit Bare(const QString& path) {
+        sqlite3_open_v2(QFile::encodeName(path).constData(), &m_database,
+                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+        const QByteArray key = StorePassword.toUtf8();
+        sqlite3_key(m_database, key.constData(), static_cast<int>(key.size()));
+        Run("PRAGMA cipher_default_compatibility = 3");
+        Run("PRAGMA cipher_compatibility = 3");
+        Run("PRAGMA synchronous = FULL");
+    }
+    ~Bare() { sqlite3_close(m_database); }
+    Bare(const Bare&) = delete;
+    Bare& operator=(const Bare&) = delete;
+
+    void Run(const char* sql) {
+        if (sqlite3_exec(m_database, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+            qFatal("%s: %s", sql, sqlite3_errmsg(m_database));
+    }
+    sqlite3_stmt* Prepare(const char* sql) {
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_prepare_v2(m_database, sql, -1, &statement, nullptr) != SQLITE_OK)
+            qFatal("%s: %s", sql, sqlite3_errmsg(m_database));
+        return statement;
+    }
+
+private:
+    sqlite3* m_database = nullptr;
+};
+
+std::string TextOf(sqlite3_stmt* statement, int column) {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    return text ? std::string(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)))
+                : std::string();
+}
+
+void BindText(sqlite3_stmt* statement, int position, const std::string& text) {
+    sqlite3_bind_text(statement, position, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
+}
+
+const char* const InsertEvent =
+    "INSERT INTO tblEvents (dtDLDateTime, dtDateTime, tButtonCode, tButtonName, tButtonDesc, "
+    "wGroupType, tGroupName, tGroupDesc, tPipeID) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)";
+
+struct Event {
+    double downloaded, date;
+    std::string code, name, description;
+    int type;
+    std::string group, groupDescription, reader;
+};
+
+void Insert(sqlite3_stmt* insert, const Event& event) {
+    sqlite3_bind_double(insert, 1, event.downloaded);
+    sqlite3_bind_double(insert, 2, event.date);
+    BindText(insert, 3, event.code);
+    BindText(insert, 4, event.name);
+    BindText(insert, 5, event.description);
+    sqlite3_bind_int(insert, 6, event.type);
+    BindText(insert, 7, event.group);
+    BindText(insert, 8, event.groupDescription);
+    BindText(insert, 9, event.reader);
+    if (sqlite3_step(insert) != SQLITE_DONE)
+        qFatal("a row cannot be written");
+    sqlite3_reset(insert);
+}
+
+std::string CodeOf(int number) {
+    return QString::number(0x1A4000 + number * 7, 16).toUpper().toStdString();
+}
+
+/// A store with 500 buttons in ten sites, a tour, the touches of that tour on its day, and as many
+/// other touches as make up `events`, over three years and ten readers.
+void MakeStore(const QString& path, int events) {
+    CreateStoreFile(path, StorePassword);
+    {
+        Connection connection;
+        connection.Open(ConnectionText(path, StorePassword));
+        CreateTables(connection);
+    }
+    Bare bare(path);
+    bare.Run("BEGIN");
+    for (int site = 1; site <= 10; ++site)
+        bare.Run("INSERT INTO tblListItems (wType, tName, tDesc) VALUES (1, 'Harbour Warehouse', "
+                 "'Pier 4, north side')");
+    for (int button = 0; button < KnownButtons; ++button)
+        bare.Run(("INSERT INTO tblButtons (lParentID, tButtonCode, tButtonName, tButtonDesc) VALUES (" +
+                  std::to_string(button % 10 + 1) + ", '" + CodeOf(button) + "', 'Loading bay " +
+                  std::to_string(button) + "', 'Beside the roller door')").c_str());
+    bare.Run("INSERT INTO tblTours VALUES (1, 'Night round', 'Harbour', 5, 0.0)");
+    for (int point = 1; point <= 20; ++point)
+        bare.Run(("INSERT INTO tblTourPoints (lParentID, lIndex, dtTime, tButtonCode) VALUES (1, " +
+                  std::to_string(point) + ", 10.0/1440, '" + CodeOf(point) + "')").c_str());
+    sqlite3_stmt* insert = bare.Prepare(InsertEvent);
+    const auto write = [&](DateTime date, int button, const std::string& reader) {
+        Insert(insert, {46400.0, date.ToStore(), CodeOf(button),
+                        "Loading bay " + std::to_string(button), "Beside the roller door", 1,
+                        "Harbour Warehouse", "Pier 4, north side", reader});
+    };
+    for (int touch = 1; touch <= 60; ++touch)
+        write(TourDay + DateTime::FromTime(0, touch * 3 + 5), touch % 22, Reader.toStdString());
+    const double days = 3 * 365.0;
+    for (int event = 60; event < events; ++event) {
+        DateTime date = TourDay - DateTime::FromStore(days * (events - event) / events + 1);
+        date = DateTime::FromMilliseconds(date.Milliseconds() / 60'000 * 60'000);
+        write(date, event % KnownButtons, "4B5831A" + std::to_string(event % 10));
+    }
+    sqlite3_finalize(insert);
+    bare.Run("COMMIT");
+}
+
+/// A memory image with so many touches, a new hour every 40 of them; every 50th code is unknown.
+colPackets MakeImage(int touches) {
+    QByteArray records;
+    const auto add = [&](int b0, int b1, int b2, int b3) {
+        for (const int byte : {b0, b1, b2, b3})
+            records += static_cast<char>(byte);
+    };
+    std::mt19937 random(1);
+    for (int touch = 0; touch < touches; ++touch) {
+        const int hour = touch / 40;
+        const int day = 9600 + hour / 24;
+        if (touch % 40 == 0)
+            add(hour % 24, day & 0xff, day >> 8, Wire::MarkerByte);
+        const int code = touch % 50 == 0 ? 0xEE0000 + touch % 20
+                                         : 0x1A4000 + static_cast<int>(random() % KnownButtons) * 7;
+        add(code & 0xff, code >> 8 & 0xff, code >> 16, touch % 40);
+    }
+    colPackets packets;
+    for (qsizetype at = 0; at < records.size();) {
+        const bool first = packets.Count() == 0;
+        const int start = first ? Wire::FirstRecordOffset : Wire::RecordOffset;
+        const qsizetype bytes = (first ? Wire::FirstFrameRecords : Wire::FrameRecords) * Wire::RecordBytes;
+        cPacket& packet = packets.Add(QByteArray(start, '\x01') +
+                                      records.mid(at, bytes).leftJustified(bytes, '\0') + '\x01');
+        packet.Tag = packets.Count();
+        at += bytes;
+    }
+    return packets;
+}
+
+void BenchDownload(Figures& figures, const QTemporaryDir& folder) {
+    const QString path = folder.filePath("download.mdb"), barePath = folder.filePath("bare.mdb");
+    MakeStore(path, 60);
+    QFile::copy(path, barePath);
+    if (!ADOInit(path, StorePassword))
+        qFatal("the store does not open");
+    Bare bare(barePath);
+    constexpr int touchCount = 32'000;
+    const colPackets image = MakeImage(touchCount);
+    ButtonDirectory directory;
+    std::vector<std::pair<std::string, double>> touches;
+    for (const cRawButton& touch : DecodeImage(image, directory))
+        touches.emplace_back(touch.ButtonCode.toStdString(), touch.DateAndTime.ToStore());
+
+    const Side ours{[] { gConn->Execute("DELETE * FROM tblEvents"); },
+                    [&] {
+                        ButtonDirectory fresh;
+                        StoreTouches(DecodeImage(image, fresh), Reader);
+                    }};
+    const Side baseline{[&] { bare.Run("DELETE FROM tblEvents"); }, [&] {
+        sqlite3_stmt* find = bare.Prepare(
+            "SELECT tblButtons.tButtonCode, tblListItems.wType, tblButtons.tButtonName, "
+            "tblButtons.tButtonDesc, tblListItems.tName, tblListItems.tDesc FROM tblButtons INNER "
+            "JOIN tblListItems ON tblButtons.lParentID = tblListItems.ID WHERE tButtonCode = ?");
+        sqlite3_stmt* insert = bare.Prepare(InsertEvent);
+        bare.Run("BEGIN IMMEDIATE");
+        for (const auto& [code, date] : touches) {
+            Event event{46400.0, date, code, "Unknown", {}, 0, {}, {}, "4B5831A7"};
+            BindText(find, 1, code);
+            if (sqlite3_step(find) == SQLITE_ROW)
+                event = {46400.0, date, code, TextOf(find, 2), TextOf(find, 3),
+                         sqlite3_column_int(find, 1), TextOf(find, 4), TextOf(find, 5), "4B5831A7"};
+            sqlite3_reset(find);
+            Insert(insert, event);
+        }
+        bare.Run("COMMIT");
+        sqlite3_finalize(find);
+        sqlite3_finalize(insert);
+    }};
+    Compare(figures, "store one download of 32,000 touches", 7, 2.0, ours, baseline);
+    Recordset stored;
+    stored.CursorLocation = adUseClient;
+    stored.Open("SELECT ID FROM tblEvents WHERE tGroupName = 'Harbour Warehouse'", *gConn);
+    if (stored.RecordCount() != touchCount - touchCount / 50)
+        qFatal("%d known touches were stored", stored.RecordCount());
+    gConn.reset();
+}
+
+struct PlainRow {
+    qint64 id;
+    double downloaded;
+    std::string reader;
+    double date;
+    std::string code, name, description;
+    qint64 type;
+    std::string group, groupDescription;
+};
+
+void BenchWalk(Figures& figures, const QString& path) {
+    if (!ADOInit(path, StorePassword))
+        qFatal("the store does not open");
+    double sum = 0, bareSum = 0;
+    const Side ours{[] {}, [&] {
+        Recordset rows;
+        rows.CursorLocation = adUseClient;
+        rows.Open("SELECT * FROM tblEvents", *gConn);
+        for (sum = 0; !rows.Eof(); rows.MoveNext())
+            sum += static_cast<double>(rows.Number(u"ID")) + rows.Fields(u"dtDLDateTime").Real() +
+                   static_cast<double>(rows.Text(u"tPipeID").size()) +
+                   rows.Fields(u"dtDateTime").Real() +
+                   static_cast<double>(rows.Text(u"tButtonCode").size() +
+                                       rows.Text(u"tButtonName").size() +
+                                       rows.Text(u"tButtonDesc").size() + rows.Number(u"wGroupType") +
+                                       rows.Text(u"tGroupName").size() +
+                                       rows.Text(u"tGroupDesc").size());
+    }};
+    const Side baseline{[] {}, [&] {
+        sqlite3_stmt* walk = nullptr;
+        sqlite3_prepare_v2(gConn->Handle(), "SELECT * FROM tblEvents", -1, &walk, nullptr);
+        std::vector<PlainRow> rows;
+        while (sqlite3_step(walk) == SQLITE_ROW)
+            rows.push_back({sqlite3_column_int64(walk, 0), sqlite3_column_double(walk, 1),
+                            TextOf(walk, 2), sqlite3_column_double(walk, 3), TextOf(walk, 4),
+                            TextOf(walk, 5), TextOf(walk, 6), sqlite3_column_int64(walk, 7),
+                            TextOf(walk, 8), TextOf(walk, 9)});
+        sqlite3_finalize(walk);
+        bareSum = 0;
+        for (const PlainRow& row : rows)
+            bareSum += static_cast<double>(row.id) + row.downloaded +
+                       static_cast<double>(row.reader.size()) + row.date +
+                       static_cast<double>(row.code.size() + row.name.size() +
+                                           row.description.size() + row.group.size() +
+                                           row.groupDescription.size()) +
+                       static_cast<double>(row.type);
+    }};
+    Compare(figures, "walk a recordset of 1,000,000 events", 5, 2.5, ours, baseline);
+    if (sum != bareSum)
+        qFatal("the walks saw different values");
+    gConn.reset();
+}
+
+qint64 ResidentBytes() {
+    QFile file("/proc/self/statm");
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toLongLong() * ::sysconf(_SC_PAGESIZE);
+}
+
+/// In a process of its own, so that memory which others gave back does not hide what is taken.
+void BenchMemory(Figures& figures, const QString& path) {
+    int ends[2];
+    if (::pipe(ends) != 0)
+        qFatal("no pipe");
+    double result[2] = {0, 0};
+    if (::fork() == 0) {
+        if (!ADOInit(path, StorePassword))
+            ::_exit(1);
+        const qint64 before = ResidentBytes();
+        Recordset rows;
+        rows.CursorLocation = adUseClient;
+        rows.Open("SELECT * FROM tblEvents", *gConn);
+        result[0] = static_cast<double>(ResidentBytes() - before);
+        const auto counted = static_cast<double>(rows.MemoryBytes());
+        if (counted < result[0] * 0.9 || counted > result[0] * 1.1)
+            qFatal("%.0f bytes counted, %.0f taken", counted, result[0]);
+        // Dates take eight bytes, the key four, the type one, texts what they are.
+        for (; !rows.Eof(); rows.MoveNext()) {
+            result[1] += 8 + 8 + 4 + 1;
+            for (const auto* name : {u"tPipeID", u"tButtonCode", u"tButtonName", u"tButtonDesc",
+                                     u"tGroupName", u"tGroupDesc"})
+                result[1] += static_cast<double>(rows.Text(name).toUtf8().size());
+        }
+        (void)!::write(ends[1], result, sizeof result);
+        ::_exit(0);
+    }
+    if (::read(ends[0], result, sizeof result) != sizeof result)
+        qFatal("memory could not be measured");
+    ::wait(nullptr);
+    figures.Report("the memory of that recordset", "MB", result[0] / 1e6, result[1] / 1e6, 3.0);
+}
+
+class NoViewer : public ReportViewer {
+public:
+    void Show(DataReport&) override { ++Shown; }
+    int Shown = 0;
+};
+
+void BenchTour(Figures& figures, const QString& path, const QString& fewPath) {
+    NoViewer viewer;
+    const auto side = [&](const QString& store) {
+        const Step build = [&] { BuildTourReport({1, TourDay, Reader, {}, true, true}, viewer); };
+        return Side{[=] {
+                        gConn.reset();
+                        if (!ADOInit(store, StorePassword))
+                            qFatal("the store does not open");
+                        build();
+                    },
+                    [=] {
+                        for (int report = 0; report < 20; ++report)
+                            build();
+                    }};
+    };
+    Compare(figures, "20 tour reports in 1,000,000 events or 10,000", 9, 1.5, side(path),
+            side(fewPath));
+    if (viewer.Shown != 2 * 9 * 21)
+        qFatal("%d reports were shown", viewer.Shown);
+    gConn.reset();
+}
+
+void BenchCompaction(Figures& figures, const QTemporaryDir& folder, const QString& path) {
+    const QString temp = folder.filePath("temp.mdb"), target = folder.filePath("hand.mdb");
+    const QByteArray attach =
+        "ATTACH DATABASE '" + target.toUtf8() + "' AS hand KEY '" + StorePassword.toUtf8() + "'";
+    const QByteArray before = [&] {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.read(16) : QByteArray();
+    }();
+    const Side ours{[] {}, [&] { CompactStore(ProviderText, path, temp, StorePassword); }};
+    const Side baseline{[&] { QFile::remove(target); }, [&] {
+        Bare bare(path);
+        bare.Run(attach.constData());
+        bare.Run("PRAGMA hand.journal_mode = OFF");
+        bare.Run("PRAGMA hand.synchronous = OFF");
+        bare.Run("SELECT sqlcipher_export('hand')");
+        bare.Run("DETACH DATABASE hand");
+    }};
+    Compare(figures, "compaction of 1,000,000 events", 5, 1.3, ours, baseline);
+    QFile file(path); // a fresh file begins with a fresh salt
+    if (!file.open(QIODevice::ReadOnly) || file.read(16) == before)
+        qFatal("nothing was compacted");
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    Figures figures;
+    const QTemporaryDir folder;
+    const QString many = folder.filePath("main.mdb"), few = folder.filePath("few.mdb");
+    MakeStore(many, EventCount);
+    MakeStore(few, FewEvents);
+    BenchMemory(figures, many);
+    const QGuiApplication app(argc, argv); // reports need fonts
+    BenchDownload(figures, folder);
+    BenchWalk(figures, many);
+    BenchTour(figures, many, few);
+    BenchCompaction(figures, folder, many);
+    return figures.ExitStatus();
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "DataReport.h"
+#include "RowSource.h"
+#include "RunTimeError.h"
+
+#include <functional>
+#include <memory>
+
+/// Rows of one column, `tName`, whose texts are made when they are asked for.
+class CountedRows : public RowSource {
+public:
+    explicit CountedRows(qsizetype count) : m_count(count) {}
+
+    qsizetype RowCount() const override { return m_count; }
+    int Column(QStringView name) const override {
+        if (name == u"tName")
+            return 0;
+        throw RunTimeError(RunTimeErrorNumber::NoSuchItem, name.toString());
+    }
+    QString TextAt(qsizetype row, int) const override {
+        ++Reads;
+        return Text(row);
+    }
+
+    std::function<QString(qsizetype)> Text = [](qsizetype row) {
+        return QStringLiteral("Row %1").arg(row + 1);
+    };
+    mutable int Reads = 0;
+
+private:
+    qsizetype m_count;
+};
+
+/// A page of 100 mm without margins: header 10, rows of 10, footer as given; so nine rows fit a
+/// page, and the first has room for eight, behind a report header of 10. The sections begin 55 mm
+/// from the left edge of the paper; the text box is 60 mm wide.
+inline QByteArray SmallLayout(int footerHeight = 10) {
+    return QStringLiteral(R"({
+        "page": { "size": "A4", "width": 100, "marginTop": 98.5, "marginBottom": 98.5 },
+        "font": { "families": ["DejaVu Sans"], "size": 9 },
+        "sections": [
+          { "name": "Head", "kind": "reportHeader", "height": 10, "controls": [
+            { "name": "lblHead", "type": "label", "left": 0, "top": 0, "width": 60, "height": 5,
+              "caption": "Beginning" } ] },
+          { "name": "Top", "kind": "pageHeader", "height": 10, "controls": [
+            { "name": "lblPage", "type": "label", "left": 0, "top": 0, "width": 60, "height": 5,
+              "caption": "%p / %P" } ] },
+          { "name": "Row", "kind": "detail", "height": 10, "controls": [
+            { "name": "txtName", "type": "textBox", "field": "tName", "left": 0, "top": 0,
+              "width": 60, "height": 5, "overflow": "ellipsis", "align": "left" } ] },
+          { "name": "End", "kind": "reportFooter", "height": %1, "controls": [] } ] })")
+        .arg(footerHeight)
+        .toUtf8();
+}
+
+inline std::unique_ptr<DataReport> SmallReport(const QByteArray& layout = SmallLayout()) {
+    return std::make_unique<DataReport>(ReadReportLayout(layout, QStringLiteral("test.json")));
+}

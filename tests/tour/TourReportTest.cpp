@@ -1,0 +1,325 @@
+// The tour report from store to page: loading, matching, the report's rows, and what it says where
+// there is none.
+
+#include "Connection.h"
+#include "Clock.h"
+#include "ForkedChild.h"
+#include "TourReportBuilder.h"
+#include "TourSite.h"
+#include "cTourReport.h"
+
+#include <QTest>
+
+#include <sqlcipher/sqlite3.h>
+#include <unistd.h>
+
+using namespace TourSite;
+
+namespace {
+
+const QString Reader = QStringLiteral("4B5831A7");
+const DateTime TourDay = DateTime::FromMilliseconds(Day * 1000);
+const QString Round = QStringLiteral("08:00 A, 08:30 B, 09:00 C");
+const QString NoData = QStringLiteral("No Data on the report");
+const QString Failed = QStringLiteral("Error in creating new Tour\r\n");
+
+} // namespace
+
+class TourReportTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TestHome> m_home;
+    ScriptedBoxes m_boxes;
+    RecordingViewer m_viewer;
+
+    QString Report(int tour, bool showAll = false, bool events = false, DateTime day = TourDay) {
+        m_viewer.Shown = 0;
+        BuildTourReport({tour, day, Reader, "4B5831A7 - Night", events, showAll}, m_viewer);
+        return m_viewer.Shown == 0 ? m_boxes.TakeTexts().join(u'/') : Shortened(m_viewer.Rows);
+    }
+
+    cTourReport Loaded(int tour, DateTime day = TourDay) {
+        cTourReport report;
+        report.TourID = tour;
+        report.StartDate = day;
+        report.ReaderId = Reader;
+        if (!report.LoadTourHeader() || !report.LoadTourPoints() || !report.LoadReaderEvents())
+            qFatal("tour %d does not load", tour);
+        return report;
+    }
+
+private slots:
+    void initTestCase() {
+        QLocale::setDefault(QLocale::c());
+        m_home = std::make_unique<TestHome>(TestHome::EmptyStore);
+    }
+    void cleanupTestCase() { m_home.reset(); }
+    void init() {
+        for (const char* table : {"tblListItems", "tblButtons", "tblTours", "tblTourPoints",
+                                  "tblEvents", "sqlite_sequence"})
+            gConn->Execute(QStringLiteral("DELETE * FROM ") + table);
+        Define();
+    }
+
+    void Matching_data() {
+        QTest::addColumn<QString>("points");
+        QTest::addColumn<int>("tolerance");
+        QTest::addColumn<QString>("touches");
+        QTest::addColumn<QString>("exceptions");
+        QTest::addColumn<QString>("all");
+        const auto row = [](const char* name, const QString& points, int tolerance,
+                            const QString& touches, const QString& exceptions, const QString& all) {
+            QTest::newRow(name) << points << tolerance << touches << exceptions << all;
+        };
+        const QString none = "NO EXCEPTIONS, _", missingBC = ", _, B MISSING, _, C MISSING";
+        const auto round = [&](const char* name, const QString& touches, const QString& exceptions,
+                               const QString& all) {
+            row(name, Round, 5, touches, exceptions, all);
+        };
+        round("last second in time", "08:05:59 A", none, "_, A ON TIME, 08:05 A ON TIME" + missingBC);
+        round("first second", "07:55 A", none, "_, A ON TIME, 07:55 A ON TIME" + missingBC);
+        round("first second late", "08:06 A", "_, A EXCEPTION, 08:06 A LATE" + missingBC,
+              "_, A EXCEPTION, 08:06 A LATE" + missingBC);
+        round("last second late", "08:35:59 A", "_, A EXCEPTION, 08:35 A LATE" + missingBC,
+              "_, A EXCEPTION, 08:35 A LATE" + missingBC);
+        const QString sequence = "_, A MISSING, _, B EXCEPTION, 08:36 A OUT OF SEQUENCE, _, C MISSING";
+        round("too late for its own point", "08:36 A", sequence, sequence);
+        const QString early = "_, A MISSING, _, B EXCEPTION, 08:20 B EARLY, _, C MISSING";
+        round("early", "08:20 B", early, early);
+        const QString stolen = "_, A EXCEPTION, 08:10 C OUT OF SEQUENCE" + missingBC;
+        round("used up out of sequence", "08:10 C", stolen, stolen);
+        const QString served = "_, A EXCEPTION, 08:10 C OUT OF SEQUENCE, _, B MISSING";
+        round("another touch serves it", "08:10 C, 09:01 C", served,
+              served + ", _, C ON TIME, 09:01 C ON TIME");
+        const QString stranger = "_, A EXCEPTION, 08:00 D NOT ON TOUR" + missingBC;
+        round("not on tour", "08:00 D", stranger, stranger);
+        const QString allMissing = "_, A MISSING" + missingBC;
+        round("stranger at the earliest", "07:55 D", allMissing, allMissing);
+        round("stranger just behind the earliest", "07:55:01 D",
+              "_, A EXCEPTION, 07:55 D NOT ON TOUR" + missingBC,
+              "_, A EXCEPTION, 07:55 D NOT ON TOUR" + missingBC);
+        round("stranger on the seam of two points", "08:25 D", allMissing, allMissing);
+        round("stranger hidden by a point in time", "07:56 A, 07:58 D, 08:02 A", none,
+              "_, A ON TIME, 07:56 A ON TIME, 07:58 D NOT ON TOUR, 08:02 A ON TIME" + missingBC);
+        round("no touch left to look at", "08:00 A", none,
+              "_, A ON TIME, 08:00 A ON TIME" + missingBC);
+        round("a touch left to look at", "08:00 A, 08:25 D", "_, B MISSING, _, C MISSING",
+              "_, A ON TIME, 08:00 A ON TIME" + missingBC);
+        round("last used up under a shown point", "08:10 A",
+              "_, A EXCEPTION, 08:10 A LATE" + missingBC,
+              "_, A EXCEPTION, 08:10 A LATE" + missingBC);
+        round("all in time", "08:00 A, 08:30 B, 09:00 C", none,
+              "_, A ON TIME, 08:00 A ON TIME, _, B ON TIME, 08:30 B ON TIME, _, C ON TIME, "
+              "09:00 C ON TIME");
+        round("behind the query", "08:00 A, 09:05:30 C", none,
+              "_, A ON TIME, 08:00 A ON TIME" + missingBC);
+        round("last of the query", "08:00 A, 09:05 C", "_, B MISSING",
+              "_, A ON TIME, 08:00 A ON TIME, _, B MISSING, _, C ON TIME, 09:05 C ON TIME");
+        round("before the query", "07:54:59 A", NoData, NoData);
+        round("no location in the query", "08:00 e, 08:00 u", NoData, NoData);
+        round("only a user touch", "08:00 u", NoData, NoData);
+        const QString twice = "08:00 A, 08:20 A";
+        const QString lateFirst = "_, A EXCEPTION, 08:10 A LATE, _, A MISSING";
+        row("before the middle", twice, 5, "08:10:29 A", lateFirst, lateFirst);
+        const QString earlySecond = "_, A MISSING, _, A EXCEPTION, 08:10 A EARLY";
+        row("behind the middle", twice, 5, "08:10:30 A", earlySecond, earlySecond);
+        row("in time for two", "08:00 A, 08:05 A", 5, "08:02 A", none,
+            "_, A ON TIME, 08:02 A ON TIME, _, A MISSING");
+        row("one point", "08:00 A", 5, "07:55 D, 08:00 A, 08:04 D", none,
+            "_, A ON TIME, 08:00 A ON TIME, 08:04 D NOT ON TOUR");
+        row("no tolerance, early and late", "08:00 A, 08:30 B", 0,
+            "07:45 A, 08:00:59 A, 08:01 A, 08:31 B, 08:45 B",
+            "_, B EXCEPTION, 08:31 B LATE, 08:45 B LATE",
+            "_, A ON TIME, 07:45 A EARLY, 08:00 A ON TIME, 08:01 A LATE, _, B EXCEPTION, "
+            "08:31 B LATE, 08:45 B LATE");
+        row("no tolerance, outside the query", "08:00 A", 0, "07:44:59 A, 08:15:01 A", NoData, NoData);
+        row("over midnight", "23:50 A, 24:10 B, 24:30 C", 5, "23:49 A, 24:09 B, 24:30 C", none,
+            "_, A ON TIME, 23:49 A ON TIME, _, B ON TIME, 00:09 B ON TIME, _, C ON TIME, "
+            "00:30 C ON TIME");
+        row("deleted button", "08:00 X, 08:30 B", 5, "08:00 X, 08:30 B", none,
+            "_, - ON TIME, 08:00 X ON TIME, _, B ON TIME, 08:30 B ON TIME");
+        row("events under their locations", Round, 5,
+            "07:55 e, 08:10 A, 08:10 e, 08:11 f, 08:12 u, 08:25 D, 08:26 f",
+            "_, A EXCEPTION, 08:10 A LATE, _, B MISSING, _, C MISSING",
+            "_, A EXCEPTION, 08:10 A LATE, 08:10 e EVENT, 08:11 f EVENT" + missingBC);
+        row("one instant, in the order of storing", Round, 5, "08:06 A, 08:06 e, 08:06 A, 08:06 f",
+            "_, A EXCEPTION, 08:06 A LATE, 08:06 A LATE" + missingBC,
+            "_, A EXCEPTION, 08:06 A LATE, 08:06 e EVENT, 08:06 A LATE, 08:06 f EVENT" + missingBC);
+    }
+    void Matching() {
+        QFETCH(QString, points);
+        QFETCH(int, tolerance);
+        QFETCH(QString, touches);
+        const int tour = AddTour(points, tolerance);
+        AddTouches(touches);
+        AddTouches("08:30 B, 09:00 D", "4b5831a7"); // another reader's
+        QTEST(Report(tour), "exceptions");
+        QTEST(Report(tour, true, true), "all");
+    }
+
+    void ReportInFull() {
+        const TestClock clock(TourDay + DateTime::FromTime(9, 5, 7), 1);
+        gCompanyInfo = {"Kestrel", "", "Pier 4", "%d"};
+        AddTouches("08:40 B, 08:41 e");
+        m_viewer.OnShow = [] { QVERIFY(TableExists("tblXXXException")); };
+        Report(AddTour(Round, 5), true, true, TourDay + DateTime::FromTime(14, 30));
+        m_viewer.OnShow = {};
+        const QString rule = "|||||||" + QString(255, u'_') + "|||";
+        QCOMPARE(m_viewer.Rows,
+                 (QStringList{rule, "10|08:00|07:55 to 08:05|||Site - A|MISSING||||", rule,
+                              "20|08:30|08:25 to 08:35|||Site - B|EXCEPTION||||",
+                              "||||||||08:40|LATE|Site - B", "||||||||08:41|EVENT|Book - e", rule,
+                              "30|09:00|08:55 to 09:05|||Site - C|MISSING||||"}));
+        QVERIFY(!TableExists("tblXXXException"));
+        QCOMPARE(m_viewer.Caption, "Tour Report");
+        const QHash<QString, QString> labels{
+            {"lblReportTitle", "Tour Report"}, {"lblPrintDate", "21 Nov 2026    09:05"},
+            {"lblDateRange", "21 Nov 2026"}, {"lblTourName", "Round - of tests"},
+            {"lblReaderID", "4B5831A7 - Night"}, {"lblTolerance", "5"}, {"lblOptions", "Yes"},
+            {"lblCompanyInfo", "Kestrel\r\n\r\nPier 4\r\n%d"}, {"Label17", "Print Date:"},
+            {"Label19", "KV-88 Wardlock Reports"}, {"Label16", "Page"}, {"Label15", "%p / %P"},
+            {"lblTitleReaderID", "Reader ID:"}, {"lblDate", "Tour Date:"},
+            {"lblTitleTourName", "Tour Name:"}, {"lblTitleTolerance", "Tolerance (min):"},
+            {"lblTitleTourTime", "Time"}, {"lblSite", "Site/Location"}, {"lblActualTime", "Status"},
+            {"lblShowEvents", "Show Events:"}, {"lblEndOfReport", "End Of Report"}};
+        for (auto label = labels.begin(); label != labels.end(); ++label)
+            QCOMPARE(m_viewer.Labels.value(label.key()), label.value());
+        Report(1);
+        QCOMPARE(m_viewer.Caption, "Exception Report");
+        QCOMPARE(m_viewer.Labels.value("lblOptions"), "No");
+    }
+
+    void LoadingATour() {
+        AddTouches("23:30 A, 24:40 B, 24:45 C");
+        const int tour = AddTour("23:50 A, 24:10 X, 24:30 B", 0);
+        // Seconds of the start do not count, nor does the time of the day that was asked for.
+        gConn->Execute("UPDATE tblTours SET dtStartTime = #1955-05-05 23:50:59#");
+        const cTourReport report = Loaded(tour, TourDay + DateTime::FromTime(14, 30));
+        QCOMPARE(report.GetTourFullName(), "Round - of tests");
+        QCOMPARE(report.TourWindow, DateTime::FromTime(0, 15));
+        const auto& points = report.TourPoints();
+        QCOMPARE(points.size(), std::size_t{3});
+        QCOMPARE(points[0].PointDateTime, TourDay + DateTime::FromTime(23, 50));
+        QCOMPARE(points[1].PointDateTime, TourDay + DateTime::FromTime(24, 10));
+        QCOMPARE(points[2].PointDateTime, TourDay + DateTime::FromTime(24, 30));
+        QCOMPARE(points[1].PointButtonId + points[1].ButtonName + points[1].SiteName, "XXXXXX");
+        QCOMPARE(points[2].PointIndex, 30);
+        QCOMPARE(points[0].TimeEarliest(5), TourDay + DateTime::FromTime(23, 45));
+        QCOMPARE(points[0].TimeLatest(5), TourDay + DateTime::FromTime(23, 55, 59));
+        QCOMPARE(points[0].TimeLatest(0), TourDay + DateTime::FromTime(23, 50, 59));
+        QCOMPARE(report.Buttons().size(), std::size_t{2}); // both edges of the window
+        QCOMPARE(report.Buttons()[0].DateAndTime, TourDay + DateTime::FromTime(24, 40));
+    }
+
+    void LoadingTouches() {
+        AddTouches("08:00 e, 08:00 A, 08:00 e, 08:00 B, 08:01 f, 08:02 u, 08:02 e");
+        gConn->Execute("UPDATE tblEvents SET tButtonCode = '12345678' WHERE tButtonName = 'A'");
+        gConn->Execute("UPDATE tblEvents SET tButtonCode = '1234' WHERE tButtonName = 'f'");
+        gConn->Execute("UPDATE tblEvents SET tButtonCode = NULL, tGroupName = NULL, tButtonName = "
+                       "NULL WHERE tButtonName = 'B'");
+        const cTourReport report = Loaded(AddTour(Round, 5));
+        QCOMPARE(report.Buttons().size(), std::size_t{2});
+        const cLocation &first = report.Buttons()[0], &second = report.Buttons()[1];
+        QCOMPARE(first.ButtonCode, "123456");
+        QCOMPARE(first.Events.size(), std::size_t{1});
+        QCOMPARE(second.ButtonCode, "      ");
+        QCOMPARE(second.Name + second.GroupName, "");
+        QCOMPARE(second.Events.size(), std::size_t{2});
+        QCOMPARE(second.Events[0].Code, "1234  ");
+    }
+
+    // A tour knows the whole code of a button, a touch only six characters of it.
+    void CodesOfOtherLengths_data() {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("report");
+        QTest::newRow("8") << "12345678" << "_, A EXCEPTION, 08:00 A NOT ON TOUR";
+        QTest::newRow("4") << "1234" << "_, A EXCEPTION, 08:00 A NOT ON TOUR";
+        QTest::newRow("other case") << "aaaaaA" << "NO EXCEPTIONS, _";
+    }
+    void CodesOfOtherLengths() {
+        QFETCH(QString, code);
+        const int tour = AddTour("08:00 A", 5);
+        AddTouches("08:00 A");
+        for (const char* table : {"tblEvents", "tblButtons", "tblTourPoints"})
+            gConn->Execute(QStringLiteral("UPDATE %1 SET tButtonCode = '%2' WHERE tButtonCode = "
+                                          "'AAAAAA'").arg(table, code));
+        QTEST(Report(tour), "report");
+        gConn->Execute("UPDATE tblTourPoints SET tButtonCode = 'AaaaAa'");
+        QCOMPARE(Report(tour), "_, - EXCEPTION, 08:00 A NOT ON TOUR");
+    }
+
+    void NoReport() {
+        const int empty = AddTour({}, 5), round = AddTour(Round, 5);
+        QCOMPARE(Report(0), Failed + "<ERROR #0001>");
+        QCOMPARE(Report(99), Failed + "<ERROR #0001>");
+        QCOMPARE(Report(empty), Failed + "<ERROR #0002>");
+        QCOMPARE(Report(round), NoData);
+        QCOMPARE(m_home->TakeLog(), QString());
+        gConn->Execute("ALTER TABLE tblTourPoints RENAME TO tblGone");
+        QCOMPARE(Report(round), Failed + "<ERROR #0002>");
+        QVERIFY(m_home->TakeLog().startsWith("Error 10001 in LoadTourPoints of Class Module "
+                                             "cTourReport\t(no such table"));
+        gConn->Execute("ALTER TABLE tblGone RENAME TO tblTourPoints");
+        // A view in the table's place cannot be dropped as one.
+        AddTouches("08:00 A");
+        gConn->Execute("CREATE VIEW tblXXXException AS SELECT 1 AS a");
+        QCOMPARE(Report(round), Failed + "<ERROR #0005>");
+        QVERIFY(m_home->TakeLog().startsWith("Error 10001 in ResetTempTourTable of Form "
+                                             "frmRptTour\t("));
+        gConn->Execute("DROP VIEW tblXXXException");
+        m_viewer.OnShow = [] { throw RunTimeError(5, "No paper"); };
+        BuildTourReport({round, TourDay, Reader, {}, false, false}, m_viewer);
+        m_viewer.OnShow = {};
+        QCOMPARE(m_boxes.TakeTexts(), QStringList(Failed + "<ERROR #9999>"));
+        QCOMPARE(m_home->TakeLog(), "Error 5 in BuildTourReport of Form frmRptTour\t(No paper)");
+        QVERIFY(!TableExists("tblXXXException"));
+        QCOMPARE(Report(round), "NO EXCEPTIONS, _"); // and the next one comes
+    }
+
+    void AKilledReportLeavesNothingInTheWay() {
+        const int tour = AddTour(Round, 5);
+        AddTouches("08:06 A");
+        TestHome::Close();
+        ForkedChild child([&](int out) {
+            m_home->Open();
+            m_viewer.OnShow = [&] {
+                (void)::write(out, "o", 1);
+                ::pause();
+            };
+            Report(tour);
+        });
+        QCOMPARE(child.Read(1), "o");
+        child.Kill();
+        QVERIFY(m_home->Open());
+        QVERIFY(TableExists("tblXXXException"));
+        QCOMPARE(Report(tour), "_, A EXCEPTION, 08:06 A LATE, _, B MISSING, _, C MISSING");
+        QVERIFY(!TableExists("tblXXXException"));
+    }
+
+    // However many touches the store holds, a tour reads only those of its reader and its window.
+    void TheQueryUsesTheIndex() {
+        const int tour = AddTour(Round, 5);
+        AddTouches("08:00 A");
+        QByteArray query;
+        sqlite3_trace_v2(gConn->Handle(), SQLITE_TRACE_STMT,
+                         [](unsigned, void* context, void* statement, void*) {
+                             const QByteArray sql = sqlite3_sql(static_cast<sqlite3_stmt*>(statement));
+                             if (sql.contains("tblEvents"))
+                                 *static_cast<QByteArray*>(context) = sql;
+                             return 0;
+                         }, &query);
+        Loaded(tour);
+        sqlite3_trace_v2(gConn->Handle(), 0, nullptr, nullptr);
+        QString plan;
+        sqlite3_exec(gConn->Handle(), ("EXPLAIN QUERY PLAN " + query).constData(),
+                     [](void* context, int columns, char** values, char**) {
+                         *static_cast<QString*>(context) += QString(values[columns - 1]) + u'\n';
+                         return 0;
+                     }, &plan, nullptr);
+        QCOMPARE(plan, "SEARCH TABLE tblEvents USING INDEX idxEventReader (tPipeID=? AND "
+                       "dtDateTime>? AND dtDateTime<?)\n");
+    }
+};
+
+QTEST_MAIN(TourReportTest)
+#include "TourReportTest.moc"
