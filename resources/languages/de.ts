@@ -628,6 +628,14 @@
         <translation>Ganze Seite</translation>
     </message>
     <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>The report could not be exported.</source>
+        <translation>Der Bericht konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
         <source>The report could not be printed.</source>
         <translation>Der Bericht konnte nicht gedruckt werden.</translation>
     </message>

@@ -1,5 +1,6 @@
 #include "Application.h"
 
+#include "LockFile.h"
 #include "RunTimeError.h"
 #include "Version.h"
 
@@ -8,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QStandardPaths>
 
 #ifdef Q_OS_WIN
@@ -28,14 +28,12 @@ QString& ChosenPath() {
 
 class LockFileInstance : public InstanceLock {
 public:
-    explicit LockFileInstance(const QString& path) : m_file(path) {
-        m_file.setStaleLockTime(0); // only a dead holder makes the lock stale, never its age
-    }
+    explicit LockFileInstance(const QString& path) : m_file(path) {}
     /// False only if somebody holds it: where no lock can be kept, none is missed.
-    bool Take() { return m_file.tryLock(0) || m_file.error() != QLockFile::LockFailedError; }
+    bool Take() { return m_file.Take() != LockFile::Outcome::Held; }
 
 private:
-    QLockFile m_file;
+    LockFile m_file;
 };
 
 [[noreturn]] void ThrowFileError(const QString& path, const QString& reason) {

@@ -192,6 +192,12 @@ void CreateStoreFile(const QString& path, const QString& password) {
 
 void CompactDatabase(const QString& source, const QString& destination) {
     const auto target = PartsOf(destination);
+    // The engine attaches only a file that is there; an empty one is a new store to it.
+    QFile file(target.value(SourceProperty));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
+                           file.fileName() + QStringLiteral(": ") + file.errorString());
+    file.close();
     Connection connection;
     connection.Open(source);
     sqlite3* database = connection.Handle();

@@ -48,7 +48,7 @@ bool ToBoolean(const QString& text) {
         return false;
     bool ok = false;
     const double value = word.toDouble(&ok);
-    if (!ok)
+    if (!ok || std::isnan(value))
         throw RunTimeError(RunTimeErrorNumber::TypeMismatch, QStringLiteral("Type mismatch"));
     return value != 0;
 }

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-class QLockFile;
+class LockFile;
 
 /// The process's hold on a store file, kept in a lock file beside it ("main.ldb" for "main.mdb").
 /// All connections of one process share one hold. A lock file left by a process that died is
@@ -19,5 +19,5 @@ public:
     StoreLock& operator=(const StoreLock&) = delete;
 
 private:
-    std::shared_ptr<QLockFile> m_file;
+    std::shared_ptr<LockFile> m_file;
 };

@@ -4,10 +4,12 @@
 #include "mDeclareGlobals.h"
 #include "mStore.h"
 
+#include <QDir>
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// An application folder of its own, with settings of its own; both are gone afterwards.
+/// An application folder of its own, whose name is no simple one, with settings of its own; both are
+/// gone afterwards.
 class TestHome {
 public:
     enum Content { NoStore, EmptyStore, DemoSite };
@@ -27,7 +29,7 @@ public:
     QString TakeLog() const;
 
 private:
-    QTemporaryDir m_folder;
+    QTemporaryDir m_folder{QDir::tempPath() + "/keeper's Büro-XXXXXX"};
 };
 
 /// Runs a query on gConn; a row a line, its values parted by "|", a null as "NULL".

@@ -33,7 +33,7 @@ private slots:
         QVERIFY(link.DetectStation());
         QVERIFY(!gCommActive);
         QCOMPARE(link.InBuffer().Count(), 0);
-        QTRY_COMPARE(dock.Logged("0D 0A 0D 0A"), 1);
+        QTRY_COMPARE(dock.Logged("0D 0A"), 2);
         dock.Say("fault silent detect 1");
         QVERIFY(!link.DetectStation());
         QVERIFY(!gCommActive);

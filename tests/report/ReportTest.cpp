@@ -1,46 +1,75 @@
-// The report engine and its preview: pages by arithmetic, captions, faulty layouts, PDF, and the
-// window driven by its keys.
+// The report engine: pages by arithmetic, captions, texts too long, faulty layouts, PDF.
 
-#include "DataReport.h"
-#include "DateTime.h"
-#include "PreviewCanvas.h"
+#include "Clock.h"
 #include "ReportPdf.h"
-#include "RowSource.h"
-#include "RunTimeError.h"
+#include "SmallReport.h"
 #include "darTourException.h"
-#include "frmPreview.h"
 
-#include <QAction>
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPainter>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace {
 
+constexpr int DotsPerMillimetre = 8;
+const DateTime Evening = DateTime::FromQt(QDate(2026, 11, 5)) + DateTime::FromTime(22, 7, 58);
+
 QString PdfText(const DataReport& report) {
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("report.pdf"));
     ExportPdf(report, path, QStringLiteral("Title"));
-    QProcess tool;
-    tool.start(QStringLiteral("pdftotext"),
-               {QStringLiteral("-raw"), path, QStringLiteral("-")});
-    tool.waitForFinished();
-    return QString::fromUtf8(tool.readAllStandardOutput()).simplified();
+    return TextOfPdf(path);
+}
+
+QByteArray PdfBytes(const DataReport& report) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    ExportPdf(report, buffer, QStringLiteral("Title"));
+    return bytes;
 }
 
 QImage Painted(const DataReport& report, int page) {
-    QImage image(420, 594, QImage::Format_RGB32);
+    QImage image(210 * DotsPerMillimetre, 297 * DotsPerMillimetre, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    painter.scale(0.02, 0.02);
-    report.PaintPage(painter, page, DateTime::FromDays(46000));
+    painter.scale(DotsPerMillimetre / 100.0, DotsPerMillimetre / 100.0);
+    report.PaintPage(painter, page, Evening);
     return image;
+}
+
+/// The inked part of a horizontal strip of the paper; all in millimetres.
+struct Ink {
+    double left = 1000;
+    double right = 0;
+    double top = 1000;
+    double bottom = 0;
+};
+Ink InkWithin(const QImage& paper, int top, int height) {
+    Ink ink;
+    for (int y = top * DotsPerMillimetre; y < (top + height) * DotsPerMillimetre; ++y)
+        for (int x = 0; x < paper.width(); ++x)
+            if (qGray(paper.pixel(x, y)) < 128) {
+                const double across = static_cast<double>(x) / DotsPerMillimetre;
+                const double down = static_cast<double>(y) / DotsPerMillimetre;
+                ink = {std::min(ink.left, across), std::max(ink.right, across),
+                       std::min(ink.top, down), std::max(ink.bottom, down)};
+            }
+    return ink;
+}
+
+template <typename Body>
+QString DescriptionOf(Body&& body) {
+    try {
+        body();
+    } catch (const RunTimeError& error) {
+        return error.Description();
+    }
+    return {};
 }
 
 } // namespace
@@ -49,6 +78,8 @@ class ReportTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void cleanup() { QLocale::setDefault(QLocale::c()); }
+
     void PagesByArithmetic_data() {
         QTest::addColumn<qsizetype>("rows");
         QTest::addColumn<int>("footer");
@@ -120,28 +151,180 @@ private slots:
                               << QByteArray("txtName");
         QTest::newRow("no field") << QByteArray("\"field\": \"tName\",") << QByteArray()
                                   << QByteArray("txtName");
-        QTest::newRow("width is text") << QByteArray("\"width\": 60") << QByteArray("\"width\": \"x\"")
-                                       << QByteArray("lblPage");
-        QTest::newRow("row higher than the page") << QByteArray("\"detail\", \"height\": 10")
-                                                  << QByteArray("\"detail\", \"height\": 500")
-                                                  << QByteArray("test.json");
+        QTest::newRow("width is text") << QByteArray("\"width\": 60")
+                                       << QByteArray("\"width\": \"x\"") << QByteArray("lblHead");
+        QTest::newRow("misspelt property")
+            << QByteArray("\"field\"") << QByteArray("\"feild\"") << QByteArray("txtName");
+        QTest::newRow("beyond its section")
+            << QByteArray("\"width\": 60") << QByteArray("\"width\": 101") << QByteArray("lblHead");
+        QTest::newRow("negative") << QByteArray("\"top\": 0") << QByteArray("\"top\": -1")
+                                  << QByteArray("lblHead");
+        QTest::newRow("unknown overflow")
+            << QByteArray("\"ellipsis\"") << QByteArray("\"spill\"") << QByteArray("txtName");
+        QTest::newRow("two of a name")
+            << QByteArray("\"Top\"") << QByteArray("\"head\"") << QByteArray("head");
+        QTest::newRow("two of a kind")
+            << QByteArray("\"pageHeader\"") << QByteArray("\"reportHeader\"") << QByteArray("Top");
+        QTest::newRow("text box in a header")
+            << QByteArray("\"label\"") << QByteArray("\"textBox\"") << QByteArray("lblHead");
+        QTest::newRow("wider than the paper")
+            << QByteArray("\"width\": 100") << QByteArray("\"width\": 211") << QByteArray("page");
+        QTest::newRow("row higher than the page")
+            << QByteArray("\"detail\", \"height\": 10") << QByteArray("\"detail\", \"height\": 500")
+            << QByteArray("test.json");
     }
     void FaultyLayoutsAreNamed() {
         QFETCH(QByteArray, from);
         QFETCH(QByteArray, to);
         QFETCH(QByteArray, named);
         const QByteArray json = SmallLayout().replace(from, to);
-        QString text;
-        try {
-            ReadReportLayout(json, QStringLiteral("test.json"));
-        } catch (const RunTimeError& error) {
-            text = error.Description();
-        }
+        QVERIFY(json != SmallLayout());
+        const QString text =
+            DescriptionOf([&] { ReadReportLayout(json, QStringLiteral("test.json")); });
+        QVERIFY2(text.contains(QStringLiteral("test.json")), qPrintable(text));
         QVERIFY2(text.contains(QString::fromUtf8(named)), qPrintable(text));
     }
 
+    void ReportHeaderOnFirstPageOnly() {
+        const CountedRows source(100);
+        const auto report = SmallReport();
+        report->SetDataSource(&source);
+        // Headers and rows have their ink in the upper half of their ten millimetres.
+        for (const auto& [page, tops] : {std::pair(0, 2), std::pair(1, 1)}) {
+            const QImage paper = Painted(*report, page);
+            QVERIFY(InkWithin(paper, 98, 10 * tops).right > 55);
+            QCOMPARE(InkWithin(paper, 0, 98).right, 0.0);
+            QCOMPARE(InkWithin(paper, 199, 98).right, 0.0);
+        }
+        const auto beginsWith = [&](int page) {
+            return InkWithin(Painted(*report, page), 98, 6).right;
+        };
+        QVERIFY(beginsWith(0) > beginsWith(1)); // "Beginning", "2 / 12"
+    }
+
+    void LongTextsStayInTheirBox_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QByteArray>("overflow");
+        QTest::addColumn<QByteArray>("align");
+        QTest::addColumn<double>("reaches"); // at least so much of the 60 mm is inked
+        const QString latin = QStringLiteral("Warehouse ").repeated(20);
+        const QString hebrew =
+            QString::fromUtf8("\u05de\u05d7\u05e1\u05df \u05d4\u05e0\u05de\u05dc ").repeated(20);
+        const QByteArray cut = "ellipsis", clip = "clip", left = "left";
+        QTest::newRow("shortened") << latin << cut << left << 50.0;
+        QTest::newRow("shortened, right") << latin << cut << QByteArray("right") << 50.0;
+        QTest::newRow("shortened, centred") << latin << cut << QByteArray("centre") << 50.0;
+        QTest::newRow("shortened, right to left") << hebrew << cut << left << 50.0;
+        QTest::newRow("kerned") << QString(QStringLiteral("AV")).repeated(60) << cut << left
+                                << 50.0;
+        QTest::newRow("clipped") << latin << clip << left << 58.0;
+        QTest::newRow("clipped, right to left") << hebrew << clip << left << 58.0;
+        QTest::newRow("rule") << QString(255, u'_') << clip << left << 59.8;
+        QTest::newRow("with breaks")
+            << QStringLiteral("one\r\ntwo\tthree ").repeated(9) << cut << left << 50.0;
+    }
+    void LongTextsStayInTheirBox() {
+        QFETCH(QString, text);
+        QFETCH(QByteArray, overflow);
+        QFETCH(QByteArray, align);
+        QFETCH(double, reaches);
+        CountedRows source(1);
+        source.Text = [&](qsizetype) { return text; };
+        const auto report = SmallReport(SmallLayout()
+                                            .replace("\"ellipsis\"", '"' + overflow + '"')
+                                            .replace("\"left\" }", '"' + align + "\" }"));
+        report->SetDataSource(&source);
+        const Ink ink = InkWithin(Painted(*report, 0), 118, 11);
+        QVERIFY2(ink.left >= 54.8 && ink.right <= 115.2,
+                 qPrintable(QStringLiteral("%1 to %2").arg(ink.left).arg(ink.right)));
+        QVERIFY(ink.right - ink.left >= reaches);
+        QVERIFY(ink.bottom <= 124);
+    }
+
+    void ShortTextsStandWhereTheLayoutPutsThem() {
+        CountedRows source(1);
+        source.Text = [](qsizetype) { return QStringLiteral("Gate"); };
+        double expected = 55;
+        for (const char* align : {"left", "centre", "right"}) {
+            const auto report =
+                SmallReport(SmallLayout().replace("\"left\" }", QByteArray("\"") + align + "\" }"));
+            report->SetDataSource(&source);
+            const Ink ink = InkWithin(Painted(*report, 0), 118, 11);
+            const double width = ink.right - ink.left;
+            QVERIFY(width > 5 && width < 10);
+            QVERIFY(std::abs(ink.left - expected) < 0.5);
+            expected += (60 - width) / 2;
+        }
+    }
+
+    void RuleHasNoGaps() {
+        CountedRows source(1);
+        source.Text = [](qsizetype) { return QString(255, u'_'); };
+        const auto report = SmallReport(SmallLayout().replace("ellipsis", "clip"));
+        report->SetDataSource(&source);
+        const QImage paper = Painted(*report, 0);
+        const int y = static_cast<int>(InkWithin(paper, 118, 11).top * DotsPerMillimetre);
+        for (int x = 56 * DotsPerMillimetre; x < 114 * DotsPerMillimetre; ++x)
+            QCOMPARE(paper.pixel(x, y), qRgb(0, 0, 0));
+    }
+
+    void ShortTextsAreNotShortened() {
+        if (!HasPdfTool())
+            QSKIP("pdftotext is not there");
+        CountedRows source(3);
+        const QString texts[] = {QStringLiteral("Harbour Warehouse - Gate 7"),
+                                 QStringLiteral("Warehouse ").repeated(20),
+                                 QStringLiteral("one\r\ntwo")};
+        source.Text = [&](qsizetype row) { return texts[row]; };
+        const auto report = SmallReport();
+        report->SetDataSource(&source);
+        const QString text = PdfText(*report);
+        QVERIFY2(text.contains(texts[0] + QStringLiteral(" Warehouse ")), qPrintable(text));
+        QCOMPARE(text.count(u'\u2026'), 1);
+        QVERIFY(text.contains(QStringLiteral("one two")));
+    }
+
+    void PlaceholdersAreExpanded() {
+        if (!HasPdfTool())
+            QSKIP("pdftotext is not there");
+        const TestClock clock(Evening, 0.001);
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+        const auto report = SmallReport();
+        report->Sections(u"TOP")
+            .Controls(u"LBLPAGE")
+            .SetCaption(QStringLiteral("%p|%P|%d|%t|%x|100%"));
+        QCOMPARE(PdfText(*report), QStringLiteral("Beginning 1|1|05/11/2026|22:07|%x|100%"));
+    }
+
+    void PaperFollowsTheCountry_data() {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QPageSize::PageSizeId>("paper");
+        QTest::newRow("Germany") << QStringLiteral("de_DE") << QPageSize::A4;
+        QTest::newRow("United Kingdom") << QStringLiteral("en_GB") << QPageSize::A4;
+        QTest::newRow("United States") << QStringLiteral("en_US") << QPageSize::Letter;
+        QTest::newRow("Canada") << QStringLiteral("fr_CA") << QPageSize::Letter;
+    }
+    void PaperFollowsTheCountry() {
+        QFETCH(QString, locale);
+        QFETCH(QPageSize::PageSizeId, paper);
+        QLocale::setDefault(QLocale(locale));
+        const darTourException report;
+        QCOMPARE(report.Paper().id(), paper);
+        QCOMPARE(SmallReport()->Paper().id(), QPageSize::A4);
+    }
+
+    void SamePdfAtTheSameTime() {
+        const TestClock clock(Evening, 0.001);
+        const CountedRows source(30);
+        const auto report = SmallReport();
+        report->SetDataSource(&source);
+        const QByteArray bytes = PdfBytes(*report);
+        QVERIFY(bytes.contains("/CreationDate (D:20261105220758"));
+        QVERIFY(bytes == PdfBytes(*report));
+    }
+
     void PdfHoldsEveryRowAndPage() {
-        if (QProcess::execute(QStringLiteral("pdftotext"), {QStringLiteral("-v")}) != 0)
+        if (!HasPdfTool())
             QSKIP("pdftotext is not there");
         const CountedRows source(20);
         const auto report = SmallReport();
@@ -156,7 +339,7 @@ private slots:
     }
 
     void PlaceholdersAreTheLayoutsOnly() {
-        if (QProcess::execute(QStringLiteral("pdftotext"), {QStringLiteral("-v")}) != 0)
+        if (!HasPdfTool())
             QSKIP("pdftotext is not there");
         darTourException report;
         report.SetReportParam({}, {}, QStringLiteral("Tour %p at 100%d"), {}, QStringLiteral("T"),
@@ -173,12 +356,33 @@ private slots:
         const auto report = SmallReport();
         QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("none/report.pdf"));
-        QVERIFY_THROWS_EXCEPTION(RunTimeError, ExportPdf(*report, path, {}));
+        QVERIFY(DescriptionOf([&] {
+                    ExportPdf(*report, path, {});
+                }).contains(QStringLiteral("report.pdf")));
         if (QFile::exists(QStringLiteral("/dev/full"))) {
             QFile full(QStringLiteral("/dev/full"));
             QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
             QVERIFY_THROWS_EXCEPTION(RunTimeError, ExportPdf(*report, full, {}));
         }
+    }
+
+    void FailedPdfKeepsTheOldFile() {
+        CountedRows source(100);
+        source.Text = [](qsizetype row) {
+            if (row == 50)
+                throw RunTimeError(RunTimeErrorNumber::ObjectClosed, QStringLiteral("closed"));
+            return QStringLiteral("Row");
+        };
+        const auto report = SmallReport();
+        report->SetDataSource(&source);
+        const QTemporaryDir folder;
+        QFile old(folder.filePath(QStringLiteral("report.pdf")));
+        QVERIFY(old.open(QIODevice::ReadWrite) && old.write("old") == 3 && old.flush());
+        QCOMPARE(DescriptionOf([&] { ExportPdf(*report, old.fileName(), {}); }),
+                 QStringLiteral("closed"));
+        QVERIFY(old.seek(0));
+        QCOMPARE(old.readAll(), QByteArray("old"));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{"report.pdf"});
     }
 };
 

@@ -21,6 +21,7 @@ private slots:
         QCOMPARE(lastLogin(), "2"); // remembered, though the password was wrong
         QCOMPARE(CheckOperator(UserOperator, " crew\t"), UserOperator);
         QCOMPARE(CheckOperator(MasterOperator, "CREW"), NoOperator);
+        QCOMPARE(CheckOperator(MasterOperator, "KEEPER", RememberLogin::No), MasterOperator);
         QCOMPARE(lastLogin(), "2");
         QCOMPARE(CheckOperator(MasterOperator, "Keeper"), MasterOperator);
         QCOMPARE(lastLogin(), "1");

@@ -52,6 +52,7 @@ private slots:
     void initTestCase() {
         QLocale::setDefault(QLocale::c());
         m_home = std::make_unique<TestHome>(TestHome::EmptyStore);
+        gConn->Execute("PRAGMA synchronous=OFF"); // a disk's slowness is not what is looked at
     }
     void cleanupTestCase() { m_home.reset(); }
     void init() {

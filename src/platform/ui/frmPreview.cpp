@@ -134,9 +134,9 @@ void frmPreview::PlaceWindow() {
         main = main->parentWidget()->window();
     const QRect area = main->screen()->geometry();
     const int wanted = PixelsOf(PreviewWidth);
+    const int otherwise = main == this ? area.width() : main->width();
     move(area.topLeft());
-    resize(area.width() >= wanted || main == this ? wanted : main->width(),
-           area.height() - PixelsOf(LessThanScreen));
+    resize(area.width() >= wanted ? wanted : otherwise, area.height() - PixelsOf(LessThanScreen));
 }
 
 /// The size above is that of the window with its frame, which is known once it is on the screen.

@@ -1,0 +1,296 @@
+// The preview window, driven by its keys and its wheel, and printing.
+
+#include "MessageBox.h"
+#include "SmallReport.h"
+#include "frmPreview.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QWheelEvent>
+
+namespace {
+
+const TranslateText AsItIs = [](const QString& text) { return text; };
+
+/// A preview on the screen.
+class Shown {
+public:
+    explicit Shown(const RowSource& rows) : report(SmallReport()) {
+        report->SetDataSource(&rows);
+        report->SetCaption(QStringLiteral("A report"));
+        window = std::make_unique<frmPreview>(*report, AsItIs, nullptr);
+        window->show();
+        page = Find<QScrollArea>("scrPage");
+        if (!QTest::qWaitForWindowExposed(window.get()) ||
+            !QTest::qWaitFor([this] { return window->PagesPainted() > 0; }))
+            qFatal("the preview does not open");
+    }
+    template <typename T>
+    T* Find(const char* name) const {
+        return window->findChild<T*>(QString::fromLatin1(name));
+    }
+    void Key(int key, Qt::KeyboardModifiers modifiers = {}) const {
+        QTest::keyClick(page, static_cast<Qt::Key>(key), modifiers);
+    }
+    void Wheel(int delta, Qt::KeyboardModifiers modifiers = {}) const {
+        QWheelEvent event(QPointF(50, 50), page->mapToGlobal(QPointF(50, 50)), {}, {0, delta},
+                          Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(page->viewport(), &event);
+    }
+    QString Zoom() const { return Find<QLabel>("lblZoom")->text(); }
+
+    std::unique_ptr<DataReport> report;
+    std::unique_ptr<frmPreview> window;
+    QScrollArea* page = nullptr;
+};
+
+class KeptMessages : public MessageBoxes {
+public:
+    KeptMessages() { InstallMessageBoxes(this); }
+    ~KeptMessages() override { InstallMessageBoxes(nullptr); }
+    MessageAnswer Show(const Message& message) override {
+        texts += message.text;
+        return HarmlessAnswer(message.buttons);
+    }
+    QStringList texts;
+};
+
+/// Exports under a name typed into the file dialog; gives the name that the dialog proposed.
+QString Export(const Shown& preview, const QString& path) {
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QString proposed;
+    QTimer::singleShot(300, preview.page, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        proposed = QFileInfo(dialog->selectedFiles().value(0)).fileName();
+        auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        name->setText(path);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    preview.Find<QAction>("pdf")->trigger();
+    return proposed;
+}
+
+} // namespace
+
+class PreviewTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void PreviewIsDrivenByKeys() {
+        const CountedRows source(100'000);
+        const auto report = SmallReport();
+        report->SetDataSource(&source);
+        report->SetCaption(QStringLiteral("A report"));
+        frmPreview preview(*report, AsItIs, nullptr);
+        preview.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&preview));
+        QTRY_VERIFY(preview.PagesPainted() > 0);
+        QVERIFY(preview.PagesPainted() < 5);
+        QCOMPARE(preview.windowTitle(), QStringLiteral("A report"));
+        auto* field = preview.findChild<QLineEdit*>(QStringLiteral("txtPage"));
+        QWidget* page = preview.findChild<QWidget*>(QStringLiteral("scrPage"));
+        const int pages = report->PageCount();
+
+        QTest::keyClick(page, Qt::Key_PageDown);
+        QCOMPARE(preview.Page(), 1);
+        QTest::keyClick(page, Qt::Key_End);
+        QCOMPARE(preview.Page(), pages - 1);
+        QVERIFY(!preview.findChild<QAction*>(QStringLiteral("next"))->isEnabled());
+        QTest::keyClick(page, Qt::Key_PageUp);
+        QCOMPARE(preview.Page(), pages - 2);
+        QTest::keyClick(page, Qt::Key_Home);
+        QCOMPARE(preview.Page(), 0);
+        QTest::keyClick(page, Qt::Key_G, Qt::ControlModifier);
+        QTest::keyClicks(field, QStringLiteral("777"));
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(preview.Page(), 776);
+        QCOMPARE(field->text(), QStringLiteral("777"));
+
+        auto* zoom = preview.findChild<QLabel*>(QStringLiteral("lblZoom"));
+        QTest::keyClick(page, Qt::Key_0, Qt::ControlModifier);
+        QCOMPARE(zoom->text(), QStringLiteral("100 %"));
+        QTest::keyClick(page, Qt::Key_Equal, Qt::ControlModifier);
+        QCOMPARE(zoom->text(), QStringLiteral("125 %"));
+        QTest::keyClick(page, Qt::Key_Minus, Qt::ControlModifier);
+        QTest::keyClick(page, Qt::Key_Minus, Qt::ControlModifier);
+        QCOMPARE(zoom->text(), QStringLiteral("75 %"));
+        for (const auto* button : preview.findChildren<QWidget*>())
+            if (button->inherits("QToolButton") && button->isVisible())
+                QVERIFY(!button->accessibleName().isEmpty());
+        QTest::keyClick(page, Qt::Key_Escape);
+        QVERIFY(!preview.isVisible());
+    }
+
+    void TypedPageNumbers_data() {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("page");
+        QTest::newRow("beyond the last") << QStringLiteral("999") << 12;
+        QTest::newRow("zero") << QStringLiteral("0") << 1;
+        QTest::newRow("letters do not count") << QStringLiteral("-x4") << 4;
+    }
+    void TypedPageNumbers() {
+        QFETCH(QString, typed);
+        QFETCH(int, page);
+        const CountedRows rows(100);
+        const Shown preview(rows);
+        auto* field = preview.Find<QLineEdit>("txtPage");
+        preview.Key(Qt::Key_G, Qt::ControlModifier);
+        QTest::keyClicks(field, typed);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(preview.window->Page() + 1, page);
+        QCOMPARE(field->text(), QString::number(page));
+        QVERIFY(!field->hasFocus());
+        field->setFocus();
+        field->clear();
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(field->text(), QString::number(page));
+    }
+
+    void WheelTurnsPagesAndZooms() {
+        const CountedRows rows(100);
+        const Shown preview(rows);
+        preview.Key(Qt::Key_2, Qt::ControlModifier); // the whole page: nothing to scroll
+        for (int step = 0; step < 3; ++step)
+            preview.Wheel(-40); // a touch pad's steps make one notch
+        QCOMPARE(preview.window->Page(), 1);
+        preview.Wheel(-120);
+        QCOMPARE(preview.window->Page(), 2);
+        preview.Wheel(120);
+        QCOMPARE(preview.window->Page(), 1);
+
+        preview.Key(Qt::Key_0, Qt::ControlModifier);
+        preview.Wheel(120, Qt::ControlModifier);
+        QCOMPARE(preview.Zoom(), QStringLiteral("125 %"));
+        QCOMPARE(preview.window->Page(), 1);
+        preview.Wheel(-120); // now there is something to scroll
+        QCOMPARE(preview.window->Page(), 1);
+        QVERIFY(preview.page->verticalScrollBar()->value() > 0);
+    }
+
+    void FitFollowsTheWindow() {
+        const CountedRows rows(100);
+        const Shown preview(rows);
+        const QScrollBar* across = preview.page->horizontalScrollBar();
+        const QScrollBar* down = preview.page->verticalScrollBar();
+        for (const int width : {400, 700}) {
+            preview.window->resize(width, 500);
+            preview.Key(Qt::Key_1, Qt::ControlModifier);
+            QVERIFY(across->maximum() == 0 && down->maximum() > 0);
+            preview.Key(Qt::Key_2, Qt::ControlModifier);
+            QVERIFY(across->maximum() == 0 && down->maximum() == 0);
+        }
+    }
+
+    void TakesTheMainWindowsWidthOnASmallScreen() {
+        const QRect screen = QApplication::primaryScreen()->geometry();
+        QVERIFY(screen.width() < 842);
+        QWidget main;
+        main.resize(520, 300);
+        main.show();
+        const CountedRows rows(1);
+        const auto report = SmallReport();
+        report->SetDataSource(&rows);
+        QRect place;
+        QTimer::singleShot(300, this, [&] {
+            QWidget* window = QApplication::activeModalWidget();
+            place = window->frameGeometry();
+            window->close();
+        });
+        PreviewViewer(&main, AsItIs).Show(*report);
+        QCOMPARE(place, QRect(screen.topLeft(), QSize(520, screen.height() - 48)));
+    }
+
+    void ExportsUnderTheNameTyped() {
+        const CountedRows rows(100);
+        const Shown preview(rows);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("typed name"));
+        KeptMessages messages;
+        QCOMPARE(Export(preview, path), QStringLiteral("A report.pdf"));
+        QCOMPARE(messages.texts, QStringList());
+        QFile file(path + QStringLiteral(".pdf"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(file.readAll().endsWith("%%EOF\n"));
+    }
+
+    void RowsThatFailAreTold() {
+        CountedRows rows(100);
+        rows.Text = [](qsizetype) -> QString {
+            throw RunTimeError(RunTimeErrorNumber::ObjectClosed, QStringLiteral("is closed"));
+        };
+        const Shown preview(rows); // shows the failure in the page's place
+        const QTemporaryDir folder;
+        KeptMessages messages;
+        Export(preview, folder.filePath(QStringLiteral("report")));
+        QCOMPARE(messages.texts, QStringList{"The report could not be exported.\r\nis closed"});
+        QVERIFY(QDir(folder.path()).isEmpty());
+    }
+
+    void PrintsThePagesAskedFor_data() {
+        QTest::addColumn<QPrinter::PrintRange>("range");
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<bool>("lastFirst");
+        QTest::addColumn<int>("copies");
+        QTest::addColumn<QString>("pages");
+        QTest::newRow("all") << QPrinter::AllPages << 0 << 0 << false << 1 << "1 2 3 4";
+        QTest::newRow("some") << QPrinter::PageRange << 2 << 3 << false << 1 << "2 3";
+        QTest::newRow("beyond the end") << QPrinter::PageRange << 3 << 9 << false << 1 << "3 4";
+        QTest::newRow("the one shown") << QPrinter::CurrentPage << 0 << 0 << false << 1 << "3";
+        QTest::newRow("last first") << QPrinter::PageRange << 2 << 4 << true << 1 << "4 3 2";
+        QTest::newRow("twice") << QPrinter::PageRange << 1 << 2 << false << 2 << "1 2 1 2";
+    }
+    void PrintsThePagesAskedFor() {
+        if (!HasPdfTool())
+            QSKIP("pdftotext is not there");
+        QFETCH(QPrinter::PrintRange, range);
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QFETCH(bool, lastFirst);
+        QFETCH(int, copies);
+        QFETCH(QString, pages);
+        const QTemporaryDir folder;
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(folder.filePath(QStringLiteral("print.pdf")));
+        printer.setPrintRange(range);
+        printer.setFromTo(from, to);
+        printer.setPageOrder(lastFirst ? QPrinter::LastPageFirst : QPrinter::FirstPageFirst);
+        printer.setCopyCount(copies);
+        printer.setCollateCopies(true);
+        if (copies > 1 && printer.supportsMultipleCopies())
+            QSKIP("the printer makes the copies");
+        const CountedRows rows(30);
+        const auto report = SmallReport();
+        report->SetDataSource(&rows);
+        PrintReport(*report, printer, 2);
+        QStringList printed;
+        static const QRegularExpression number(QStringLiteral("(\\d) / 4"));
+        for (const auto& match : number.globalMatch(TextOfPdf(printer.outputFileName())))
+            printed += match.captured(1);
+        QCOMPARE(printed.join(u' '), pages);
+    }
+
+    void PrintingFailsAloud() {
+        QPrinter printer;
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(QStringLiteral("/none/print.pdf"));
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, PrintReport(*SmallReport(), printer, 0));
+    }
+};
+
+QTEST_MAIN(PreviewTest)
+#include "PreviewTest.moc"
