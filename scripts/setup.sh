@@ -28,21 +28,25 @@ install_missing() {
         as_root=(sudo)
     fi
     say "Installing ${missing[*]}"
-    "${as_root[@]}" apt-get update -qq >&2
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+    quietly install.log "${as_root[@]}" apt-get update
+    quietly install.log "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
-# build TARGET...: all targets if none is named. The compiler's output is shown only if it fails.
-build() {
-    local log=$BUILD/build.log
+# quietly LOG COMMAND...: what it prints goes into a log in the build folder, and is shown only if it
+# fails, which ends everything.
+quietly() {
+    local log=$BUILD/$1
     mkdir -p "$BUILD"
+    "${@:2}" >"$log" 2>&1 || { tail -n 60 "$log" >&2; exit 1; }
+}
+
+# build TARGET...: all targets if none is named.
+build() {
     say "Building in $BUILD"
-    if ! { { [ -f "$BUILD/build.ninja" ] ||
-        cmake -S "$root" -B "$BUILD" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "${cmake_options[@]}"; } &&
-        cmake --build "$BUILD" ${1:+--target "$@"}; } >"$log" 2>&1; then
-        tail -n 60 "$log" >&2
-        exit 1
-    fi
+    [ -f "$BUILD/build.ninja" ] ||
+        quietly configure.log cmake -S "$root" -B "$BUILD" -G Ninja \
+            -DCMAKE_BUILD_TYPE=RelWithDebInfo "${cmake_options[@]}"
+    quietly build.log cmake --build "$BUILD" ${1:+--target "$@"}
 }
 cmake_options=()

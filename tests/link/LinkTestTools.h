@@ -8,7 +8,6 @@
 #include "Recordset.h"
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
-#include "mDeclareGlobals.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -17,10 +16,8 @@
 #include <QProcess>
 #include <QSocketNotifier>
 #include <QTest>
-#include <QTimer>
 
 #include <fcntl.h>
-#include <functional>
 #include <numeric>
 #include <stdexcept>
 #include <stdlib.h>
@@ -33,25 +30,24 @@ inline QByteArray Hex(const char* digits) { return QByteArray::fromHex(digits); 
 
 /// A frame, put together apart from the code under test.
 inline QByteArray FrameOf(const QByteArray& payload) {
-    QByteArray body = Hex("0301035100") + static_cast<char>(payload.size()) + payload;
-    const int sum = std::accumulate(body.begin(), body.end(), 0);
-    return Hex("FFFFFF55") + body + static_cast<char>(sum);
+    const QByteArray body = Hex("0301035100") + static_cast<char>(payload.size()) + payload;
+    return Hex("FFFFFF55") + body +
+           static_cast<char>(std::accumulate(body.begin(), body.end(), 0));
 }
 
 /// The frames of a memory image. `identifier` as it stands on the wire.
-inline QByteArrayList ImageFrames(int count, const QByteArrayList& records, qsizetype frames,
+inline QByteArrayList ImageFrames(int count, const QByteArrayList& records, int frames,
                                   const QByteArray& identifier = Hex("A7314B58")) {
     QByteArrayList result;
     QByteArray memory = records.join();
-    for (qsizetype k = 0; k < frames; ++k) {
+    for (int k = 0; k < frames; ++k) {
         QByteArray payload(1, '\xF3');
         if (k == 0)
             payload += QByteArray(1, static_cast<char>(count)) + static_cast<char>(count >> 8) +
                        identifier + Hex("0600");
         const qsizetype room = 241 - payload.size();
-        payload += memory.left(room).leftJustified(room, '\0');
+        result += FrameOf(payload + memory.left(room).leftJustified(room, '\0'));
         memory.remove(0, room);
-        result += FrameOf(payload);
     }
     return result;
 }
@@ -60,7 +56,7 @@ inline QByteArrayList ImageFrames(int count, const QByteArrayList& records, qsiz
 inline QByteArrayList SomeRecords(int count) {
     QByteArrayList records{Hex("0F0100AA")};
     for (int i = 1; i < count; ++i)
-        records += QByteArray(1, static_cast<char>(i)) + static_cast<char>(0x40 + i / 100) +
+        records += QByteArray(1, static_cast<char>(i)) + static_cast<char>(0x40 + i / 256) +
                    '\x1A' + static_cast<char>(i % 60);
     return records;
 }
@@ -75,7 +71,6 @@ inline QString TouchText(const QString& code, DateTime time) {
 inline QStringList StoredTouches() {
     QStringList rows;
     Recordset events;
-    events.CursorLocation = adUseClient;
     events.Open(QStringLiteral("SELECT * FROM tblEvents ORDER BY ID"), *gConn);
     for (; !events.Eof(); events.MoveNext())
         rows += TouchText(events.Text(u"tButtonCode"), events.Date(u"dtDateTime"));
@@ -84,22 +79,17 @@ inline QStringList StoredTouches() {
 
 inline void ForgetTouches() { gConn->Execute(QStringLiteral("DELETE * FROM tblEvents")); }
 
-/// The simulated docking station, as a program of its own.
+/// The simulated docking station, as a program of its own. Every port number is its device.
 class Dock {
 public:
-    Dock(const TestHome& home, const QByteArray& scenario)
-        : Device(home.File("dock")), m_log(home.File("dock.log")) {
+    Dock(const TestHome& home, const QByteArray& scenario) : m_log(home.File("dock.log")) {
         QFile file(home.File("dock.scenario"));
         if (!file.open(QIODevice::WriteOnly) || file.write(scenario) < 0)
             throw std::runtime_error("no scenario");
         file.close();
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QStringLiteral(DOCKSIM), {QStringLiteral("--scenario"), file.fileName(),
-                                                  QStringLiteral("--log"), m_log,
-                                                  QStringLiteral("--link"), Device});
-        if (ReadLine().isEmpty())
-            throw std::runtime_error("no dock");
-        OverrideDevice(Device);
+        m_process.start(DOCKSIM, {"--scenario", file.fileName(), "--log", m_log});
+        OverrideDevice(QString::fromUtf8(ReadLine()).trimmed());
     }
     ~Dock() {
         m_process.write("quit\n");
@@ -111,9 +101,9 @@ public:
         Say("state");
         return QJsonDocument::fromJson(ReadLine()).object();
     }
-    int Erasures() { return State()[QStringLiteral("erased")].toInt(); }
-    QString Clock() { return State()[QStringLiteral("clock")].toString(); }
-    /// How many of the lines that were logged so far have this text.
+    int Erasures() { return State()["erased"].toInt(); }
+    QString Clock() { return State()["clock"].toString(); }
+    /// How often this text stands in the log so far.
     qsizetype Logged(const char* text) const {
         QFile file(m_log);
         return file.open(QIODevice::ReadOnly) ? file.readAll().count(text) : -1;
@@ -121,8 +111,6 @@ public:
     bool HasEnded() {
         return m_process.state() == QProcess::NotRunning || m_process.waitForFinished();
     }
-
-    const QString Device;
 
 private:
     QByteArray ReadLine() {
@@ -135,7 +123,7 @@ private:
     QProcess m_process;
 };
 
-/// The far end of a line without a dock behind it: what it answers to a command is up to the test.
+/// The far end of a line without a dock: what it answers to a command is up to the test.
 class LineEnd {
 public:
     LineEnd() : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK)) {
@@ -162,8 +150,7 @@ public:
 private:
     void Serve() {
         char bytes[512];
-        const auto count = read(m_master, bytes, sizeof bytes);
-        m_received += QByteArray(bytes, std::max<ssize_t>(count, 0));
+        m_received.append(bytes, std::max<ssize_t>(read(m_master, bytes, sizeof bytes), 0));
         for (;;) {
             const qsizetype at = m_received.indexOf(Hex("FFFFFF55"));
             if (at < 0 || m_received.size() < at + 10)
@@ -188,32 +175,26 @@ class RecordingView : public DownloadView, public TransferView {
 public:
     explicit RecordingView(DockingLink& link) : m_link(link) {}
 
-    /// Called after each thing that a transfer shows.
-    std::function<void(MemoryTransfer&)> Watch;
-    bool GetIDMode = false, bFirmwareVersion = false;
+    /// Cancels the next transfer once the reader is known.
+    bool CancelAtFirstFrame = false;
     /// A transfer that runs longer than this, in milliseconds, is cancelled, as an operator would.
     int Patience = 20'000;
 
     TransferResult RunTransfer() override {
         MemoryTransfer transfer(m_link, *this);
-        transfer.GetIDMode = GetIDMode;
-        transfer.bFirmwareVersion = bFirmwareVersion;
         m_transfer = &transfer;
-        Progress.clear();
-        ProgressInRange = true;
+        WasCancelled = false;
         QEventLoop loop;
         QObject::connect(&transfer, &MemoryTransfer::Closed, &loop, &QEventLoop::quit);
         Timer patience(Patience);
-        WasCancelled = false;
         QObject::connect(&patience, &Timer::Tick, &loop, [&] {
             WasCancelled = true;
-            Answered = transfer.HasAnswered();
             transfer.Cancel();
         });
         patience.SetEnabled(true);
         transfer.Start();
         loop.exec();
-        m_transfer = nullptr;
+        HasAnswered = transfer.HasAnswered();
         return transfer.Result();
     }
     void ShowBusy(bool busy) override { Busy += busy; }
@@ -223,34 +204,24 @@ public:
     void ShowLastRow() override {}
     void ShowStatus(const QString& text) override { Status = text; }
 
-    void ShowText(const QString& text) override {
-        TransferText = text;
-        Look();
-    }
-    void ShowReaderId(const QString& readerId) override {
-        ReaderId = readerId;
-        Look();
+    void ShowText(const QString&) override {}
+    void ShowReaderId(const QString&) override {
+        if (std::exchange(CancelAtFirstFrame, false))
+            m_transfer->Cancel();
     }
     void ShowWarning(bool) override {}
     void ShowProgress(int value, int maximum) override {
         ProgressInRange = ProgressInRange && value >= 0 && value <= maximum;
-        Look();
     }
-    void ShowProgressText(const QString& text) override { Progress += text; }
+    void ShowProgressText(const QString&) override {}
     void Beep() override {}
 
-    QString MessageText, Status, TransferText, ReaderId;
-    QStringList Progress;
+    QString MessageText, Status;
     QList<bool> Busy;
     std::size_t Listed = 0;
-    bool ProgressInRange = true, WasCancelled = false, Answered = false;
+    bool ProgressInRange = true, WasCancelled = false, HasAnswered = false;
 
 private:
-    void Look() {
-        if (Watch && m_transfer)
-            Watch(*m_transfer);
-    }
-
     DockingLink& m_link;
     MemoryTransfer* m_transfer = nullptr;
 };

@@ -103,49 +103,33 @@ private slots:
         QTest::addColumn<QByteArrayList>("packets"); // empty where there is none
         QTest::addColumn<QByteArray>("left");
         QTest::addColumn<int>("lost");
-        const auto junk = static_cast<int>(Junk.size());
-        const auto size = static_cast<int>(Good.size());
-        const QByteArrayList none{""};
-        QTest::newRow("empty") << none << none << QByteArray() << 0;
-        QTest::newRow("junk stays") << QByteArrayList{Junk} << none << Junk << 0;
-        QTest::newRow("a frame") << QByteArrayList{Good} << QByteArrayList{Good} << QByteArray()
-                                 << 0;
-        QTest::newRow("four preamble bytes")
-            << QByteArrayList{'\xFF' + Good, ""} << QByteArrayList{"", Good} << QByteArray() << 1;
-        QTest::newRow("preamble without sync")
-            << QByteArrayList{Hex("FFFFFF00") + Good, ""} << QByteArrayList{"", Good}
-            << QByteArray() << 4;
-        QTest::newRow("junk, frame, two bytes")
-            << QByteArrayList{Junk + Good + "ab"} << QByteArrayList{Good} << QByteArray("ab")
-            << junk;
-        QTest::newRow("junk, frame, one byte")
-            << QByteArrayList{Junk + Good + "a"} << QByteArrayList{Good} << QByteArray() << junk + 1;
-        QTest::newRow("the one byte begins a frame")
-            << QByteArrayList{Good + Other.left(1), Other.mid(1)} << QByteArrayList{Good, ""}
-            << Other.mid(1) << 1;
-        QTest::newRow("two frames in one piece")
-            << QByteArrayList{Good + Other, ""} << QByteArrayList{Good, Other} << QByteArray() << 0;
-        QTest::newRow("wrong checksum before a frame")
-            << QByteArrayList{Bad + Good, ""} << QByteArrayList{"", Good} << QByteArray() << size;
-        QTest::newRow("wrong checksum and one byte")
-            << QByteArrayList{Bad + "a"} << none << QByteArray() << size + 1;
-        QTest::newRow("last byte missing")
-            << QByteArrayList{Good.chopped(1), Good.right(1)} << QByteArrayList{"", Good}
-            << QByteArray() << 0;
+        const auto row = [](const char* name, const QByteArrayList& chunks,
+                            const QByteArrayList& packets, const QByteArray& left = {},
+                            qsizetype lost = 0) {
+            QTest::newRow(name) << chunks << packets << left << static_cast<int>(lost);
+        };
+        const qsizetype junk = Junk.size();
+        row("empty", {""}, {""});
+        row("junk stays", {Junk}, {""}, Junk);
+        row("a frame", {Good}, {Good});
+        row("four preamble bytes", {'\xFF' + Good, ""}, {"", Good}, {}, 1);
+        row("preamble without sync", {Hex("FFFFFF00") + Good, ""}, {"", Good}, {}, 4);
+        row("junk, frame, two bytes", {Junk + Good + "ab"}, {Good}, "ab", junk);
+        row("junk, frame, one byte", {Junk + Good + "a"}, {Good}, {}, junk + 1);
+        row("that byte begins a frame", {Good + Other.left(1), Other.mid(1)}, {Good, ""},
+            Other.mid(1), 1);
+        row("two frames in one piece", {Good + Other, ""}, {Good, Other});
+        row("wrong checksum before a frame", {Bad + Good, ""}, {"", Good}, {}, Bad.size());
+        row("wrong checksum and one byte", {Bad + "a"}, {""}, {}, Bad.size() + 1);
         const QByteArray least = FrameOf(Hex("11"));
-        QTest::newRow("11 of 12 bytes") << QByteArrayList{least.left(11), least.right(1)}
-                                        << QByteArrayList{"", least} << QByteArray() << 0;
-        QTest::newRow("cut preamble") << QByteArrayList{Junk + Good.left(2), Good.mid(2)}
-                                      << QByteArrayList{"", Good} << QByteArray() << junk;
+        row("11 of 12 bytes", {least.left(11), least.right(1)}, {"", least});
+        row("cut preamble", {Junk + Good.left(2), Good.mid(2)}, {"", Good}, {}, junk);
         const QByteArray hollow = FrameOf({});
-        QTest::newRow("no payload") << QByteArrayList{hollow, Good, ""}
-                                    << QByteArrayList{"", hollow, Good} << QByteArray() << 0;
+        row("no payload", {hollow, Good, ""}, {"", hollow, Good});
         const QByteArray longest = FrameOf(QByteArray(244, '\x01'));
-        QTest::newRow("longest") << QByteArrayList{longest} << QByteArrayList{longest}
-                                 << QByteArray() << 0;
+        row("longest", {longest.chopped(1), longest.right(1)}, {"", longest});
         const QByteArray tooLong = FrameOf(QByteArray(245, '\x01')) + Good;
-        QTest::newRow("too long blocks the buffer")
-            << QByteArrayList{tooLong, ""} << QByteArrayList{"", ""} << tooLong << 0;
+        row("too long blocks the buffer", {tooLong, ""}, {"", ""}, tooLong);
     }
     void Buffer() {
         QFETCH(QByteArrayList, chunks);
@@ -258,21 +242,20 @@ private slots:
     // said holds across them.
     void AcrossFrames() {
         for (const int count : {1, 57, 58, 59, 60, 117, 118, 119, 178, 179, 300}) {
-            const colRawButtons touches =
-                Decode(ImageFrames(count, SomeRecords(count), FramesFor(count)));
-            QCOMPARE(static_cast<int>(touches.size()), count - 1);
+            const QByteArrayList records = SomeRecords(count);
+            QStringList touches;
             for (int i = 1; i < count; ++i)
-                QCOMPARE(Text({touches[static_cast<std::size_t>(i - 1)]}),
-                         QStringLiteral("1A%1%2 2.1.2000 15:%3")
-                             .arg(0x40 + i / 100, 2, 16, QLatin1Char('0'))
-                             .arg(i % 256, 2, 16, QLatin1Char('0'))
-                             .toUpper()
-                             .arg(i % 60, 2, 10, QLatin1Char('0')));
+                touches += QStringLiteral("1A%1 2.1.2000 15:%2")
+                               .arg(0x4000 + i, 4, 16)
+                               .arg(i % 60, 2, 10, QLatin1Char('0'))
+                               .toUpper();
+            QCOMPARE(Text(Decode(ImageFrames(count, records, FramesFor(count)))),
+                     touches.join(u','));
         }
         QByteArrayList ended = SomeRecords(100);
         ended[20] = Hex("00000000");
         QCOMPARE(static_cast<int>(Decode(ImageFrames(100, ended, 2)).size()), 19);
-        // The records of a frame follow from its own length.
+        // How many records a frame holds follows from its own length.
         QCOMPARE(Text(Decode({FrameOf(Hex("F3010000000000060001020300040506"))})),
                  "030201 30.12.1899 0:00");
         QVERIFY(Decode({FrameOf(Hex("F3")), FrameOf(Hex("F3"))}).empty());
