@@ -71,11 +71,20 @@ QByteArray Chunk(Input& input) {
     QByteArray frame = FrameOf(input.Bytes(input.Byte() % 246));
     const qsizetype at = input.Byte() % frame.size();
     switch (kind) {
-    case 2: frame[at] = static_cast<char>(frame[at] ^ input.Byte()); break;
-    case 3: frame.remove(at, 1 + input.Byte() % 16); break;
-    case 4: frame.insert(at, input.Bytes(1 + input.Byte() % 4)); break;
-    case 5: frame.insert(0, QByteArray(input.Byte() % 8, '\xFF')); break;
-    default: break;
+    case 2:
+        frame[at] = static_cast<char>(frame[at] ^ input.Byte());
+        break;
+    case 3:
+        frame.remove(at, 1 + input.Byte() % 16);
+        break;
+    case 4:
+        frame.insert(at, input.Bytes(1 + input.Byte() % 4));
+        break;
+    case 5:
+        frame.insert(0, QByteArray(input.Byte() % 8, '\xFF'));
+        break;
+    default:
+        break;
     }
     return frame;
 }

@@ -3,7 +3,6 @@
 // nothing, say "Download Error" and end by itself.
 
 #include "LinkTestTools.h"
-
 #include "MemoryImage.h"
 #include "mWardlock.h"
 
@@ -34,23 +33,22 @@ class DamageTest : public QObject {
         QByteArrayList frames;
         QStringList touches;
 
-        Reader(int count, const QByteArray& identifier)
-            : frames(ImageFrames(count, TreacherousRecords(count), FramesFor(count), identifier)) {
+        Reader(int count, const QByteArray& identifier) {
             const QByteArrayList records = TreacherousRecords(count);
-            for (const QByteArray& record : records.mid(1))
-                touches += QString::fromLatin1(
-                               (record.mid(2, 1) + record.mid(1, 1) + record.left(1)).toHex())
-                               .toUpper() +
-                           QStringLiteral(" 2.1.2000 15:%1").arg(record[3], 2, 10, QLatin1Char('0'));
+            frames = ImageFrames(count, records, FramesFor(count), identifier);
+            for (const QByteArray& record : records.mid(1)) {
+                const char code[] = {record[2], record[1], record[0]};
+                touches += QStringLiteral("%1 2.1.2000 15:%2")
+                               .arg(QString::fromLatin1(QByteArray(code, 3).toHex().toUpper()))
+                               .arg(int{record[3]}, 2, 10, QLatin1Char('0'));
+            }
         }
-        QByteArray Stream() const { return frames.join(); }
     };
 
     TestHome m_home{TestHome::DemoSite};
     ScriptedBoxes m_boxes;
     LineEnd m_line;
     DockingLink m_link;
-    QMap<QString, int> m_verdicts;
 
     /// What a download of this stream comes to: "stored", "Download Error" or another of the
     /// transfer's messages, "waits" for Cancel, or what went wrong.
@@ -65,7 +63,6 @@ class DamageTest : public QObject {
         const QString verdict = Judge(reader, view, download.LastOutcome().readerId);
         if (!StoredTouches().isEmpty())
             ForgetTouches();
-        ++m_verdicts[verdict];
         return verdict;
     }
 
@@ -94,8 +91,9 @@ class DamageTest : public QObject {
     /// One run of the proof. Gives an empty text where it holds.
     QString Fault(const QByteArray& stream, const Reader& reader, const QString& what) {
         const QString verdict = Verdict(stream, reader, Fastest);
-        return verdict == u"stored" || verdict == u"Download Error" ? QString()
-                                                                    : what + QStringLiteral(": ") + verdict;
+        return verdict == u"stored" || verdict == u"Download Error"
+                   ? QString()
+                   : what + QStringLiteral(": ") + verdict;
     }
 
 private slots:
@@ -105,8 +103,6 @@ private slots:
         QVERIFY(m_link.OpenPort(1));
     }
 
-    void init() { m_verdicts.clear(); }
-
     // What the other tests damage is good before.
     void Streams_data() {
         QTest::addColumn<int>("count");
@@ -114,8 +110,7 @@ private slots:
         QTest::addColumn<QByteArray>("before"); // stands before the frame with this number
         QTest::addColumn<int>("frame");
         QTest::addColumn<QString>("verdict");
-        const QString stored = QStringLiteral("stored");
-        const QString error = QStringLiteral("Download Error");
+        const QString stored = QStringLiteral("stored"), error = QStringLiteral("Download Error");
         const auto row = [](const char* name, int count, const QByteArray& identifier, int frame,
                             const QByteArray& before, const QString& verdict) {
             QTest::newRow(name) << count << identifier << before << frame << verdict;
@@ -142,8 +137,7 @@ private slots:
         const QByteArray fault = FrameOf(Hex("F3").leftJustified(9, '\x01'));
         row("transfer fault", 100, Taught, 1, fault, error + QStringLiteral(" (002)"));
         row("transfer fault between", 100, Taught, 2, fault, error + QStringLiteral(" (002)"));
-        const QString noReader =
-            QStringLiteral("Reader not detected. Check reader and try again.");
+        const QString noReader = QStringLiteral("Reader not detected. Check reader and try again.");
         row("no reader", 100, Taught, 1, FrameOf(Hex("2A").leftJustified(9, '\xFF')), noReader);
         row("no reader, longest status", 100, Taught, 2,
             FrameOf(Hex("F3").leftJustified(240, '\xFF')), noReader);
@@ -181,7 +175,7 @@ private slots:
         QFETCH(int, count);
         QFETCH(QByteArray, identifier);
         const Reader reader(count, identifier);
-        const QByteArray stream = reader.Stream();
+        const QByteArray stream = reader.frames.join();
         for (qsizetype at = 0; at < stream.size(); ++at) {
             const qsizetype frame = at / 252;
             if ((frame == 2 || frame == 3) && at % 3 != 0)
@@ -195,7 +189,6 @@ private slots:
             QCOMPARE(Fault(inverted, reader, "inverted" + where), "");
             QCOMPARE(Fault(nudged, reader, "nudged" + where), "");
         }
-        qInfo() << m_verdicts;
     }
 
     void EveryRun_data() { EverySingleByte_data(); }
@@ -203,7 +196,7 @@ private slots:
         QFETCH(int, count);
         QFETCH(QByteArray, identifier);
         const Reader reader(count, identifier);
-        const QByteArray stream = reader.Stream();
+        const QByteArray stream = reader.frames.join();
         for (qsizetype start = 0; start < stream.size(); start += 21)
             for (const qsizetype length : {2, 4, 9, 21, 100, 231, 241, 252, 253, 400, 504, 1008}) {
                 QByteArray rest = stream;
@@ -213,7 +206,6 @@ private slots:
                                    QStringLiteral("%1 bytes lost from %2").arg(length).arg(start)),
                              "");
             }
-        qInfo() << m_verdicts;
     }
 };
 

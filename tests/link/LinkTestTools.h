@@ -31,8 +31,7 @@ inline QByteArray Hex(const char* digits) { return QByteArray::fromHex(digits); 
 /// A frame, put together apart from the code under test.
 inline QByteArray FrameOf(const QByteArray& payload) {
     const QByteArray body = Hex("0301035100") + static_cast<char>(payload.size()) + payload;
-    return Hex("FFFFFF55") + body +
-           static_cast<char>(std::accumulate(body.begin(), body.end(), 0));
+    return Hex("FFFFFF55") + body + static_cast<char>(std::accumulate(body.begin(), body.end(), 0));
 }
 
 /// The frames of a memory image. `identifier` as it stands on the wire.
@@ -224,4 +223,22 @@ public:
 private:
     DockingLink& m_link;
     MemoryTransfer* m_transfer = nullptr;
+};
+
+/// A station with its port open to a simulated dock, at 7:15 on 2 March 2026, in quick time.
+struct Station {
+    static constexpr double Speed = 25;
+    static DateTime Start() { return DateTime::FromQt(QDateTime(QDate(2026, 3, 2), QTime(7, 15))); }
+
+    Station(const TestHome& home, const QByteArray& scenario, double speed = Speed)
+        : clock(Start(), speed), dock(home, scenario) {
+        if (!link.OpenPort(1))
+            throw std::runtime_error("no line to the dock");
+    }
+
+    TestClock clock;
+    Dock dock;
+    DockingLink link;
+    RecordingView view{link};
+    MemoryDownload download{link, view};
 };

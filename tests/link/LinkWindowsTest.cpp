@@ -1,8 +1,7 @@
 // The windows of the reader link, driven by their controls' names.
 
-#include "LinkTestTools.h"
-
 #include "Format.h"
+#include "LinkTestTools.h"
 #include "frmDownload.h"
 #include "frmGoOnline.h"
 #include "frmMdiDownload.h"
@@ -19,12 +18,15 @@
 
 namespace {
 
-constexpr double Speed = 25;
-
 const QByteArray TwoTouches =
     "reader 4B5831A7\ntouch 2026-02-28 23:59 1A40C2\ntouch 2026-03-01 00:05 ABCDEF\n";
 
-template <typename T = QLabel> T* Control(QWidget& window, const char* name) {
+/// 131 records, three frames.
+const QByteArray ManyTouches =
+    "reader 4B5831A7\n" + QByteArray("touch 2026-03-01 08:10 1A40C2\n").repeated(130);
+
+template <typename T = QLabel>
+T* Control(QWidget& window, const char* name) {
     T* control = window.findChild<T*>(QString::fromLatin1(name));
     if (!control)
         qFatal("no control %s", name);
@@ -65,15 +67,8 @@ private slots:
     }
 
     void Transfer() {
-        const TestClock clock(Speed);
-        QByteArray scenario = "reader 4B5831A7\n";
-        for (int i = 0; i < 130; ++i)
-            scenario += "touch 2026-03-01 08:10 1A40C2\n";
-        Dock dock(m_home, scenario);
-        DockingLink link;
-        QVERIFY(link.OpenPort(1));
-        frmDownload dialog(link, nullptr);
-        QCOMPARE(TextOf(dialog, "lblStatic"), "Reader ID:");
+        Station station(m_home, ManyTouches);
+        frmDownload dialog(station.link, nullptr);
         auto* bar = Control<QProgressBar>(dialog, "prgOnline");
         QStringList texts, percents;
         bool inRange = true, warned = false;
@@ -100,26 +95,22 @@ private slots:
 
     // Two callers want less than the touches.
     void IdentifierAndFirmware() {
-        const TestClock clock(Speed);
-        Dock dock(m_home, TwoTouches + "firmware 08");
-        DockingLink link;
-        QVERIFY(link.OpenPort(1));
+        Station station(m_home, ManyTouches + "firmware 08");
         {
-            frmDownload dialog(link, nullptr);
+            frmDownload dialog(station.link, nullptr);
             dialog.GetIDMode = true;
             const TransferResult result = dialog.Run();
             QVERIFY(result.OK && result.Buttons.empty());
             QCOMPARE(result.PipeID, "4B5831A7");
         }
-        frmDownload dialog(link, nullptr);
+        frmDownload dialog(station.link, nullptr);
         dialog.bFirmwareVersion = true;
-        const Watcher wrongText([&] {
-            return TextOf(dialog, "lblMsgs") == u"Downloading data from reader";
-        });
+        const Watcher wrongText(
+            [&] { return TextOf(dialog, "lblMsgs") == u"Downloading data from reader"; });
         const TransferResult result = dialog.Run();
         QVERIFY(result.OK && result.Buttons.empty() && !wrongText.Seen());
         QCOMPARE(result.tFirmware, "V06"); // what 08 is shown as
-        QCOMPARE(dock.Logged("CmdEraseMemory"), 0);
+        QCOMPARE(station.dock.Logged("CmdEraseMemory"), 0);
     }
 
     void Cancel_data() {
@@ -146,11 +137,8 @@ private slots:
         QFETCH(QByteArray, scenario);
         QFETCH(QString, stage);
         QFETCH(int, means);
-        const TestClock clock(Speed);
-        Dock dock(m_home, scenario);
-        DockingLink link;
-        QVERIFY(link.OpenPort(1));
-        frmDownload dialog(link, nullptr);
+        Station station(m_home, scenario);
+        frmDownload dialog(station.link, nullptr);
         const Watcher watcher([&] {
             const bool reached = stage == u"reader"    ? !TextOf(dialog, "lblPipeID").isEmpty()
                                  : stage == u"request" ? gCommActive
@@ -168,16 +156,14 @@ private slots:
         const TransferResult result = dialog.Run();
         QVERIFY(watcher.Seen() && !result.OK && !dialog.isVisible() && !gCommActive);
         QVERIFY(m_boxes.Messages.isEmpty());
-        QVERIFY(link.DetectStation()); // the line is in order, and all that was sent has arrived
-        QTEST(dock.State()["reads"].toInt(), "reads");
+        QVERIFY(station.link
+                    .DetectStation()); // the line is in order, and all that was sent has arrived
+        QTEST(station.dock.State()["reads"].toInt(), "reads");
     }
 
     void Page() {
-        const TestClock clock(Speed);
-        Dock dock(m_home, TwoTouches);
-        DockingLink link;
-        QVERIFY(link.OpenPort(1));
-        frmMdiDownload page(link, nullptr);
+        Station station(m_home, TwoTouches);
+        frmMdiDownload page(station.link, nullptr);
         page.resize(900, 400);
         page.show();
         auto* list = Control<QTreeView>(page, "lvwDownload");
@@ -223,11 +209,11 @@ private slots:
         QVERIFY(list->selectionModel()->isRowSelected(1));
         const int shares[] = {10, 15, 10, 10, 20, 35};
         for (int column = 0; column < 6; ++column) // of the width, less a margin of 16 pixels
-            QVERIFY(std::abs(list->columnWidth(column) -
-                             shares[column] * (list->width() - 16) / 100) <= shares[column] / 15 + 1);
+            QVERIFY(std::abs(list->columnWidth(column) - shares[column] * (list->width() - 16) /
+                                                             100) <= shares[column] / 15 + 1);
 
         // A failed download leaves an empty list.
-        dock.Say("remove");
+        station.dock.Say("remove");
         QTest::mouseClick(download, Qt::LeftButton);
         QCOMPARE(TextOf(page, "lblMsg"), "Download Failed");
         QCOMPARE(model.rowCount(), 0);
@@ -237,23 +223,21 @@ private slots:
     }
 
     void EraseButton() {
-        const TestClock clock(Speed);
-        Dock dock(m_home, TwoTouches);
-        DockingLink link;
-        QVERIFY(link.OpenPort(1));
-        frmMdiDownload page(link, nullptr);
+        Station station(m_home, TwoTouches + "refuse erase 1");
+        frmMdiDownload page(station.link, nullptr);
         page.show();
         const QSignalSpy status(&page, &frmMdiDownload::StatusChanged);
         const QString sure = QStringLiteral("Are you sure you want to clear the reader? ");
-        m_boxes.Answers = {MessageAnswer::No, MessageAnswer::Yes};
+        m_boxes.Answers = {MessageAnswer::No, MessageAnswer::Yes, MessageAnswer::Yes};
         QTest::mouseClick(Control<QPushButton>(page, "cmdOnline_1"), Qt::LeftButton);
         QCOMPARE(m_boxes.TakeTexts(), {sure});
-        QCOMPARE(dock.Logged("CmdEraseMemory"), 0);
+        QCOMPARE(station.dock.Logged("CmdEraseMemory"), 0);
         QVERIFY(status.isEmpty());
         QTest::mouseClick(Control<QPushButton>(page, "cmdOnline_1"), Qt::LeftButton);
-        QCOMPARE(m_boxes.TakeTexts(), (QStringList{sure, "Reader Erased"}));
+        QCOMPARE(m_boxes.TakeTexts(),
+                 (QStringList{sure, "Reader Erase Failed.  Try again?", "Reader Erased"}));
         QCOMPARE(status, (QList<QVariantList>{{"Reader Erased"}}));
-        QCOMPARE(dock.Erasures(), 1);
+        QCOMPARE(station.dock.Erasures(), 1);
     }
 
     void Connecting_data() {
@@ -273,7 +257,7 @@ private slots:
     void Connecting() {
         QFETCH(QByteArray, scenario);
         QFETCH(bool, ok);
-        const TestClock clock(Speed);
+        const TestClock clock(Station::Speed);
         std::unique_ptr<Dock> dock;
         OverrideDevice(m_home.File("nothing"));
         if (!scenario.isEmpty())

@@ -1,7 +1,6 @@
 // The wire format, the receive buffer and the decoding of memory images.
 
 #include "LinkTestTools.h"
-
 #include "MemoryImage.h"
 #include "RunTimeError.h"
 #include "cInBuffer.h"
@@ -269,14 +268,15 @@ private slots:
         ButtonDirectory directory;
         const auto look = [&](const char* code) {
             const cRawButton& button = directory.LookUpButtonData(QString::fromLatin1(code));
-            return QStringList{button.ButtonCode, button.Name, button.Description,
-                               button.GroupName, button.GroupDesc,
-                               QString::number(button.EventType)}
+            return QStringList{button.ButtonCode,  button.Name,
+                               button.Description, button.GroupName,
+                               button.GroupDesc,   QString::number(button.EventType)}
                 .join(u'|');
         };
         for (int again = 0; again < 2; ++again) {
-            QCOMPARE(look("1A40C2"),
-                     "1A40C2|Main gate|Left post, knee height|Harbour Warehouse|Pier 4, north side|1");
+            QCOMPARE(
+                look("1A40C2"),
+                "1A40C2|Main gate|Left post, knee height|Harbour Warehouse|Pier 4, north side|1");
             QCOMPARE(look("7E0009"), "7E0009|No description||Incidents|Carried by every guard|2");
             QCOMPARE(look("7E0001"), "7E0001|Unknown||||0"); // defined twice
             QCOMPARE(look("1a40c2"), "1a40c2|Unknown||||0");

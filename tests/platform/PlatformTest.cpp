@@ -107,6 +107,7 @@ private slots:
         row("C", "hh:mm", "22:07");
         row("C", "Hh:Nn", "22:07");
         row("C", "h:m:s", "22:7:58");
+        row("C", "h mmm", "22 Nov");
         row("C", "mm/yyyy hh:mm mm", "11/2026 22:07 11");
         row("C", "dd mmm yyyy", "05 Nov 2026");
         row("en_US", "dd/mmm/yyyy", "05/Nov/2026");

@@ -84,6 +84,10 @@ private slots:
         QTest::newRow("two columns")
             << names + "WHERE tName < 'a' ORDER BY wType DESC, tName"
             << QStringList{"2|B", "1|B", "1|Zug"};
+        QTest::newRow("ties in turn, whatever the index")
+            << "INSERT INTO tblEvents (dtDateTime) VALUES (2), (1), (2)\n"
+               "SELECT ID FROM tblEvents ORDER BY dtDateTime DESC"
+            << QStringList{"1", "3", "2"};
         QTest::newRow("exact equality") << names + "WHERE tName = 'B'" << QStringList{"1|B", "2|B"};
         QTest::newRow("groups") << "INSERT INTO tblListItems (wType) VALUES (2), (1), (2)\n"
                                    "SELECT wType, COUNT(*) AS n FROM tblListItems GROUP BY wType"

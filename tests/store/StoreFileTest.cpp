@@ -257,7 +257,7 @@ private slots:
             QElapsedTimer timer;
             timer.start();
             home.Compact();
-            return static_cast<unsigned>(timer.elapsed());
+            return static_cast<unsigned>(timer.elapsed()) / 2;
         }();
         int replaced = 0;
         for (int round = 0; round < 16; ++round) {
@@ -268,9 +268,13 @@ private slots:
             });
             // Most of the time goes into the password's key; the copy and the change of files behind
             // it are what matters.
-            for (int wait = 0; wait < 20'000 && QFileInfo(home.Temp()).size() == 0; ++wait)
+            QElapsedTimer timer;
+            timer.start();
+            while (QFileInfo(home.Temp()).size() == 0 && timer.elapsed() < 5000)
                 ::usleep(200);
-            PauseUpTo(compactionTime / 2);
+            const qint64 end = timer.elapsed() + m_random() % compactionTime;
+            while (timer.elapsed() < end)
+                QVERIFY(FileNumber(home.Store()) != 0); // at no moment is there no store
             child.Kill();
             replaced += FileNumber(home.Store()) != old;
             const ino_t killed = FileNumber(home.Store());
