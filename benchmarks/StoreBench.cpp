@@ -18,12 +18,11 @@
 
 #include <functional>
 #include <random>
-#include <string>
-#include <vector>
-
 #include <sqlcipher/sqlite3.h>
+#include <string>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -96,12 +95,14 @@ private:
 
 std::string TextOf(sqlite3_stmt* statement, int column) {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-    return text ? std::string(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)))
+    return text ? std::string(text,
+                              static_cast<std::size_t>(sqlite3_column_bytes(statement, column)))
                 : std::string();
 }
 
 void BindText(sqlite3_stmt* statement, int position, const std::string& text) {
-    sqlite3_bind_text(statement, position, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
+    sqlite3_bind_text(statement, position, text.data(), static_cast<int>(text.size()),
+                      SQLITE_STATIC);
 }
 
 const char* const InsertEvent =
@@ -149,18 +150,21 @@ void MakeStore(const QString& path, int events) {
         bare.Run("INSERT INTO tblListItems (wType, tName, tDesc) VALUES (1, 'Harbour Warehouse', "
                  "'Pier 4, north side')");
     for (int button = 0; button < KnownButtons; ++button)
-        bare.Run(("INSERT INTO tblButtons (lParentID, tButtonCode, tButtonName, tButtonDesc) VALUES (" +
-                  std::to_string(button % 10 + 1) + ", '" + CodeOf(button) + "', 'Loading bay " +
-                  std::to_string(button) + "', 'Beside the roller door')").c_str());
+        bare.Run(
+            ("INSERT INTO tblButtons (lParentID, tButtonCode, tButtonName, tButtonDesc) VALUES (" +
+             std::to_string(button % 10 + 1) + ", '" + CodeOf(button) + "', 'Loading bay " +
+             std::to_string(button) + "', 'Beside the roller door')")
+                .c_str());
     bare.Run("INSERT INTO tblTours VALUES (1, 'Night round', 'Harbour', 5, 0.0)");
     for (int point = 1; point <= 20; ++point)
         bare.Run(("INSERT INTO tblTourPoints (lParentID, lIndex, dtTime, tButtonCode) VALUES (1, " +
-                  std::to_string(point) + ", 10.0/1440, '" + CodeOf(point) + "')").c_str());
+                  std::to_string(point) + ", 10.0/1440, '" + CodeOf(point) + "')")
+                     .c_str());
     sqlite3_stmt* insert = bare.Prepare(InsertEvent);
     const auto write = [&](DateTime date, int button, const std::string& reader) {
-        Insert(insert, {46400.0, date.ToStore(), CodeOf(button),
-                        "Loading bay " + std::to_string(button), "Beside the roller door", 1,
-                        "Harbour Warehouse", "Pier 4, north side", reader});
+        Insert(insert,
+               {46400.0, date.ToStore(), CodeOf(button), "Loading bay " + std::to_string(button),
+                "Beside the roller door", 1, "Harbour Warehouse", "Pier 4, north side", reader});
     };
     for (int touch = 1; touch <= 60; ++touch)
         write(TourDay + DateTime::FromTime(0, touch * 3 + 5), touch % 22, Reader.toStdString());
@@ -195,7 +199,8 @@ colPackets MakeImage(int touches) {
     for (qsizetype at = 0; at < records.size();) {
         const bool first = packets.Count() == 0;
         const int start = first ? Wire::FirstRecordOffset : Wire::RecordOffset;
-        const qsizetype bytes = (first ? Wire::FirstFrameRecords : Wire::FrameRecords) * Wire::RecordBytes;
+        const qsizetype bytes =
+            (first ? Wire::FirstFrameRecords : Wire::FrameRecords) * Wire::RecordBytes;
         cPacket& packet = packets.Add(QByteArray(start, '\x01') +
                                       records.mid(at, bytes).leftJustified(bytes, '\0') + '\x01');
         packet.Tag = packets.Count();
@@ -223,26 +228,37 @@ void BenchDownload(Figures& figures, const QTemporaryDir& folder) {
                         ButtonDirectory fresh;
                         StoreTouches(DecodeImage(image, fresh), Reader);
                     }};
-    const Side baseline{[&] { bare.Run("DELETE FROM tblEvents"); }, [&] {
-        sqlite3_stmt* find = bare.Prepare(
-            "SELECT tblButtons.tButtonCode, tblListItems.wType, tblButtons.tButtonName, "
-            "tblButtons.tButtonDesc, tblListItems.tName, tblListItems.tDesc FROM tblButtons INNER "
-            "JOIN tblListItems ON tblButtons.lParentID = tblListItems.ID WHERE tButtonCode = ?");
-        sqlite3_stmt* insert = bare.Prepare(InsertEvent);
-        bare.Run("BEGIN IMMEDIATE");
-        for (const auto& [code, date] : touches) {
-            Event event{46400.0, date, code, "Unknown", {}, 0, {}, {}, "4B5831A7"};
-            BindText(find, 1, code);
-            if (sqlite3_step(find) == SQLITE_ROW)
-                event = {46400.0, date, code, TextOf(find, 2), TextOf(find, 3),
-                         sqlite3_column_int(find, 1), TextOf(find, 4), TextOf(find, 5), "4B5831A7"};
-            sqlite3_reset(find);
-            Insert(insert, event);
-        }
-        bare.Run("COMMIT");
-        sqlite3_finalize(find);
-        sqlite3_finalize(insert);
-    }};
+    const Side baseline{
+        [&] { bare.Run("DELETE FROM tblEvents"); },
+        [&] {
+            sqlite3_stmt* find = bare.Prepare(
+                "SELECT tblButtons.tButtonCode, tblListItems.wType, tblButtons.tButtonName, "
+                "tblButtons.tButtonDesc, tblListItems.tName, tblListItems.tDesc FROM tblButtons "
+                "INNER "
+                "JOIN tblListItems ON tblButtons.lParentID = tblListItems.ID WHERE tButtonCode = "
+                "?");
+            sqlite3_stmt* insert = bare.Prepare(InsertEvent);
+            bare.Run("BEGIN IMMEDIATE");
+            for (const auto& [code, date] : touches) {
+                Event event{46400.0, date, code, "Unknown", {}, 0, {}, {}, "4B5831A7"};
+                BindText(find, 1, code);
+                if (sqlite3_step(find) == SQLITE_ROW)
+                    event = {46400.0,
+                             date,
+                             code,
+                             TextOf(find, 2),
+                             TextOf(find, 3),
+                             sqlite3_column_int(find, 1),
+                             TextOf(find, 4),
+                             TextOf(find, 5),
+                             "4B5831A7"};
+                sqlite3_reset(find);
+                Insert(insert, event);
+            }
+            bare.Run("COMMIT");
+            sqlite3_finalize(find);
+            sqlite3_finalize(insert);
+        }};
     Compare(figures, "store one download of 32,000 touches", 7, 2.0, ours, baseline);
     Recordset stored;
     stored.CursorLocation = adUseClient;
@@ -266,39 +282,43 @@ void BenchWalk(Figures& figures, const QString& path) {
     if (!ADOInit(path, StorePassword))
         qFatal("the store does not open");
     double sum = 0, bareSum = 0;
-    const Side ours{[] {}, [&] {
-        Recordset rows;
-        rows.CursorLocation = adUseClient;
-        rows.Open("SELECT * FROM tblEvents", *gConn);
-        for (sum = 0; !rows.Eof(); rows.MoveNext())
-            sum += static_cast<double>(rows.Number(u"ID")) + rows.Fields(u"dtDLDateTime").Real() +
-                   static_cast<double>(rows.Text(u"tPipeID").size()) +
-                   rows.Fields(u"dtDateTime").Real() +
-                   static_cast<double>(rows.Text(u"tButtonCode").size() +
-                                       rows.Text(u"tButtonName").size() +
-                                       rows.Text(u"tButtonDesc").size() + rows.Number(u"wGroupType") +
-                                       rows.Text(u"tGroupName").size() +
-                                       rows.Text(u"tGroupDesc").size());
-    }};
-    const Side baseline{[] {}, [&] {
-        sqlite3_stmt* walk = nullptr;
-        sqlite3_prepare_v2(gConn->Handle(), "SELECT * FROM tblEvents", -1, &walk, nullptr);
-        std::vector<PlainRow> rows;
-        while (sqlite3_step(walk) == SQLITE_ROW)
-            rows.push_back({sqlite3_column_int64(walk, 0), sqlite3_column_double(walk, 1),
-                            TextOf(walk, 2), sqlite3_column_double(walk, 3), TextOf(walk, 4),
-                            TextOf(walk, 5), TextOf(walk, 6), sqlite3_column_int64(walk, 7),
-                            TextOf(walk, 8), TextOf(walk, 9)});
-        sqlite3_finalize(walk);
-        bareSum = 0;
-        for (const PlainRow& row : rows)
-            bareSum += static_cast<double>(row.id) + row.downloaded +
-                       static_cast<double>(row.reader.size()) + row.date +
-                       static_cast<double>(row.code.size() + row.name.size() +
-                                           row.description.size() + row.group.size() +
-                                           row.groupDescription.size()) +
-                       static_cast<double>(row.type);
-    }};
+    const Side ours{
+        [] {},
+        [&] {
+            Recordset rows;
+            rows.CursorLocation = adUseClient;
+            rows.Open("SELECT * FROM tblEvents", *gConn);
+            for (sum = 0; !rows.Eof(); rows.MoveNext())
+                sum += static_cast<double>(rows.Number(u"ID")) +
+                       rows.Fields(u"dtDLDateTime").Real() +
+                       static_cast<double>(rows.Text(u"tPipeID").size()) +
+                       rows.Fields(u"dtDateTime").Real() +
+                       static_cast<double>(
+                           rows.Text(u"tButtonCode").size() + rows.Text(u"tButtonName").size() +
+                           rows.Text(u"tButtonDesc").size() + rows.Number(u"wGroupType") +
+                           rows.Text(u"tGroupName").size() + rows.Text(u"tGroupDesc").size());
+        }};
+    const Side baseline{
+        [] {},
+        [&] {
+            sqlite3_stmt* walk = nullptr;
+            sqlite3_prepare_v2(gConn->Handle(), "SELECT * FROM tblEvents", -1, &walk, nullptr);
+            std::vector<PlainRow> rows;
+            while (sqlite3_step(walk) == SQLITE_ROW)
+                rows.push_back({sqlite3_column_int64(walk, 0), sqlite3_column_double(walk, 1),
+                                TextOf(walk, 2), sqlite3_column_double(walk, 3), TextOf(walk, 4),
+                                TextOf(walk, 5), TextOf(walk, 6), sqlite3_column_int64(walk, 7),
+                                TextOf(walk, 8), TextOf(walk, 9)});
+            sqlite3_finalize(walk);
+            bareSum = 0;
+            for (const PlainRow& row : rows)
+                bareSum +=
+                    static_cast<double>(row.id) + row.downloaded +
+                    static_cast<double>(row.reader.size()) + row.date +
+                    static_cast<double>(row.code.size() + row.name.size() + row.description.size() +
+                                        row.group.size() + row.groupDescription.size()) +
+                    static_cast<double>(row.type);
+        }};
     Compare(figures, "walk a recordset of 1,000,000 events", 5, 2.5, ours, baseline);
     if (sum != bareSum)
         qFatal("the walks saw different values");
@@ -382,14 +402,15 @@ void BenchCompaction(Figures& figures, const QTemporaryDir& folder, const QStrin
         return file.open(QIODevice::ReadOnly) ? file.read(16) : QByteArray();
     }();
     const Side ours{[] {}, [&] { CompactStore(ProviderText, path, temp, StorePassword); }};
-    const Side baseline{[&] { QFile::remove(target); }, [&] {
-        Bare bare(path);
-        bare.Run(attach.constData());
-        bare.Run("PRAGMA hand.journal_mode = OFF");
-        bare.Run("PRAGMA hand.synchronous = OFF");
-        bare.Run("SELECT sqlcipher_export('hand')");
-        bare.Run("DETACH DATABASE hand");
-    }};
+    const Side baseline{[&] { QFile::remove(target); },
+                        [&] {
+                            Bare bare(path);
+                            bare.Run(attach.constData());
+                            bare.Run("PRAGMA hand.journal_mode = OFF");
+                            bare.Run("PRAGMA hand.synchronous = OFF");
+                            bare.Run("SELECT sqlcipher_export('hand')");
+                            bare.Run("DETACH DATABASE hand");
+                        }};
     Compare(figures, "compaction of 1,000,000 events", 5, 1.3, ours, baseline);
     QFile file(path); // a fresh file begins with a fresh salt
     if (!file.open(QIODevice::ReadOnly) || file.read(16) == before)

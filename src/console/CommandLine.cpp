@@ -44,7 +44,8 @@ struct RawArguments {
             throw UsageError(QStringLiteral("--%1 is missing").arg(QLatin1String(name)));
         return Value(name);
     }
-    template <typename T> T Choice(const char* name, const QMap<QString, T>& choices) const {
+    template <typename T>
+    T Choice(const char* name, const QMap<QString, T>& choices) const {
         const QString value = Required(name);
         if (!choices.contains(value))
             throw UsageError(QStringLiteral("--%1 %2: one of %3 is wanted")
@@ -81,8 +82,8 @@ void CheckOptionsOf(const RawArguments& raw, const QString& command) {
     for (auto given = raw.options.cbegin(); given != raw.options.cend(); ++given) {
         const QString commands = QLatin1String(OptionNamed(given.key()).commands);
         if (!commands.isEmpty() && !commands.split(u',').contains(command))
-            throw UsageError(QStringLiteral("--%1 does not go with \"%2\"")
-                                 .arg(given.key(), command));
+            throw UsageError(
+                QStringLiteral("--%1 does not go with \"%2\"").arg(given.key(), command));
     }
 }
 
@@ -119,9 +120,9 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     line.command = commands[words];
     line.home = raw.Value("home");
     if (raw.Has("operator"))
-        line.login = raw.Choice<OperatorType>("operator",
-                                              {{QStringLiteral("master"), MasterOperator},
-                                               {QStringLiteral("user"), UserOperator}});
+        line.login =
+            raw.Choice<OperatorType>("operator", {{QStringLiteral("master"), MasterOperator},
+                                                  {QStringLiteral("user"), UserOperator}});
     line.keep = raw.Has("keep");
     line.json = raw.Has("json");
     line.all = raw.Has("all");
@@ -131,8 +132,8 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
         line.tour = ParseKey(raw.Required("tour"));
         line.reader = raw.Required("reader");
         line.date = ParseDate(raw.Required("date"));
-        line.format = raw.Choice<ReportFormat>("format",
-                                               {{QStringLiteral("text"), ReportFormat::Text},
+        line.format =
+            raw.Choice<ReportFormat>("format", {{QStringLiteral("text"), ReportFormat::Text},
                                                 {QStringLiteral("json"), ReportFormat::Json},
                                                 {QStringLiteral("csv"), ReportFormat::Csv},
                                                 {QStringLiteral("pdf"), ReportFormat::Pdf}});

@@ -6,10 +6,10 @@
 #include "ConsoleReport.h"
 #include "DockingLink.h"
 #include "Recordset.h"
-#include "mSettings.h"
 #include "TourReportBuilder.h"
 #include "mErrorHandler.h"
 #include "mOperators.h"
+#include "mSettings.h"
 #include "mStore.h"
 #include "mTranslations.h"
 
@@ -179,9 +179,12 @@ int RunCommand(const CommandLine& line) {
     if (!OpenStation(line))
         return NotDone;
     switch (line.command) {
-    case ConsoleCommand::Detect: return Detect(line);
-    case ConsoleCommand::Download: return Download(line, boxes);
-    case ConsoleCommand::ReportTour: return ReportTour(line, boxes);
+    case ConsoleCommand::Detect:
+        return Detect(line);
+    case ConsoleCommand::Download:
+        return Download(line, boxes);
+    case ConsoleCommand::ReportTour:
+        return ReportTour(line, boxes);
     }
     return NotDone;
 }

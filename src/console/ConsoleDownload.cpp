@@ -46,13 +46,12 @@ TransferResult ConsoleDownload::RunTransfer() {
 QByteArray DownloadJson(const MemoryDownload::Outcome& outcome) {
     QJsonArray touches;
     for (const cRawButton& touch : outcome.touches)
-        touches += QJsonObject{
-            {QStringLiteral("time"),
-             Format(touch.DateAndTime, QStringLiteral("yyyy-mm-ddThh:nn:ss"))},
-            {QStringLiteral("code"), touch.ButtonCode},
-            {QStringLiteral("name"), touch.Name},
-            {QStringLiteral("group"), touch.GroupName},
-            {QStringLiteral("type"), touch.EventType}};
+        touches += QJsonObject{{QStringLiteral("time"),
+                                Format(touch.DateAndTime, QStringLiteral("yyyy-mm-ddThh:nn:ss"))},
+                               {QStringLiteral("code"), touch.ButtonCode},
+                               {QStringLiteral("name"), touch.Name},
+                               {QStringLiteral("group"), touch.GroupName},
+                               {QStringLiteral("type"), touch.EventType}};
     return QJsonDocument(QJsonObject{{QStringLiteral("reader"), outcome.readerId},
                                      {QStringLiteral("touches"), touches},
                                      {QStringLiteral("erased"), outcome.erased}})

@@ -13,8 +13,7 @@ namespace {
 
 /// Not by way of a JSON object, which would order the columns by their names.
 QByteArray JsonText(const QString& text) {
-    const QByteArray wrapped =
-        QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
+    const QByteArray wrapped = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
     return wrapped.mid(1, wrapped.size() - 2);
 }
 
@@ -58,7 +57,8 @@ constexpr int TextWidth = 100;
 
 QString HeadLine(DataReport& report, QStringView label, QStringView value) {
     ReportSection& head = report.Sections(u"Section2");
-    return head.Controls(label).Caption().leftJustified(18) + head.Controls(value).Caption() + u'\n';
+    return head.Controls(label).Caption().leftJustified(18) + head.Controls(value).Caption() +
+           u'\n';
 }
 
 /// The lines of the page header and, below, the report's rows: the planned time and its range, or
@@ -67,7 +67,8 @@ QByteArray Text(DataReport& report) {
     const RowSource& rows = *report.DataSource();
     ReportSection& head = report.Sections(u"Section2");
     QString text = report.Caption() + u'\n' + QString(report.Caption().size(), u'=') + u'\n';
-    for (const QString& line : head.Controls(u"lblCompanyInfo").Caption().split(QStringLiteral("\r\n")))
+    for (const QString& line :
+         head.Controls(u"lblCompanyInfo").Caption().split(QStringLiteral("\r\n")))
         if (!line.isEmpty())
             text += line + u'\n';
     text += HeadLine(report, u"lblTitleTourName", u"lblTourName") +
@@ -91,9 +92,9 @@ QByteArray Text(DataReport& report) {
         if (!field(u"tSeparator").isEmpty())
             text += field(u"tSeparator").left(TextWidth) + u'\n';
         else if (!field(u"txtEventTime").isEmpty())
-            text += line(QStringLiteral("    ") + field(u"txtEventTime"), {},
-                         QStringLiteral("  ") + field(u"txtEventDetails"),
-                         field(u"txtEventStatus"));
+            text +=
+                line(QStringLiteral("    ") + field(u"txtEventTime"), {},
+                     QStringLiteral("  ") + field(u"txtEventDetails"), field(u"txtEventStatus"));
         else
             text += line(field(u"tTourTime"), field(u"txtTourTimeRange"), field(u"tSiteName"),
                          field(u"tStatus"));
@@ -106,9 +107,15 @@ QByteArray Text(DataReport& report) {
 
 void ConsoleReport::Show(DataReport& report) {
     switch (m_format) {
-    case ReportFormat::Text: m_bytes = Text(report); break;
-    case ReportFormat::Json: m_bytes = Json(report); break;
-    case ReportFormat::Csv: m_bytes = Csv(report); break;
+    case ReportFormat::Text:
+        m_bytes = Text(report);
+        break;
+    case ReportFormat::Json:
+        m_bytes = Json(report);
+        break;
+    case ReportFormat::Csv:
+        m_bytes = Csv(report);
+        break;
     case ReportFormat::Pdf: {
         QBuffer buffer(&m_bytes);
         buffer.open(QIODevice::WriteOnly);

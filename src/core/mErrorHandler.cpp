@@ -30,16 +30,17 @@ void ReportError(const QString& procedure, const RunTimeError& error, ErrorShow 
     WriteLog(head + QStringLiteral("\t(") + error.Description() + u')');
     if (show != ErrorShow::Dialog)
         return;
-    const QString text = head + QStringLiteral("\nwhile running %1.exe v%2.%3.%4\n\n")
-                                    .arg(AppExeName())
-                                    .arg(AppMajor())
-                                    .arg(Format(AppMinor(), QStringLiteral("00")))
-                                    .arg(AppRevision()) +
+    const QString text = head +
+                         QStringLiteral("\nwhile running %1.exe v%2.%3.%4\n\n")
+                             .arg(AppExeName())
+                             .arg(AppMajor())
+                             .arg(Format(AppMinor(), QStringLiteral("00")))
+                             .arg(AppRevision()) +
                          QStringLiteral("Error = '") + error.Description() +
                          QStringLiteral("'\n (Click 'OK' to continue or 'Cancel' to exit the "
                                         "program) ");
-    const auto answer = MsgBox(text, QStringLiteral("Error"), MessageKind::Information,
-                               MessageButtons::OkCancel);
+    const auto answer =
+        MsgBox(text, QStringLiteral("Error"), MessageKind::Information, MessageButtons::OkCancel);
     if (answer == MessageAnswer::Cancel)
         EndProgram();
 }

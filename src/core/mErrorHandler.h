@@ -46,17 +46,20 @@ auto Trapped(Body&& body, Handle&& handle) -> std::invoke_result_t<Body> {
 
 /// A procedure's body with its handler: a failure is reported under the label and does not leave
 /// the procedure.
-template <typename Body> auto Guarded(const char* label, ErrorShow show, Body&& body) {
+template <typename Body>
+auto Guarded(const char* label, ErrorShow show, Body&& body) {
     return Trapped(body, [&](const RunTimeError& error) {
         ReportError(QString::fromUtf8(label), error, show);
     });
 }
-template <typename Body> auto Guarded(const char* label, Body&& body) {
+template <typename Body>
+auto Guarded(const char* label, Body&& body) {
     return Guarded(label, ErrorShow::LogOnly, body);
 }
 
 /// The same, told by ShowProcedureError.
-template <typename Body> auto GuardedWithBox(const char* procedure, Body&& body) {
+template <typename Body>
+auto GuardedWithBox(const char* procedure, Body&& body) {
     return Trapped(body, [&](const RunTimeError& error) {
         ShowProcedureError(QString::fromUtf8(procedure), error);
     });
@@ -64,7 +67,8 @@ template <typename Body> auto GuardedWithBox(const char* procedure, Body&& body)
 
 /// A body whose failure is expected and means nothing, such as dropping a table that is not there.
 /// True if it succeeded.
-template <typename Body> bool IgnoringErrors(Body&& body) {
+template <typename Body>
+bool IgnoringErrors(Body&& body) {
     bool failed = false;
     Trapped(body, [&](const RunTimeError&) { failed = true; });
     return !failed;

@@ -19,9 +19,9 @@ auto Converted(const QString& key, const QString& fallback, Convert convert) {
     try {
         return convert(text);
     } catch (const RunTimeError& error) {
-        throw RunTimeError(error.Number(), error.Description() +
-                                               QStringLiteral(" (setting %1 = \"%2\")")
-                                                   .arg(key, text));
+        throw RunTimeError(error.Number(),
+                           error.Description() +
+                               QStringLiteral(" (setting %1 = \"%2\")").arg(key, text));
     }
 }
 

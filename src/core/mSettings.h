@@ -1,7 +1,7 @@
 #pragma once
 
-/// The settings that become shared state at start. Each throws RunTimeError, naming the setting, for
-/// a saved text that is no such value.
+/// The settings that become shared state at start. Each throws RunTimeError, naming the setting,
+/// for a saved text that is no such value.
 
 /// gLanguage.
 void ReadLanguageSetting();

@@ -23,15 +23,15 @@ bool Succeeded(const QByteArray& reply, bool received) {
 
 QString EventText(int event) {
     switch (event) {
-    case CommPort::comEventBreak: return QStringLiteral(")  A Break signal was received");
+    case CommPort::comEventBreak:
+        return QStringLiteral(")  A Break signal was received");
     case CommPort::comEventFrame:
         return QStringLiteral(")  Framing Error. The hardware detected a framing error.");
     case CommPort::comEventOverrun:
         return QStringLiteral(")  Port Overrun. A character was not read from the hardware before "
                               "the next character arrived and was lost.");
     case CommPort::comEventRxOver:
-        return QStringLiteral(
-            ")  Receive Buffer Overflow. There is no room in the receive buffer");
+        return QStringLiteral(")  Receive Buffer Overflow. There is no room in the receive buffer");
     case CommPort::comEventRxParity:
         return QStringLiteral(")  Parity Error. The hardware detected a parity error.");
     case CommPort::comEventTxFull:
@@ -40,13 +40,15 @@ QString EventText(int event) {
     case CommPort::comEventDCB:
         return QStringLiteral(")  Unexpected error retrieving Device Control Block (DCB) for the "
                               "port.");
-    case CommPort::comEvCTS: return QStringLiteral(")  Change in Clear To Send line.");
+    case CommPort::comEvCTS:
+        return QStringLiteral(")  Change in Clear To Send line.");
     case CommPort::comEvDSR:
         return QStringLiteral(")  Change in Data Set Ready line. This event is only fired when DSR "
                               "changes from 1 to 0.");
     case CommPort::comEvEOF:
         return QStringLiteral(")  End Of File (ASCII character 26) character received.");
-    default: return {};
+    default:
+        return {};
     }
 }
 
@@ -97,8 +99,8 @@ void DockingLink::WaitFor(int tries, std::uint8_t header1, const QByteArray& dat
     received = false;
     const auto converse = [&] {
         gCommActive = true;
-        const QByteArray frame = BuildPacket(Wire::Header0, header1, Wire::Header2, Wire::Header3,
-                                             Wire::Header4, data);
+        const QByteArray frame =
+            BuildPacket(Wire::Header0, header1, Wire::Header2, Wire::Header3, Wire::Header4, data);
         for (int attempt = 0; attempt < tries; ++attempt) {
             if (gWaitCancelled) {
                 DoEvents();
@@ -183,15 +185,16 @@ void DockingLink::EraseRequest(bool& succeeded) {
     bool received = false;
     WaitFor(1, Wire::Header1, CmdEraseMemory(), 1500, Wire::ReplyMemory, false, reply, received);
     // A memory frame that comes late bears the same code, but is no answer to this.
-    succeeded = Succeeded(reply, received) && reply.size() + Wire::Overhead <= Wire::LeastMemoryIndex;
+    succeeded =
+        Succeeded(reply, received) && reply.size() + Wire::Overhead <= Wire::LeastMemoryIndex;
     gCommActive = false;
 }
 
 int SavedPortNumber() {
     int number = 0;
     IgnoringErrors([&] {
-        number = ToInteger(
-            GetSetting(SettingsApplication, SettingsSection::ComPort, PortKey, QStringLiteral("1")));
+        number = ToInteger(GetSetting(SettingsApplication, SettingsSection::ComPort, PortKey,
+                                      QStringLiteral("1")));
     });
     if (number < 1 || number > 8)
         number = 1;

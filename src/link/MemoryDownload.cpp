@@ -90,8 +90,9 @@ void MemoryDownload::ReadStoreErase() {
     DoEvents();
     if (EraseAfterwards) {
         EraseReader(true, m_outcome.erased);
-        ShowText(m_text + u'\n' + Translate(m_outcome.erased ? "Reader Memory erased"
-                                                             : "Reader Memory NOT erased!"));
+        ShowText(
+            m_text + u'\n' +
+            Translate(m_outcome.erased ? "Reader Memory erased" : "Reader Memory NOT erased!"));
     }
     m_outcome.clockSet = !gAutoSetTime || m_link.SetClockToNow();
     if (!m_outcome.clockSet)
@@ -101,8 +102,7 @@ void MemoryDownload::ReadStoreErase() {
 void MemoryDownload::EraseReader(bool silent, bool& succeeded) {
     succeeded = false;
     if (!silent && IvMessageBox(Translate("Are you sure you want to clear the reader? "),
-                                MessageKind::Question,
-                                MessageButtons::YesNo) != MessageAnswer::Yes)
+                                MessageKind::Question, MessageButtons::YesNo) != MessageAnswer::Yes)
         return;
     // The conversation handles events: nothing else may be begun meanwhile, nor the page left.
     const bool alone = !m_busy;

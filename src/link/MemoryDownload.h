@@ -46,8 +46,8 @@ public:
     struct Outcome {
         QString readerId;
         colRawButtons touches;
-        bool read = false;     ///< the transfer ended well
-        bool stored = false;   ///< every touch is committed
+        bool read = false;   ///< the transfer ended well
+        bool stored = false; ///< every touch is committed
         bool erased = false;
         bool clockSet = false; ///< or was not to be set
     };

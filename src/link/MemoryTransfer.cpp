@@ -61,9 +61,8 @@ void MemoryTransfer::BeginReading() {
     gCommActive = true;
     Trapped(
         [this] {
-            const QByteArray frame =
-                BuildPacket(Wire::Header0, Wire::Header1, Wire::Header2, Wire::Header3,
-                            Wire::Header4, CmdReadMemory());
+            const QByteArray frame = BuildPacket(Wire::Header0, Wire::Header1, Wire::Header2,
+                                                 Wire::Header3, Wire::Header4, CmdReadMemory());
             m_link.InBuffer().Clear();
             m_link.comPort().Output(frame);
         },
@@ -95,16 +94,24 @@ void MemoryTransfer::TakePacket() {
     if (m_frameTotal > 0)
         m_view.ShowProgressText(Percent(m_frameCount, m_frameTotal, "0"));
     switch (result) {
-    case NoReader: Fail(Translate("Reader not detected. Check reader and try again.")); break;
-    case TransferFault: Fail(Translate("Download Error") + QStringLiteral(" (002)")); break;
-    case Failed: Fail(Translate("Download Error")); break;
+    case NoReader:
+        Fail(Translate("Reader not detected. Check reader and try again."));
+        break;
+    case TransferFault:
+        Fail(Translate("Download Error") + QStringLiteral(" (002)"));
+        break;
+    case Failed:
+        Fail(Translate("Download Error"));
+        break;
     case Running:
         m_tmrTimeout.SetEnabled(false);
         DoEvents();
         if (!m_closed)
             m_tmrTimeout.SetEnabled(true);
         break;
-    case Complete: EndReading(); break;
+    case Complete:
+        EndReading();
+        break;
     }
 }
 
@@ -186,8 +193,7 @@ void MemoryTransfer::EndReading() {
     DoEvents();
     if (m_closed)
         return;
-    const bool believed =
-        m_evidence == Evidence::Sure || RecordsIn(m_packets) == m_recordCount;
+    const bool believed = m_evidence == Evidence::Sure || RecordsIn(m_packets) == m_recordCount;
     if (!believed || !StreamHasEnded()) {
         Fail(Translate("Download Error"));
         return;

@@ -39,8 +39,8 @@ constexpr std::uint8_t ReplyDetect = 0x80, ReplyClock = 0x93, ReplyOptions = 0x8
 /// A memory frame has at least this highest index; anything shorter tells a status.
 constexpr int LeastMemoryIndex = 251;
 /// Memory frame 1: record count (2 bytes, low first), identifier (4 bytes), firmware, first record.
-constexpr int CountOffset = 11, IdentifierOffset = 13, FirmwareOffset = 17,
-              FirstRecordOffset = 19, FirstFrameRecords = 58;
+constexpr int CountOffset = 11, IdentifierOffset = 13, FirmwareOffset = 17, FirstRecordOffset = 19,
+              FirstFrameRecords = 58;
 /// All further memory frames.
 constexpr int RecordOffset = 11, FrameRecords = 60;
 constexpr int RecordBytes = 4;

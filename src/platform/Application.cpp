@@ -75,7 +75,9 @@ QString GetMyDocumentsPath() {
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
-QString AppExeName() { return QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName(); }
+QString AppExeName() {
+    return QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName();
+}
 
 int AppMajor() { return WARDLOCK_VERSION_MAJOR; }
 int AppMinor() { return WARDLOCK_VERSION_MINOR; }

@@ -89,8 +89,11 @@ void CommPort::Raise(Event event) {
 void CommPort::HandleError(int error) {
     switch (static_cast<QSerialPort::SerialPortError>(error)) {
     case QSerialPort::NoError:
-    case QSerialPort::TimeoutError: break;
-    case QSerialPort::WriteError: Raise(comEventTxFull); break;
+    case QSerialPort::TimeoutError:
+        break;
+    case QSerialPort::WriteError:
+        Raise(comEventTxFull);
+        break;
     case QSerialPort::ReadError:
     case QSerialPort::ResourceError:
     case QSerialPort::DeviceNotFoundError:
@@ -101,7 +104,9 @@ void CommPort::HandleError(int error) {
         SetPortOpen(false);
         Raise(comEventDCB);
         break;
-    default: Raise(comEventDCB); break;
+    default:
+        Raise(comEventDCB);
+        break;
     }
 }
 
@@ -126,9 +131,7 @@ QString DeviceOfPort(int number) {
     return chosen.isEmpty() ? AutomaticDevice(number) : chosen;
 }
 
-QString ChosenDevice(int number) {
-    return GetSetting(SettingsApplication, Section, KeyOf(number));
-}
+QString ChosenDevice(int number) { return GetSetting(SettingsApplication, Section, KeyOf(number)); }
 
 QString AutomaticDevice(int number) {
 #ifdef Q_OS_WIN

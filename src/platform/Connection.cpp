@@ -81,8 +81,7 @@ sqlite3* OpenFile(const QString& path, const QString& password, int flags) {
         Run(database, QStringLiteral("SELECT count(*) FROM sqlite_master"));
         auto* collator = new QCollator(QLocale());
         collator->setCaseSensitivity(Qt::CaseInsensitive);
-        sqlite3_create_collation_v2(database, PeopleCollation, SQLITE_UTF8, collator,
-                                    ComparePeople,
+        sqlite3_create_collation_v2(database, PeopleCollation, SQLITE_UTF8, collator, ComparePeople,
                                     [](void* p) { delete static_cast<QCollator*>(p); });
     } catch (...) {
         sqlite3_close(database);
@@ -105,13 +104,12 @@ void Connection::Open(const QString& connectionString) {
         ConnectionString = connectionString;
     auto parts = PartsOf(ConnectionString);
     const QString path = parts.value(SourceProperty);
-    const QString password =
-        parts.value(PasswordProperty, m_properties.value(PasswordProperty));
+    const QString password = parts.value(PasswordProperty, m_properties.value(PasswordProperty));
     const QFileInfo file(path);
     if (!file.isFile())
-        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                           QStringLiteral("Could not find file '%1'.")
-                               .arg(QDir::toNativeSeparators(path)));
+        throw RunTimeError(
+            RunTimeErrorNumber::FileNotFound,
+            QStringLiteral("Could not find file '%1'.").arg(QDir::toNativeSeparators(path)));
     if (file.size() == 0) // the engine would take it for a new store
         throw RunTimeError(RunTimeErrorNumber::StoreEngine + SQLITE_NOTADB,
                            QStringLiteral("Unrecognized database format '%1'.")
@@ -173,9 +171,9 @@ void Transaction::Commit() {
 
 void CreateStoreFile(const QString& path, const QString& password) {
     if (QFileInfo::exists(path))
-        throw RunTimeError(RunTimeErrorNumber::FileInUse,
-                           QStringLiteral("The file '%1' exists already.")
-                               .arg(QDir::toNativeSeparators(path)));
+        throw RunTimeError(
+            RunTimeErrorNumber::FileInUse,
+            QStringLiteral("The file '%1' exists already.").arg(QDir::toNativeSeparators(path)));
     sqlite3* database = nullptr;
     try {
         database = OpenFile(path, password, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);

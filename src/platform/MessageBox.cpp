@@ -30,20 +30,28 @@ MessageAnswer MsgBox(const QString& text, const QString& caption, MessageKind ki
 
 MessageAnswer HarmlessAnswer(MessageButtons buttons) {
     switch (buttons) {
-    case MessageButtons::OkCancel: return MessageAnswer::Ok;
-    case MessageButtons::YesNo: return MessageAnswer::No;
-    case MessageButtons::RetryIgnore: return MessageAnswer::Ignore;
-    case MessageButtons::Ok: break;
+    case MessageButtons::OkCancel:
+        return MessageAnswer::Ok;
+    case MessageButtons::YesNo:
+        return MessageAnswer::No;
+    case MessageButtons::RetryIgnore:
+        return MessageAnswer::Ignore;
+    case MessageButtons::Ok:
+        break;
     }
     return MessageAnswer::Ok;
 }
 
 QList<QString> ButtonWords(MessageButtons buttons) {
     switch (buttons) {
-    case MessageButtons::OkCancel: return {QStringLiteral("OK"), QStringLiteral("Cancel")};
-    case MessageButtons::YesNo: return {QStringLiteral("Yes"), QStringLiteral("No")};
-    case MessageButtons::RetryIgnore: return {QStringLiteral("Retry"), QStringLiteral("Ignore")};
-    case MessageButtons::Ok: break;
+    case MessageButtons::OkCancel:
+        return {QStringLiteral("OK"), QStringLiteral("Cancel")};
+    case MessageButtons::YesNo:
+        return {QStringLiteral("Yes"), QStringLiteral("No")};
+    case MessageButtons::RetryIgnore:
+        return {QStringLiteral("Retry"), QStringLiteral("Ignore")};
+    case MessageButtons::Ok:
+        break;
     }
     return {QStringLiteral("OK")};
 }

@@ -11,9 +11,12 @@ void Finalize(sqlite3_stmt* statement) { sqlite3_finalize(statement); }
 
 Value ColumnValue(sqlite3_stmt* statement, int column) {
     switch (sqlite3_column_type(statement, column)) {
-    case SQLITE_INTEGER: return Value(qint64{sqlite3_column_int64(statement, column)});
-    case SQLITE_FLOAT: return Value(sqlite3_column_double(statement, column));
-    case SQLITE_NULL: return {};
+    case SQLITE_INTEGER:
+        return Value(qint64{sqlite3_column_int64(statement, column)});
+    case SQLITE_FLOAT:
+        return Value(sqlite3_column_double(statement, column));
+    case SQLITE_NULL:
+        return {};
     default: {
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
         return Value(QString::fromUtf8(text, sqlite3_column_bytes(statement, column)));
@@ -23,9 +26,15 @@ Value ColumnValue(sqlite3_stmt* statement, int column) {
 
 void AppendColumn(RowStore& rows, sqlite3_stmt* statement, int column) {
     switch (sqlite3_column_type(statement, column)) {
-    case SQLITE_INTEGER: rows.AppendNumber(sqlite3_column_int64(statement, column)); break;
-    case SQLITE_FLOAT: rows.AppendReal(sqlite3_column_double(statement, column)); break;
-    case SQLITE_NULL: rows.AppendNull(); break;
+    case SQLITE_INTEGER:
+        rows.AppendNumber(sqlite3_column_int64(statement, column));
+        break;
+    case SQLITE_FLOAT:
+        rows.AppendReal(sqlite3_column_double(statement, column));
+        break;
+    case SQLITE_NULL:
+        rows.AppendNull();
+        break;
     default: {
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
         rows.AppendText(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));

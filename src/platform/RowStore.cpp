@@ -10,7 +10,8 @@ namespace {
 // high bit telling that another follows.
 enum Tag : unsigned char { TagNull, TagByte, TagInt32, TagInt64, TagReal, TagText };
 
-template <typename T> T Read(const unsigned char* from) {
+template <typename T>
+T Read(const unsigned char* from) {
     T value;
     std::memcpy(&value, from, sizeof value);
     return value;
@@ -30,34 +31,44 @@ std::size_t ReadLength(const unsigned char*& at) {
 
 const unsigned char* Behind(const unsigned char* at) {
     switch (*at++) {
-    case TagByte: return at + 1;
-    case TagInt32: return at + 4;
+    case TagByte:
+        return at + 1;
+    case TagInt32:
+        return at + 4;
     case TagInt64:
-    case TagReal: return at + 8;
+    case TagReal:
+        return at + 8;
     case TagText: {
         const std::size_t length = ReadLength(at);
         return at + length;
     }
-    default: return at;
+    default:
+        return at;
     }
 }
 
 Value Decode(const unsigned char* at) {
     switch (*at++) {
-    case TagByte: return Value(qint64{*at});
-    case TagInt32: return Value(qint64{Read<std::int32_t>(at)});
-    case TagInt64: return Value(Read<qint64>(at));
-    case TagReal: return Value(Read<double>(at));
+    case TagByte:
+        return Value(qint64{*at});
+    case TagInt32:
+        return Value(qint64{Read<std::int32_t>(at)});
+    case TagInt64:
+        return Value(Read<qint64>(at));
+    case TagReal:
+        return Value(Read<double>(at));
     case TagText: {
         const std::size_t length = ReadLength(at);
-        return Value(QString::fromUtf8(reinterpret_cast<const char*>(at),
-                                       static_cast<qsizetype>(length)));
+        return Value(
+            QString::fromUtf8(reinterpret_cast<const char*>(at), static_cast<qsizetype>(length)));
     }
-    default: return {};
+    default:
+        return {};
     }
 }
 
-template <typename T> void Put(std::vector<unsigned char>& row, Tag tag, T value) {
+template <typename T>
+void Put(std::vector<unsigned char>& row, Tag tag, T value) {
     const std::size_t at = row.size();
     row.resize(at + 1 + sizeof value);
     row[at] = tag;

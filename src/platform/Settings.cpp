@@ -13,7 +13,8 @@ QSettings Open(const QString& application) {
     return {QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Wardlock"), application};
 }
 
-template <typename Int> int ToWholeNumber(const QString& text) {
+template <typename Int>
+int ToWholeNumber(const QString& text) {
     bool ok = false;
     const double value = text.trimmed().toDouble(&ok);
     if (!ok || !std::isfinite(value))
@@ -53,6 +54,4 @@ bool ToBoolean(const QString& text) {
     return value != 0;
 }
 
-QString BooleanText(bool value) {
-    return value ? QStringLiteral("True") : QStringLiteral("False");
-}
+QString BooleanText(bool value) { return value ? QStringLiteral("True") : QStringLiteral("False"); }

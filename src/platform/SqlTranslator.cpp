@@ -80,25 +80,30 @@ QString DateNumber(const QString& literal) {
     const QDate date(number(1), number(2), number(3));
     const QTime time(number(4), number(5), number(6));
     if (!match.hasMatch() || !date.isValid() || !time.isValid())
-        throw RunTimeError(RunTimeErrorNumber::TypeMismatch,
-                           QStringLiteral("Syntax error in date in query expression '#%1#'.")
-                               .arg(literal));
+        throw RunTimeError(
+            RunTimeErrorNumber::TypeMismatch,
+            QStringLiteral("Syntax error in date in query expression '#%1#'.").arg(literal));
     // Seventeen digits give the very double that a date-time of the same value is stored as. The
     // exponent keeps it a real number to the engine.
-    return QString::number((DateTime::FromQt(date) + DateTime::FromTime(number(4), number(5), number(6))).ToStore(), 'e', 17);
+    return QString::number(
+        (DateTime::FromQt(date) + DateTime::FromTime(number(4), number(5), number(6))).ToStore(),
+        'e', 17);
 }
 
 QString Rendered(const Token& token) {
     switch (token.kind) {
-    case TokenKind::Text: return u'\'' + QString(token.text).replace(u'\'', QStringLiteral("''")) + u'\'';
-    case TokenKind::Date: return DateNumber(token.text);
+    case TokenKind::Text:
+        return u'\'' + QString(token.text).replace(u'\'', QStringLiteral("''")) + u'\'';
+    case TokenKind::Date:
+        return DateNumber(token.text);
     case TokenKind::Word:
         if (IsWord(token, u"autoincrement"))
             return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");
         if (IsWord(token, u"memo") || IsWord(token, u"VARCHAR"))
             return QStringLiteral("TEXT");
         break;
-    case TokenKind::Other: break;
+    case TokenKind::Other:
+        break;
     }
     return token.text;
 }
@@ -124,8 +129,8 @@ SelectShape ShapeOf(const QList<Token>& tokens) {
             --depth;
         else if (IsWord(token, u"JOIN"))
             shape.oneTable = false;
-        else if (depth == 0 && (IsWord(token, u"GROUP") || IsWord(token, u"UNION") ||
-                                IsWord(token, u"DISTINCT")))
+        else if (depth == 0 &&
+                 (IsWord(token, u"GROUP") || IsWord(token, u"UNION") || IsWord(token, u"DISTINCT")))
             shape.plainRows = false;
         else if (shape.from < 0 && (IsWord(token, u"COUNT") || IsWord(token, u"MAX") ||
                                     IsWord(token, u"MIN") || IsWord(token, u"SUM")))

@@ -10,8 +10,8 @@
 StoreLock::StoreLock(const QString& storePath) {
     static QHash<QString, std::weak_ptr<LockFile>> held;
     const QFileInfo store(storePath);
-    const QString path =
-        QDir(QFileInfo(store.absolutePath()).canonicalFilePath()).filePath(store.completeBaseName() + QStringLiteral(".ldb"));
+    const QString path = QDir(QFileInfo(store.absolutePath()).canonicalFilePath())
+                             .filePath(store.completeBaseName() + QStringLiteral(".ldb"));
     m_file = held.value(path).lock();
     if (m_file)
         return;
@@ -19,11 +19,11 @@ StoreLock::StoreLock(const QString& storePath) {
     const LockFile::Outcome outcome = file->Take();
     if (outcome != LockFile::Outcome::Taken) {
         const QString native = QDir::toNativeSeparators(storePath);
-        throw RunTimeError(RunTimeErrorNumber::FileInUse,
-                           outcome == LockFile::Outcome::Held
-                               ? QStringLiteral("Could not use '%1'; file already in use.")
-                                     .arg(native)
-                               : QStringLiteral("Could not lock file '%1'.").arg(native));
+        throw RunTimeError(
+            RunTimeErrorNumber::FileInUse,
+            outcome == LockFile::Outcome::Held
+                ? QStringLiteral("Could not use '%1'; file already in use.").arg(native)
+                : QStringLiteral("Could not lock file '%1'.").arg(native));
     }
     m_file = file;
     held.insert(path, file);

@@ -23,7 +23,8 @@ frmMdiReports::frmMdiReports(ReportViewer& viewer, QWidget* parent)
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     connect(m_ui->lvwReports, &QTreeWidget::itemDoubleClicked, this, &frmMdiReports::OpenSelected);
     m_ui->lvwReports->installEventFilter(this);
-    auto* open = new QAction(ProgramIcon(QStringLiteral("report")), Translate("&Open Report"), this);
+    auto* open =
+        new QAction(ProgramIcon(QStringLiteral("report")), Translate("&Open Report"), this);
     open->setShortcut(QKeySequence::Open);
     connect(open, &QAction::triggered, this, &frmMdiReports::OpenSelected);
     addAction(open);
@@ -112,8 +113,7 @@ void frmMdiReports::ReportParamShow(const QString& key, const QString& text) {
 
 void frmMdiReports::LoadTourReport(const QString& caption) {
     if (CountReaders() < 1) {
-        IvMessageBox(
-            Translate("You must add at least one reader before this report can be used"));
+        IvMessageBox(Translate("You must add at least one reader before this report can be used"));
         return;
     }
     if (CountTours() < 1) {

@@ -6,8 +6,8 @@
 namespace {
 
 void ShowRunTimeError(const RunTimeError& error) {
-    MsgBox(QStringLiteral("Run-time error '%1':\n\n").arg(error.Number()) + error.Description(),
-           {}, MessageKind::Critical);
+    MsgBox(QStringLiteral("Run-time error '%1':\n\n").arg(error.Number()) + error.Description(), {},
+           MessageKind::Critical);
 }
 
 } // namespace

@@ -50,8 +50,8 @@ frmMain::frmMain()
     : m_ui(std::make_unique<Ui::frmMain>()), m_panelPicture(new QLabel(this)),
       m_panel1(new QLabel(this)), m_panel2(new QLabel(this)) {
     m_ui->setupUi(this);
-    m_viewer = std::make_unique<PreviewViewer>(
-        this, [](const QString& text) { return Translate(text); });
+    m_viewer =
+        std::make_unique<PreviewViewer>(this, [](const QString& text) { return Translate(text); });
     m_panel1->setObjectName(QStringLiteral("panel1"));
     m_panel2->setObjectName(QStringLiteral("panel2"));
     m_ui->sbStatusBar->addWidget(m_panelPicture);
@@ -81,10 +81,9 @@ void frmMain::MDIForm_Load() {
 
 /// Menu items whose dialogs have not come yet.
 void frmMain::HideUnbuilt() {
-    for (QAction* action :
-         {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore,
-          m_ui->mnuToolsPipeOptions, m_ui->mnuToolsClearPipe, m_ui->mnuToolsReaderFW,
-          m_ui->mnuToolCompany, m_ui->mnuHelpAbout})
+    for (QAction* action : {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore,
+                            m_ui->mnuToolsPipeOptions, m_ui->mnuToolsClearPipe,
+                            m_ui->mnuToolsReaderFW, m_ui->mnuToolCompany, m_ui->mnuHelpAbout})
         action->setVisible(false);
 }
 
@@ -146,7 +145,9 @@ void frmMain::NavigateToolbarButtons(const QString& state) {
         ToolbarButton(QStringLiteral("download"))->setEnabled(false);
 }
 
-void frmMain::SetTitle(const QString& text) { m_ui->lblTitle->setText(QStringLiteral("  ") + text); }
+void frmMain::SetTitle(const QString& text) {
+    m_ui->lblTitle->setText(QStringLiteral("  ") + text);
+}
 
 bool frmMain::UnloadPage() {
     if (!m_page)

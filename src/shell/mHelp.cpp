@@ -33,9 +33,9 @@ void UpdateLanguage() {
 void ShowHelpContents(QWidget* parent) {
     QFile file(g_helpFile);
     if (!file.open(QIODevice::ReadOnly))
-        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                           QDir::toNativeSeparators(g_helpFile) + QStringLiteral(": ") +
-                               file.errorString());
+        throw RunTimeError(RunTimeErrorNumber::FileNotFound, QDir::toNativeSeparators(g_helpFile) +
+                                                                 QStringLiteral(": ") +
+                                                                 file.errorString());
     QDialog window(parent);
     Ui::frmHelp ui;
     ui.setupUi(&window);

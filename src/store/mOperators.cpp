@@ -25,7 +25,6 @@ OperatorType CheckOperator(OperatorType type, const QString& entered, RememberLo
         SaveSetting(SettingsApplication, SettingsSection::Info, QStringLiteral("LastLogin"),
                     QString::number(type));
     operators.MoveFirst();
-    const bool equal =
-        operators.Text(u"Password").toUpper() == entered.trimmed().toUpper();
+    const bool equal = operators.Text(u"Password").toUpper() == entered.trimmed().toUpper();
     return equal ? type : NoOperator;
 }

@@ -14,8 +14,8 @@ enum class RememberLogin { Yes, No };
 
 /// The type, if the password is the operator's, else NoOperator. Passwords are compared without
 /// regard to case, and blanks around what was entered do not count. Remembers the type in the
-/// setting LastLogin, if asked, before the password is even looked at. An operator who has no row yet gets one,
-/// with his login name for a password; that try has failed, the next may succeed. Throws
-/// RunTimeError.
+/// setting LastLogin, if asked, before the password is even looked at. An operator who has no row
+/// yet gets one, with his login name for a password; that try has failed, the next may succeed.
+/// Throws RunTimeError.
 OperatorType CheckOperator(OperatorType type, const QString& entered,
                            RememberLogin remember = RememberLogin::Yes);

@@ -43,8 +43,8 @@ QString ConnectionText(const QString& path, const QString& password) {
 
 bool ADOTest(const QString& path, const QString& password) {
     if (gDebugMode)
-        WriteLog(QStringLiteral("In ADOTest, DBpath= ") + path +
-                 QStringLiteral(",  DBPassword= ") + password);
+        WriteLog(QStringLiteral("In ADOTest, DBpath= ") + path + QStringLiteral(",  DBPassword= ") +
+                 password);
     const auto test = [&] {
         Connection connection;
         OpenStore(connection, path, password);

@@ -9,8 +9,7 @@
 /// structure. All but the first four work on the shared connection gConn.
 
 /// The text that stands before a path in a connection text.
-inline const QString ProviderText =
-    QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=");
+inline const QString ProviderText = QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=");
 
 /// The store as a connection text.
 QString ConnectionText(const QString& path, const QString& password);

@@ -10,13 +10,17 @@ const QString Rule(255, u'_');
 } // namespace
 
 const QStringList& TourExceptionTable::ColumnNames() {
-    static const QStringList names = {
-        QStringLiteral("tItem"),          QStringLiteral("tTourTime"),
-        QStringLiteral("txtTourTimeRange"), QStringLiteral("tLocationName"),
-        QStringLiteral("tLocationDesc"),  QStringLiteral("tSiteName"),
-        QStringLiteral("tStatus"),        QStringLiteral("tSeparator"),
-        QStringLiteral("txtEventTime"),   QStringLiteral("txtEventStatus"),
-        QStringLiteral("txtEventDetails")};
+    static const QStringList names = {QStringLiteral("tItem"),
+                                      QStringLiteral("tTourTime"),
+                                      QStringLiteral("txtTourTimeRange"),
+                                      QStringLiteral("tLocationName"),
+                                      QStringLiteral("tLocationDesc"),
+                                      QStringLiteral("tSiteName"),
+                                      QStringLiteral("tStatus"),
+                                      QStringLiteral("tSeparator"),
+                                      QStringLiteral("txtEventTime"),
+                                      QStringLiteral("txtEventStatus"),
+                                      QStringLiteral("txtEventDetails")};
     return names;
 }
 

@@ -44,8 +44,8 @@ bool TryToMatchTourPoints(cTourReport& tour) {
 bool GetPrevAndNextTourPoints(std::size_t position, const colTourPoints& tourPoints,
                               DateTime pointDateTime, cTourPoint& previous, cTourPoint& next) {
     return Guarded("GetPrevAndNextTourPoints of Form frmRptTour", [&] {
-        previous = position == 0 ? MadeUpNeighbour(pointDateTime - OneHour)
-                                 : tourPoints.at(position - 1);
+        previous =
+            position == 0 ? MadeUpNeighbour(pointDateTime - OneHour) : tourPoints.at(position - 1);
         next = position + 1 >= tourPoints.size() ? MadeUpNeighbour(pointDateTime + OneHour)
                                                  : tourPoints.at(position + 1);
         return true;
@@ -53,9 +53,8 @@ bool GetPrevAndNextTourPoints(std::size_t position, const colTourPoints& tourPoi
 }
 
 bool IsButtonOnTour(const QString& buttonCode, const colTourPoints& tourPoints) {
-    return std::any_of(tourPoints.begin(), tourPoints.end(), [&](const cTourPoint& point) {
-        return point.PointButtonId == buttonCode;
-    });
+    return std::any_of(tourPoints.begin(), tourPoints.end(),
+                       [&](const cTourPoint& point) { return point.PointButtonId == buttonCode; });
 }
 
 TouchClass Classify(const cLocation& touch, const cTourPoint& point, const cTourPoint& previous,

@@ -28,12 +28,18 @@ void ShowFailure(const char* code) {
 
 QString StatusWord(TouchClass touchClass) {
     switch (touchClass) {
-    case TouchClass::Early: return Translate("EARLY");
-    case TouchClass::OnTime: return Translate("ON TIME");
-    case TouchClass::Late: return Translate("LATE");
-    case TouchClass::OutOfSequence: return Translate("OUT OF SEQUENCE");
-    case TouchClass::NotOnTour: return Translate("NOT ON TOUR");
-    case TouchClass::NotAssigned: break;
+    case TouchClass::Early:
+        return Translate("EARLY");
+    case TouchClass::OnTime:
+        return Translate("ON TIME");
+    case TouchClass::Late:
+        return Translate("LATE");
+    case TouchClass::OutOfSequence:
+        return Translate("OUT OF SEQUENCE");
+    case TouchClass::NotOnTour:
+        return Translate("NOT ON TOUR");
+    case TouchClass::NotAssigned:
+        break;
     }
     return {};
 }

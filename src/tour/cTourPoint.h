@@ -8,9 +8,9 @@
 
 /// One planned visit of a tour, laid out on a calendar day.
 struct cTourPoint {
-    int PointIndex = 0;      ///< place on the tour, from lIndex
-    DateTime PointDateTime;  ///< planned date and time
-    QString PointButtonId;   ///< code of the location button; empty in a made-up neighbour
+    int PointIndex = 0;     ///< place on the tour, from lIndex
+    DateTime PointDateTime; ///< planned date and time
+    QString PointButtonId;  ///< code of the location button; empty in a made-up neighbour
     QString ButtonName;
     QString ButtonDesc;
     QString SiteName;

@@ -27,9 +27,9 @@ cLocation LocationOf(Recordset& rows) {
 }
 
 cEvent EventOf(Recordset& rows) {
-    return {rows.Date(u"dtDateTime"),     FixedCode(rows.Text(u"tButtonCode")),
-            rows.Text(u"tButtonName"),    rows.Text(u"tButtonDesc"),
-            rows.Text(u"tGroupName"),     rows.Text(u"tGroupDesc")};
+    return {rows.Date(u"dtDateTime"),  FixedCode(rows.Text(u"tButtonCode")),
+            rows.Text(u"tButtonName"), rows.Text(u"tButtonDesc"),
+            rows.Text(u"tGroupName"),  rows.Text(u"tGroupDesc")};
 }
 
 } // namespace
@@ -86,8 +86,7 @@ bool cTourReport::LoadTourPoints() {
 
 bool cTourReport::LoadReaderEvents() {
     return Guarded("LoadReaderEvents of Class Module cTourReport", [this] {
-        const int margin =
-            Tolerance >= 1 && Tolerance < 60 ? Tolerance : WindowWithoutTolerance;
+        const int margin = Tolerance >= 1 && Tolerance < 60 ? Tolerance : WindowWithoutTolerance;
         TourWindow = DateTime::FromTime(0, margin);
         m_buttons.clear();
         Recordset rows;

@@ -14,7 +14,7 @@ public:
     int TourID = 0;
     QString TourName;
     QString TourDesc;
-    int Tolerance = 0; ///< minutes
+    int Tolerance = 0;                              ///< minutes
     DateTime StartTime = DateTime::FromDays(36526); ///< its time of day counts
     DateTime StartDate; ///< the day to evaluate; a time of day does not count
     QString ReaderId;

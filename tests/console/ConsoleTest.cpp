@@ -123,10 +123,14 @@ private slots:
         QTest::addColumn<QString>("login");
         QTest::addColumn<QString>("password");
         QTest::addColumn<int>("status");
-        QTest::newRow("master") << "master" << "Keeper" << 0;
-        QTest::newRow("user") << "user" << " crew " << 0;
-        QTest::newRow("wrong") << "master" << "crew" << 1;
-        QTest::newRow("empty") << "user" << "" << 1;
+        QTest::newRow("master") << "master"
+                                << "Keeper" << 0;
+        QTest::newRow("user") << "user"
+                              << " crew " << 0;
+        QTest::newRow("wrong") << "master"
+                               << "crew" << 1;
+        QTest::newRow("empty") << "user"
+                               << "" << 1;
     }
     void NeedsALogin() {
         QFETCH(QString, login);
@@ -189,8 +193,7 @@ private slots:
         QVERIFY(csv.out.startsWith("\"tItem\",\"tTourTime\""));
         QVERIFY(office.Ctl(ReportWords("--format pdf")).out.startsWith("%PDF"));
         const QString unwritable = office.Path(QStringLiteral("nowhere/report.pdf"));
-        const Outcome failed =
-            office.Ctl(ReportWords("--format pdf --output ") + unwritable);
+        const Outcome failed = office.Ctl(ReportWords("--format pdf --output ") + unwritable);
         QCOMPARE(failed.status, 1);
         QCOMPARE(failed.err.count('\n'), 1);
     }
@@ -211,11 +214,10 @@ private slots:
         QTest::addColumn<int>("touchesKept");
         QTest::newRow("erase refused") << Night + "fault refuse erase 1\n"
                                        << QByteArray("Reader Memory NOT erased!") << 3;
-        QTest::newRow("no reader") << Night + "remove\n"
-                                   << QByteArray("Reader not detected.") << 3;
-        QTest::newRow("silent dock") << Night + "fault silent\n"
-                                     << QByteArray("Could not connect to the docking station.")
-                                     << 3;
+        QTest::newRow("no reader") << Night + "remove\n" << QByteArray("Reader not detected.") << 3;
+        QTest::newRow("silent dock")
+            << Night + "fault silent\n"
+            << QByteArray("Could not connect to the docking station.") << 3;
         QTest::newRow("silent to the read") << Night + "fault silent read\n"
                                             << QByteArray("Download Failed") << 3;
     }

@@ -56,12 +56,12 @@ public:
         });
     }
 
-    template <typename T> static T* Find(const QString& window, const QString& control) {
+    template <typename T>
+    static T* Find(const QString& window, const QString& control) {
         for (QWidget* top : QApplication::topLevelWidgets()) {
             if (!top->isVisible())
                 continue;
-            QWidget* frame =
-                top->objectName() == window ? top : top->findChild<QWidget*>(window);
+            QWidget* frame = top->objectName() == window ? top : top->findChild<QWidget*>(window);
             if (frame && frame->isVisible())
                 return frame->findChild<T*>(control);
         }

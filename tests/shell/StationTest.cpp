@@ -129,7 +129,8 @@ private slots:
                                                      QStringLiteral("lvwDownload"));
         QVERIFY(list);
         Script::Find<QAbstractButton>(QStringLiteral("frmMdiDownload"),
-                                      QStringLiteral("cmdOnline_0"))->click();
+                                      QStringLiteral("cmdOnline_0"))
+            ->click();
         QCOMPARE(Script::Find<QLabel>(QStringLiteral("frmMdiDownload"), QStringLiteral("lblMsg"))
                      ->text(),
                  QStringLiteral("Download Successful\nData Readings = 2\nReader Memory erased"));
@@ -164,7 +165,7 @@ private slots:
         report.Start();
         auto* reports = Script::Find<QAbstractItemView>(QStringLiteral("frmMdiReports"),
                                                         QStringLiteral("lvwReports"));
-        DoEvents(); // lays the page out
+        DoEvents();                               // lays the page out
         QTest::keyClick(reports, Qt::Key_Return); // opens nothing
         QVERIFY(!QApplication::activeModalWidget());
         const QPoint row = reports->visualRect(reports->model()->index(0, 0)).center();
@@ -214,15 +215,14 @@ private slots:
         QCOMPARE(main->findChild<QMenu*>(QStringLiteral("mnuTools"))->menuAction()->isVisible(),
                  tools);
         QVERIFY(action("mnuFileExit")->isEnabled());
-        for (const char* unbuilt : {"setup", "mnuFileArchive", "mnuFileBackup", "mnuFileRestore",
-                                    "mnuToolsPipeOptions", "mnuToolsClearPipe", "mnuToolsReaderFW",
-                                    "mnuToolCompany", "mnuHelpAbout"})
+        for (const char* unbuilt :
+             {"setup", "mnuFileArchive", "mnuFileBackup", "mnuFileRestore", "mnuToolsPipeOptions",
+              "mnuToolsClearPipe", "mnuToolsReaderFW", "mnuToolCompany", "mnuHelpAbout"})
             QVERIFY2(!action(unbuilt)->isVisible(), unbuilt);
         main->GoReports();
         QVERIFY(!action("download")->isEnabled()); // no dock
         QVERIFY(action("home")->isEnabled() && !action("reports")->isEnabled());
-        QVERIFY_THROWS_EXCEPTION(RunTimeError,
-                                 main->NavigateToolbarButtons(QStringLiteral("111")));
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, main->NavigateToolbarButtons(QStringLiteral("111")));
         QVERIFY(action("home")->isEnabled() && !action("reports")->isEnabled());
     }
 
@@ -240,12 +240,12 @@ private slots:
         OverrideDevice({});
         Script choose;
         choose.Then([&] {
-            auto* device = Script::Find<QComboBox>(QStringLiteral("frmPrpComms"),
-                                                   QStringLiteral("cboDevice"));
+            auto* device =
+                Script::Find<QComboBox>(QStringLiteral("frmPrpComms"), QStringLiteral("cboDevice"));
             if (!device)
                 return false;
-            Script::Find<QComboBox>(QStringLiteral("frmPrpComms"),
-                                    QStringLiteral("cboLocalPort"))->setCurrentIndex(2);
+            Script::Find<QComboBox>(QStringLiteral("frmPrpComms"), QStringLiteral("cboLocalPort"))
+                ->setCurrentIndex(2);
             device->setEditText(dock.Device());
             return true;
         });
@@ -367,13 +367,13 @@ private slots:
         QTest::addColumn<QString>("what");
         QTest::addColumn<QString>("box");
         QTest::addColumn<QString>("log");
-        QTest::newRow("missing store")
-            << "store" << "*** System Error: Cannot Open the database at "
-            << "ADOTest Failed. Exiting...";
-        QTest::newRow("language is no number") << "language" << QString()
-                                               << "Error 13 in Main of Module mMain";
-        QTest::newRow("second instance") << "instance" << "The program is already running!"
-                                         << QString();
+        QTest::newRow("missing store") << "store"
+                                       << "*** System Error: Cannot Open the database at "
+                                       << "ADOTest Failed. Exiting...";
+        QTest::newRow("language is no number")
+            << "language" << QString() << "Error 13 in Main of Module mMain";
+        QTest::newRow("second instance") << "instance"
+                                         << "The program is already running!" << QString();
     }
     void BadStartsEndAsTheyShould() {
         QFETCH(QString, what);

@@ -32,12 +32,18 @@ QVariant TouchListModel::data(const QModelIndex& index, int role) const {
         return {};
     const cRawButton& touch = m_touches[static_cast<std::size_t>(index.row())];
     switch (index.column()) {
-    case 0: return index.row() + 1;
-    case 1: return Format(touch.DateAndTime, QStringLiteral("Short Date"));
-    case 2: return Format(touch.DateAndTime, QStringLiteral("hh:mm"));
-    case 3: return touch.ButtonCode;
-    case 4: return touch.Name;
-    default: return touch.GroupName;
+    case 0:
+        return index.row() + 1;
+    case 1:
+        return Format(touch.DateAndTime, QStringLiteral("Short Date"));
+    case 2:
+        return Format(touch.DateAndTime, QStringLiteral("hh:mm"));
+    case 3:
+        return touch.ButtonCode;
+    case 4:
+        return touch.Name;
+    default:
+        return touch.GroupName;
     }
 }
 

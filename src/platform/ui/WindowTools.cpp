@@ -32,20 +32,28 @@ void TranslateProperty(QObject& object, const char* name, const TranslateText& t
 
 QMessageBox::Icon IconOf(MessageKind kind) {
     switch (kind) {
-    case MessageKind::Critical: return QMessageBox::Critical;
-    case MessageKind::Information: return QMessageBox::Information;
-    case MessageKind::Question: return QMessageBox::Question;
-    case MessageKind::Warning: break;
+    case MessageKind::Critical:
+        return QMessageBox::Critical;
+    case MessageKind::Information:
+        return QMessageBox::Information;
+    case MessageKind::Question:
+        return QMessageBox::Question;
+    case MessageKind::Warning:
+        break;
     }
     return QMessageBox::Warning;
 }
 
 QList<MessageAnswer> AnswersOf(MessageButtons buttons) {
     switch (buttons) {
-    case MessageButtons::OkCancel: return {MessageAnswer::Ok, MessageAnswer::Cancel};
-    case MessageButtons::YesNo: return {MessageAnswer::Yes, MessageAnswer::No};
-    case MessageButtons::RetryIgnore: return {MessageAnswer::Retry, MessageAnswer::Ignore};
-    case MessageButtons::Ok: break;
+    case MessageButtons::OkCancel:
+        return {MessageAnswer::Ok, MessageAnswer::Cancel};
+    case MessageButtons::YesNo:
+        return {MessageAnswer::Yes, MessageAnswer::No};
+    case MessageButtons::RetryIgnore:
+        return {MessageAnswer::Retry, MessageAnswer::Ignore};
+    case MessageButtons::Ok:
+        break;
     }
     return {MessageAnswer::Ok};
 }
@@ -130,8 +138,9 @@ QIcon ProgramIcon(const QString& name) {
 void ShowPicture(QLabel& label, const QString& path) {
     QPixmap picture(path);
     if (picture.isNull())
-        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                           QStringLiteral("File not found: '%1'").arg(QDir::toNativeSeparators(path)));
+        throw RunTimeError(
+            RunTimeErrorNumber::FileNotFound,
+            QStringLiteral("File not found: '%1'").arg(QDir::toNativeSeparators(path)));
     picture.setDevicePixelRatio(2.0);
     label.setPixmap(picture);
 }

@@ -15,9 +15,9 @@ class QWidget;
 
 using TranslateText = std::function<QString(const QString&)>;
 
-/// Translates a window and all in it: title, captions, tool tips, accessible names, menus. Texts that
-/// are filled by code, list headers among them, are not touched. The English texts are kept, so that
-/// it can be called again in another language.
+/// Translates a window and all in it: title, captions, tool tips, accessible names, menus. Texts
+/// that are filled by code, list headers among them, are not touched. The English texts are kept,
+/// so that it can be called again in another language.
 void TranslateWindow(QWidget& window, const TranslateText& translate);
 
 /// Real message boxes over the active window.

@@ -17,8 +17,8 @@ const QString ShowAllKey = QStringLiteral("ShowAllStatus");
 const QString ShowEventsKey = QStringLiteral("ShowEventsStatus");
 
 bool SavedOption(const QString& key) {
-    return ToBoolean(GetSetting(SettingsApplication, SettingsSection::Settings, key,
-                                BooleanText(false)));
+    return ToBoolean(
+        GetSetting(SettingsApplication, SettingsSection::Settings, key, BooleanText(false)));
 }
 
 void SaveOption(const QString& key, bool value) {
@@ -39,8 +39,7 @@ frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
     m_ui->dtpStartDate->setDate(Today().ToQDate());
     connect(m_ui->imgcboReader, &QComboBox::currentIndexChanged, this,
             &frmRptTour::ReadSelectedReader);
-    connect(m_ui->cmdPrintPreview, &QPushButton::clicked, this,
-            &frmRptTour::cmdPrintPreview_Click);
+    connect(m_ui->cmdPrintPreview, &QPushButton::clicked, this, &frmRptTour::cmdPrintPreview_Click);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmRptTour::cmdCancel_Click);
     Guarded("Form_Load of Form frmRptTour", [this] {
         FillTours();
