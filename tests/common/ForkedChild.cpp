@@ -1,7 +1,6 @@
 #include "ForkedChild.h"
 
 #include <csignal>
-
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,6 +18,11 @@ ForkedChild::ForkedChild(const std::function<void(int out)>& body) {
     }
     ::close(ends[1]);
     m_in = ends[0];
+}
+
+ForkedChild::~ForkedChild() {
+    Kill();
+    ::close(m_in);
 }
 
 QByteArray ForkedChild::Read(qsizetype bytes) {

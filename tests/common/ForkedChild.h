@@ -3,7 +3,6 @@
 #include <QByteArray>
 
 #include <functional>
-
 #include <sys/types.h>
 
 /// A second process that runs `body` and ends. What the body writes to the file it is handed, the
@@ -11,7 +10,7 @@
 class ForkedChild {
 public:
     explicit ForkedChild(const std::function<void(int out)>& body);
-    ~ForkedChild() { Kill(); }
+    ~ForkedChild();
     ForkedChild(const ForkedChild&) = delete;
     ForkedChild& operator=(const ForkedChild&) = delete;
 

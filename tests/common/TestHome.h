@@ -8,8 +8,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// An application folder of its own, whose name is no simple one, with settings of its own; both are
-/// gone afterwards.
+/// An application folder of its own, whose name is no simple one, with settings of its own; both
+/// are gone afterwards.
 class TestHome {
 public:
     enum Content { NoStore, EmptyStore, DemoSite };
@@ -39,7 +39,8 @@ QStringList RowsOf(const QString& query);
 QStringList ContentOfStore();
 
 /// The number of the RunTimeError that the body throws, or 0.
-template <typename Body> int ErrorOf(Body&& body) {
+template <typename Body>
+int ErrorOf(Body&& body) {
     try {
         body();
     } catch (const RunTimeError& error) {

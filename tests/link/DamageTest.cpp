@@ -90,7 +90,9 @@ class DamageTest : public QObject {
 
     /// One run of the proof. Gives an empty text where it holds.
     QString Fault(const QByteArray& stream, const Reader& reader, const QString& what) {
-        const QString verdict = Verdict(stream, reader, Fastest);
+        QString verdict = Verdict(stream, reader, Fastest);
+        if (verdict == u"waits") // the machine may have paused longer than the patience lasts
+            verdict = Verdict(stream, reader, Steady);
         return verdict == u"stored" || verdict == u"Download Error"
                    ? QString()
                    : what + QStringLiteral(": ") + verdict;

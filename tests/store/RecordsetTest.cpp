@@ -1,8 +1,9 @@
 // The store's dialect and recordsets, on a real store file.
 
+#include "Recordset.h"
+
 #include "Connection.h"
 #include "DateTime.h"
-#include "Recordset.h"
 #include "SqlTranslator.h"
 #include "TestHome.h"
 
@@ -81,9 +82,8 @@ private slots:
         QTest::newRow("qualified") << names + "order by tblListItems.tName" << ordered;
         QTest::newRow("backwards, ties in turn")
             << names + "WHERE wType = 2 ORDER BY tName DESC" << QStringList{"2|b", "2|B"};
-        QTest::newRow("two columns")
-            << names + "WHERE tName < 'a' ORDER BY wType DESC, tName"
-            << QStringList{"2|B", "1|B", "1|Zug"};
+        QTest::newRow("two columns") << names + "WHERE tName < 'a' ORDER BY wType DESC, tName"
+                                     << QStringList{"2|B", "1|B", "1|Zug"};
         QTest::newRow("ties in turn, whatever the index")
             << "INSERT INTO tblEvents (dtDateTime) VALUES (2), (1), (2)\n"
                "SELECT ID FROM tblEvents ORDER BY dtDateTime DESC"
@@ -128,8 +128,9 @@ private slots:
     }
     void NoDates() {
         QFETCH(QString, literal);
-        QCOMPARE(ErrorOf([&] { Run("DELETE * FROM tblEvents WHERE dtDateTime < #" + literal + '#'); }),
-                 RunTimeErrorNumber::TypeMismatch);
+        QCOMPARE(
+            ErrorOf([&] { Run("DELETE * FROM tblEvents WHERE dtDateTime < #" + literal + '#'); }),
+            RunTimeErrorNumber::TypeMismatch);
     }
 
     // A literal must be the very double that the same instant is stored as, or "=" and ">=" miss.
@@ -266,22 +267,51 @@ private slots:
         row("closed: MoveNext", 3704, [](auto& r) { r.MoveNext(); });
         row("closed: AddNew", 3704, [](auto& r) { r.AddNew(); });
         row("closed: Update", 3704, [](auto& r) { r.Update(); });
-        row("closed again", 3704, [=](auto& r) { open(r, "SELECT 1"); r.Close(); r.Eof(); });
-        row("open twice", 3705, [=](auto& r) { open(r, "SELECT 1"); open(r, "SELECT 1"); });
-        row("closed connection", 3704, [](auto& r) { Connection none; r.Open("SELECT 1", none); });
-        row("closed connection runs nothing", 3704, [](auto&) { Connection().Execute("SELECT 1"); });
-        row("no such field", 3265, [=](auto& r) { open(r, "SELECT 1 AS a"); r.Fields(u"b"); });
-        row("no row", 3021, [=](auto& r) { open(r, "SELECT * FROM tblTours"); r.Text(u"tName"); });
-        row("behind the end", 3021, [=](auto& r) { open(r, "SELECT 1"); r.MoveNext(); r.MoveNext(); });
-        row("change without a row", 3021,
-            [=](auto& r) { open(r, "SELECT * FROM tblTours"); r.Set(u"tName", 1); });
-        row("text for a number", 13, [=](auto& r) { open(r, "SELECT 'x' AS a"); r.Number(u"a"); });
+        row("closed again", 3704, [=](auto& r) {
+            open(r, "SELECT 1");
+            r.Close();
+            r.Eof();
+        });
+        row("open twice", 3705, [=](auto& r) {
+            open(r, "SELECT 1");
+            open(r, "SELECT 1");
+        });
+        row("closed connection", 3704, [](auto& r) {
+            Connection none;
+            r.Open("SELECT 1", none);
+        });
+        row("closed connection runs nothing", 3704,
+            [](auto&) { Connection().Execute("SELECT 1"); });
+        row("no such field", 3265, [=](auto& r) {
+            open(r, "SELECT 1 AS a");
+            r.Fields(u"b");
+        });
+        row("no row", 3021, [=](auto& r) {
+            open(r, "SELECT * FROM tblTours");
+            r.Text(u"tName");
+        });
+        row("behind the end", 3021, [=](auto& r) {
+            open(r, "SELECT 1");
+            r.MoveNext();
+            r.MoveNext();
+        });
+        row("change without a row", 3021, [=](auto& r) {
+            open(r, "SELECT * FROM tblTours");
+            r.Set(u"tName", 1);
+        });
+        row("text for a number", 13, [=](auto& r) {
+            open(r, "SELECT 'x' AS a");
+            r.Number(u"a");
+        });
         row("add to a join", 380, [=](auto& r) {
             open(r, "SELECT tblTours.ID FROM tblTours INNER JOIN tblTourPoints ON "
                     "tblTours.ID = tblTourPoints.lParentID");
             r.AddNew();
         });
-        row("add to sums", 380, [=](auto& r) { open(r, "SELECT COUNT(*) AS n FROM tblTours"); r.AddNew(); });
+        row("add to sums", 380, [=](auto& r) {
+            open(r, "SELECT COUNT(*) AS n FROM tblTours");
+            r.AddNew();
+        });
         row("add to read only", 380, [](auto& r) {
             r.Open("SELECT * FROM tblTours", *gConn, adOpenStatic, adLockReadOnly);
             r.AddNew();

@@ -25,22 +25,29 @@ private slots:
         QCOMPARE(lastLogin(), "2");
         QCOMPARE(CheckOperator(MasterOperator, "Keeper"), MasterOperator);
         QCOMPARE(lastLogin(), "1");
-        QCOMPARE(RowsOf("SELECT * FROM tblOperators"),
-                 (QStringList{"CREW|CREW", "KEEPER|KEEPER"}));
+        QCOMPARE(RowsOf("SELECT * FROM tblOperators"), (QStringList{"CREW|CREW", "KEEPER|KEEPER"}));
     }
 
     void Passwords_data() {
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("entered");
         QTest::addColumn<bool>("accepted");
-        QTest::newRow("any case") << "'sEcret1'" << "SeCRET1" << true;
-        QTest::newRow("umlauts") << "'größe'" << "GRÖSSE" << true;
-        QTest::newRow("blanks around the entry") << "'a b'" << "  a b " << true;
-        QTest::newRow("a stored blank is never matched") << "'ab '" << "ab " << false;
-        QTest::newRow("part") << "'secret'" << "secre" << false;
-        QTest::newRow("empty") << "''" << "  " << true;
-        QTest::newRow("none stored") << "NULL" << "" << true;
-        QTest::newRow("empty entry") << "'x'" << "" << false;
+        QTest::newRow("any case") << "'sEcret1'"
+                                  << "SeCRET1" << true;
+        QTest::newRow("umlauts") << "'größe'"
+                                 << "GRÖSSE" << true;
+        QTest::newRow("blanks around the entry") << "'a b'"
+                                                 << "  a b " << true;
+        QTest::newRow("a stored blank is never matched") << "'ab '"
+                                                         << "ab " << false;
+        QTest::newRow("part") << "'secret'"
+                              << "secre" << false;
+        QTest::newRow("empty") << "''"
+                               << "  " << true;
+        QTest::newRow("none stored") << "NULL"
+                                     << "" << true;
+        QTest::newRow("empty entry") << "'x'"
+                                     << "" << false;
     }
     void Passwords() {
         QFETCH(QString, stored);
@@ -49,8 +56,7 @@ private slots:
         const TestHome home(TestHome::EmptyStore);
         gConn->Execute("INSERT INTO tblOperators VALUES ('keeper', 'other'), ('KEEPER', " + stored +
                        "), ('KEEPER', 'second row')");
-        QCOMPARE(CheckOperator(MasterOperator, entered),
-                 accepted ? MasterOperator : NoOperator);
+        QCOMPARE(CheckOperator(MasterOperator, entered), accepted ? MasterOperator : NoOperator);
         QCOMPARE(CountReaders(), 0);
     }
 

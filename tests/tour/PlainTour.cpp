@@ -11,7 +11,8 @@ struct Location {
 
 QString Clock(qint64 seconds) {
     const qint64 minutes = seconds / 60 % 1440;
-    return QStringLiteral("%1:%2").arg(minutes / 60, 2, 10, QLatin1Char('0'))
+    return QStringLiteral("%1:%2")
+        .arg(minutes / 60, 2, 10, QLatin1Char('0'))
         .arg(minutes % 60, 2, 10, QLatin1Char('0'));
 }
 

@@ -19,7 +19,8 @@ class TourRandomTest : public QObject {
     std::mt19937 m_random{4711};
 
     int Upto(int most) { return static_cast<int>(m_random() % static_cast<unsigned>(most + 1)); }
-    template <typename List> auto OneOf(const List& list) {
+    template <typename List>
+    auto OneOf(const List& list) {
         return list[Upto(static_cast<int>(list.size()) - 1)];
     }
 
@@ -64,22 +65,29 @@ class TourRandomTest : public QObject {
     static void Store(int tour, const Case& made) {
         const qint64 start = made.points[0].time;
         gConn->Execute(QStringLiteral("INSERT INTO tblTours VALUES (%1, 'n', 'd', %2, %3)")
-                           .arg(tour).arg(made.tolerance).arg(Sql(start - start % 60)));
+                           .arg(tour)
+                           .arg(made.tolerance)
+                           .arg(Sql(start - start % 60)));
         qint64 before = start - start % 60;
         for (const auto& point : made.points) {
             const QString interval =
                 QString::number(static_cast<double>(point.time - before) / 86400.0, 'f', 12);
             gConn->Execute(QStringLiteral("INSERT INTO tblTourPoints (lParentID, lIndex, dtTime, "
                                           "tButtonCode) VALUES (%1, %2, %3, '%4')")
-                               .arg(tour).arg(point.index).arg(interval, point.code));
+                               .arg(tour)
+                               .arg(point.index)
+                               .arg(interval, point.code));
             before = point.time;
         }
         for (const auto& touch : made.touches)
-            gConn->Execute(QStringLiteral("INSERT INTO tblEvents (tPipeID, dtDateTime, tButtonCode, "
-                                          "tButtonName, wGroupType, tGroupName) VALUES "
-                                          "('R%1', %2, '%3', '%4', %5, '%6')")
-                               .arg(tour).arg(Sql(touch.time), touch.code, touch.details.right(1))
-                               .arg(touch.type).arg(touch.details.left(4)));
+            gConn->Execute(
+                QStringLiteral("INSERT INTO tblEvents (tPipeID, dtDateTime, tButtonCode, "
+                               "tButtonName, wGroupType, tGroupName) VALUES "
+                               "('R%1', %2, '%3', '%4', %5, '%6')")
+                    .arg(tour)
+                    .arg(Sql(touch.time), touch.code, touch.details.right(1))
+                    .arg(touch.type)
+                    .arg(touch.details.left(4)));
     }
 
 private slots:
@@ -111,16 +119,20 @@ private slots:
                 const QStringList expected =
                     PlainTour::Report(made.points, made.touches, {made.tolerance, showAll, events});
                 viewer.Rows.clear();
-                BuildTourReport({tour, DateTime::FromMilliseconds(made.points[0].time * 1000),
-                                 QStringLiteral("R%1").arg(tour), {}, events, showAll},
+                BuildTourReport({tour,
+                                 DateTime::FromMilliseconds(made.points[0].time * 1000),
+                                 QStringLiteral("R%1").arg(tour),
+                                 {},
+                                 events,
+                                 showAll},
                                 viewer);
                 reports += !expected.isEmpty();
-                QCOMPARE(boxes.TakeTexts(), expected.isEmpty()
-                                                ? QStringList("No Data on the report")
-                                                : QStringList());
+                QCOMPARE(boxes.TakeTexts(),
+                         expected.isEmpty() ? QStringList("No Data on the report") : QStringList());
                 if (viewer.Rows == expected)
                     continue;
-                QString about = QStringLiteral("tolerance %1, all %2\n").arg(made.tolerance).arg(showAll);
+                QString about =
+                    QStringLiteral("tolerance %1, all %2\n").arg(made.tolerance).arg(showAll);
                 for (const auto& point : made.points)
                     about += "point " + Sql(point.time) + ' ' + point.code + '\n';
                 for (const auto& touch : made.touches)

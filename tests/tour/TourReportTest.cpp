@@ -1,8 +1,8 @@
 // The tour report from store to page: loading, matching, the report's rows, and what it says where
 // there is none.
 
-#include "Connection.h"
 #include "Clock.h"
+#include "Connection.h"
 #include "ForkedChild.h"
 #include "TourReportBuilder.h"
 #include "TourSite.h"
@@ -77,13 +77,15 @@ private slots:
                                const QString& all) {
             row(name, Round, 5, touches, exceptions, all);
         };
-        round("last second in time", "08:05:59 A", none, "_, A ON TIME, 08:05 A ON TIME" + missingBC);
+        round("last second in time", "08:05:59 A", none,
+              "_, A ON TIME, 08:05 A ON TIME" + missingBC);
         round("first second", "07:55 A", none, "_, A ON TIME, 07:55 A ON TIME" + missingBC);
         round("first second late", "08:06 A", "_, A EXCEPTION, 08:06 A LATE" + missingBC,
               "_, A EXCEPTION, 08:06 A LATE" + missingBC);
         round("last second late", "08:35:59 A", "_, A EXCEPTION, 08:35 A LATE" + missingBC,
               "_, A EXCEPTION, 08:35 A LATE" + missingBC);
-        const QString sequence = "_, A MISSING, _, B EXCEPTION, 08:36 A OUT OF SEQUENCE, _, C MISSING";
+        const QString sequence =
+            "_, A MISSING, _, B EXCEPTION, 08:36 A OUT OF SEQUENCE, _, C MISSING";
         round("too late for its own point", "08:36 A", sequence, sequence);
         const QString early = "_, A MISSING, _, B EXCEPTION, 08:20 B EARLY, _, C MISSING";
         round("early", "08:20 B", early, early);
@@ -133,7 +135,8 @@ private slots:
             "_, B EXCEPTION, 08:31 B LATE, 08:45 B LATE",
             "_, A ON TIME, 07:45 A EARLY, 08:00 A ON TIME, 08:01 A LATE, _, B EXCEPTION, "
             "08:31 B LATE, 08:45 B LATE");
-        row("no tolerance, outside the query", "08:00 A", 0, "07:44:59 A, 08:15:01 A", NoData, NoData);
+        row("no tolerance, outside the query", "08:00 A", 0, "07:44:59 A, 08:15:01 A", NoData,
+            NoData);
         row("over midnight", "23:50 A, 24:10 B, 24:30 C", 5, "23:49 A, 24:09 B, 24:30 C", none,
             "_, A ON TIME, 23:49 A ON TIME, _, B ON TIME, 00:09 B ON TIME, _, C ON TIME, "
             "00:30 C ON TIME");
@@ -173,16 +176,27 @@ private slots:
                               "30|09:00|08:55 to 09:05|||Site - C|MISSING||||"}));
         QVERIFY(!TableExists("tblXXXException"));
         QCOMPARE(m_viewer.Caption, "Tour Report");
-        const QHash<QString, QString> labels{
-            {"lblReportTitle", "Tour Report"}, {"lblPrintDate", "21 Nov 2026    09:05"},
-            {"lblDateRange", "21 Nov 2026"}, {"lblTourName", "Round - of tests"},
-            {"lblReaderID", "4B5831A7 - Night"}, {"lblTolerance", "5"}, {"lblOptions", "Yes"},
-            {"lblCompanyInfo", "Kestrel\r\n\r\nPier 4\r\n%d"}, {"Label17", "Print Date:"},
-            {"Label19", "KV-88 Wardlock Reports"}, {"Label16", "Page"}, {"Label15", "%p / %P"},
-            {"lblTitleReaderID", "Reader ID:"}, {"lblDate", "Tour Date:"},
-            {"lblTitleTourName", "Tour Name:"}, {"lblTitleTolerance", "Tolerance (min):"},
-            {"lblTitleTourTime", "Time"}, {"lblSite", "Site/Location"}, {"lblActualTime", "Status"},
-            {"lblShowEvents", "Show Events:"}, {"lblEndOfReport", "End Of Report"}};
+        const QHash<QString, QString> labels{{"lblReportTitle", "Tour Report"},
+                                             {"lblPrintDate", "29 Mar 2026    09:05"},
+                                             {"lblDateRange", "29 Mar 2026"},
+                                             {"lblTourName", "Round - of tests"},
+                                             {"lblReaderID", "4B5831A7 - Night"},
+                                             {"lblTolerance", "5"},
+                                             {"lblOptions", "Yes"},
+                                             {"lblCompanyInfo", "Kestrel\r\n\r\nPier 4\r\n%d"},
+                                             {"Label17", "Print Date:"},
+                                             {"Label19", "KV-88 Wardlock Reports"},
+                                             {"Label16", "Page"},
+                                             {"Label15", "%p / %P"},
+                                             {"lblTitleReaderID", "Reader ID:"},
+                                             {"lblDate", "Tour Date:"},
+                                             {"lblTitleTourName", "Tour Name:"},
+                                             {"lblTitleTolerance", "Tolerance (min):"},
+                                             {"lblTitleTourTime", "Time"},
+                                             {"lblSite", "Site/Location"},
+                                             {"lblActualTime", "Status"},
+                                             {"lblShowEvents", "Show Events:"},
+                                             {"lblEndOfReport", "End Of Report"}};
         for (auto label = labels.begin(); label != labels.end(); ++label)
             QCOMPARE(m_viewer.Labels.value(label.key()), label.value());
         Report(1);
@@ -233,9 +247,12 @@ private slots:
     void CodesOfOtherLengths_data() {
         QTest::addColumn<QString>("code");
         QTest::addColumn<QString>("report");
-        QTest::newRow("8") << "12345678" << "_, A EXCEPTION, 08:00 A NOT ON TOUR";
-        QTest::newRow("4") << "1234" << "_, A EXCEPTION, 08:00 A NOT ON TOUR";
-        QTest::newRow("other case") << "aaaaaA" << "NO EXCEPTIONS, _";
+        QTest::newRow("8") << "12345678"
+                           << "_, A EXCEPTION, 08:00 A NOT ON TOUR";
+        QTest::newRow("4") << "1234"
+                           << "_, A EXCEPTION, 08:00 A NOT ON TOUR";
+        QTest::newRow("other case") << "aaaaaA"
+                                    << "NO EXCEPTIONS, _";
     }
     void CodesOfOtherLengths() {
         QFETCH(QString, code);
@@ -243,7 +260,8 @@ private slots:
         AddTouches("08:00 A");
         for (const char* table : {"tblEvents", "tblButtons", "tblTourPoints"})
             gConn->Execute(QStringLiteral("UPDATE %1 SET tButtonCode = '%2' WHERE tButtonCode = "
-                                          "'AAAAAA'").arg(table, code));
+                                          "'AAAAAA'")
+                               .arg(table, code));
         QTEST(Report(tour), "report");
         gConn->Execute("UPDATE tblTourPoints SET tButtonCode = 'AaaaAa'");
         QCOMPARE(Report(tour), "_, - EXCEPTION, 08:00 A NOT ON TOUR");
@@ -302,21 +320,25 @@ private slots:
         const int tour = AddTour(Round, 5);
         AddTouches("08:00 A");
         QByteArray query;
-        sqlite3_trace_v2(gConn->Handle(), SQLITE_TRACE_STMT,
-                         [](unsigned, void* context, void* statement, void*) {
-                             const QByteArray sql = sqlite3_sql(static_cast<sqlite3_stmt*>(statement));
-                             if (sql.contains("tblEvents"))
-                                 *static_cast<QByteArray*>(context) = sql;
-                             return 0;
-                         }, &query);
+        sqlite3_trace_v2(
+            gConn->Handle(), SQLITE_TRACE_STMT,
+            [](unsigned, void* context, void* statement, void*) {
+                const QByteArray sql = sqlite3_sql(static_cast<sqlite3_stmt*>(statement));
+                if (sql.contains("tblEvents"))
+                    *static_cast<QByteArray*>(context) = sql;
+                return 0;
+            },
+            &query);
         Loaded(tour);
         sqlite3_trace_v2(gConn->Handle(), 0, nullptr, nullptr);
         QString plan;
-        sqlite3_exec(gConn->Handle(), ("EXPLAIN QUERY PLAN " + query).constData(),
-                     [](void* context, int columns, char** values, char**) {
-                         *static_cast<QString*>(context) += QString(values[columns - 1]) + u'\n';
-                         return 0;
-                     }, &plan, nullptr);
+        sqlite3_exec(
+            gConn->Handle(), ("EXPLAIN QUERY PLAN " + query).constData(),
+            [](void* context, int columns, char** values, char**) {
+                *static_cast<QString*>(context) += QString(values[columns - 1]) + u'\n';
+                return 0;
+            },
+            &plan, nullptr);
         QCOMPARE(plan, "SEARCH TABLE tblEvents USING INDEX idxEventReader (tPipeID=? AND "
                        "dtDateTime>? AND dtDateTime<?)\n");
     }

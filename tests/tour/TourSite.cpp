@@ -20,15 +20,17 @@ void Add(const QString& table, const QList<QPair<QString, Value>>& columns) {
 
 QString TourSite::CodeOf(QChar name) { return QString(6, name); }
 
-int TourSite::TypeOf(QChar name) { return name.isUpper() ? 1 : name == u'e' || name == u'f' ? 2 : 0; }
+int TourSite::TypeOf(QChar name) {
+    return name.isUpper() ? 1 : name == u'e' || name == u'f' ? 2 : 0;
+}
 
 QList<TourSite::Stop> TourSite::Stops(const QString& text) {
     QList<Stop> stops;
     for (const QString& entry : text.split(", ", Qt::SkipEmptyParts)) {
         const QStringList parts = entry.split(u' ');
         const QStringList clock = parts[0].split(u':');
-        stops += {(clock[0].toInt() * 60 + clock[1].toInt()) * 60 + clock.value(2).toInt(),
-                  parts[1]};
+        stops +=
+            {(clock[0].toInt() * 60 + clock[1].toInt()) * 60 + clock.value(2).toInt(), parts[1]};
     }
     return stops;
 }

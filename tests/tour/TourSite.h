@@ -10,8 +10,8 @@
 /// defined nowhere.
 namespace TourSite {
 
-/// 21 November 2026, in seconds of the store's count.
-inline constexpr qint64 Day = qint64{46347} * 86'400;
+/// 29 March 2026, a day on which local clocks leave out an hour, in seconds of the store's count.
+inline constexpr qint64 Day = qint64{46110} * 86'400;
 
 QString CodeOf(QChar name);
 /// 1 for capitals, 2 for e and f, 0 for anything else.
