@@ -49,7 +49,7 @@ bool ToBoolean(const QString& text) {
         return false;
     bool ok = false;
     const double value = word.toDouble(&ok);
-    if (!ok || std::isnan(value))
+    if (!ok || !std::isfinite(value))
         throw RunTimeError(RunTimeErrorNumber::TypeMismatch, QStringLiteral("Type mismatch"));
     return value != 0;
 }

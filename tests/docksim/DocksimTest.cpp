@@ -462,55 +462,6 @@ void TestFaults() {
     CHECK(noise == noisy("7") && noise != noisy("8"), "noise by seed");
 }
 
-void TestTiming() {
-    const struct {
-        std::string fault;
-        long leastMs;
-        long mostMs; // wide, for a busy machine
-    } cases[] = {
-        {"gap 150", 300, 1500}, // between three frames
-        {"cut 100", 300, 1500}, // inside each
-        {"pace", 786, 2000},    // 756 bytes, less the 60 ms are not counted
-        {"single-byte 500", 378, 2500},
-        {"stop-after 3", 0, 1000},
-    };
-    const Bytes good = MemoryStream(RecordBytes(119), 3, 119);
-    for (const auto& c : cases) {
-        Sim sim(kReader + RecordLines(119) + c.fault);
-        const long start = NowMs();
-        CHECK_BYTES(sim.Ask(kRead, good.size()), good, c.fault);
-        const long took = NowMs() - start - 60; // Receive waits so long for surplus bytes
-        CHECK(took >= c.leastMs && took <= c.mostMs, c.fault + " took " + std::to_string(took));
-    }
-
-    Sim single(kReader + "single-byte 20000");
-    single.Send(kDetect);
-    for (const uint8_t byte : kDetected)
-        CHECK_BYTES(single.ReadOnce(1000), Bytes{byte}, "single byte");
-
-    Sim cut(kReader + "cut 200 4");
-    cut.Send(kDetect);
-    CHECK_BYTES(cut.ReadOnce(1000), Bytes(kDetected.begin(), kDetected.begin() + 4), "cut");
-    CHECK_BYTES(cut.Receive(8), Bytes(kDetected.begin() + 4, kDetected.end()), "rest");
-
-    // A command during the stream waits for its end, or breaks it off.
-    Sim queued(kReader + RecordLines(119) + "gap 100");
-    CHECK_BYTES(queued.Ask(kRead + kDetect, good.size() + 12), good + kDetected, "queue");
-    Sim aborting(kReader + RecordLines(119) + "gap 300\nabort-on-command");
-    aborting.Send(kRead);
-    CHECK_BYTES(aborting.Receive(252), Bytes(good.begin(), good.begin() + 252), "stream begins");
-    CHECK_BYTES(aborting.Ask(kDetect, 12), kDetected, "stream broken off");
-    usleep(700'000);
-    CHECK_BYTES(aborting.Receive(0), Bytes{}, "the stream stays broken off");
-    Sim midFrame(kReader + "pace\nabort-on-command");
-    midFrame.Send(kRead);
-    usleep(100'000);
-    const Bytes got = midFrame.Ask(kDetect, 252);
-    CHECK(got.size() > 12 && got.size() < 252, Hex(got));
-    CHECK_BYTES(Bytes(got.end() - std::min<long>(12, static_cast<long>(got.size())), got.end()),
-                kDetected, "broken off inside a frame");
-}
-
 void TestReader() {
     const std::string link = gFolder + "/link";
     const std::string log = gFolder + "/log";
@@ -579,19 +530,6 @@ void TestReader() {
                              "reply F3 status 00\n",
                              "memory frame 1 of 1", "button", "no reader in the station"})
         CHECK(Has(text, part), part);
-}
-
-void TestLineThatNobodyReads() {
-    Sim sim(kReader + RecordLines(65535));
-    sim.Send(kRead + kRead); // far more than the line holds
-    usleep(300'000);
-    const long start = NowMs();
-    CHECK(Has(sim.State(), "\"reads\":2"), sim.State());
-    CHECK(NowMs() - start < 1000, "docksim is stuck");
-    const Bytes good = MemoryStream(RecordBytes(65535), 1093, 65535);
-    CHECK_BYTES(sim.Receive(2 * good.size()), good + good, "two whole streams");
-    sim.Signal(SIGINT);
-    CHECK(sim.ExitCode() == 0, "SIGINT");
 }
 
 void TestVanish() {
@@ -669,9 +607,7 @@ int main(int argc, char** argv) {
     TestRecords();
     TestFrameCounts();
     TestFaults();
-    TestTiming();
     TestReader();
-    TestLineThatNobodyReads();
     TestVanish();
     TestMistakes();
     for (const char* name : {"/scenario", "/log", "/link"})

@@ -133,32 +133,6 @@ private slots:
         QTest::keyClick(page, Qt::Key_Escape);
         QVERIFY(!preview.isVisible());
     }
-
-    void TypedPageNumbers_data() {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("page");
-        QTest::newRow("beyond the last") << QStringLiteral("999") << 12;
-        QTest::newRow("zero") << QStringLiteral("0") << 1;
-        QTest::newRow("letters do not count") << QStringLiteral("-x4") << 4;
-    }
-    void TypedPageNumbers() {
-        QFETCH(QString, typed);
-        QFETCH(int, page);
-        const CountedRows rows(100);
-        const Shown preview(rows);
-        auto* field = preview.Find<QLineEdit>("txtPage");
-        preview.Key(Qt::Key_G, Qt::ControlModifier);
-        QTest::keyClicks(field, typed);
-        QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(preview.window->Page() + 1, page);
-        QCOMPARE(field->text(), QString::number(page));
-        QVERIFY(!field->hasFocus());
-        field->setFocus();
-        field->clear();
-        QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(field->text(), QString::number(page));
-    }
-
     void WheelTurnsPagesAndZooms() {
         const CountedRows rows(100);
         const Shown preview(rows);
@@ -178,39 +152,6 @@ private slots:
         preview.Wheel(-120); // now there is something to scroll
         QCOMPARE(preview.window->Page(), 1);
         QVERIFY(preview.page->verticalScrollBar()->value() > 0);
-    }
-
-    void FitFollowsTheWindow() {
-        const CountedRows rows(100);
-        const Shown preview(rows);
-        const QScrollBar* across = preview.page->horizontalScrollBar();
-        const QScrollBar* down = preview.page->verticalScrollBar();
-        for (const int width : {400, 700}) {
-            preview.window->resize(width, 500);
-            preview.Key(Qt::Key_1, Qt::ControlModifier);
-            QVERIFY(across->maximum() == 0 && down->maximum() > 0);
-            preview.Key(Qt::Key_2, Qt::ControlModifier);
-            QVERIFY(across->maximum() == 0 && down->maximum() == 0);
-        }
-    }
-
-    void TakesTheMainWindowsWidthOnASmallScreen() {
-        const QRect screen = QApplication::primaryScreen()->geometry();
-        QVERIFY(screen.width() < 842);
-        QWidget main;
-        main.resize(520, 300);
-        main.show();
-        const CountedRows rows(1);
-        const auto report = SmallReport();
-        report->SetDataSource(&rows);
-        QRect place;
-        QTimer::singleShot(300, this, [&] {
-            QWidget* window = QApplication::activeModalWidget();
-            place = window->frameGeometry();
-            window->close();
-        });
-        PreviewViewer(&main, AsItIs).Show(*report);
-        QCOMPARE(place, QRect(screen.topLeft(), QSize(520, screen.height() - 48)));
     }
 
     void ExportsUnderTheNameTyped() {

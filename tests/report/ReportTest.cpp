@@ -25,14 +25,6 @@ QString PdfText(const DataReport& report) {
     return TextOfPdf(path);
 }
 
-QByteArray PdfBytes(const DataReport& report) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    ExportPdf(report, buffer, QStringLiteral("Title"));
-    return bytes;
-}
-
 QImage Painted(const DataReport& report, int page) {
     QImage image(210 * DotsPerMillimetre, 297 * DotsPerMillimetre, QImage::Format_RGB32);
     image.fill(Qt::white);
@@ -241,33 +233,6 @@ private slots:
         QVERIFY(ink.bottom <= 124);
     }
 
-    void ShortTextsStandWhereTheLayoutPutsThem() {
-        CountedRows source(1);
-        source.Text = [](qsizetype) { return QStringLiteral("Gate"); };
-        double expected = 55;
-        for (const char* align : {"left", "centre", "right"}) {
-            const auto report =
-                SmallReport(SmallLayout().replace("\"left\" }", QByteArray("\"") + align + "\" }"));
-            report->SetDataSource(&source);
-            const Ink ink = InkWithin(Painted(*report, 0), 118, 11);
-            const double width = ink.right - ink.left;
-            QVERIFY(width > 5 && width < 10);
-            QVERIFY(std::abs(ink.left - expected) < 0.5);
-            expected += (60 - width) / 2;
-        }
-    }
-
-    void RuleHasNoGaps() {
-        CountedRows source(1);
-        source.Text = [](qsizetype) { return QString(255, u'_'); };
-        const auto report = SmallReport(SmallLayout().replace("ellipsis", "clip"));
-        report->SetDataSource(&source);
-        const QImage paper = Painted(*report, 0);
-        const int y = static_cast<int>(InkWithin(paper, 118, 11).top * DotsPerMillimetre);
-        for (int x = 56 * DotsPerMillimetre; x < 114 * DotsPerMillimetre; ++x)
-            QCOMPARE(paper.pixel(x, y), qRgb(0, 0, 0));
-    }
-
     void ShortTextsAreNotShortened() {
         if (!HasPdfTool())
             QSKIP("pdftotext is not there");
@@ -295,34 +260,6 @@ private slots:
             .SetCaption(QStringLiteral("%p|%P|%d|%t|%x|100%"));
         QCOMPARE(PdfText(*report), QStringLiteral("Beginning 1|1|05/11/2026|22:07|%x|100%"));
     }
-
-    void PaperFollowsTheCountry_data() {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QPageSize::PageSizeId>("paper");
-        QTest::newRow("Germany") << QStringLiteral("de_DE") << QPageSize::A4;
-        QTest::newRow("United Kingdom") << QStringLiteral("en_GB") << QPageSize::A4;
-        QTest::newRow("United States") << QStringLiteral("en_US") << QPageSize::Letter;
-        QTest::newRow("Canada") << QStringLiteral("fr_CA") << QPageSize::Letter;
-    }
-    void PaperFollowsTheCountry() {
-        QFETCH(QString, locale);
-        QFETCH(QPageSize::PageSizeId, paper);
-        QLocale::setDefault(QLocale(locale));
-        const darTourException report;
-        QCOMPARE(report.Paper().id(), paper);
-        QCOMPARE(SmallReport()->Paper().id(), QPageSize::A4);
-    }
-
-    void SamePdfAtTheSameTime() {
-        const TestClock clock(Evening, 0.001);
-        const CountedRows source(30);
-        const auto report = SmallReport();
-        report->SetDataSource(&source);
-        const QByteArray bytes = PdfBytes(*report);
-        QVERIFY(bytes.contains("/CreationDate (D:20261105220758"));
-        QVERIFY(bytes == PdfBytes(*report));
-    }
-
     void PdfHoldsEveryRowAndPage() {
         if (!HasPdfTool())
             QSKIP("pdftotext is not there");
@@ -364,25 +301,6 @@ private slots:
             QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
             QVERIFY_THROWS_EXCEPTION(RunTimeError, ExportPdf(*report, full, {}));
         }
-    }
-
-    void FailedPdfKeepsTheOldFile() {
-        CountedRows source(100);
-        source.Text = [](qsizetype row) {
-            if (row == 50)
-                throw RunTimeError(RunTimeErrorNumber::ObjectClosed, QStringLiteral("closed"));
-            return QStringLiteral("Row");
-        };
-        const auto report = SmallReport();
-        report->SetDataSource(&source);
-        const QTemporaryDir folder;
-        QFile old(folder.filePath(QStringLiteral("report.pdf")));
-        QVERIFY(old.open(QIODevice::ReadWrite) && old.write("old") == 3 && old.flush());
-        QCOMPARE(DescriptionOf([&] { ExportPdf(*report, old.fileName(), {}); }),
-                 QStringLiteral("closed"));
-        QVERIFY(old.seek(0));
-        QCOMPARE(old.readAll(), QByteArray("old"));
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{"report.pdf"});
     }
 };
 
