@@ -78,10 +78,10 @@ public:
           m_rows(*report.DataSource()), m_pages(report.PageCount()),
           m_head(report.Sections(u"Section2").AllControls()),
           m_detail(report.Sections(u"Section1").AllControls()) {
-        for (const FontSpec& spec : m_layout.fonts) {
+        for (const FontFace& face : m_layout.fonts) {
             QFont font(m_layout.fontFamilies);
-            font.setPointSizeF(spec.points);
-            font.setBold(spec.bold);
+            font.setPointSizeF(face.points);
+            font.setBold(face.bold);
             m_fonts.push_back(font);
         }
         for (const ReportControl& control : m_detail)

@@ -7,8 +7,8 @@
 
 DataReport::DataReport(ReportLayout layout) : m_layout(std::move(layout)) {
     m_fonts.reserve(m_layout.fonts.size());
-    for (const FontSpec& spec : m_layout.fonts)
-        m_fonts.emplace_back(m_layout.fontFamilies, spec);
+    for (const FontFace& face : m_layout.fonts)
+        m_fonts.emplace_back(m_layout.fontFamilies, face);
 }
 
 ReportSection& DataReport::Sections(QStringView name) {

@@ -251,11 +251,11 @@ private:
         return colour;
     }
 
-    int FontOf(const FontSpec& spec) {
+    int FontOf(const FontFace& face) {
         for (std::size_t i = 0; i < m_layout.fonts.size(); ++i)
-            if (m_layout.fonts[i] == spec)
+            if (m_layout.fonts[i] == face)
                 return static_cast<int>(i);
-        m_layout.fonts.push_back(spec);
+        m_layout.fonts.push_back(face);
         return static_cast<int>(m_layout.fonts.size()) - 1;
     }
 

@@ -11,13 +11,13 @@ constexpr qreal KerningReserve = 1.01;
 /// Or closer together: an "AVAVAV" is by so much shorter than its letters.
 constexpr qreal KerningLoss = 1.25;
 
-QFont MakeFont(const QStringList& families, const FontSpec& spec) {
+QFont MakeFont(const QStringList& families, const FontFace& face) {
     QFont font;
     font.setFamilies(families);
     font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(static_cast<int>(std::lround(spec.points * HundredthsPerPoint)));
-    font.setBold(spec.bold);
-    font.setItalic(spec.italic);
+    font.setPixelSize(static_cast<int>(std::lround(face.points * HundredthsPerPoint)));
+    font.setBold(face.bold);
+    font.setItalic(face.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -33,8 +33,8 @@ QString WithoutControls(QString text) {
 
 } // namespace
 
-ReportFont::ReportFont(const QStringList& families, const FontSpec& spec)
-    : m_font(MakeFont(families, spec)), m_metrics(m_font), m_ascent(m_metrics.ascent()),
+ReportFont::ReportFont(const QStringList& families, const FontFace& face)
+    : m_font(MakeFont(families, face)), m_metrics(m_font), m_ascent(m_metrics.ascent()),
       m_height(m_metrics.height()), m_lineSpacing(m_metrics.lineSpacing()),
       m_widths(PlainLetters, -1.0F) {}
 

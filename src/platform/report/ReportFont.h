@@ -13,7 +13,7 @@
 /// resolution that the page is painted at.
 class ReportFont {
 public:
-    ReportFont(const QStringList& families, const FontSpec& spec);
+    ReportFont(const QStringList& families, const FontFace& face);
 
     const QFont& Font() const { return m_font; }
     qreal Ascent() const { return m_ascent; }

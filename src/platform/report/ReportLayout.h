@@ -16,7 +16,7 @@ struct ReportLayout {
     int marginTop = 0;
     int marginBottom = 0;
     QStringList fontFamilies; ///< the first that the machine has is used
-    std::vector<FontSpec> fonts;
+    std::vector<FontFace> fonts;
     std::vector<ReportSection> sections; ///< at most one of a kind
 
     /// Null if the layout has none of that kind, or one without height.

@@ -26,11 +26,11 @@ enum class Overflow {
 /// and the time of printing, or for themselves.
 enum class CaptionKind { Pattern, Literal };
 
-struct FontSpec {
+struct FontFace {
     double points = 9;
     bool bold = false;
     bool italic = false;
-    bool operator==(const FontSpec&) const = default;
+    bool operator==(const FontFace&) const = default;
 };
 
 /// How a control looks. Fixed by the layout.
