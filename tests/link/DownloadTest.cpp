@@ -100,6 +100,8 @@ private slots:
         good("noise, taught reader", three + "noise 40", 150);
         bad("noise, untaught reader", Untaught + Touches(150) + "noise 40");
         bad("checksum of the only frame", Taught + Touches(20) + "checksum 1");
+        // The empty end of a memory is no empty memory.
+        bad("empty second frame alone", Taught + Touches(57) + "count 100\ndrop-bytes 0 252");
         for (const char* damage :
              {"checksum 1", "checksum 2", "checksum 3", "stop-after 1", "stop-after 2", "count -1",
               "count 40000", "frames 2\ncount 300", "frames 3\ncount 60", "frames 2", "frames 4",
@@ -199,7 +201,7 @@ private slots:
     }
     void BegunAgainWhileTheOldStreamRuns() {
         QFETCH(QByteArray, scenario);
-        scenario += "pace 240000\ngap 20\ntouch 2026-03-01 08:00 1A40C2\n";
+        scenario += "pace 240000\ngap 30\ntouch 2026-03-01 08:00 1A40C2\n";
         for (int i = 1; i < 1000; ++i)
             scenario += "record 05 00 00 01\n"; // a frame of these reads as a count of 5
         Station station(m_home, scenario);

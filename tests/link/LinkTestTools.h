@@ -227,7 +227,7 @@ private:
 
 /// A station with its port open to a simulated dock, at 7:15 on 2 March 2026, in quick time.
 struct Station {
-    static constexpr double Speed = 25;
+    static constexpr double Speed = 15;
     static DateTime Start() { return DateTime::FromQt(QDateTime(QDate(2026, 3, 2), QTime(7, 15))); }
 
     Station(const TestHome& home, const QByteArray& scenario, double speed = Speed)

@@ -30,6 +30,16 @@ void TranslateProperty(QObject& object, const char* name, const TranslateText& t
         object.setProperty(name, translate(english));
 }
 
+/// The active window; where a dialog has just closed and none is active yet, the one left behind it.
+QWidget* WindowToBeOver() {
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->windowType() == Qt::Window)
+            return window;
+    return nullptr;
+}
+
 QMessageBox::Icon IconOf(MessageKind kind) {
     switch (kind) {
     case MessageKind::Critical:
@@ -82,7 +92,7 @@ void TranslateWindow(QWidget& window, const TranslateText& translate) {
 }
 
 MessageAnswer WindowMessageBoxes::Show(const Message& message) {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(WindowToBeOver());
     if (!box.parentWidget()) // the splash, which is never active, must not cover it
         box.setWindowFlag(Qt::WindowStaysOnTopHint);
     box.setObjectName(QStringLiteral("messageBox"));
