@@ -5,6 +5,7 @@
 #include "ConsoleDownload.h"
 #include "ConsoleReport.h"
 #include "DockingLink.h"
+#include "OutputFile.h"
 #include "Recordset.h"
 #include "TourReportBuilder.h"
 #include "mErrorHandler.h"
@@ -13,9 +14,8 @@
 #include "mStore.h"
 #include "mTranslations.h"
 
-#include <QFile>
+#include <QFileDevice>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 #include <cstdio>
 
@@ -63,10 +63,9 @@ void WriteOut(const QByteArray& bytes, const QString& path) {
                                QStringLiteral("standard output cannot be written"));
         return;
     }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                           path + QStringLiteral(": ") + file.errorString());
+    OutputFile file(path);
+    file.Device().write(bytes);
+    file.Commit();
 }
 
 /// Opens dictionary and store and checks the login; false once it has said why not.

@@ -172,6 +172,14 @@ private slots:
         QCOMPARE(Verdict(Hex("00"), reader, Fastest), "Download Error");
     }
 
+    // All that is left of an image whose first frame is lost and whose second is the empty end:
+    // it reads as a sound image, and an empty one.
+    void EmptyEndAlone() {
+        const Reader reader(58, Untaught);
+        QCOMPARE(Verdict(FrameOf(Hex("F3").leftJustified(241, '\0')), reader, Steady),
+                 "Download Error");
+    }
+
     void EverySingleByte_data() {
         QTest::addColumn<int>("count");
         QTest::addColumn<QByteArray>("identifier");

@@ -3,16 +3,22 @@
 #include "DateTime.h"
 #include "Dictionary.h"
 #include "Format.h"
+#include "OutputFile.h"
 #include "ScriptedBoxes.h"
 #include "Settings.h"
 #include "TestHome.h"
 #include "mTranslations.h"
 
 #include <QDir>
+#include <QFileDevice>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTest>
 #include <QXmlStreamReader>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -261,6 +267,25 @@ private slots:
         QCOMPARE(IvMessageBox("x", MessageKind::Question, MessageButtons::YesNo),
                  MessageAnswer::No);
         QCOMPARE(boxes.Messages.value(0).buttonTexts, (QStringList{"Yes", "No"}));
+    }
+
+    // A device or a pipe takes what is written; it is never replaced.
+    void OutputGoesIntoAPipe() {
+        const TestHome home(TestHome::NoStore);
+        const QString path = home.File("pipe");
+        QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        const int end = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK);
+        {
+            OutputFile file(path);
+            file.Device().write("report");
+            file.Commit();
+        }
+        char bytes[8] = {};
+        QCOMPARE(::read(end, bytes, sizeof bytes), 6);
+        ::close(end);
+        QVERIFY(!QFileInfo(path).isFile());
+        QVERIFY(ErrorOf([&] { OutputFile(home.File("none/report")); }) != 0);
+        QVERIFY(ErrorOf([&] { OutputFile(home.File("")); }) != 0); // a folder
     }
 
     void German() {

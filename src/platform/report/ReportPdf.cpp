@@ -2,12 +2,12 @@
 
 #include "Clock.h"
 #include "DataReport.h"
+#include "OutputFile.h"
 #include "RunTimeError.h"
 
-#include <QDir>
+#include <QFileDevice>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 namespace {
 
@@ -54,13 +54,14 @@ private:
     QString m_failure;
 };
 
-[[noreturn]] void Fail(const QString& what, const QString& reason) {
+[[noreturn]] void Fail(const QString& reason) {
     throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                       QStringLiteral("%1 cannot be written: %2").arg(what, reason));
+                       QStringLiteral("The PDF cannot be written: ") + reason);
 }
 
-void WritePages(const DataReport& report, QIODevice& device, const QString& title,
-                const QString& what) {
+} // namespace
+
+void ExportPdf(const DataReport& report, QIODevice& device, const QString& title) {
     const DateTime printedAt = Now();
     PdfStream stream(device, printedAt);
     QPdfWriter writer(&stream);
@@ -71,7 +72,7 @@ void WritePages(const DataReport& report, QIODevice& device, const QString& titl
     writer.setResolution(static_cast<int>(DataReport::UnitsPerInch));
     QPainter painter;
     if (!painter.begin(&writer))
-        Fail(what, device.errorString());
+        Fail(device.errorString());
     const int pages = report.PageCount();
     for (int page = 0; page < pages && stream.Failure().isNull(); ++page) {
         if (page > 0)
@@ -80,21 +81,11 @@ void WritePages(const DataReport& report, QIODevice& device, const QString& titl
     }
     painter.end();
     if (!stream.Failure().isNull())
-        Fail(what, stream.Failure());
-}
-
-} // namespace
-
-void ExportPdf(const DataReport& report, QIODevice& device, const QString& title) {
-    WritePages(report, device, title, QStringLiteral("The PDF"));
+        Fail(stream.Failure());
 }
 
 void ExportPdf(const DataReport& report, const QString& path, const QString& title) {
-    const QString what = QStringLiteral("The file \"%1\"").arg(QDir::toNativeSeparators(path));
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        Fail(what, file.errorString());
-    WritePages(report, file, title, what);
-    if (!file.commit())
-        Fail(what, file.errorString());
+    OutputFile file(path);
+    ExportPdf(report, file.Device(), title);
+    file.Commit();
 }
