@@ -639,5 +639,173 @@
         <source>The report could not be printed.</source>
         <translation>Der Bericht konnte nicht gedruckt werden.</translation>
     </message>
+    <message>
+        <source>Configuration</source>
+        <translation>Einstellungen des Lesers</translation>
+    </message>
+    <message>
+        <source>Date and Time</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Same as PC Clock:</source>
+        <translation>Wie die Uhr des PCs:</translation>
+    </message>
+    <message>
+        <source>Custom Time</source>
+        <translation>Andere Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Time of the PC</source>
+        <translation>Uhrzeit des PCs</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Automatically Set Time and Date to PC's settings when downloading Data</source>
+        <translation>Beim Auslesen Uhrzeit und Datum nach dem PC stellen</translation>
+    </message>
+    <message>
+        <source>Reader Options</source>
+        <translation>Signale des Lesers</translation>
+    </message>
+    <message>
+        <source>Buzzer Enabled</source>
+        <translation>Summer an</translation>
+    </message>
+    <message>
+        <source>LED Enabled</source>
+        <translation>LED an</translation>
+    </message>
+    <message>
+        <source>Vibration Enabled</source>
+        <translation>Vibration an</translation>
+    </message>
+    <message>
+        <source>Buzzer Duration</source>
+        <translation>Dauer des Summers</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>Kurz</translation>
+    </message>
+    <message>
+        <source>Long</source>
+        <translation>Lang</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation>&amp;Senden</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Hinweis:</translation>
+    </message>
+    <message>
+        <source>If you select a custom date then this will only apply for one time</source>
+        <translation>Ein anderes Datum gilt nur für dieses eine Mal.</translation>
+    </message>
+    <message>
+        <source>The automatic update feature only uses the PC's date and time</source>
+        <translation>Das automatische Stellen richtet sich immer nach dem PC.</translation>
+    </message>
+    <message>
+        <source>You must select at least one of the reader options (Led, Buzzer or Vibration)</source>
+        <translation>Mindestens ein Signal des Lesers muss gewählt sein (LED, Summer oder Vibration)</translation>
+    </message>
+    <message>
+        <source>Reader update successful</source>
+        <translation>Der Leser wurde eingestellt</translation>
+    </message>
+    <message>
+        <source>Reader update failed.  Please try again.</source>
+        <translation>Der Leser konnte nicht eingestellt werden. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Add New Reader</source>
+        <translation>Neuer Leser</translation>
+    </message>
+    <message>
+        <source>Add New Button</source>
+        <translation>Neuer Kontakt</translation>
+    </message>
+    <message>
+        <source>Button ID:</source>
+        <translation>Code:</translation>
+    </message>
+    <message>
+        <source>Button ID</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>This Reader ID already exists!</source>
+        <translation>Dieser Leser ist schon angelegt!</translation>
+    </message>
+    <message>
+        <source>That key is already used!</source>
+        <translation>Dieser Code ist schon vergeben!</translation>
+    </message>
+    <message>
+        <source>Read ID</source>
+        <translation>Nummer lesen</translation>
+    </message>
+    <message>
+        <source>Manual Entry</source>
+        <translation>Von Hand eingeben</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Not in use yet</source>
+        <translation>Noch nicht vergeben</translation>
+    </message>
+    <message>
+        <source>Reader ID Download Failed</source>
+        <translation>Die Nummer des Lesers konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>That name is already used.  Please enter another name</source>
+        <translation>Dieser Name ist schon vergeben. Bitte einen anderen eingeben</translation>
+    </message>
+    <message>
+        <source>You must enter a name for this item</source>
+        <translation>Bitte einen Namen eingeben</translation>
+    </message>
+    <message>
+        <source>Enter the 6 digit button ID.  This is the last 6 digits visible on the front of the 'Dallas' Key. Valid characters are 0~9 and A~F.</source>
+        <translation>Bitte den sechsstelligen Code eingeben. Es sind die letzten 6 Stellen auf der Vorderseite des Kontakts. Gültig sind 0 bis 9 und A bis F.</translation>
+    </message>
+    <message>
+        <source>Illegal Value</source>
+        <translation>Ungültiger Wert</translation>
+    </message>
+    <message>
+        <source>Firmware Version is</source>
+        <translation>Firmware-Version:</translation>
+    </message>
+    <message>
+        <source>Reader Firmware Version Test</source>
+        <translation>Firmware-Version des Lesers</translation>
+    </message>
+    <message>
+        <source>&amp;Reader Options</source>
+        <translation>&amp;Leser einstellen</translation>
+    </message>
+    <message>
+        <source>Reader Firmware Version</source>
+        <translation>Firmware-Version des Lesers</translation>
+    </message>
+    <message>
+        <source>The reader does not tell its firmware version.</source>
+        <translation>Der Leser nennt keine Firmware-Version.</translation>
+    </message>
+    <message>
+        <source>The reader has not been taught yet.</source>
+        <translation>Der Leser ist noch nicht angelegt.</translation>
+    </message>
 </context>
 </TS>

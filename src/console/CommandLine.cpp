@@ -13,9 +13,22 @@ struct Option {
 constexpr Option Options[] = {
     {"home", true, ""},
     {"operator", true, ""},
-    {"device", true, "detect,download"},
+    {"device", true,
+     "detect,download,reader identify,reader firmware,reader set-clock,reader set-options,"
+     "reader erase"},
     {"keep", false, "download"},
-    {"json", false, "download"},
+    {"json", false,
+     "download,reader identify,reader firmware,reader set-clock,reader set-options,reader erase"},
+    {"time", true, "reader set-clock"},
+    {"buzzer", false, "reader set-options"},
+    {"no-buzzer", false, "reader set-options"},
+    {"led", false, "reader set-options"},
+    {"no-led", false, "reader set-options"},
+    {"vibration", false, "reader set-options"},
+    {"no-vibration", false, "reader set-options"},
+    {"long", false, "reader set-options"},
+    {"short", false, "reader set-options"},
+    {"yes", false, "reader erase"},
     {"tour", true, "report tour"},
     {"reader", true, "report tour"},
     {"date", true, "report tour"},
@@ -43,6 +56,13 @@ struct RawArguments {
         if (Value(name).isEmpty())
             throw UsageError(QStringLiteral("--%1 is missing").arg(QLatin1String(name)));
         return Value(name);
+    }
+    /// Nothing where neither is given.
+    std::optional<bool> Either(const char* yes, const char* no) const {
+        if (Has(yes) && Has(no))
+            throw UsageError(QStringLiteral("--%1 and --%2 exclude each other")
+                                 .arg(QLatin1String(yes), QLatin1String(no)));
+        return Has(yes) || Has(no) ? std::optional(Has(yes)) : std::nullopt;
     }
     template <typename T>
     T Choice(const char* name, const QMap<QString, T>& choices) const {
@@ -94,6 +114,16 @@ DateTime ParseDate(const QString& text) {
     return DateTime::FromQt(date);
 }
 
+/// To the minute, on a day that a reader's clock can be set to.
+DateTime ParseMoment(const QString& text) {
+    const QDateTime moment = QDateTime::fromString(text, QStringLiteral("yyyy-MM-ddTHH:mm"));
+    if (!moment.isValid() || moment.date() < QDate(2000, 1, 1) || moment.date() > QDate(2179, 6, 6))
+        throw UsageError(QStringLiteral("--time %1: a time as YYYY-MM-DDTHH:MM, from 2000 to "
+                                        "2179, is wanted")
+                             .arg(text));
+    return DateTime::FromQt(moment);
+}
+
 int ParseKey(const QString& text) {
     bool ok = false;
     const int key = text.toInt(&ok);
@@ -110,7 +140,12 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     const QMap<QString, ConsoleCommand> commands = {
         {QStringLiteral("detect"), ConsoleCommand::Detect},
         {QStringLiteral("download"), ConsoleCommand::Download},
-        {QStringLiteral("report tour"), ConsoleCommand::ReportTour}};
+        {QStringLiteral("report tour"), ConsoleCommand::ReportTour},
+        {QStringLiteral("reader identify"), ConsoleCommand::ReaderIdentify},
+        {QStringLiteral("reader firmware"), ConsoleCommand::ReaderFirmware},
+        {QStringLiteral("reader set-clock"), ConsoleCommand::ReaderSetClock},
+        {QStringLiteral("reader set-options"), ConsoleCommand::ReaderSetOptions},
+        {QStringLiteral("reader erase"), ConsoleCommand::ReaderErase}};
     if (!commands.contains(words))
         throw UsageError(words.isEmpty() ? QStringLiteral("a command is missing")
                                          : QStringLiteral("unknown command \"%1\"").arg(words));
@@ -128,6 +163,14 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     line.all = raw.Has("all");
     line.events = raw.Has("events");
     line.output = raw.Value("output");
+    if (raw.Has("time"))
+        line.time = ParseMoment(raw.Value("time"));
+    line.buzzer = raw.Either("buzzer", "no-buzzer");
+    line.led = raw.Either("led", "no-led");
+    line.vibration = raw.Either("vibration", "no-vibration");
+    line.longBuzzer = raw.Either("long", "short");
+    if (line.command == ConsoleCommand::ReaderErase && !raw.Has("yes"))
+        throw UsageError(QStringLiteral("--yes is missing: what the reader holds will be lost"));
     if (line.command == ConsoleCommand::ReportTour) {
         line.tour = ParseKey(raw.Required("tour"));
         line.reader = raw.Required("reader");
@@ -155,10 +198,21 @@ QString UsageText() {
         "  report tour --tour ID --reader ID --date YYYY-MM-DD [--all] [--events]\n"
         "              --format text|json|csv|pdf [--output FILE]\n"
         "      the tour report of that day; without --output to standard output\n"
+        "  reader identify --device PATH [--json]\n"
+        "  reader firmware --device PATH [--json]\n"
+        "      what the docked reader tells of itself\n"
+        "  reader set-clock --device PATH [--time YYYY-MM-DDTHH:MM] [--json]\n"
+        "      to that time, or to this machine's\n"
+        "  reader set-options --device PATH [--buzzer|--no-buzzer] [--led|--no-led]\n"
+        "              [--vibration|--no-vibration] [--long|--short] [--json]\n"
+        "      how the reader answers a touch; what is not given stays as it was chosen last\n"
+        "  reader erase --device PATH --yes [--json]\n"
+        "      erases the reader, whether its touches have been read or not\n"
         "\n"
         "--device takes the path of a serial device, or COM1 to COM8. --home is the folder of the\n"
         "store; else the environment variable WARDLOCK_HOME or the program's own folder. The\n"
-        "operator's password is taken from the environment variable WARDLOCK_PASSWORD.\n"
+        "operator's password is taken from the environment variable WARDLOCK_PASSWORD. The reader\n"
+        "commands are the master's.\n"
         "Options may stand before or behind the command.\n"
         "\n"
         "exit status: 0 all done, 1 not or not all done, 2 wrong usage\n");

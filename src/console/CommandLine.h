@@ -6,9 +6,19 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <stdexcept>
 
-enum class ConsoleCommand { Detect, Download, ReportTour };
+enum class ConsoleCommand {
+    Detect,
+    Download,
+    ReportTour,
+    ReaderIdentify,
+    ReaderFirmware,
+    ReaderSetClock,
+    ReaderSetOptions,
+    ReaderErase
+};
 enum class ReportFormat { Text, Json, Csv, Pdf };
 
 /// What a call of the command line asks for.
@@ -26,6 +36,9 @@ struct CommandLine {
     bool events = false;
     ReportFormat format = ReportFormat::Text;
     QString output;
+    std::optional<DateTime> time; ///< to set; else the present time
+    /// What is not given stays as it was chosen last.
+    std::optional<bool> buzzer, led, vibration, longBuzzer;
 };
 
 /// A call that makes no sense; what() tells why.

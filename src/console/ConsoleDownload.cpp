@@ -27,8 +27,14 @@ class NoTransferView : public TransferView {
 } // namespace
 
 TransferResult ConsoleDownload::RunTransfer() {
+    return RunConsoleTransfer(m_link, TransferPurpose::Touches);
+}
+
+TransferResult RunConsoleTransfer(DockingLink& link, TransferPurpose purpose) {
     NoTransferView view;
-    MemoryTransfer transfer(m_link, view);
+    MemoryTransfer transfer(link, view);
+    transfer.GetIDMode = purpose == TransferPurpose::Identifier;
+    transfer.bFirmwareVersion = purpose == TransferPurpose::Firmware;
     QEventLoop loop;
     QObject::connect(&transfer, &MemoryTransfer::Closed, &loop, &QEventLoop::quit);
     Timer silence(SilenceLimit);

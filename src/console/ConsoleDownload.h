@@ -25,6 +25,10 @@ private:
     QString m_text;
 };
 
+enum class TransferPurpose { Touches, Identifier, Firmware };
+/// Runs a transfer that nobody watches. Where nothing at all answers it is given up.
+TransferResult RunConsoleTransfer(DockingLink& link, TransferPurpose purpose);
+
 /// What a download brought, for programs and for people.
 QByteArray DownloadJson(const MemoryDownload::Outcome& outcome);
 QByteArray DownloadText(const MemoryDownload::Outcome& outcome, const QString& message);

@@ -14,6 +14,9 @@ inline const QString Properties = QStringLiteral("Properties");
 inline const QString Settings = QStringLiteral("Settings");
 inline const QString ComPort = QStringLiteral("ComPort_Settings");
 inline const QString Info = QStringLiteral("Info");
+/// What was last chosen for the next sending to a reader.
+inline const QString ReaderSetting = QStringLiteral("ReaderSetting");
+inline const QString Reader = QStringLiteral("Reader"); ///< what cReaderOptions keeps
 } // namespace SettingsSection
 
 /// The two operators.

@@ -163,16 +163,29 @@ bool DockingLink::TxNewDate(std::uint8_t hour, std::uint8_t minute, std::uint8_t
     return Succeeded(reply, received);
 }
 
+bool DockingLink::SetClock(DateTime moment) {
+    const QTime time = moment.ToQTime();
+    const std::uint16_t code = DateCodeOf(moment);
+    return TxNewDate(static_cast<std::uint8_t>(time.hour()),
+                     static_cast<std::uint8_t>(time.minute()),
+                     static_cast<std::uint8_t>(code / 256), static_cast<std::uint8_t>(code % 256));
+}
+
 bool DockingLink::SetClockToNow() {
     const DateTime now = Now();
-    const QTime time = now.ToQTime();
     const std::uint16_t code = DateCodeOf(now);
-    const auto msb = static_cast<std::uint8_t>(code / 256);
-    const auto lsb = static_cast<std::uint8_t>(code % 256);
-    Trace(QStringLiteral("Auto-setting date code to ") + Hex00(msb) + Hex00(lsb) +
-          QStringLiteral(" = "));
-    return TxNewDate(static_cast<std::uint8_t>(time.hour()),
-                     static_cast<std::uint8_t>(time.minute()), msb, lsb);
+    Trace(QStringLiteral("Auto-setting date code to ") +
+          Hex00(static_cast<std::uint8_t>(code / 256)) +
+          Hex00(static_cast<std::uint8_t>(code % 256)) + QStringLiteral(" = "));
+    return SetClock(now);
+}
+
+bool DockingLink::TxOptions(std::uint8_t options) {
+    QByteArray reply;
+    bool received = false;
+    WaitFor(3, Wire::Header1, CmdSetOptions(options), 900, Wire::ReplyOptions, true, reply,
+            received);
+    return Succeeded(reply, received);
 }
 
 void DockingLink::EraseRequest(bool& succeeded) {

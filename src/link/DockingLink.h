@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CommPort.h"
+#include "DateTime.h"
 #include "cInBuffer.h"
 
 #include <QByteArray>
@@ -46,8 +47,12 @@ public:
     /// Sets the reader's clock; true if the reader said so.
     bool TxNewDate(std::uint8_t hour, std::uint8_t minute, std::uint8_t dateMsb,
                    std::uint8_t dateLsb);
-    /// Sets the reader's clock to the present time; true if the reader said so.
+    /// The same to the minute of a moment from 2000 to 2179.
+    bool SetClock(DateTime moment);
+    /// The same to the present time.
     bool SetClockToNow();
+    /// Sets the reader's option byte (ReaderSignals); true if the reader said so.
+    bool TxOptions(std::uint8_t options);
     /// One erase command; `succeeded` if the reader said so.
     void EraseRequest(bool& succeeded);
 

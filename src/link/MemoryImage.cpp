@@ -57,6 +57,10 @@ QString FirmwareTextOf(const QByteArray& firstFrame) {
     return u'V' + Hex00(ByteAt(firstFrame, Wire::FirmwareOffset));
 }
 
+bool NamesFirmware(const QString& firmwareText) {
+    return !firmwareText.isEmpty() && firmwareText != u"VFF";
+}
+
 const cRawButton& ButtonDirectory::LookUpButtonData(const QString& code) {
     const auto known = m_known.constFind(code);
     if (known != m_known.constEnd())

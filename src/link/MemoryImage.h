@@ -19,8 +19,10 @@ int RecordCountOf(const QByteArray& firstFrame);
 /// The identifier in the first memory frame, eight upper-case hexadecimal digits in the order in
 /// which the store holds them.
 QString ReaderIdOf(const QByteArray& firstFrame);
-/// "V" and two hexadecimal digits.
+/// "V" and two hexadecimal digits; "VFF" where the reader does not tell.
 QString FirmwareTextOf(const QByteArray& firstFrame);
+/// False for "VFF", and for the empty text of a transfer that got no frame.
+bool NamesFirmware(const QString& firmwareText);
 
 /// True if the image's first record is a marker.
 bool BeginsWithMarker(const QByteArray& firstFrame);

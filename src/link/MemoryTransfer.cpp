@@ -133,7 +133,9 @@ MemoryTransfer::PacketResult MemoryTransfer::ProcessPacket(const QByteArray& fra
 
 MemoryTransfer::Evidence MemoryTransfer::EvidenceOf(const QByteArray& firstFrame) const {
     const QString readerId = ReaderIdOf(firstFrame);
-    if (IsKnownReader(readerId))
+    bool known = false;
+    IgnoringErrors([&] { known = IsKnownReader(readerId); });
+    if (known)
         return Evidence::Sure;
     const bool soundStream = !m_lineWasBusy && m_link.InBuffer().Lost() == 0;
     if (!soundStream || readerId == NoReaderId)
@@ -147,11 +149,17 @@ MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray&
         return Failed;
     m_pipeId = ReaderIdOf(frame);
     m_firmware = FirmwareTextOf(frame);
+    if (bFirmwareVersion && m_firmware == u"V08") // two names of one version
+        m_firmware = QStringLiteral("V06");
     m_recordCount = RecordCountOf(frame);
     if (m_recordCount < 0)
         return Failed;
-    if (GetIDMode)
-        return Complete;
+    if (GetIDMode) { // the frame must do without those that would follow
+        colPackets alone;
+        alone.Add(frame);
+        const int records = std::min(m_recordCount, Wire::FirstFrameRecords);
+        return m_evidence == Evidence::Sure || RecordsIn(alone) == records ? Complete : Failed;
+    }
     m_view.ShowReaderId(m_pipeId);
     m_frameTotal = FramesFor(m_recordCount);
     return Running;
@@ -175,13 +183,7 @@ void MemoryTransfer::EndReading() {
     DoEvents();
     if (m_closed)
         return;
-    if (bFirmwareVersion) {
-        if (m_firmware == u"V08")
-            m_firmware = QStringLiteral("V06");
-        Finish();
-        return;
-    }
-    if (GetIDMode) {
+    if (bFirmwareVersion || GetIDMode) {
         Finish();
         return;
     }

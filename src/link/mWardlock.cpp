@@ -29,6 +29,8 @@ QByteArray CmdSetClock(int hour, int minute, std::uint8_t dateMsb, std::uint8_t 
     return Command(0x12, {hour, minute, dateMsb, dateLsb});
 }
 
+QByteArray CmdSetOptions(std::uint8_t options) { return Command(0x13, {options}); }
+
 QByteArray CmdEraseMemory() { return Command(0x72, {0xFF}); }
 
 QByteArray CmdReadMemory() { return Command(0x72, {0, 0, 0}); }
@@ -63,6 +65,14 @@ QString Hex00(std::uint8_t value) {
 QString BytesToHex(const QByteArray& bytes) {
     return bytes.isEmpty() ? QString()
                            : QString::fromLatin1(bytes.toHex(' ').toUpper()) + QLatin1Char(' ');
+}
+
+void SetBit(std::uint8_t& target, int index) {
+    if (index < 0 || index > 7) {
+        MsgBox(QStringLiteral("Error"), {}, MessageKind::Warning);
+        return;
+    }
+    target = static_cast<std::uint8_t>(target | 1U << index);
 }
 
 int DecodeDateCode(int high, int low) { return high * 256 + low + Wire::DateCodeZero; }

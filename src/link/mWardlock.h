@@ -57,6 +57,7 @@ constexpr int DateCodeZero = 36526;
 /// The commands, as payloads.
 QByteArray CmdDetect();
 QByteArray CmdSetClock(int hour, int minute, std::uint8_t dateMsb, std::uint8_t dateLsb);
+QByteArray CmdSetOptions(std::uint8_t options);
 QByteArray CmdEraseMemory();
 QByteArray CmdReadMemory();
 
@@ -69,6 +70,8 @@ QByteArray BuildPacket(std::uint8_t header0, std::uint8_t header1, std::uint8_t 
 QString Hex00(std::uint8_t value);
 /// Each byte's digits and a blank.
 QString BytesToHex(const QByteArray& bytes);
+/// Sets a bit, 0 the lowest. An index beyond 7 shows a box and changes nothing.
+void SetBit(std::uint8_t& target, int index);
 
 /// Days since 30 December 1899 of a date code.
 int DecodeDateCode(int high, int low);

@@ -4,6 +4,7 @@
 #include "RunTimeError.h"
 #include "Settings.h"
 #include "WindowTools.h"
+#include "cReaderOptions.h"
 #include "deMain.h"
 #include "frmMdiDownload.h"
 #include "frmMdiMenu.h"
@@ -71,6 +72,7 @@ void frmMain::MDIForm_Load() {
         HideUnbuilt();
         setWindowTitle(TitleWithVersion());
         UpdateLanguage();
+        gReaderOptions = std::make_unique<cReaderOptions>();
         m_ui->lblTitle->setMinimumHeight(PixelsOf(StripHeight - ToolbarHeight));
         m_ui->tbrMain->setMinimumHeight(PixelsOf(ToolbarHeight));
         m_ui->pctMenu->setMinimumHeight(PixelsOf(StripHeight));
@@ -82,13 +84,16 @@ void frmMain::MDIForm_Load() {
 /// Menu items whose dialogs have not come yet.
 void frmMain::HideUnbuilt() {
     for (QAction* action : {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore,
-                            m_ui->mnuToolsPipeOptions, m_ui->mnuToolsClearPipe,
-                            m_ui->mnuToolsReaderFW, m_ui->mnuToolCompany, m_ui->mnuHelpAbout})
+                            m_ui->mnuToolCompany, m_ui->mnuHelpAbout})
         action->setVisible(false);
 }
 
 void frmMain::ConnectMenu() {
     connect(m_ui->mnuFileExit, &QAction::triggered, this, &QWidget::close);
+    connect(m_ui->mnuToolsPipeOptions, &QAction::triggered, this,
+            &frmMain::mnuToolsPipeOptions_Click);
+    connect(m_ui->mnuToolsClearPipe, &QAction::triggered, this, &frmMain::mnuToolsClearPipe_Click);
+    connect(m_ui->mnuToolsReaderFW, &QAction::triggered, this, &frmMain::mnuToolsReaderFW_Click);
     connect(m_ui->mnuViewOptions, &QAction::triggered, this, &frmMain::GoOptions);
     connect(m_ui->mnuUMAdmin, &QAction::triggered, this, [this] { EditOperator(MasterOperator); });
     connect(m_ui->mnuUMUser, &QAction::triggered, this, [this] { EditOperator(UserOperator); });
@@ -245,6 +250,7 @@ void frmMain::MDIForm_Unload() {
         save("MainWidth", QString::number(width));
         save("MainHeight", QString::number(height));
     };
+    gReaderOptions.reset();
     if (isMinimized()) {
         save("Maximized", BooleanText(false));
     } else if (isMaximized()) {

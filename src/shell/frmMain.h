@@ -57,6 +57,9 @@ private:
 
     void GoConnect();
     void GoOffline();
+    void mnuToolsPipeOptions_Click();
+    void mnuToolsClearPipe_Click();
+    void mnuToolsReaderFW_Click();
     QAction* ToolbarButton(const QString& key) const;
 
     void ChangeLanguage();

@@ -1,9 +1,16 @@
-// The main window's part in the link: connecting, the port choice, and showing the state.
+// The main window's part in the link: connecting, the port choice, showing the state, and what the
+// Tools menu does to a docked reader.
 
+#include "MemoryImage.h"
 #include "WindowTools.h"
+#include "frmDownload.h"
+#include "frmFirmwareVersion.h"
 #include "frmGoOnline.h"
 #include "frmMain.h"
+#include "frmMdiDownload.h"
 #include "frmPrpComms.h"
+#include "frmSetTime.h"
+#include "mErrorHandler.h"
 #include "mTranslations.h"
 
 #include <QAction>
@@ -65,6 +72,38 @@ void frmMain::GoOptions() {
     m_portNumber = dialog.comPort;
     SavePortNumber(m_portNumber);
     GoConnect();
+}
+
+void frmMain::mnuToolsPipeOptions_Click() {
+    {
+        frmSetTime dialog(m_link, this);
+        dialog.exec();
+    }
+    GoHome();
+}
+
+void frmMain::mnuToolsClearPipe_Click() {
+    GoOnline();
+    if (!m_downloadPage)
+        return;
+    bool succeeded = false;
+    m_downloadPage->EraseReader(false, succeeded);
+}
+
+void frmMain::mnuToolsReaderFW_Click() {
+    Guarded("getFWVersion of Form frmFirmwareVersion", ErrorShow::Dialog, [this] {
+        TransferResult result;
+        {
+            const Hourglass hourglass;
+            frmDownload dialog(m_link, this);
+            dialog.bFirmwareVersion = true;
+            result = dialog.Run();
+        }
+        if (!NamesFirmware(result.tFirmware))
+            return;
+        frmFirmwareVersion dialog(result.tFirmware, this);
+        dialog.exec();
+    });
 }
 
 void frmMain::ShowStatus(const QString& text, const QString& icon) {

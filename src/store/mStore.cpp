@@ -134,14 +134,10 @@ int CountReaders() { return CountRows(QStringLiteral("tblReaders")); }
 int CountTours() { return CountRows(QStringLiteral("tblTours")); }
 
 bool IsKnownReader(const QString& readerId) {
-    bool known = false;
-    IgnoringErrors([&] {
-        Recordset readers;
-        readers.CursorLocation = adUseClient;
-        readers.Open(QStringLiteral("SELECT * FROM tblReaders WHERE tReaderId = '") + readerId +
-                         QStringLiteral("' ; "),
-                     *gConn);
-        known = readers.RecordCount() > 0;
-    });
-    return known;
+    Recordset readers;
+    readers.CursorLocation = adUseClient;
+    readers.Open(QStringLiteral("SELECT * FROM tblReaders WHERE tReaderId = '") + readerId +
+                     QStringLiteral("' ; "),
+                 *gConn);
+    return readers.RecordCount() > 0;
 }

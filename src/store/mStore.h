@@ -38,5 +38,5 @@ bool CreateTblReportTemp(const QString& name);
 int CountReaders();
 int CountTours();
 
-/// True if the reader has been taught, that is, stands in tblReaders.
+/// True if the reader has been taught, that is, stands in tblReaders. Throws RunTimeError.
 bool IsKnownReader(const QString& readerId);

@@ -1,0 +1,116 @@
+#include "ConsoleReader.h"
+
+#include "Clock.h"
+#include "ConsoleDownload.h"
+#include "ConsoleTools.h"
+#include "DockingLink.h"
+#include "Format.h"
+#include "MemoryImage.h"
+#include "ReaderSignals.h"
+#include "Recordset.h"
+#include "mTranslations.h"
+
+#include <QJsonObject>
+
+namespace {
+
+/// Says what the transfer itself has not said.
+void ComplainOfTransfer(const ConsoleBoxes& boxes, const char* text) {
+    if (boxes.Last().isEmpty())
+        Complain(Translate(text));
+}
+
+} // namespace
+
+KnownReader LookUpReader(const QString& readerId) {
+    Recordset readers;
+    readers.CursorLocation = adUseClient;
+    readers.Open(QStringLiteral("SELECT * FROM tblReaders ;"), *gConn);
+    for (; !readers.Eof(); readers.MoveNext())
+        if (readers.Text(u"tReaderId") == readerId)
+            return {true, readers.Text(u"tDescription")};
+    return {};
+}
+
+bool IdentifyReader(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes) {
+    const TransferResult transfer = RunConsoleTransfer(link, TransferPurpose::Identifier);
+    if (!transfer.OK) {
+        ComplainOfTransfer(boxes, "Reader ID Download Failed");
+        return false;
+    }
+    const KnownReader reader = LookUpReader(transfer.PipeID);
+    if (line.json)
+        WriteJson({{QStringLiteral("reader"), transfer.PipeID},
+                   {QStringLiteral("known"), reader.known},
+                   {QStringLiteral("description"), reader.description}});
+    else
+        WriteLine(transfer.PipeID +
+                  (reader.known ? QStringLiteral(" - ") + reader.description : QString()));
+    return true;
+}
+
+bool TellFirmware(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes) {
+    const QString firmware = RunConsoleTransfer(link, TransferPurpose::Firmware).tFirmware;
+    if (!NamesFirmware(firmware)) {
+        ComplainOfTransfer(boxes, "The reader does not tell its firmware version.");
+        return false;
+    }
+    if (line.json)
+        WriteJson({{QStringLiteral("firmware"), firmware}});
+    else
+        WriteLine(Translate("Firmware Version is") + u' ' + firmware);
+    return true;
+}
+
+bool SetReaderClock(DockingLink& link, const CommandLine& line, const ConsoleBoxes&) {
+    const DateTime moment = line.time.value_or(Now());
+    if (!link.SetClock(moment)) {
+        Complain(Translate("Reader Clock update failed.  Please try again."));
+        return false;
+    }
+    if (line.json)
+        WriteJson({{QStringLiteral("clock"), Format(moment, QStringLiteral("yyyy-mm-ddThh:nn"))}});
+    else
+        WriteLine(Translate("Reader update successful") + QStringLiteral("  ") +
+                  Format(moment, QStringLiteral("hh:nn  dd mmm yyyy")));
+    return true;
+}
+
+bool SetReaderOptions(DockingLink& link, const CommandLine& line, const ConsoleBoxes&) {
+    ReaderSignals wanted = SavedReaderSignals();
+    wanted.buzzer = line.buzzer.value_or(wanted.buzzer);
+    wanted.led = line.led.value_or(wanted.led);
+    wanted.vibration = line.vibration.value_or(wanted.vibration);
+    wanted.longBuzzer = line.longBuzzer.value_or(wanted.longBuzzer);
+    if (!SignalsAreUsable(wanted))
+        return false;
+    if (!link.TxOptions(wanted.OptionByte())) {
+        Complain(Translate("Reader update failed.  Please try again."));
+        return false;
+    }
+    SaveReaderSignals(wanted);
+    if (line.json)
+        WriteJson({{QStringLiteral("buzzer"), wanted.buzzer},
+                   {QStringLiteral("led"), wanted.led},
+                   {QStringLiteral("vibration"), wanted.vibration},
+                   {QStringLiteral("long"), wanted.longBuzzer}});
+    else
+        WriteLine(Translate("Reader update successful"));
+    return true;
+}
+
+bool EraseReader(DockingLink& link, const CommandLine& line, const ConsoleBoxes&) {
+    ConsoleDownload view(link);
+    MemoryDownload download(link, view);
+    bool succeeded = false;
+    download.EraseReader(true, succeeded);
+    if (!succeeded) {
+        Complain(Translate("Reader Memory NOT erased!"));
+        return false;
+    }
+    if (line.json)
+        WriteJson({{QStringLiteral("erased"), true}});
+    else
+        WriteLine(Translate("Reader Erased"));
+    return true;
+}

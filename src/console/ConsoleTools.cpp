@@ -1,0 +1,63 @@
+#include "ConsoleTools.h"
+
+#include "DockingLink.h"
+#include "OutputFile.h"
+#include "RunTimeError.h"
+#include "mDeclareGlobals.h"
+#include "mTranslations.h"
+
+#include <QFileDevice>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+#include <cstdio>
+
+void Complain(const QString& text) {
+    const QByteArray line = (text.simplified() + u'\n').toUtf8();
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+}
+
+void WriteOut(const QByteArray& bytes, const QString& path) {
+    if (path.isEmpty()) {
+        if (std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout) !=
+                static_cast<std::size_t>(bytes.size()) ||
+            std::fflush(stdout) != 0)
+            throw RunTimeError(RunTimeErrorNumber::FileNotFound,
+                               QStringLiteral("standard output cannot be written"));
+        return;
+    }
+    OutputFile file(path);
+    file.Device().write(bytes);
+    file.Commit();
+}
+
+void WriteLine(const QString& text) { WriteOut(text.toUtf8() + '\n'); }
+
+void WriteJson(const QJsonObject& object) { WriteOut(QJsonDocument(object).toJson()); }
+
+MessageAnswer ConsoleBoxes::Show(const Message& message) {
+    if (message.buttons != MessageButtons::YesNo) {
+        Complain(message.text);
+        m_last = message.text;
+    }
+    return HarmlessAnswer(message.buttons);
+}
+
+bool Connect(DockingLink& link, const QString& device) {
+    static const QRegularExpression portName(QStringLiteral("^COM([1-8]):?$"),
+                                             QRegularExpression::CaseInsensitiveOption);
+    const auto match = portName.match(device);
+    if (!match.hasMatch())
+        OverrideDevice(device);
+    if (!link.OpenPort(match.hasMatch() ? match.captured(1).toInt() : 1)) {
+        Complain(Translate("Could not open the com port.") + u' ' +
+                 Translate("Check settings and try again."));
+        return false;
+    }
+    gDockingDetected = link.DetectStation();
+    if (!gDockingDetected)
+        Complain(Translate("Could not connect to the docking station.") + u' ' +
+                 Translate("Check hardware and settings and try again."));
+    return gDockingDetected;
+}

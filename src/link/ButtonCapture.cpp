@@ -1,0 +1,60 @@
+#include "ButtonCapture.h"
+
+#include "DockingLink.h"
+#include "Recordset.h"
+#include "mDeclareGlobals.h"
+#include "mErrorHandler.h"
+#include "mWardlock.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+constexpr int CodeOffset = 12; ///< three bytes, lowest first
+constexpr int LeastButtonFrame = CodeOffset + 3 + 1;
+/// Calls without a new byte after which the beginning of a frame is given up.
+constexpr int Patience = 2;
+
+QString ButtonCodeOf(const QByteArray& frame) {
+    if (frame.size() < LeastButtonFrame || ByteAt(frame, Wire::PayloadOffset) != Wire::ReplyButton)
+        return {};
+    return Hex00(ByteAt(frame, CodeOffset + 2)) + Hex00(ByteAt(frame, CodeOffset + 1)) +
+           Hex00(ByteAt(frame, CodeOffset));
+}
+
+} // namespace
+
+ButtonCapture::ButtonCapture(DockingLink& link) : m_link(link) {
+    gCommActive = true;
+    m_link.InBuffer().Clear();
+    Guarded("Form_Load of Form frmAddButton", [this] {
+        QSet<QString> codes;
+        Recordset buttons;
+        buttons.CursorLocation = adUseClient;
+        buttons.Open(QStringLiteral("SELECT tButtonCode FROM tblButtons ;"), *gConn);
+        for (; !buttons.Eof(); buttons.MoveNext())
+            codes += buttons.Text(u"tButtonCode");
+        m_codes = std::move(codes);
+    });
+}
+
+ButtonCapture::~ButtonCapture() { gCommActive = false; }
+
+QString ButtonCapture::TakeCode() {
+    cInBuffer& buffer = m_link.InBuffer();
+    QByteArray frame;
+    bool received = false;
+    buffer.GetPacket(frame, received);
+    const qsizetype waiting = received ? 0 : buffer.Buffer().size();
+    m_idleCalls = waiting == m_waiting ? m_idleCalls + 1 : 0;
+    m_waiting = waiting;
+    if (received || m_idleCalls >= Patience)
+        buffer.Clear();
+    return received ? ButtonCodeOf(frame) : QString();
+}
+
+QString TypedButtonCode(const QString& text) {
+    static const QRegularExpression sixDigits(QStringLiteral("\\A[0-9A-F]{6}\\z"));
+    const QString code = text.trimmed().toUpper();
+    return sixDigits.match(code).hasMatch() ? code : QString();
+}

@@ -1,0 +1,77 @@
+#include "frmAddButton.h"
+
+#include "CapturedId.h"
+#include "DockingLink.h"
+#include "WindowTools.h"
+#include "frmManualID.h"
+#include "mTranslations.h"
+#include "ui_frmAddButton.h"
+
+namespace {
+
+constexpr int CaptureInterval = 300;
+constexpr int FlashPause = 100;
+
+} // namespace
+
+frmAddButton::frmAddButton(DockingLink& link, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::frmAddButton>()), m_capture(link),
+      m_tmrGetID(CaptureInterval) {
+    m_ui->setupUi(this);
+    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ShowNone();
+    connect(m_ui->cmdManual, &QPushButton::clicked, this, &frmAddButton::cmdManual_Click);
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmAddButton::cmdOK_Click);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(&m_tmrGetID, &Timer::Tick, this, &frmAddButton::tmrGetID_Timer);
+    m_tmrGetID.SetEnabled(true);
+}
+
+frmAddButton::~frmAddButton() = default;
+
+void frmAddButton::SetIcon(const QString& name) { setWindowIcon(ProgramIcon(name)); }
+
+int frmAddButton::exec() {
+    m_ui->txtName->setText(ButtonName);
+    m_ui->txtDesc->setText(Desc);
+    m_ui->txtName->setFocus();
+    m_ui->txtName->selectAll();
+    return QDialog::exec();
+}
+
+// No event is handled from here: a click that opened the manual entry from within a tick would keep
+// the timer from ticking on behind it.
+void frmAddButton::tmrGetID_Timer() {
+    const QString code = m_capture.TakeCode();
+    if (code.isEmpty())
+        return;
+    if (code == m_lastCode) {
+        CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ClearPicture();
+        Sleep(FlashPause);
+    }
+    m_lastCode = code;
+    ShowCode(code);
+}
+
+void frmAddButton::ShowCode(const QString& code) {
+    m_ui->lblID->setText(code);
+    const bool isFree = m_capture.IsFree(code);
+    m_dallasId = isFree ? code : QString();
+    CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ShowVerdict(isFree);
+}
+
+void frmAddButton::cmdManual_Click() {
+    frmManualID dialog(this);
+    dialog.exec();
+    if (dialog.OK)
+        ShowCode(dialog.ID);
+}
+
+void frmAddButton::cmdOK_Click() {
+    if (!AcceptItemName(*m_ui->txtName, ExistingNames))
+        return;
+    ButtonName = m_ui->txtName->text();
+    Desc = m_ui->txtDesc->text();
+    OK = true;
+    accept();
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "ButtonCapture.h"
+#include "Clock.h"
+
+#include <QDialog>
+#include <QStringList>
+
+#include <cstdint>
+#include <memory>
+
+namespace Ui {
+class frmAddButton;
+}
+
+/// Captures a new button: waits for it to be presented to the docked reader, or takes its code by
+/// hand, and asks for its name.
+class frmAddButton : public QDialog {
+    Q_OBJECT
+public:
+    frmAddButton(DockingLink& link, QWidget* parent);
+    ~frmAddButton() override;
+
+    bool OK = false;
+    std::uint8_t ButtonType = 0; ///< the group's type, for the caller's own use
+    QString ButtonName;          ///< the preset name, then the one entered, as typed
+    QString Desc;                ///< likewise
+    QStringList ExistingNames;   ///< names that may not be used
+    /// The code captured, six upper-case hexadecimal digits; empty while none that is free was.
+    const QString& DallasID() const { return m_dallasId; }
+    /// The window's icon, by its name.
+    void SetIcon(const QString& name);
+
+    int exec() override;
+
+private:
+    void tmrGetID_Timer();
+    void ShowCode(const QString& code);
+    void cmdManual_Click();
+    void cmdOK_Click();
+
+    std::unique_ptr<Ui::frmAddButton> m_ui;
+    ButtonCapture m_capture;
+    Timer m_tmrGetID;
+    QString m_lastCode;
+    QString m_dallasId;
+};

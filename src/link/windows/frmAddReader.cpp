@@ -1,0 +1,82 @@
+#include "frmAddReader.h"
+
+#include "CapturedId.h"
+#include "Clock.h"
+#include "DockingLink.h"
+#include "WindowTools.h"
+#include "frmDownload.h"
+#include "mDeclareGlobals.h"
+#include "mErrorHandler.h"
+#include "mStore.h"
+#include "mTranslations.h"
+#include "ui_frmAddReader.h"
+
+frmAddReader::frmAddReader(DockingLink& link, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::frmAddReader>()), m_link(link) {
+    m_ui->setupUi(this);
+    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ShowNone();
+    connect(m_ui->cmdRead, &QPushButton::clicked, this, &frmAddReader::cmdRead_Click);
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmAddReader::cmdOK_Click);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    gCommActive = true;
+    m_link.InBuffer().Clear();
+    DoEvents();
+}
+
+frmAddReader::~frmAddReader() { gCommActive = false; }
+
+int frmAddReader::exec() {
+    m_ui->txtDesc->setText(Desc);
+    return QDialog::exec();
+}
+
+void frmAddReader::cmdRead_Click() {
+    m_ui->lblID->clear();
+    bool ok = false;
+    CheckReaderID(ok);
+    if (ok)
+        m_ui->txtDesc->setFocus();
+}
+
+void frmAddReader::CheckReaderID(bool& ok) {
+    ok = false;
+    TransferResult result;
+    {
+        frmDownload dialog(m_link, this);
+        dialog.GetIDMode = true;
+        result = dialog.Run();
+    }
+    if (!result.OK) {
+        IvMessageBox(Translate("Reader ID Download Failed"));
+        return;
+    }
+    GuardedWithBox("CheckReaderID", [&] {
+        ShowReader(result.PipeID);
+        ok = true;
+    });
+    m_link.InBuffer().Clear();
+    DoEvents();
+}
+
+void frmAddReader::ShowReader(const QString& readerId) {
+    m_ui->lblID->setText(readerId);
+    const bool isNew = !IsKnownReader(readerId);
+    if (isNew)
+        ReaderId = readerId;
+    CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ShowVerdict(isNew);
+}
+
+void frmAddReader::cmdOK_Click() {
+    if (!AcceptItemName(*m_ui->txtDesc, ExistingNames))
+        return;
+    if (m_ui->lblID->text().isEmpty()) { // a later read failed: there is nothing to teach
+        IvMessageBox(Translate("Reader ID Download Failed"));
+        m_ui->cmdRead->setFocus();
+        return;
+    }
+    ReaderId = m_ui->lblID->text();
+    Desc = m_ui->txtDesc->text();
+    OK = true;
+    accept();
+}

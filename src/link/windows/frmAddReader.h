@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QDialog>
+#include <QStringList>
+
+#include <memory>
+
+class DockingLink;
+namespace Ui {
+class frmAddReader;
+}
+
+/// Teaches a reader: reads the docked reader's identifier and asks for its description.
+class frmAddReader : public QDialog {
+    Q_OBJECT
+public:
+    frmAddReader(DockingLink& link, QWidget* parent);
+    ~frmAddReader() override;
+
+    bool OK = false;
+    QString ReaderId;
+    QString Desc;              ///< the preset description, then the one entered, as typed
+    QStringList ExistingNames; ///< descriptions that may not be used
+
+    int exec() override;
+
+private:
+    void cmdRead_Click();
+    void CheckReaderID(bool& ok);
+    void ShowReader(const QString& readerId);
+    void cmdOK_Click();
+
+    std::unique_ptr<Ui::frmAddReader> m_ui;
+    DockingLink& m_link;
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class frmManualID;
+}
+
+/// Takes a button code that is typed, for a button that cannot be presented to a reader.
+class frmManualID : public QDialog {
+    Q_OBJECT
+public:
+    explicit frmManualID(QWidget* parent);
+    ~frmManualID() override;
+
+    bool OK = false;
+    QString ID; ///< six upper-case hexadecimal digits
+
+private:
+    void cmdOK_Click();
+
+    std::unique_ptr<Ui::frmManualID> m_ui;
+};
