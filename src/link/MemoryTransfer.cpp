@@ -156,7 +156,7 @@ MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray&
         return Failed;
     if (GetIDMode) { // the frame must do without those that would follow
         colPackets alone;
-        alone.Add(frame);
+        alone.Add(frame).Tag = 1;
         const int records = std::min(m_recordCount, Wire::FirstFrameRecords);
         return m_evidence == Evidence::Sure || RecordsIn(alone) == records ? Complete : Failed;
     }

@@ -1,5 +1,7 @@
 // The command line as scripts use it: the built programs, a store file and a simulated dock.
 
+#include "Dock.h"
+
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
@@ -21,7 +23,7 @@ struct Outcome {
     QJsonObject Json() const { return QJsonDocument::fromJson(out).object(); }
 };
 
-/// A home with the demonstration store, settings of its own, and a simulated dock on demand.
+/// A home with the demonstration store, and settings of its own.
 class Office {
 public:
     Office() {
@@ -30,12 +32,6 @@ public:
         m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
         QDir(m_dir.path()).mkdir(QStringLiteral("home"));
         Run(MKSTORE, {QStringLiteral("--demo"), Store()});
-    }
-    ~Office() {
-        if (m_dock.state() == QProcess::NotRunning)
-            return;
-        m_dock.write("quit\n");
-        m_dock.waitForFinished();
     }
 
     QString Home() const { return m_dir.filePath(QStringLiteral("home")); }
@@ -58,28 +54,9 @@ public:
         return Run(WARDLOCKCTL, (QStringLiteral("--home ") + Home() + u' ' + words).split(u' '));
     }
 
-    /// Starts a dock with these lines of a scenario and gives its device.
-    QString Dock(const QByteArray& scenario) {
-        QFile file(Path(QStringLiteral("dock.scenario")));
-        file.open(QIODevice::WriteOnly);
-        file.write(scenario);
-        file.close();
-        m_dock.start(DOCKSIM, {QStringLiteral("--scenario"), file.fileName()});
-        while (!m_dock.canReadLine() && m_dock.waitForReadyRead(5000))
-            ;
-        return QString::fromUtf8(m_dock.readLine()).trimmed();
-    }
-    QJsonObject DockState() {
-        m_dock.write("state\n");
-        while (!m_dock.canReadLine() && m_dock.waitForReadyRead(5000))
-            ;
-        return QJsonDocument::fromJson(m_dock.readLine()).object();
-    }
-
 private:
     QTemporaryDir m_dir;
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
-    QProcess m_dock;
 };
 
 const QByteArray Night = "reader 4B5831A7\n"
@@ -100,14 +77,26 @@ class ConsoleTest : public QObject {
 private slots:
     void RefusesWrongUsage_data() {
         QTest::addColumn<QString>("words");
-        for (const char* words :
-             {"", "detect", "detect --device", "frobnicate --device /dev/null",
-              "download --device x --tour 1", "detect --device x --device y", "report tour",
-              "report tour --tour x --reader 1 --date 2026-11-21 --format text",
-              "report tour --tour 1 --reader 1 --date 21.11.2026 --format text",
-              "report tour --tour 1 --reader 1 --date 2026-02-30 --format text",
-              "report tour --tour 1 --reader 1 --date 2026-11-21 --format html",
-              "detect --device x --operator guest", "download --device x --keep=yes"})
+        for (const char* words : {"",
+                                  "detect",
+                                  "detect --device",
+                                  "frobnicate --device /dev/null",
+                                  "download --device x --tour 1",
+                                  "detect --device x --device y",
+                                  "report tour",
+                                  "report tour --tour x --reader 1 --date 2026-11-21 --format text",
+                                  "report tour --tour 1 --reader 1 --date 21.11.2026 --format text",
+                                  "report tour --tour 1 --reader 1 --date 2026-02-30 --format text",
+                                  "report tour --tour 1 --reader 1 --date 2026-11-21 --format html",
+                                  "reader identify",
+                                  "reader erase --device x",
+                                  "reader frob --device x",
+                                  "reader set-clock --device x --time 2026-02-29T10:00",
+                                  "reader set-clock --device x --time 1999-12-31T23:59",
+                                  "reader set-options --device x --led --no-led",
+                                  "reader firmware --device x --yes",
+                                  "detect --device x --operator guest",
+                                  "download --device x --keep=yes"})
             QTest::newRow(words) << QString::fromLatin1(words);
     }
     void RefusesWrongUsage() {
@@ -138,8 +127,8 @@ private slots:
         QFETCH(int, status);
         Office office;
         office.SetPassword(password);
-        const QString device = office.Dock(Night);
-        const Outcome outcome = office.Ctl(QStringLiteral("detect --device ") + device +
+        Dock dock(Night);
+        const Outcome outcome = office.Ctl(QStringLiteral("detect --device ") + dock.Device() +
                                            QStringLiteral(" --operator ") + login);
         QCOMPARE(outcome.status, status);
         QCOMPARE(outcome.err.count('\n'), status);
@@ -160,8 +149,9 @@ private slots:
 
     void DownloadsReportsAndErases() {
         Office office;
-        const QString device = office.Dock(Night);
-        const Outcome download = office.Ctl(QStringLiteral("download --json --device ") + device);
+        Dock dock(Night);
+        const Outcome download =
+            office.Ctl(QStringLiteral("download --json --device ") + dock.Device());
         QCOMPARE(download.status, 0);
         const QJsonObject json = download.Json();
         QCOMPARE(json[u"reader"].toString(), Reader);
@@ -174,9 +164,9 @@ private slots:
                                                      {"group", "Incidents"},
                                                      {"type", 2}}));
         QCOMPARE(touches[2][u"name"].toString(), QStringLiteral("Unknown"));
-        const QJsonObject dock = office.DockState();
-        QCOMPARE(dock[u"touches"].toInt(), 0);
-        QVERIFY(dock[u"clock"].isString());
+        const QJsonObject state = dock.State();
+        QCOMPARE(state[u"touches"].toInt(), 0);
+        QVERIFY(state[u"clock"].isString());
 
         const Outcome report = office.Ctl(ReportWords("--events --all --format json"));
         QCOMPARE(report.status, 0);
@@ -200,12 +190,12 @@ private slots:
 
     void KeepsWhatItIsTold() {
         Office office;
-        const QString device = office.Dock(Night);
+        Dock dock(Night);
         const Outcome outcome =
-            office.Ctl(QStringLiteral("download --keep --json --device ") + device);
+            office.Ctl(QStringLiteral("download --keep --json --device ") + dock.Device());
         QCOMPARE(outcome.status, 0);
         QCOMPARE(outcome.Json()[u"erased"].toBool(), false);
-        QCOMPARE(office.DockState()[u"touches"].toInt(), 3);
+        QCOMPARE(dock.State()[u"touches"].toInt(), 3);
     }
 
     void TellsWhatWasNotDone_data() {
@@ -226,12 +216,90 @@ private slots:
         QFETCH(QByteArray, words);
         QFETCH(int, touchesKept);
         Office office;
-        const QString device = office.Dock(scenario);
-        const Outcome outcome = office.Ctl(QStringLiteral("download --device ") + device);
+        Dock dock(scenario);
+        const Outcome outcome = office.Ctl(QStringLiteral("download --device ") + dock.Device());
         QCOMPARE(outcome.status, 1);
         QVERIFY2(outcome.err.contains(words), outcome.err.constData());
         QCOMPARE(outcome.err.count('\n'), 1);
-        QCOMPARE(office.DockState()[u"touches"].toInt(), touchesKept);
+        QCOMPARE(dock.State()[u"touches"].toInt(), touchesKept);
+    }
+
+    void ReaderCommands_data() {
+        QTest::addColumn<QByteArray>("scenario");
+        QTest::addColumn<QString>("words");
+        QTest::addColumn<QByteArray>("output"); // begins so, on standard error where it fails
+        QTest::addColumn<QJsonObject>("state"); // of the dock afterwards, in part
+        const auto row = [](const char* name, const QByteArray& scenario, const char* words,
+                            const char* output, const QJsonObject& state = {}) {
+            QTest::newRow(name) << scenario << QString::fromLatin1(words) << QByteArray(output)
+                                << state;
+        };
+        row("identify", Night, "identify", "4B5831A7 - ");
+        row("identify, untaught", "reader 00FF00FF", "identify --json",
+            R"({"description":"","known":false,"reader":"00FF00FF"})");
+        row("identify, no reader", Night + "remove", "identify", "!Reader not detected.");
+        row("identify, silent", Night + "silent read", "identify", "!Reader ID Download Failed");
+        row("firmware", Night + "firmware 08", "firmware", "Firmware Version is V06");
+        row("firmware as JSON", Night, "firmware --json", R"({"firmware":"V06"})",
+            {{"touches", 3}});
+        row("firmware, not told", Night + "firmware FF", "firmware", "!The reader does not tell");
+        row("clock", Night, "set-clock --json --time 2024-02-29T23:59",
+            R"({"clock":"2024-02-29T23:59"})", {{"clock", "2024-02-29T23:59"}});
+        row("clock refused", Night + "refuse clock 1", "set-clock", "!Reader Clock update failed.",
+            {{"clock", QJsonValue()}});
+        row("options", Night, "set-options --no-buzzer --long", "Reader update successful",
+            {{"options", 14}});
+        row("options as JSON", Night, "set-options --json --no-led --no-vibration --short",
+            R"({"buzzer":true,"led":false,"long":false,"vibration":false})", {{"options", 1}});
+        row("no option left", Night, "set-options --no-buzzer --no-led --no-vibration",
+            "!You must select at least one of the reader options", {{"options", QJsonValue()}});
+        row("options refused", Night + "refuse options 1 02", "set-options --no-led",
+            "!Reader update failed.  Please try again.", {{"options", QJsonValue()}});
+        row("erase", Night, "erase --yes", "Reader Erased", {{"touches", 0}, {"erased", 1}});
+        row("erase as JSON", Night, "erase --yes --json", R"({"erased":true})");
+        row("erase refused", Night + "refuse erase 1", "erase --yes", "!Reader Memory NOT erased!",
+            {{"touches", 3}});
+        row("silent dock", Night + "silent", "erase --yes",
+            "!Could not connect to the docking station.", {{"touches", 3}});
+        row("not the user's", Night, "erase --yes --operator user", "!Only the master may do this.",
+            {{"touches", 3}});
+    }
+    void ReaderCommands() {
+        QFETCH(QByteArray, scenario);
+        QFETCH(QString, words);
+        QFETCH(QByteArray, output);
+        QFETCH(QJsonObject, state);
+        Office office;
+        if (words.contains(u"user"))
+            office.SetPassword(QStringLiteral("crew"));
+        Dock dock(scenario);
+        const Outcome outcome = office.Ctl(QStringLiteral("reader ") + words +
+                                           QStringLiteral(" --device ") + dock.Device());
+        const bool fails = output.startsWith('!');
+        QCOMPARE(outcome.status, fails ? 1 : 0);
+        QCOMPARE(outcome.err.count('\n'), fails ? 1 : 0);
+        QVERIFY(outcome.out.isEmpty() == fails);
+        const QByteArray told = words.contains(u"--json")
+                                    ? QJsonDocument(outcome.Json()).toJson(QJsonDocument::Compact)
+                                : fails ? '!' + outcome.err
+                                        : outcome.out;
+        // A line of the command has single blanks only.
+        QVERIFY2(told.startsWith(output.simplified()), told.constData());
+        const QJsonObject after = dock.State();
+        for (auto value = state.begin(); value != state.end(); ++value)
+            QVERIFY2(after[value.key()] == value.value(), qPrintable(value.key()));
+    }
+
+    // What is not given stays as it was, from one call to the next.
+    void OptionsAddUp() {
+        const Office office;
+        Dock dock(Night);
+        const QString call = QStringLiteral("reader set-options --device ") + dock.Device();
+        for (const auto& [words, options] :
+             {std::pair(" --no-led", 5), std::pair(" --long", 13), std::pair(" --no-buzzer", 12)}) {
+            QCOMPARE(office.Ctl(call + QString::fromLatin1(words)).status, 0);
+            QCOMPARE(dock.State()[u"options"].toInt(), options);
+        }
     }
 
     void MissingThingsEndWithOneLine_data() {

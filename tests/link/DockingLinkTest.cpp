@@ -18,7 +18,7 @@ private slots:
     }
 
     void Detects() {
-        Station station(m_home, "");
+        Station station("");
         DockingLink& link = station.link;
         QVERIFY(link.OpenPort(1)); // it is open already
         QVERIFY(link.DetectStation());
@@ -39,7 +39,7 @@ private slots:
 
     // One try takes the answer pause, the time-out and the pause behind it, by the real clock.
     void SilenceTakesItsTime() {
-        Station station(m_home, "silent", 1);
+        Station station("silent", 1);
         QElapsedTimer timer;
         timer.start();
         QVERIFY(!station.link.DetectStation());
@@ -69,7 +69,7 @@ private slots:
     void SetsTheClock() {
         QFETCH(QByteArray, fault);
         QFETCH(bool, obeyed);
-        Station station(m_home, "fault " + fault);
+        Station station("fault " + fault);
         QTEST(station.link.SetClockToNow(), "succeeds");
         QCOMPARE(station.dock.Clock(), obeyed ? "2026-03-02T07:15" : "");
         QTEST(static_cast<int>(station.dock.Logged("CmdSetClock")), "sent");
@@ -77,7 +77,7 @@ private slots:
 
     // The first half is there at the first look, the other comes between two looks.
     void ReplyInTwoPieces() {
-        Station station(m_home, "cut 140", 5);
+        Station station("cut 140", 5);
         QVERIFY(station.link.TxNewDate(23, 59, 0x01, 0x02));
         QCOMPARE(station.dock.Clock(), "2000-09-15T23:59");
         QCOMPARE(station.dock.Logged("CmdSetClock"), 1);
@@ -132,7 +132,7 @@ private slots:
     }
 
     void Erases() {
-        Station station(m_home, "refuse erase 1 02\ntouch 2026-03-01 08:30 1A40C2");
+        Station station("refuse erase 1 02\ntouch 2026-03-01 08:30 1A40C2");
         const auto erase = [&] {
             bool succeeded = true;
             station.link.EraseRequest(succeeded);
@@ -155,7 +155,7 @@ private slots:
     }
 
     void BytesBetweenConversationsAreDropped() {
-        Station station(m_home, "");
+        Station station("");
         station.dock.Say("button 1A40C2");
         QTRY_COMPARE(station.link.BytesSeen(), 16);
         QVERIFY(station.link.InBuffer().Buffer().isEmpty());
@@ -171,7 +171,7 @@ private slots:
             QVERIFY(!link.OpenPort(1));
         }
         {
-            Station other(m_home, "");
+            Station other("");
             QVERIFY(!link.OpenPort(1)); // in use
             QVERIFY(!link.comPort().PortOpen());
             other.link.ClosePort();
@@ -180,7 +180,8 @@ private slots:
         QTRY_VERIFY(!link.comPort().PortOpen()); // the dock has gone, and comes back
         QVERIFY(!link.DetectStation());
         const TestClock clock(Station::Speed);
-        Dock again(m_home, "");
+        const Dock again("");
+        OverrideDevice(again.Device());
         QVERIFY(link.OpenPort(1));
         QVERIFY(link.DetectStation());
     }

@@ -41,8 +41,8 @@ private slots:
     }
 
     void StoresEveryColumn() {
-        Station station(m_home, Taught + "touch 2026-02-28 23:59 1A40C2\n"
-                                         "touch 2026-03-01 00:00 7E0003\nrecord EF CD AB 3C\n");
+        Station station(Taught + "touch 2026-02-28 23:59 1A40C2\n"
+                                 "touch 2026-03-01 00:00 7E0003\nrecord EF CD AB 3C\n");
         station.download.Run();
         QCOMPARE(station.view.MessageText, Successful(3));
         QCOMPARE(station.view.Busy, (QList<bool>{true, false}));
@@ -132,7 +132,7 @@ private slots:
         QFETCH(QByteArray, scenario);
         QFETCH(Answers, answers);
         QFETCH(int, rows);
-        Station station(m_home, scenario);
+        Station station(scenario);
         m_boxes.Answers = answers;
         station.download.Run();
         const QString text = station.view.MessageText;
@@ -155,7 +155,7 @@ private slots:
     }
 
     void WithoutClockOrErase() {
-        Station station(m_home, Taught + Touches(3));
+        Station station(Taught + Touches(3));
         gAutoSetTime = false;
         station.download.EraseAfterwards = false;
         for (const int rows : {3, 6}) { // nothing tells the second download from the first
@@ -171,9 +171,9 @@ private slots:
         gConn->Execute(QStringLiteral(
             "CREATE TRIGGER refuse BEFORE INSERT ON tblEvents WHEN NEW.tButtonCode = '7E0002' "
             "BEGIN SELECT RAISE(ABORT, 'no room'); END"));
-        Station station(m_home, Taught + "touch 2026-03-01 08:01 7E0001\n"
-                                         "touch 2026-03-01 08:02 7E0002\n"
-                                         "touch 2026-03-01 08:03 7E0003");
+        Station station(Taught + "touch 2026-03-01 08:01 7E0001\n"
+                                 "touch 2026-03-01 08:02 7E0002\n"
+                                 "touch 2026-03-01 08:03 7E0003");
         station.download.Run();
         gConn->Execute(QStringLiteral("DROP TRIGGER refuse"));
         TestHome::Close(); // committed, not just seen
@@ -204,7 +204,7 @@ private slots:
         scenario += "pace 240000\ngap 30\ntouch 2026-03-01 08:00 1A40C2\n";
         for (int i = 1; i < 1000; ++i)
             scenario += "record 05 00 00 01\n"; // a frame of these reads as a count of 5
-        Station station(m_home, scenario);
+        Station station(scenario);
         station.view.CancelAtFirstFrame = true;
         station.download.Run();
         QCOMPARE(station.view.MessageText, Failed);

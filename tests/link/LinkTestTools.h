@@ -2,6 +2,7 @@
 
 #include "Clock.h"
 #include "CommPort.h"
+#include "Dock.h"
 #include "DockingLink.h"
 #include "MemoryDownload.h"
 #include "MemoryTransfer.h"
@@ -10,10 +11,6 @@
 #include "TestHome.h"
 
 #include <QEventLoop>
-#include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QSocketNotifier>
 #include <QTest>
 
@@ -77,50 +74,6 @@ inline QStringList StoredTouches() {
 }
 
 inline void ForgetTouches() { gConn->Execute(QStringLiteral("DELETE * FROM tblEvents")); }
-
-/// The simulated docking station, as a program of its own. Every port number is its device.
-class Dock {
-public:
-    Dock(const TestHome& home, const QByteArray& scenario) : m_log(home.File("dock.log")) {
-        QFile file(home.File("dock.scenario"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(scenario) < 0)
-            throw std::runtime_error("no scenario");
-        file.close();
-        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(DOCKSIM, {"--scenario", file.fileName(), "--log", m_log});
-        OverrideDevice(QString::fromUtf8(ReadLine()).trimmed());
-    }
-    ~Dock() {
-        m_process.write("quit\n");
-        m_process.waitForFinished();
-    }
-
-    void Say(const QByteArray& line) { m_process.write(line + '\n'); }
-    QJsonObject State() {
-        Say("state");
-        return QJsonDocument::fromJson(ReadLine()).object();
-    }
-    int Erasures() { return State()["erased"].toInt(); }
-    QString Clock() { return State()["clock"].toString(); }
-    /// How often this text stands in the log so far.
-    qsizetype Logged(const char* text) const {
-        QFile file(m_log);
-        return file.open(QIODevice::ReadOnly) ? file.readAll().count(text) : -1;
-    }
-    bool HasEnded() {
-        return m_process.state() == QProcess::NotRunning || m_process.waitForFinished();
-    }
-
-private:
-    QByteArray ReadLine() {
-        while (!m_process.canReadLine() && m_process.waitForReadyRead(5000))
-            ;
-        return m_process.readLine();
-    }
-
-    QString m_log;
-    QProcess m_process;
-};
 
 /// The far end of a line without a dock: what it answers to a command is up to the test.
 class LineEnd {
@@ -230,8 +183,9 @@ struct Station {
     static constexpr double Speed = 15;
     static DateTime Start() { return DateTime::FromQt(QDateTime(QDate(2026, 3, 2), QTime(7, 15))); }
 
-    Station(const TestHome& home, const QByteArray& scenario, double speed = Speed)
-        : clock(Start(), speed), dock(home, scenario) {
+    explicit Station(const QByteArray& scenario, double speed = Speed)
+        : clock(Start(), speed), dock(scenario) {
+        OverrideDevice(dock.Device());
         if (!link.OpenPort(1))
             throw std::runtime_error("no line to the dock");
     }

@@ -67,7 +67,7 @@ private slots:
     }
 
     void Transfer() {
-        Station station(m_home, ManyTouches);
+        Station station(ManyTouches);
         frmDownload dialog(station.link, nullptr);
         auto* bar = Control<QProgressBar>(dialog, "prgOnline");
         QStringList texts, percents;
@@ -95,7 +95,7 @@ private slots:
 
     // Two callers want less than the touches.
     void IdentifierAndFirmware() {
-        Station station(m_home, ManyTouches + "firmware 08");
+        Station station(ManyTouches + "firmware 08");
         {
             frmDownload dialog(station.link, nullptr);
             dialog.GetIDMode = true;
@@ -137,7 +137,7 @@ private slots:
         QFETCH(QByteArray, scenario);
         QFETCH(QString, stage);
         QFETCH(int, means);
-        Station station(m_home, scenario);
+        Station station(scenario);
         frmDownload dialog(station.link, nullptr);
         const Watcher watcher([&] {
             const bool reached = stage == u"reader"    ? !TextOf(dialog, "lblPipeID").isEmpty()
@@ -161,7 +161,7 @@ private slots:
     }
 
     void Page() {
-        Station station(m_home, TwoTouches);
+        Station station(TwoTouches);
         frmMdiDownload page(station.link, nullptr);
         page.resize(900, 400);
         page.show();
@@ -222,7 +222,7 @@ private slots:
     }
 
     void EraseButton() {
-        Station station(m_home, TwoTouches + "refuse erase 1");
+        Station station(TwoTouches + "refuse erase 1");
         frmMdiDownload page(station.link, nullptr);
         page.show();
         const QSignalSpy status(&page, &frmMdiDownload::StatusChanged);
@@ -259,8 +259,10 @@ private slots:
         const TestClock clock(Station::Speed);
         std::unique_ptr<Dock> dock;
         OverrideDevice(m_home.File("nothing"));
-        if (!scenario.isEmpty())
-            dock = std::make_unique<Dock>(m_home, scenario);
+        if (!scenario.isEmpty()) {
+            dock = std::make_unique<Dock>(scenario);
+            OverrideDevice(dock->Device());
+        }
         DockingLink link;
         frmGoOnline dialog(link, nullptr);
         dialog.MyCommPort = QStringLiteral("3");

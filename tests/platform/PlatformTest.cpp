@@ -10,8 +10,8 @@
 #include "mTranslations.h"
 
 #include <QDir>
-#include <QFileDevice>
 #include <QFile>
+#include <QFileDevice>
 #include <QRegularExpression>
 #include <QTest>
 #include <QXmlStreamReader>

@@ -3,12 +3,13 @@
 #include "CommPort.h"
 #include "Connection.h"
 #include "DemoStore.h"
+#include "Dock.h"
 #include "Recordset.h"
 #include "RunTimeError.h"
 #include "Schema.h"
+#include "Script.h"
 #include "Settings.h"
 #include "StationApplication.h"
-#include "StationDriver.h"
 #include "frmMain.h"
 #include "frmUserMaintenance.h"
 #include "mMain.h"
@@ -19,6 +20,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QRadioButton>
@@ -215,10 +217,11 @@ private slots:
         QCOMPARE(main->findChild<QMenu*>(QStringLiteral("mnuTools"))->menuAction()->isVisible(),
                  tools);
         QVERIFY(action("mnuFileExit")->isEnabled());
-        for (const char* unbuilt :
-             {"setup", "mnuFileArchive", "mnuFileBackup", "mnuFileRestore", "mnuToolsPipeOptions",
-              "mnuToolsClearPipe", "mnuToolsReaderFW", "mnuToolCompany", "mnuHelpAbout"})
+        for (const char* unbuilt : {"setup", "mnuFileArchive", "mnuFileBackup", "mnuFileRestore",
+                                    "mnuToolCompany", "mnuHelpAbout"})
             QVERIFY2(!action(unbuilt)->isVisible(), unbuilt);
+        for (const char* noDock : {"mnuToolsPipeOptions", "mnuToolsClearPipe"})
+            QVERIFY2(!action(noDock)->isEnabled(), noDock);
         main->GoReports();
         QVERIFY(!action("download")->isEnabled()); // no dock
         QVERIFY(action("home")->isEnabled() && !action("reports")->isEnabled());
@@ -255,6 +258,96 @@ private slots:
         QCOMPARE(panel->text(), QStringLiteral("Docking Station : OK"));
         QCOMPARE(Saved(SettingsSection::ComPort, "ComPort"), QStringLiteral("3"));
         QCOMPARE(DeviceOfPort(3), dock.Device());
+    }
+
+    // Everything that the Tools menu does to the docked reader; the conversation is usable behind
+    // it.
+    void ToolsActOnTheDockedReader() {
+        Dock dock(Night);
+        OverrideDevice(dock.Device());
+        Script login;
+        LogIn(login, QStringLiteral("keeper"));
+        login.Start();
+        QVERIFY(Main({}));
+        const auto trigger = [](const char* name) {
+            auto* action = MainWindow()->findChild<QAction*>(QString::fromLatin1(name));
+            QVERIFY(action->isVisible() && action->isEnabled());
+            action->trigger();
+        };
+        Script configure;
+        configure.Click(QStringLiteral("frmSetTime"), QStringLiteral("cmdSendRealTime"));
+        configure.Answer(QStringLiteral("OK"));
+        configure.Start();
+        trigger("mnuToolsPipeOptions");
+        QVERIFY(configure.Finish());
+        QVERIFY(
+            configure.Texts().value(0).startsWith(QStringLiteral("Reader update successful\n")));
+        QCOMPARE(dock.State()[u"options"].toInt(), 7);
+        QVERIFY(gDockingDetected); // it went home, and connected
+
+        Script erase;
+        erase.Answer(QStringLiteral("No"));
+        erase.Start();
+        trigger("mnuToolsClearPipe");
+        QCOMPARE(dock.Erasures(), 0);
+        Script eraseNow;
+        eraseNow.Answer(QStringLiteral("Yes"));
+        eraseNow.Answer(QStringLiteral("OK"));
+        eraseNow.Start();
+        trigger("mnuToolsClearPipe");
+        QVERIFY(eraseNow.Finish());
+        QCOMPARE(eraseNow.Texts().value(1), QStringLiteral("Reader Erased"));
+        QCOMPARE(dock.Erasures(), 1);
+        QVERIFY(Script::Find<QAbstractItemView>(QStringLiteral("frmMdiDownload"),
+                                                QStringLiteral("lvwDownload")));
+    }
+
+    void FirmwareVersion_data() {
+        QTest::addColumn<QByteArray>("scenario");
+        QTest::addColumn<QStringList>("shown");
+        const QByteArray three =
+            Night + QByteArray("touch 2026-11-22 01:00 1A40C2\n").repeated(150);
+        QTest::newRow("06") << Night + "firmware 06" << QStringList{"Firmware Version is V06"};
+        QTest::newRow("07") << Night + "firmware 07" << QStringList{"Firmware Version is V07"};
+        QTest::newRow("08") << Night + "firmware 08" << QStringList{"Firmware Version is V06"};
+        QTest::newRow("not told") << Night + "firmware FF" << QStringList();
+        QTest::newRow("no reader")
+            << Night + "remove" << QStringList{"Reader not detected. Check reader and try again."};
+        QTest::newRow("failed behind the first frame")
+            << three + "firmware 08\ntransfer-fault 1"
+            << QStringList{"Download Error (002)", "Firmware Version is V06"};
+    }
+    void FirmwareVersion() {
+        QFETCH(QByteArray, scenario);
+        QFETCH(QStringList, shown);
+        Dock dock(scenario);
+        OverrideDevice(dock.Device());
+        Script login;
+        LogIn(login, QStringLiteral("keeper"));
+        login.Start();
+        QVERIFY(Main({}));
+        Script script;
+        QStringList texts;
+        const QString window = QStringLiteral("frmFirmwareVersion");
+        for (const QString& text : shown) {
+            if (!text.startsWith(u"Firmware")) {
+                script.Answer(QStringLiteral("OK"));
+                continue;
+            }
+            script.Then([&] {
+                auto* label = Script::Find<QLabel>(window, QStringLiteral("Label1"));
+                if (label)
+                    texts += label->text();
+                return label != nullptr;
+            });
+            script.Click(window, QStringLiteral("cmdClose"));
+        }
+        script.Start();
+        MainWindow()->findChild<QAction*>(QStringLiteral("mnuToolsReaderFW"))->trigger();
+        QVERIFY(script.Finish());
+        QCOMPARE(script.Texts() + texts, shown);
+        QVERIFY(!QApplication::overrideCursor());
+        QCOMPARE(dock.Erasures(), 0);
     }
 
     void BadPortSettingsBecomeOne_data() {

@@ -1,24 +1,17 @@
 #pragma once
 
-// Drives the real station: real windows found by object name, real message boxes, a real store file
-// and a simulated dock.
-
 #include <QApplication>
-#include <QDialog>
 #include <QElapsedTimer>
-#include <QLabel>
 #include <QMessageBox>
-#include <QProcess>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 #include <functional>
 #include <vector>
 
-/// A list of steps that are tried in turn while modal windows run their own loops. A step waits for
-/// what it needs by giving false.
+/// Plays the operator: a list of steps that are tried in turn while modal windows, found by their
+/// object names, run their own loops. A step waits for what it needs by giving false.
 class Script : public QObject {
 public:
     using Step = std::function<bool()>;
@@ -105,29 +98,4 @@ private:
     QStringList m_texts;
     QTimer m_timer;
     QElapsedTimer m_elapsed;
-};
-
-/// A simulated dock with the lines of a scenario.
-class Dock {
-public:
-    explicit Dock(const QByteArray& scenario) {
-        QFile file(m_dir.filePath(QStringLiteral("scenario")));
-        file.open(QIODevice::WriteOnly);
-        file.write(scenario);
-        file.close();
-        m_process.start(DOCKSIM, {QStringLiteral("--scenario"), file.fileName()});
-        while (!m_process.canReadLine() && m_process.waitForReadyRead(5000))
-            ;
-        m_device = QString::fromUtf8(m_process.readLine()).trimmed();
-    }
-    ~Dock() {
-        m_process.write("quit\n");
-        m_process.waitForFinished();
-    }
-    const QString& Device() const { return m_device; }
-
-private:
-    QTemporaryDir m_dir;
-    QProcess m_process;
-    QString m_device;
 };

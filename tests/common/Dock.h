@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <stdexcept>
+
+/// The simulated docking station, as a program of its own, with the lines of a scenario.
+class Dock {
+public:
+    explicit Dock(const QByteArray& scenario) : m_log(m_folder.filePath("log")) {
+        QFile file(m_folder.filePath("scenario"));
+        if (!file.open(QIODevice::WriteOnly) || file.write(scenario) < 0)
+            throw std::runtime_error("no scenario");
+        file.close();
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(DOCKSIM, {"--scenario", file.fileName(), "--log", m_log});
+        m_device = QString::fromUtf8(ReadLine()).trimmed();
+    }
+    ~Dock() {
+        m_process.write("quit\n");
+        m_process.waitForFinished();
+    }
+
+    const QString& Device() const { return m_device; }
+    void Say(const QByteArray& line) { m_process.write(line + '\n'); }
+    /// What was said before is in force when this returns.
+    QJsonObject State() {
+        Say("state");
+        return QJsonDocument::fromJson(ReadLine()).object();
+    }
+    int Erasures() { return State()["erased"].toInt(); }
+    QString Clock() { return State()["clock"].toString(); }
+    /// How often this text stands in the log so far.
+    qsizetype Logged(const char* text) const {
+        QFile file(m_log);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().count(text) : -1;
+    }
+    bool HasEnded() {
+        return m_process.state() == QProcess::NotRunning || m_process.waitForFinished();
+    }
+
+private:
+    QByteArray ReadLine() {
+        while (!m_process.canReadLine() && m_process.waitForReadyRead(5000))
+            ;
+        return m_process.readLine();
+    }
+
+    QTemporaryDir m_folder;
+    QString m_log;
+    QProcess m_process;
+    QString m_device;
+};
