@@ -807,5 +807,13 @@
         <source>The reader has not been taught yet.</source>
         <translation>Der Leser ist noch nicht angelegt.</translation>
     </message>
+    <message>
+        <source>Put the reader into the docking station and read its ID.</source>
+        <translation>Den Leser in die Dockingstation stellen und die Nummer lesen.</translation>
+    </message>
+    <message>
+        <source>Touch the reader in the docking station with the new button, or enter its ID by hand.</source>
+        <translation>Den Leser in der Dockingstation mit dem neuen Kontakt berühren oder den Code von Hand eingeben.</translation>
+    </message>
 </context>
 </TS>

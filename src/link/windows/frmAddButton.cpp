@@ -20,6 +20,7 @@ frmAddButton::frmAddButton(DockingLink& link, QWidget* parent)
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ShowNone();
+    SelectAllOnFocus(*m_ui->txtName);
     connect(m_ui->cmdManual, &QPushButton::clicked, this, &frmAddButton::cmdManual_Click);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmAddButton::cmdOK_Click);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -35,7 +36,6 @@ int frmAddButton::exec() {
     m_ui->txtName->setText(ButtonName);
     m_ui->txtDesc->setText(Desc);
     m_ui->txtName->setFocus();
-    m_ui->txtName->selectAll();
     return QDialog::exec();
 }
 

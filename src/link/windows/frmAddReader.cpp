@@ -16,6 +16,7 @@ frmAddReader::frmAddReader(DockingLink& link, QWidget* parent)
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ShowNone();
+    SelectAllOnFocus(*m_ui->txtDesc);
     connect(m_ui->cmdRead, &QPushButton::clicked, this, &frmAddReader::cmdRead_Click);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmAddReader::cmdOK_Click);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
