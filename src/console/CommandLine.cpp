@@ -136,7 +136,12 @@ int ParseKey(const QString& text) {
 
 CommandLine ParseCommandLine(const QStringList& arguments) {
     const RawArguments raw = Split(arguments);
-    const QString words = raw.words.join(u' ');
+    QString words = raw.words.join(u' ');
+    QString file;
+    if (raw.words.value(0) == u"setup" && raw.words.size() == 3) {
+        words = raw.words.mid(0, 2).join(u' ');
+        file = raw.words[2];
+    }
     const QMap<QString, ConsoleCommand> commands = {
         {QStringLiteral("detect"), ConsoleCommand::Detect},
         {QStringLiteral("download"), ConsoleCommand::Download},
@@ -145,7 +150,9 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
         {QStringLiteral("reader firmware"), ConsoleCommand::ReaderFirmware},
         {QStringLiteral("reader set-clock"), ConsoleCommand::ReaderSetClock},
         {QStringLiteral("reader set-options"), ConsoleCommand::ReaderSetOptions},
-        {QStringLiteral("reader erase"), ConsoleCommand::ReaderErase}};
+        {QStringLiteral("reader erase"), ConsoleCommand::ReaderErase},
+        {QStringLiteral("setup export"), ConsoleCommand::SetupExport},
+        {QStringLiteral("setup import"), ConsoleCommand::SetupImport}};
     if (!commands.contains(words))
         throw UsageError(words.isEmpty() ? QStringLiteral("a command is missing")
                                          : QStringLiteral("unknown command \"%1\"").arg(words));
@@ -163,6 +170,7 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     line.all = raw.Has("all");
     line.events = raw.Has("events");
     line.output = raw.Value("output");
+    line.file = file;
     if (raw.Has("time"))
         line.time = ParseMoment(raw.Value("time"));
     line.buzzer = raw.Either("buzzer", "no-buzzer");
@@ -180,6 +188,10 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
                                                 {QStringLiteral("json"), ReportFormat::Json},
                                                 {QStringLiteral("csv"), ReportFormat::Csv},
                                                 {QStringLiteral("pdf"), ReportFormat::Pdf}});
+    } else if (line.command == ConsoleCommand::SetupExport ||
+               line.command == ConsoleCommand::SetupImport) {
+        if (file.isEmpty())
+            throw UsageError(QStringLiteral("the file is missing"));
     } else {
         line.device = raw.Required("device");
     }
@@ -208,11 +220,15 @@ QString UsageText() {
         "      how the reader answers a touch; what is not given stays as it was chosen last\n"
         "  reader erase --device PATH --yes [--json]\n"
         "      erases the reader, whether its touches have been read or not\n"
+        "  setup export FILE\n"
+        "  setup import FILE\n"
+        "      writes all definitions (sites, event books, readers, tours) as JSON; adds those of\n"
+        "      a file to the store: all of them, or none where one is at fault\n"
         "\n"
         "--device takes the path of a serial device, or COM1 to COM8. --home is the folder of the\n"
         "store; else the environment variable WARDLOCK_HOME or the program's own folder. The\n"
         "operator's password is taken from the environment variable WARDLOCK_PASSWORD. The reader\n"
-        "commands are the master's.\n"
+        "and setup commands are the master's.\n"
         "Options may stand before or behind the command.\n"
         "\n"
         "exit status: 0 all done, 1 not or not all done, 2 wrong usage\n");

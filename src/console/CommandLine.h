@@ -17,7 +17,9 @@ enum class ConsoleCommand {
     ReaderFirmware,
     ReaderSetClock,
     ReaderSetOptions,
-    ReaderErase
+    ReaderErase,
+    SetupExport,
+    SetupImport
 };
 enum class ReportFormat { Text, Json, Csv, Pdf };
 
@@ -36,6 +38,7 @@ struct CommandLine {
     bool events = false;
     ReportFormat format = ReportFormat::Text;
     QString output;
+    QString file;                 ///< of a set-up
     std::optional<DateTime> time; ///< to set; else the present time
     /// What is not given stays as it was chosen last.
     std::optional<bool> buzzer, led, vibration, longBuzzer;

@@ -7,12 +7,15 @@
 #include "ConsoleReport.h"
 #include "ConsoleTools.h"
 #include "DockingLink.h"
+#include "SetupFile.h"
 #include "TourReportBuilder.h"
 #include "mErrorHandler.h"
 #include "mOperators.h"
 #include "mSettings.h"
 #include "mStore.h"
 #include "mTranslations.h"
+
+#include <QFile>
 
 #include <cstdio>
 
@@ -43,11 +46,6 @@ bool OpenStation(const CommandLine& line) {
         Complain(Translate("The User Name / Password are incorrect. Please try again."));
         return false;
     }
-    return true;
-}
-
-bool Detect(DockingLink&, const CommandLine&, const ConsoleBoxes&) {
-    WriteLine(Translate("Docking Station : OK"));
     return true;
 }
 
@@ -93,32 +91,47 @@ bool ReportTour(const CommandLine& line, const ConsoleBoxes& boxes) {
     return report.HasReport();
 }
 
-/// A command that speaks with the docking station, once that has answered.
-struct DockCommand {
-    bool (*run)(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes);
-    bool mastersOnly; ///< as the station's Tools menu
-};
+bool ExportSetupTo(const QString& path) {
+    WriteOut(ExportSetup(), path);
+    return true;
+}
 
-DockCommand DockCommandOf(ConsoleCommand command) {
-    switch (command) {
+bool ImportSetupFrom(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
+                           path + QStringLiteral(": ") + file.errorString());
+    ImportSetup(file.readAll());
+    return true;
+}
+
+/// As in the station, where the user has neither the Tools menu nor the setup page.
+bool IsMastersOnly(ConsoleCommand command) {
+    return command != ConsoleCommand::Detect && command != ConsoleCommand::Download &&
+           command != ConsoleCommand::ReportTour;
+}
+
+/// The commands that speak with the docking station, once that has answered.
+bool RunAtDock(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes) {
+    switch (line.command) {
     case ConsoleCommand::Detect:
-        return {Detect, false};
+        WriteLine(Translate("Docking Station : OK"));
+        return true;
     case ConsoleCommand::Download:
-        return {Download, false};
+        return Download(link, line, boxes);
     case ConsoleCommand::ReaderIdentify:
-        return {IdentifyReader, true};
+        return IdentifyReader(link, line, boxes);
     case ConsoleCommand::ReaderFirmware:
-        return {TellFirmware, true};
+        return TellFirmware(link, line, boxes);
     case ConsoleCommand::ReaderSetClock:
-        return {SetReaderClock, true};
+        return SetReaderClock(link, line);
     case ConsoleCommand::ReaderSetOptions:
-        return {SetReaderOptions, true};
+        return SetReaderOptions(link, line);
     case ConsoleCommand::ReaderErase:
-        return {EraseReader, true};
-    case ConsoleCommand::ReportTour:
-        break;
+        return EraseReader(link, line);
+    default:
+        return false;
     }
-    return {};
 }
 
 bool RunCommand(const CommandLine& line) {
@@ -132,15 +145,22 @@ bool RunCommand(const CommandLine& line) {
     const StoreCloser closer;
     if (!OpenStation(line))
         return false;
-    if (line.command == ConsoleCommand::ReportTour)
-        return ReportTour(line, boxes);
-    const DockCommand command = DockCommandOf(line.command);
-    if (command.mastersOnly && line.login != MasterOperator) {
+    if (line.login != MasterOperator && IsMastersOnly(line.command)) {
         Complain(QStringLiteral("Only the master may do this."));
         return false;
     }
+    switch (line.command) {
+    case ConsoleCommand::ReportTour:
+        return ReportTour(line, boxes);
+    case ConsoleCommand::SetupExport:
+        return ExportSetupTo(line.file);
+    case ConsoleCommand::SetupImport:
+        return ImportSetupFrom(line.file);
+    default:
+        break;
+    }
     DockingLink link;
-    return Connect(link, line.device) && command.run(link, line, boxes);
+    return Connect(link, line.device) && RunAtDock(link, line, boxes);
 }
 
 } // namespace

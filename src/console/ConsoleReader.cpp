@@ -3,11 +3,11 @@
 #include "Clock.h"
 #include "ConsoleDownload.h"
 #include "ConsoleTools.h"
+#include "Definitions.h"
 #include "DockingLink.h"
 #include "Format.h"
 #include "MemoryImage.h"
 #include "ReaderSignals.h"
-#include "Recordset.h"
 #include "mTranslations.h"
 
 #include <QJsonObject>
@@ -23,12 +23,9 @@ void ComplainOfTransfer(const ConsoleBoxes& boxes, const char* text) {
 } // namespace
 
 KnownReader LookUpReader(const QString& readerId) {
-    Recordset readers;
-    readers.CursorLocation = adUseClient;
-    readers.Open(QStringLiteral("SELECT * FROM tblReaders ;"), *gConn);
-    for (; !readers.Eof(); readers.MoveNext())
-        if (readers.Text(u"tReaderId") == readerId)
-            return {true, readers.Text(u"tDescription")};
+    for (const Reader& reader : Readers())
+        if (reader.id == readerId)
+            return {true, reader.description};
     return {};
 }
 
@@ -62,7 +59,7 @@ bool TellFirmware(DockingLink& link, const CommandLine& line, const ConsoleBoxes
     return true;
 }
 
-bool SetReaderClock(DockingLink& link, const CommandLine& line, const ConsoleBoxes&) {
+bool SetReaderClock(DockingLink& link, const CommandLine& line) {
     const DateTime moment = line.time.value_or(Now());
     if (!link.SetClock(moment)) {
         Complain(Translate("Reader Clock update failed.  Please try again."));
@@ -76,7 +73,7 @@ bool SetReaderClock(DockingLink& link, const CommandLine& line, const ConsoleBox
     return true;
 }
 
-bool SetReaderOptions(DockingLink& link, const CommandLine& line, const ConsoleBoxes&) {
+bool SetReaderOptions(DockingLink& link, const CommandLine& line) {
     ReaderSignals wanted = SavedReaderSignals();
     wanted.buzzer = line.buzzer.value_or(wanted.buzzer);
     wanted.led = line.led.value_or(wanted.led);
@@ -99,7 +96,7 @@ bool SetReaderOptions(DockingLink& link, const CommandLine& line, const ConsoleB
     return true;
 }
 
-bool EraseReader(DockingLink& link, const CommandLine& line, const ConsoleBoxes&) {
+bool EraseReader(DockingLink& link, const CommandLine& line) {
     ConsoleDownload view(link);
     MemoryDownload download(link, view);
     bool succeeded = false;

@@ -10,9 +10,9 @@ class DockingLink;
 
 bool IdentifyReader(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes);
 bool TellFirmware(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes);
-bool SetReaderClock(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes);
-bool SetReaderOptions(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes);
-bool EraseReader(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes);
+bool SetReaderClock(DockingLink& link, const CommandLine& line);
+bool SetReaderOptions(DockingLink& link, const CommandLine& line);
+bool EraseReader(DockingLink& link, const CommandLine& line);
 
 /// What tblReaders knows of an identifier.
 struct KnownReader {

@@ -1,10 +1,10 @@
 #include "Settings.h"
 
+#include "Number.h"
 #include "RunTimeError.h"
 
 #include <QSettings>
 
-#include <cmath>
 #include <limits>
 
 namespace {
@@ -13,13 +13,16 @@ QSettings Open(const QString& application) {
     return {QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Wardlock"), application};
 }
 
+double Numeric(const QString& text) {
+    const std::optional<double> value = NumericValue(text);
+    if (!value)
+        throw RunTimeError(RunTimeErrorNumber::TypeMismatch, QStringLiteral("Type mismatch"));
+    return *value;
+}
+
 template <typename Int>
 int ToWholeNumber(const QString& text) {
-    bool ok = false;
-    const double value = text.trimmed().toDouble(&ok);
-    if (!ok || !std::isfinite(value))
-        throw RunTimeError(RunTimeErrorNumber::TypeMismatch, QStringLiteral("Type mismatch"));
-    const double rounded = std::nearbyint(value);
+    const double rounded = RoundHalfToEven(Numeric(text));
     if (rounded < std::numeric_limits<Int>::min() || rounded > std::numeric_limits<Int>::max())
         throw RunTimeError(RunTimeErrorNumber::Overflow, QStringLiteral("Overflow"));
     return static_cast<int>(rounded);
@@ -47,11 +50,7 @@ bool ToBoolean(const QString& text) {
         return true;
     if (word.compare(u"False", Qt::CaseInsensitive) == 0)
         return false;
-    bool ok = false;
-    const double value = word.toDouble(&ok);
-    if (!ok || !std::isfinite(value))
-        throw RunTimeError(RunTimeErrorNumber::TypeMismatch, QStringLiteral("Type mismatch"));
-    return value != 0;
+    return Numeric(word) != 0;
 }
 
 QString BooleanText(bool value) { return value ? QStringLiteral("True") : QStringLiteral("False"); }

@@ -1,6 +1,6 @@
 #include "CapturedId.h"
 
-#include "ItemName.h"
+#include "NameFault.h"
 #include "WindowTools.h"
 #include "mTranslations.h"
 
@@ -29,8 +29,9 @@ void CapturedIdControls::ClearPicture() const {
     img1.repaint();
 }
 
-bool AcceptItemName(QLineEdit& field, const QStringList& existingNames) {
-    const QString fault = ItemNameFault(field.text().trimmed(), existingNames);
+bool AcceptName(Named what, QLineEdit& field, const QStringList& existingNames,
+                const QString& received) {
+    const QString fault = NameFault(what, field.text().trimmed(), existingNames, received);
     if (fault.isEmpty())
         return true;
     IvMessageBox(fault);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringList>
+#include "NameFault.h"
 
 class QLabel;
 class QLineEdit;
@@ -21,6 +21,7 @@ struct CapturedIdControls {
     void ClearPicture() const;
 };
 
-/// True if the field's text, trimmed, may name the item. If not, says why and puts the focus on
-/// the field with its text selected.
-bool AcceptItemName(QLineEdit& field, const QStringList& existingNames);
+/// True if the field's text, trimmed, may be the name (NameFault.h). If not, says why and puts the
+/// focus on the field with its text selected.
+bool AcceptName(Named what, QLineEdit& field, const QStringList& existingNames,
+                const QString& received = {});

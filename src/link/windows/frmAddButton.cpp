@@ -68,7 +68,7 @@ void frmAddButton::cmdManual_Click() {
 }
 
 void frmAddButton::cmdOK_Click() {
-    if (!AcceptItemName(*m_ui->txtName, ExistingNames))
+    if (!AcceptName(Named::Item, *m_ui->txtName, ExistingNames))
         return;
     ButtonName = m_ui->txtName->text();
     Desc = m_ui->txtDesc->text();

@@ -69,7 +69,7 @@ void frmAddReader::ShowReader(const QString& readerId) {
 }
 
 void frmAddReader::cmdOK_Click() {
-    if (!AcceptItemName(*m_ui->txtDesc, ExistingNames))
+    if (!AcceptName(Named::Item, *m_ui->txtDesc, ExistingNames))
         return;
     if (m_ui->lblID->text().isEmpty()) { // a later read failed: there is nothing to teach
         IvMessageBox(Translate("Reader ID Download Failed"));

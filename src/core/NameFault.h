@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What is being named; it decides the words.
+enum class Named {
+    Item, ///< a reader or a button
+    Group ///< a group or a tour
+};
+
+/// Why a name cannot be given, as the message to show; empty where it can. `name` is trimmed
+/// already. A name that stays what it was, `received`, is not looked for among `existingNames`,
+/// which are compared exactly.
+QString NameFault(Named what, const QString& name, const QStringList& existingNames,
+                  const QString& received = {});

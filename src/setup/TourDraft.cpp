@@ -1,0 +1,111 @@
+#include "TourDraft.h"
+
+#include "Number.h"
+#include "Recordset.h"
+#include "mDeclareGlobals.h"
+
+namespace {
+
+DateTime Interval(int minutes) { return DateTime::FromTime(minutes / 60, minutes % 60); }
+
+int MinutesOf(DateTime interval) {
+    const QTime time = interval.ToQTime();
+    return time.hour() * 60 + time.minute();
+}
+
+} // namespace
+
+void TourDraft::Load(int tourId) {
+    m_points.clear();
+    Recordset rows;
+    rows.CursorLocation = adUseClient;
+    rows.Open(QStringLiteral("SELECT tblTourPoints.lIndex, tblTourPoints.dtTime, "
+                             "tblTourPoints.tButtonCode, tblButtons.tButtonName, "
+                             "tblListItems.tName AS tSiteName FROM (tblTourPoints LEFT JOIN "
+                             "tblButtons ON tblTourPoints.tButtonCode = tblButtons.tButtonCode) "
+                             "LEFT JOIN tblListItems ON tblButtons.lParentID = tblListItems.ID "
+                             "WHERE (((tblTourPoints.lParentID) = ") +
+                  QString::number(tourId) + QStringLiteral(")) ORDER BY tblTourPoints.lIndex; "),
+              *gConn);
+    for (; !rows.Eof(); rows.MoveNext())
+        m_points.push_back({MinutesOf(rows.Date(u"dtTime")), rows.Text(u"tButtonCode"),
+                            rows.Text(u"tSiteName"), rows.Text(u"tButtonName")});
+}
+
+void TourDraft::Save(int tourId) const {
+    Transaction transaction(*gConn);
+    Write(tourId);
+    transaction.Commit();
+}
+
+void TourDraft::Write(int tourId) const {
+    gConn->Execute(QStringLiteral("DELETE * FROM tblTourPoints WHERE lParentID = ") +
+                   QString::number(tourId) + QStringLiteral(" ;"));
+    Recordset rows;
+    // Forward only: the points of the other tours are of no concern.
+    rows.Open(
+        QStringLiteral("SELECT ID, lParentID, lIndex, dtTime, tButtonCode FROM tblTourPoints ;"),
+        *gConn, adOpenForwardOnly);
+    int index = 0;
+    for (const Point& point : m_points) {
+        rows.AddNew();
+        rows.Set(u"lParentID", tourId);
+        rows.Set(u"lIndex", ++index);
+        rows.Set(u"dtTime", Interval(point.minutes));
+        rows.Set(u"tButtonCode", point.buttonCode);
+        rows.Update();
+    }
+}
+
+void TourDraft::Insert(int position, const Point& point) {
+    m_points.insert(m_points.begin() + position, point);
+}
+
+void TourDraft::Remove(int position) { m_points.erase(m_points.begin() + position); }
+
+int TourDraft::Move(int position, int before) {
+    const Point point = m_points[static_cast<std::size_t>(position)];
+    Remove(position);
+    const int target = before > position ? before - 1 : before;
+    Insert(target, point);
+    return target;
+}
+
+std::vector<DateTime> TourDraft::TimesFrom(DateTime start) const {
+    std::vector<DateTime> times;
+    DateTime time = start;
+    for (const Point& point : m_points) {
+        time = time + Interval(point.minutes);
+        times.push_back(time);
+    }
+    return times;
+}
+
+const char* TourDraft::NeighbourFault() const {
+    for (std::size_t i = 1; i < m_points.size(); ++i)
+        if (m_points[i].buttonCode == m_points[i - 1].buttonCode)
+            return "Cannot assign two sequential tour points with the same location";
+    return nullptr;
+}
+
+const char* TourDraft::TotalTimeFault(int tolerance) const {
+    int total = 2 * tolerance;
+    for (std::size_t i = 1; i < m_points.size(); ++i)
+        total += m_points[i].minutes;
+    return total < MinutesOfDay ? nullptr
+                                : "The total tour time can only range from 0 to 1439 minutes";
+}
+
+std::optional<int> IntervalFromText(const QString& text) {
+    const double minutes = RoundHalfToEven(NumericValue(text).value_or(MinutesOfDay));
+    return NumericValue(text) >= 0.0 && minutes < MinutesOfDay
+               ? std::optional(static_cast<int>(minutes))
+               : std::nullopt;
+}
+
+std::optional<int> ToleranceFromText(const QString& text) {
+    const std::optional<double> value = NumericValue(text);
+    return value >= 0.0 && *value <= MostTolerance
+               ? std::optional(static_cast<int>(RoundHalfToEven(*value)))
+               : std::nullopt;
+}
