@@ -804,16 +804,244 @@
         <translation>Der Leser nennt keine Firmware-Version.</translation>
     </message>
     <message>
-        <source>The reader has not been taught yet.</source>
-        <translation>Der Leser ist noch nicht angelegt.</translation>
-    </message>
-    <message>
         <source>Put the reader into the docking station and read its ID.</source>
         <translation>Den Leser in die Dockingstation stellen und die Nummer lesen.</translation>
     </message>
     <message>
         <source>Touch the reader in the docking station with the new button, or enter its ID by hand.</source>
         <translation>Den Leser in der Dockingstation mit dem neuen Kontakt berühren oder den Code von Hand eingeben.</translation>
+    </message>
+    <message>
+        <source>Only the master may do this.</source>
+        <translation>Das darf nur der Leiter.</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Tour Copy</source>
+        <translation>Rundgang kopieren</translation>
+    </message>
+    <message>
+        <source>Definitions</source>
+        <translation>Festlegungen</translation>
+    </message>
+    <message>
+        <source>Sites</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>Event Books</source>
+        <translation>Ereignisbücher</translation>
+    </message>
+    <message>
+        <source>Tours</source>
+        <translation>Rundgänge</translation>
+    </message>
+    <message>
+        <source>Readers</source>
+        <translation>Leser</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Objekt</translation>
+    </message>
+    <message>
+        <source>Event Book</source>
+        <translation>Ereignisbuch</translation>
+    </message>
+    <message>
+        <source>User Group</source>
+        <translation>Benutzergruppe</translation>
+    </message>
+    <message>
+        <source>Tour Name</source>
+        <translation>Rundgang</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Kontakte</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten:</translation>
+    </message>
+    <message>
+        <source>Edit Reader</source>
+        <translation>Leser bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit Time</source>
+        <translation>Zeit ändern</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Time</source>
+        <translation>&amp;Zeit ändern</translation>
+    </message>
+    <message>
+        <source>Minutes since the point before</source>
+        <translation>Minuten seit der Stelle davor</translation>
+    </message>
+    <message>
+        <source>Select Tour to copy</source>
+        <translation>Rundgang zum Kopieren wählen</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Description :</source>
+        <translation>Beschreibung:</translation>
+    </message>
+    <message>
+        <source>Tour Start Time:</source>
+        <translation>Beginn:</translation>
+    </message>
+    <message>
+        <source>Tolerance (minutes):</source>
+        <translation>Toleranz (Minuten):</translation>
+    </message>
+    <message>
+        <source>Site:</source>
+        <translation>Objekt:</translation>
+    </message>
+    <message>
+        <source>Available Locations</source>
+        <translation>Kontaktstellen</translation>
+    </message>
+    <message>
+        <source>Current Tour Locations</source>
+        <translation>Stellen des Rundgangs</translation>
+    </message>
+    <message>
+        <source>&amp;Add -&gt;</source>
+        <translation>&amp;Hinzu -&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;- &amp;Remove</source>
+        <translation>&lt;- &amp;Weg</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>Rese&amp;t</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Customize Tour Sequence</source>
+        <translation>Rundgang festlegen</translation>
+    </message>
+    <message>
+        <source>Location Name</source>
+        <translation>Kontaktstelle</translation>
+    </message>
+    <message>
+        <source>Desc</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Kontaktstelle</translation>
+    </message>
+    <message>
+        <source>Add New User</source>
+        <translation>Neuer Benutzer</translation>
+    </message>
+    <message>
+        <source>Add New Location</source>
+        <translation>Neue Kontaktstelle</translation>
+    </message>
+    <message>
+        <source>Add New Event</source>
+        <translation>Neues Ereignis</translation>
+    </message>
+    <message>
+        <source>No Item is selected</source>
+        <translation>Nichts ist gewählt</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this item?</source>
+        <translation>Soll dieser Eintrag wirklich gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>That name is already used.  Please enter another name.</source>
+        <translation>Dieser Name ist schon vergeben. Bitte einen anderen eingeben.</translation>
+    </message>
+    <message>
+        <source>You must enter a name for this group</source>
+        <translation>Bitte einen Namen eingeben</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete it?</source>
+        <translation>Soll sie wirklich gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>The selected group contains sub-items</source>
+        <translation>Die gewählte Gruppe enthält Kontakte.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this reader?</source>
+        <translation>Soll dieser Leser wirklich gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>You must add at least one location before you can define a tour</source>
+        <translation>Bevor ein Rundgang festgelegt werden kann, muss es mindestens eine Kontaktstelle geben</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this tour?</source>
+        <translation>Soll dieser Rundgang wirklich gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>The selected Tour contains data.</source>
+        <translation>Der gewählte Rundgang enthält Daten.</translation>
+    </message>
+    <message>
+        <source>Cannot find any Tour Points to copy</source>
+        <translation>Der Rundgang hat keine Stellen, die sich kopieren ließen</translation>
+    </message>
+    <message>
+        <source>Cannot assign two sequential tour points with the same location</source>
+        <translation>Zwei Stellen nacheinander dürfen nicht dieselbe Kontaktstelle haben</translation>
+    </message>
+    <message>
+        <source>The tolerance value can only range from 0 to 59 minutes</source>
+        <translation>Die Toleranz muss zwischen 0 und 59 Minuten liegen</translation>
+    </message>
+    <message>
+        <source>The total tour time can only range from 0 to 1439 minutes</source>
+        <translation>Der ganze Rundgang darf höchstens 1439 Minuten dauern</translation>
+    </message>
+    <message>
+        <source>Only valid numbers from 0 to 1439 can be entered</source>
+        <translation>Nur Zahlen von 0 bis 1439 sind gültig</translation>
     </message>
 </context>
 </TS>

@@ -116,12 +116,14 @@ DateTime ParseDate(const QString& text) {
 
 /// To the minute, on a day that a reader's clock can be set to.
 DateTime ParseMoment(const QString& text) {
-    const QDateTime moment = QDateTime::fromString(text, QStringLiteral("yyyy-MM-ddTHH:mm"));
-    if (!moment.isValid() || moment.date() < QDate(2000, 1, 1) || moment.date() > QDate(2179, 6, 6))
+    // Apart: a reader's clock knows no summer time, in whose first hour a local time may not lie.
+    const QDate date = QDate::fromString(text.left(10), QStringLiteral("yyyy-MM-dd"));
+    const QTime time = QTime::fromString(text.mid(10), QStringLiteral("THH:mm"));
+    if (!date.isValid() || !time.isValid() || date < QDate(2000, 1, 1) || date > QDate(2179, 6, 6))
         throw UsageError(QStringLiteral("--time %1: a time as YYYY-MM-DDTHH:MM, from 2000 to "
                                         "2179, is wanted")
                              .arg(text));
-    return DateTime::FromQt(moment);
+    return DateTime::FromQt(date) + DateTime::FromTime(time.hour(), time.minute());
 }
 
 int ParseKey(const QString& text) {

@@ -146,7 +146,7 @@ bool RunCommand(const CommandLine& line) {
     if (!OpenStation(line))
         return false;
     if (line.login != MasterOperator && IsMastersOnly(line.command)) {
-        Complain(QStringLiteral("Only the master may do this."));
+        Complain(Translate("Only the master may do this."));
         return false;
     }
     switch (line.command) {

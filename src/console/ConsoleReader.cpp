@@ -47,16 +47,18 @@ bool IdentifyReader(DockingLink& link, const CommandLine& line, const ConsoleBox
 }
 
 bool TellFirmware(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes) {
-    const QString firmware = RunConsoleTransfer(link, TransferPurpose::Firmware).tFirmware;
+    const TransferResult transfer = RunConsoleTransfer(link, TransferPurpose::Firmware);
+    const QString& firmware = transfer.tFirmware;
     if (!NamesFirmware(firmware)) {
-        ComplainOfTransfer(boxes, "The reader does not tell its firmware version.");
+        ComplainOfTransfer(boxes, transfer.OK ? "The reader does not tell its firmware version."
+                                              : "Download Failed");
         return false;
     }
     if (line.json)
         WriteJson({{QStringLiteral("firmware"), firmware}});
     else
         WriteLine(Translate("Firmware Version is") + u' ' + firmware);
-    return true;
+    return transfer.OK;
 }
 
 bool SetReaderClock(DockingLink& link, const CommandLine& line) {

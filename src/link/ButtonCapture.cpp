@@ -48,13 +48,15 @@ QString ButtonCapture::TakeCode() {
     const qsizetype waiting = received ? 0 : buffer.Buffer().size();
     m_idleCalls = waiting == m_waiting ? m_idleCalls + 1 : 0;
     m_waiting = waiting;
-    if (received || m_idleCalls >= Patience)
+    if (received || m_idleCalls >= Patience) {
         buffer.Clear();
+        m_waiting = m_idleCalls = 0;
+    }
     return received ? ButtonCodeOf(frame) : QString();
 }
 
 QString TypedButtonCode(const QString& text) {
-    static const QRegularExpression sixDigits(QStringLiteral("\\A[0-9A-F]{6}\\z"));
-    const QString code = text.trimmed().toUpper();
-    return sixDigits.match(code).hasMatch() ? code : QString();
+    static const QRegularExpression sixDigits(QStringLiteral("\\A[0-9A-Fa-f]{6}\\z"));
+    const QString code = text.trimmed();
+    return sixDigits.match(code).hasMatch() ? code.toUpper() : QString();
 }

@@ -141,6 +141,7 @@ void DockingLink::WaitFor(int tries, std::uint8_t header1, const QByteArray& dat
         gCommActive = false;
     };
     Trapped(converse, [](const RunTimeError& error) {
+        gCommActive = false;
         Trace(QStringLiteral("** Error in WaitFor! ") + error.Description());
     });
 }

@@ -144,13 +144,13 @@ MemoryTransfer::Evidence MemoryTransfer::EvidenceOf(const QByteArray& firstFrame
 }
 
 MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray& frame) {
+    m_firmware = FirmwareTextOf(frame);
+    if (bFirmwareVersion && m_firmware == u"V08") // two names of one version
+        m_firmware = QStringLiteral("V06");
     m_evidence = EvidenceOf(frame);
     if (m_evidence == Evidence::None)
         return Failed;
     m_pipeId = ReaderIdOf(frame);
-    m_firmware = FirmwareTextOf(frame);
-    if (bFirmwareVersion && m_firmware == u"V08") // two names of one version
-        m_firmware = QStringLiteral("V06");
     m_recordCount = RecordCountOf(frame);
     if (m_recordCount < 0)
         return Failed;

@@ -2,6 +2,7 @@
 
 #include "Settings.h"
 #include "mDeclareGlobals.h"
+#include "mErrorHandler.h"
 #include "mTranslations.h"
 #include "mWardlock.h"
 
@@ -10,9 +11,14 @@ namespace {
 /// 1 is a checked box, and the short buzzer.
 constexpr int Chosen = 1, NotChosen = 0, LongDuration = 2;
 
+/// A saved text that is no number costs that value alone.
 int Saved(const char* key) {
-    return ToInteger(GetSetting(SettingsApplication, SettingsSection::ReaderSetting,
-                                QString::fromLatin1(key), QString::number(Chosen)));
+    int value = Chosen;
+    IgnoringErrors([&] {
+        value = ToInteger(GetSetting(SettingsApplication, SettingsSection::ReaderSetting,
+                                     QString::fromLatin1(key), QString::number(Chosen)));
+    });
+    return value;
 }
 
 void Save(const char* key, int value) {

@@ -19,7 +19,6 @@ struct ReaderSignals {
 /// touch from a miss.
 bool SignalsAreUsable(const ReaderSignals& readerSignals);
 
-/// What was chosen last, on every opening of the dialog the first offer. Throws RunTimeError for
-/// a saved text that is no number.
+/// What was chosen last; the defaults where nothing, or no number, is saved.
 ReaderSignals SavedReaderSignals();
 void SaveReaderSignals(const ReaderSignals& readerSignals);

@@ -6,6 +6,7 @@
 #include "WindowTools.h"
 #include "cReaderOptions.h"
 #include "deMain.h"
+#include "frmMDISetup.h"
 #include "frmMdiDownload.h"
 #include "frmMdiMenu.h"
 #include "frmMdiReports.h"
@@ -32,12 +33,12 @@ struct ToolbarRow {
     Qt::Key shortcut; ///< with Ctrl
 };
 
-/// The page buttons in their order. "setup" has its place; it is hidden until its page is there.
+/// The page buttons in their order.
 constexpr std::array<ToolbarRow, 4> Toolbar = {{
     {"home", "Home", &frmMain::GoHome, Qt::Key_1},
     {"download", "Download", &frmMain::GoOnline, Qt::Key_2},
     {"reports", "Reports", &frmMain::GoReports, Qt::Key_3},
-    {"setup", "Setup", nullptr, Qt::Key_4},
+    {"setup", "Setup", &frmMain::GoSetup, Qt::Key_4},
 }};
 
 // Twips.
@@ -113,8 +114,7 @@ void frmMain::InitToolbar() {
         action->setShortcut(QKeySequence(Qt::CTRL | row.shortcut));
         action->setToolTip(Translate(row.caption) + QStringLiteral(" (") +
                            action->shortcut().toString(QKeySequence::NativeText) + u')');
-        if (row.action)
-            connect(action, &QAction::triggered, this, [this, row] { (this->*row.action)(); });
+        connect(action, &QAction::triggered, this, [this, row] { (this->*row.action)(); });
         auto* button = static_cast<QToolButton*>(m_ui->tbrMain->widgetForAction(action));
         button->setFocusPolicy(Qt::TabFocus);
         button->setAccessibleName(Translate(row.caption));
@@ -139,8 +139,7 @@ void frmMain::NavigateToolbarButtons(const QString& state) {
     for (qsizetype i = 0; i < buttons.size(); ++i)
         buttons[i]->setEnabled(marks[i] == u'1');
     const bool master = m_userType == MasterOperator;
-    const bool hasSetupPage = Toolbar.back().action != nullptr;
-    ToolbarButton(QStringLiteral("setup"))->setVisible(master && hasSetupPage);
+    ToolbarButton(QStringLiteral("setup"))->setVisible(master);
     m_ui->mnuTools->menuAction()->setVisible(master);
     for (QAction* action : {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore})
         action->setEnabled(master);
@@ -206,6 +205,18 @@ void frmMain::GoReports() {
         ShowPage(new frmMdiReports(*m_viewer, m_ui->pageArea));
         SetTitle(Translate("Reports"));
         NavigateToolbarButtons(QStringLiteral("1101"));
+    });
+}
+
+void frmMain::GoSetup() {
+    Guarded("GoSetup of Form frmMain", [this] {
+        if (!UnloadPage())
+            return;
+        auto* page = new frmMDISetup(m_link, m_ui->pageArea);
+        connect(page, &frmMDISetup::TitleChanged, this, &frmMain::SetTitle);
+        ShowPage(page);
+        page->Start();
+        NavigateToolbarButtons(QStringLiteral("1110"));
     });
 }
 

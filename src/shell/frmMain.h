@@ -28,6 +28,7 @@ public:
     void GoOptions();
     void GoOnline();
     void GoReports();
+    void GoSetup();
     /// Marks the present page: one character a toolbar button, "1" for enabled. Then takes back
     /// what the operator, or the lack of a docking station, does not allow. Throws RunTimeError
     /// for a text of another length, and changes nothing.

@@ -91,7 +91,7 @@ void frmMain::mnuToolsClearPipe_Click() {
 }
 
 void frmMain::mnuToolsReaderFW_Click() {
-    Guarded("getFWVersion of Form frmFirmwareVersion", ErrorShow::Dialog, [this] {
+    Guarded("getFWVersion of Form frmFirmwareVersion", [this] {
         TransferResult result;
         {
             const Hourglass hourglass;

@@ -1,11 +1,9 @@
 #include "CapturedId.h"
 
-#include "NameFault.h"
 #include "WindowTools.h"
 #include "mTranslations.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 void CapturedIdControls::ShowNone() const {
@@ -17,8 +15,7 @@ void CapturedIdControls::ShowNone() const {
 }
 
 void CapturedIdControls::ShowVerdict(bool good) const {
-    const QIcon picture = ProgramIcon(good ? QStringLiteral("good") : QStringLiteral("bad"));
-    img1.setPixmap(picture.pixmap(img1.maximumSize(), img1.devicePixelRatioF()));
+    ShowIcon(img1, good ? QStringLiteral("good") : QStringLiteral("bad"));
     img1.setAccessibleName(good ? Translate("Not in use yet") : lblMsg.text());
     lblMsg.setVisible(!good);
     cmdOK.setEnabled(good);
@@ -27,15 +24,4 @@ void CapturedIdControls::ShowVerdict(bool good) const {
 void CapturedIdControls::ClearPicture() const {
     img1.clear();
     img1.repaint();
-}
-
-bool AcceptName(Named what, QLineEdit& field, const QStringList& existingNames,
-                const QString& received) {
-    const QString fault = NameFault(what, field.text().trimmed(), existingNames, received);
-    if (fault.isEmpty())
-        return true;
-    IvMessageBox(fault);
-    field.setFocus();
-    field.selectAll();
-    return false;
 }

@@ -2,6 +2,7 @@
 
 #include "CapturedId.h"
 #include "DockingLink.h"
+#include "NameField.h"
 #include "WindowTools.h"
 #include "frmManualID.h"
 #include "mTranslations.h"
@@ -65,6 +66,7 @@ void frmAddButton::cmdManual_Click() {
     dialog.exec();
     if (dialog.OK)
         ShowCode(dialog.ID);
+    m_ui->txtName->setFocus();
 }
 
 void frmAddButton::cmdOK_Click() {

@@ -3,6 +3,7 @@
 #include "CapturedId.h"
 #include "Clock.h"
 #include "DockingLink.h"
+#include "NameField.h"
 #include "WindowTools.h"
 #include "frmDownload.h"
 #include "mDeclareGlobals.h"
@@ -22,7 +23,6 @@ frmAddReader::frmAddReader(DockingLink& link, QWidget* parent)
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     gCommActive = true;
     m_link.InBuffer().Clear();
-    DoEvents();
 }
 
 frmAddReader::~frmAddReader() { gCommActive = false; }
@@ -61,8 +61,8 @@ void frmAddReader::CheckReaderID(bool& ok) {
 }
 
 void frmAddReader::ShowReader(const QString& readerId) {
-    m_ui->lblID->setText(readerId);
     const bool isNew = !IsKnownReader(readerId);
+    m_ui->lblID->setText(readerId);
     if (isNew)
         ReaderId = readerId;
     CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ShowVerdict(isNew);

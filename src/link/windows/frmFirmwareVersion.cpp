@@ -9,8 +9,7 @@ frmFirmwareVersion::frmFirmwareVersion(const QString& firmware, QWidget* parent)
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     m_ui->Label1->setText(m_ui->Label1->text() + u' ' + firmware);
-    m_ui->imgReader->setPixmap(ProgramIcon(QStringLiteral("reader"))
-                                   .pixmap(m_ui->imgReader->maximumSize(), devicePixelRatioF()));
+    ShowIcon(*m_ui->imgReader, QStringLiteral("reader"));
     connect(m_ui->cmdClose, &QPushButton::clicked, this, &QDialog::accept);
 }
 

@@ -22,8 +22,7 @@ void frmManualID::cmdOK_Click() {
     const QString code = TypedButtonCode(m_ui->txtID->text());
     if (code.isEmpty()) {
         IvMessageBox(Translate("Illegal Value"));
-        m_ui->txtID->setFocus();
-        m_ui->txtID->selectAll();
+        FocusAndSelect(*m_ui->txtID);
         return;
     }
     ID = code;

@@ -77,8 +77,8 @@ void frmSetTime::SetSending(bool sending) {
          {static_cast<QWidget*>(m_ui->fraClock), static_cast<QWidget*>(m_ui->fraOptions),
           static_cast<QWidget*>(m_ui->cmdSendRealTime)})
         control->setEnabled(!sending);
-    if (!sending)
-        m_ui->cmdSendRealTime->setFocus();
+    // Not on Cancel, where a key held down would press it.
+    (sending ? static_cast<QWidget*>(this) : m_ui->cmdSendRealTime)->setFocus();
 }
 
 void frmSetTime::cmdSendRealTime_Click() {

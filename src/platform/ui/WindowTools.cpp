@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFocusEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,7 +31,8 @@ void TranslateProperty(QObject& object, const char* name, const TranslateText& t
         object.setProperty(name, translate(english));
 }
 
-/// The active window; where a dialog has just closed and none is active yet, the one left behind it.
+/// The active window; where a dialog has just closed and none is active yet, the one left behind
+/// it.
 QWidget* WindowToBeOver() {
     if (QWidget* active = QApplication::activeWindow())
         return active;
@@ -127,7 +129,9 @@ public:
     using QObject::QObject;
     bool eventFilter(QObject* watched, QEvent* event) override {
         // Behind the event: the mouse press that gave the focus would take the selection back.
-        if (event->type() == QEvent::FocusIn)
+        // Coming back from the field's own menu is no arrival.
+        if (event->type() == QEvent::FocusIn &&
+            static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
             QTimer::singleShot(0, static_cast<QLineEdit*>(watched), &QLineEdit::selectAll);
         return false;
     }
@@ -137,12 +141,21 @@ public:
 
 void SelectAllOnFocus(QLineEdit& field) { field.installEventFilter(new SelectingFilter(&field)); }
 
+void FocusAndSelect(QLineEdit& field) {
+    field.setFocus();
+    field.selectAll();
+}
+
 Hourglass::Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
 
 Hourglass::~Hourglass() { QApplication::restoreOverrideCursor(); }
 
 QIcon ProgramIcon(const QString& name) {
     return QIcon(QStringLiteral(":/icons/") + name + QStringLiteral(".svg"));
+}
+
+void ShowIcon(QLabel& label, const QString& name) {
+    label.setPixmap(ProgramIcon(name).pixmap(label.maximumSize(), label.devicePixelRatioF()));
 }
 
 void ShowPicture(QLabel& label, const QString& path) {

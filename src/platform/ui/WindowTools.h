@@ -29,6 +29,9 @@ public:
 /// Selects a field's whole text whenever it gets the focus.
 void SelectAllOnFocus(QLineEdit& field);
 
+/// Puts the focus on a field with its text selected, where the mistake is.
+void FocusAndSelect(QLineEdit& field);
+
 /// The hourglass while it lives.
 class Hourglass {
 public:
@@ -40,6 +43,9 @@ public:
 
 /// An icon of the program by its name.
 QIcon ProgramIcon(const QString& name);
+
+/// Shows an icon of the program in a label, as large as the label may be.
+void ShowIcon(QLabel& label, const QString& name);
 
 /// Shows a picture file in a label, as large as it is drawn (its pixels count double, so that it
 /// stays sharp on a dense screen). Throws RunTimeError where the file cannot be read.

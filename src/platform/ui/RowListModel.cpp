@@ -1,0 +1,155 @@
+#include "RowListModel.h"
+
+#include <QCollator>
+#include <QEvent>
+#include <QTreeView>
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+void RowListModel::SetColumns(const QStringList& headers) {
+    beginResetModel();
+    m_headers = headers;
+    m_rows.clear();
+    endResetModel();
+}
+
+void RowListModel::SetIcon(const QIcon& icon) { m_icon = icon; }
+
+void RowListModel::SetRows(QList<ListRow> rows) {
+    beginResetModel();
+    m_rows = std::move(rows);
+    QList<ListRow> sorted;
+    sorted.reserve(m_rows.size());
+    for (const int place : SortedPlaces())
+        sorted += m_rows[place];
+    m_rows = std::move(sorted);
+    endResetModel();
+}
+
+int RowListModel::PlaceOf(const QVariant& tag) const {
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(),
+                                    [&](const ListRow& row) { return row.tag == tag; });
+    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
+}
+
+QStringList RowListModel::TextsOf(int column) const {
+    QStringList texts;
+    for (const ListRow& row : m_rows)
+        texts += row.texts.value(column);
+    return texts;
+}
+
+int RowListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int RowListModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_headers.size());
+}
+
+QVariant RowListModel::data(const QModelIndex& index, int role) const {
+    if (role == Qt::DisplayRole)
+        return m_rows[index.row()].texts.value(index.column());
+    return role == Qt::DecorationRole && index.column() == 0 ? QVariant(m_icon) : QVariant();
+}
+
+QVariant RowListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return static_cast<int>(Qt::AlignVCenter) | static_cast<int>(Qt::AlignLeading);
+    return role == Qt::DisplayRole ? QVariant(m_headers.value(section)) : QVariant();
+}
+
+QList<int> RowListModel::SortedPlaces() const {
+    QList<int> places(m_rows.size());
+    std::iota(places.begin(), places.end(), 0);
+    if (m_sortColumn < 0)
+        return places;
+    QCollator collator;
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    std::vector<QCollatorSortKey> keys; // each text is prepared once, not at every comparison
+    keys.reserve(static_cast<std::size_t>(m_rows.size()));
+    for (const ListRow& row : m_rows)
+        keys.push_back(collator.sortKey(row.texts.value(m_sortColumn)));
+    const auto key = [&](int place) -> const QCollatorSortKey& {
+        return keys[static_cast<std::size_t>(place)];
+    };
+    std::stable_sort(places.begin(), places.end(), [&](int left, int right) {
+        return m_sortOrder == Qt::AscendingOrder ? key(left) < key(right) : key(right) < key(left);
+    });
+    return places;
+}
+
+void RowListModel::sort(int column, Qt::SortOrder order) {
+    emit layoutAboutToBeChanged();
+    m_sortColumn = column;
+    m_sortOrder = order;
+    const QList<int> places = SortedPlaces();
+    QList<ListRow> sorted;
+    QList<int> newPlaces(places.size());
+    sorted.reserve(places.size());
+    for (int i = 0; i < places.size(); ++i) {
+        sorted += m_rows[places[i]];
+        newPlaces[places[i]] = i;
+    }
+    m_rows = std::move(sorted);
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    for (const QModelIndex& old : before)
+        after += index(newPlaces[old.row()], old.column());
+    changePersistentIndexList(before, after);
+    emit layoutChanged();
+}
+
+int SelectedPlace(const QTreeView& list) {
+    const QModelIndexList rows = list.selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void SelectPlace(QTreeView& list, int place) {
+    const int last = list.model()->rowCount() - 1;
+    if (place >= 0 && last >= 0)
+        list.setCurrentIndex(list.model()->index(std::min(place, last), 0));
+}
+
+namespace {
+
+/// Lives beside a list and keeps its columns' parts of the width.
+class ColumnShares : public QObject {
+public:
+    explicit ColumnShares(QTreeView& list) : QObject(&list), m_list(list) {
+        setObjectName(QStringLiteral("columnShares"));
+        list.viewport()->installEventFilter(this);
+    }
+    void Set(const QList<int>& hundredths) {
+        m_hundredths = hundredths;
+        Apply();
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Resize)
+            Apply();
+        return false;
+    }
+
+private:
+    void Apply() {
+        const int width = m_list.viewport()->width();
+        for (int column = 0; column < m_hundredths.size(); ++column)
+            m_list.setColumnWidth(column, width * m_hundredths[column] / 100);
+    }
+
+    QTreeView& m_list;
+    QList<int> m_hundredths;
+};
+
+} // namespace
+
+void ShareWidth(QTreeView& list, const QList<int>& hundredths) {
+    QObject* shares = list.findChild<QObject*>(QStringLiteral("columnShares"));
+    if (!shares)
+        shares = new ColumnShares(list);
+    static_cast<ColumnShares*>(shares)->Set(hundredths);
+}

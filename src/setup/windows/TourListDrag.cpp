@@ -1,0 +1,149 @@
+#include "TourListDrag.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+
+namespace {
+
+constexpr int CueHeight = 4;
+constexpr int ScrollEdge = 14;     ///< pixels from the list's edge within which it scrolls
+constexpr int ScrollInterval = 80; ///< ms a row
+
+} // namespace
+
+TourListDrag::TourListDrag(QTreeView& lvwLocations, QTreeView& lvwSelected)
+    : QObject(&lvwSelected), m_lvwLocations(lvwLocations), m_lvwSelected(lvwSelected),
+      m_lblDragDrop(lvwSelected.window()), m_picInsertPtr(lvwSelected.viewport()) {
+    m_lblDragDrop.setObjectName(QStringLiteral("lblDragDrop"));
+    m_picInsertPtr.setObjectName(QStringLiteral("picInsertPtr"));
+    for (QLabel* label : {&m_lblDragDrop, &m_picInsertPtr}) {
+        label->setAttribute(Qt::WA_TransparentForMouseEvents);
+        label->setAutoFillBackground(true);
+        label->hide();
+    }
+    m_lblDragDrop.setFrameShape(QFrame::Box);
+    m_lblDragDrop.setBackgroundRole(QPalette::ToolTipBase);
+    m_lblDragDrop.setForegroundRole(QPalette::ToolTipText);
+    m_lblDragDrop.setMargin(3);
+    m_picInsertPtr.setBackgroundRole(QPalette::Highlight);
+    m_scroll.setInterval(ScrollInterval);
+    connect(&m_scroll, &QTimer::timeout, this, &TourListDrag::Follow);
+    for (QTreeView* list : {&lvwLocations, &lvwSelected}) {
+        list->installEventFilter(this);
+        list->viewport()->installEventFilter(this);
+    }
+}
+
+bool TourListDrag::eventFilter(QObject* watched, QEvent* event) {
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress: {
+        auto* list = qobject_cast<QTreeView*>(watched->parent());
+        m_source = list && mouse->button() == Qt::LeftButton &&
+                           list->indexAt(mouse->position().toPoint()).isValid()
+                       ? list
+                       : nullptr;
+        m_pressed = mouse->globalPosition().toPoint();
+        return false;
+    }
+    case QEvent::MouseMove:
+        if (!m_source || !(mouse->buttons() & Qt::LeftButton))
+            return false;
+        m_pointer = mouse->globalPosition().toPoint();
+        if (!m_dragging &&
+            (m_pointer - m_pressed).manhattanLength() >= QApplication::startDragDistance())
+            Begin();
+        if (m_dragging)
+            Follow();
+        return true; // the selection stays on the row that is dragged
+    case QEvent::MouseButtonRelease: {
+        QTreeView* source = m_source;
+        m_source = nullptr;
+        if (!m_dragging)
+            return false;
+        m_pointer = mouse->globalPosition().toPoint();
+        End();
+        if (QTreeView* target = ListUnder(m_pointer))
+            emit Dropped(source, target,
+                         target == &m_lvwSelected ? InsertPositionAt(m_pointer) : -1);
+        return true;
+    }
+    case QEvent::KeyPress:
+        if (!m_dragging || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
+            return false;
+        m_source = nullptr;
+        End();
+        return true;
+    default:
+        return false;
+    }
+}
+
+QTreeView* TourListDrag::ListUnder(const QPoint& globalPosition) const {
+    for (QTreeView* list : {&m_lvwLocations, &m_lvwSelected})
+        if (list->rect().contains(list->mapFromGlobal(globalPosition)))
+            return list;
+    return nullptr;
+}
+
+/// The row under the pointer; below the last row, the end.
+int TourListDrag::InsertPositionAt(const QPoint& globalPosition) const {
+    const QPoint place = m_lvwSelected.viewport()->mapFromGlobal(globalPosition);
+    if (place.y() < 0)
+        return m_lvwSelected.indexAt(QPoint(0, 0)).isValid()
+                   ? m_lvwSelected.indexAt(QPoint(0, 0)).row()
+                   : 0;
+    const QModelIndex row = m_lvwSelected.indexAt(QPoint(0, place.y()));
+    return row.isValid() ? row.row() : m_lvwSelected.model()->rowCount();
+}
+
+void TourListDrag::Begin() {
+    m_dragging = true;
+    // What stands in a row's columns, as far as there is any text.
+    QStringList texts;
+    const QModelIndex row = m_source->currentIndex();
+    for (int column = 0; column < row.model()->columnCount(); ++column)
+        if (const QString text = row.siblingAtColumn(column).data().toString(); !text.isEmpty())
+            texts += text;
+    m_lblDragDrop.setText(texts.join(QStringLiteral("  ")));
+    m_lblDragDrop.adjustSize();
+    m_lblDragDrop.show();
+    m_lblDragDrop.raise();
+    m_scroll.start();
+}
+
+void TourListDrag::Follow() {
+    m_lblDragDrop.move(m_lblDragDrop.parentWidget()->mapFromGlobal(m_pointer) + QPoint(14, 10));
+    const bool overSelected = ListUnder(m_pointer) == &m_lvwSelected;
+    if (overSelected) {
+        const int y = m_lvwSelected.viewport()->mapFromGlobal(m_pointer).y();
+        QScrollBar* bar = m_lvwSelected.verticalScrollBar();
+        if (y < ScrollEdge)
+            bar->setValue(bar->value() - bar->singleStep());
+        else if (y > m_lvwSelected.viewport()->height() - ScrollEdge)
+            bar->setValue(bar->value() + bar->singleStep());
+        ShowCue(InsertPositionAt(m_pointer));
+    }
+    m_picInsertPtr.setVisible(overSelected);
+}
+
+void TourListDrag::ShowCue(int position) {
+    const QAbstractItemModel& model = *m_lvwSelected.model();
+    int y = 0;
+    if (position < model.rowCount())
+        y = m_lvwSelected.visualRect(model.index(position, 0)).top();
+    else if (position > 0)
+        y = m_lvwSelected.visualRect(model.index(position - 1, 0)).bottom();
+    m_picInsertPtr.setGeometry(0, std::max(0, y - CueHeight / 2), m_lvwSelected.viewport()->width(),
+                               CueHeight);
+    m_picInsertPtr.raise();
+}
+
+void TourListDrag::End() {
+    m_dragging = false;
+    m_scroll.stop();
+    m_lblDragDrop.hide();
+    m_picInsertPtr.hide();
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class frmCopyTour;
+}
+
+/// Asks which tour to copy.
+class frmCopyTour : public QDialog {
+    Q_OBJECT
+public:
+    explicit frmCopyTour(QWidget* parent);
+    ~frmCopyTour() override;
+
+    bool OK = false;
+    /// The ID of the tour that is selected; 0 where there is none.
+    int TourID() const;
+
+private:
+    std::unique_ptr<Ui::frmCopyTour> m_ui;
+};

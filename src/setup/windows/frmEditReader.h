@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QDialog>
+#include <QStringList>
+
+#include <memory>
+
+namespace Ui {
+class frmEditReader;
+}
+
+/// Renames one reader.
+class frmEditReader : public QDialog {
+    Q_OBJECT
+public:
+    explicit frmEditReader(QWidget* parent);
+    ~frmEditReader() override;
+
+    bool OK = false;
+    void SetCaption(const QString& caption) { setWindowTitle(caption); }
+    QString Desc; ///< as it is, then as entered, trimmed
+    QString ReaderId;
+    QStringList ExistingNames; ///< descriptions that may not be used; its own may stand in it
+
+    int exec() override;
+
+private:
+    void cmdOK_Click();
+
+    std::unique_ptr<Ui::frmEditReader> m_ui;
+};

@@ -1,0 +1,34 @@
+#include "frmEditTime.h"
+
+#include "TourDraft.h"
+#include "WindowTools.h"
+#include "mTranslations.h"
+#include "ui_frmEditTime.h"
+
+frmEditTime::frmEditTime(QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::frmEditTime>()) {
+    m_ui->setupUi(this);
+    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    SelectAllOnFocus(*m_ui->txtTime);
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmEditTime::cmdOK_Click);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+frmEditTime::~frmEditTime() = default;
+
+void frmEditTime::SetIntervalTime(int minutes) {
+    m_interval = minutes;
+    m_ui->txtTime->setText(QString::number(minutes));
+}
+
+void frmEditTime::cmdOK_Click() {
+    const std::optional<int> minutes = IntervalFromText(m_ui->txtTime->text());
+    if (!minutes) {
+        IvMessageBox(Translate(IntervalFault));
+        FocusAndSelect(*m_ui->txtTime);
+        return;
+    }
+    m_interval = *minutes;
+    OK = true;
+    accept();
+}

@@ -1,0 +1,247 @@
+#include "frmEditTour.h"
+
+#include "Definitions.h"
+#include "Format.h"
+#include "NameField.h"
+#include "Recordset.h"
+#include "Settings.h"
+#include "TourListDrag.h"
+#include "WindowTools.h"
+#include "frmEditTime.h"
+#include "mErrorHandler.h"
+#include "mTranslations.h"
+#include "ui_frmEditTour.h"
+
+#include <QKeyEvent>
+
+namespace {
+
+const QString IntervalKey = QStringLiteral("LastTourInterval");
+/// From the main window's top left corner, in twips.
+constexpr int Right = 600, Below = 720;
+
+int SavedInterval() {
+    int minutes = 10;
+    IgnoringErrors([&] {
+        const int saved = ToInteger(GetSetting(SettingsApplication, SettingsSection::Settings,
+                                               IntervalKey, QString::number(minutes)));
+        if (saved >= 0 && saved < MinutesOfDay)
+            minutes = saved;
+    });
+    return minutes;
+}
+
+} // namespace
+
+frmEditTour::frmEditTour(QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::frmEditTour>()), m_newInterval(SavedInterval()) {
+    m_ui->setupUi(this);
+    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    if (parent)
+        move(parent->pos() + QPoint(PixelsOf(Right), PixelsOf(Below)));
+    m_ui->lvwLocations->setModel(&m_locations);
+    m_ui->lvwSelected->setModel(&m_selected);
+    m_drag = new TourListDrag(*m_ui->lvwLocations, *m_ui->lvwSelected);
+    connect(m_drag, &TourListDrag::Dropped, this, &frmEditTour::DropOn);
+    connect(m_ui->imgCboSites, &QComboBox::currentIndexChanged, this, &frmEditTour::FillLocations);
+    connect(m_ui->dtpStartTime, &QTimeEdit::timeChanged, this, &frmEditTour::UpdateTimes);
+    connect(m_ui->txtTolerance, &QLineEdit::textChanged, this, &frmEditTour::UpdateTimes);
+    connect(m_ui->lvwLocations, &QTreeView::doubleClicked, this,
+            [this] { AddLocation(m_draft.Count()); });
+    connect(m_ui->lvwSelected, &QTreeView::doubleClicked, this, &frmEditTour::EditTime);
+    connect(m_ui->cmdMove_0, &QPushButton::clicked, this, [this] { AddLocation(m_draft.Count()); });
+    connect(m_ui->cmdMove_1, &QPushButton::clicked, this, &frmEditTour::RemoveLocation);
+    connect(m_ui->cmdMove_2, &QPushButton::clicked, this, &frmEditTour::PromoteLocation);
+    connect(m_ui->cmdMove_3, &QPushButton::clicked, this, &frmEditTour::DemoteLocation);
+    connect(m_ui->cmdMove_4, &QPushButton::clicked, this, [this] {
+        m_draft.Clear();
+        ShowPoints(-1);
+    });
+    connect(m_ui->cmdEditTime, &QPushButton::clicked, this, &frmEditTour::EditTime);
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmEditTour::cmdOK_Click);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+frmEditTour::~frmEditTour() = default;
+
+bool frmEditTour::EditedNameOK(const QString& name) const {
+    return m_locations.TextsOf(1).contains(name);
+}
+
+void frmEditTour::Populate() {
+    Guarded("Populate of Form frmEditTour", [this] {
+        m_ui->txtName->setText(ListName);
+        m_ui->txtDesc->setText(ListDesc);
+        m_ui->txtTolerance->setText(QString::number(Tolerance));
+        m_ui->dtpStartTime->setTime(StartTime.ToQTime());
+        const QIcon icon = ProgramIcon(QStringLiteral("location"));
+        m_locations.SetColumns({Translate("Location Name"), Translate("Desc")});
+        m_locations.SetIcon(icon);
+        m_selected.SetColumns(
+            {Translate("Minutes"), Translate("Site"), Translate("Location"), Translate("Time")});
+        m_selected.SetIcon(icon);
+        ShareWidth(*m_ui->lvwLocations, {50, 49});
+        ShareWidth(*m_ui->lvwSelected, {17, 33, 33, 16});
+        FillSites();
+        m_draft.Load(GroupID);
+        ShowPoints(0);
+    });
+}
+
+void frmEditTour::FillSites() {
+    Recordset sites;
+    sites.CursorLocation = adUseClient;
+    sites.Open(QStringLiteral("SELECT tblListItems.ID, tblListItems.tName, tblListItems.tDesc "
+                              "FROM tblListItems WHERE (((tblListItems.wType) = 1)) "
+                              "ORDER BY tblListItems.tName; "),
+               *gConn);
+    for (; !sites.Eof(); sites.MoveNext())
+        m_ui->imgCboSites->addItem(ProgramIcon(QStringLiteral("location")), sites.Text(u"tName"),
+                                   static_cast<int>(sites.Number(u"ID")));
+}
+
+void frmEditTour::FillLocations() {
+    Guarded("FillLocations of Form frmEditTour", [this] {
+        QList<ListRow> rows;
+        for (const Button& button : ButtonsOf(m_ui->imgCboSites->currentData().toInt()))
+            rows += ListRow{{button.name, button.description}, button.code};
+        m_locations.SetRows(std::move(rows));
+        SelectPlace(*m_ui->lvwLocations, 0);
+        UpdateButtons();
+    });
+}
+
+int frmEditTour::SelectedPoint() const { return SelectedPlace(*m_ui->lvwSelected); }
+
+DateTime frmEditTour::ChosenStart() const {
+    const QTime start = m_ui->dtpStartTime->time();
+    return DateTime::FromTime(start.hour(), start.minute());
+}
+
+/// Shows the points with their times, and selects one.
+void frmEditTour::ShowPoints(int selected) {
+    const std::vector<DateTime> times = m_draft.TimesFrom(ChosenStart());
+    QList<ListRow> rows;
+    for (int i = 0; i < m_draft.Count(); ++i) {
+        const auto place = static_cast<std::size_t>(i);
+        const TourDraft::Point& point = m_draft.Points()[place];
+        rows += ListRow{{QString::number(point.minutes), point.site, point.location,
+                         Format(times[place].TimePart(), QStringLiteral("Short Time"))},
+                        point.buttonCode};
+    }
+    m_selected.SetRows(std::move(rows));
+    SelectPlace(*m_ui->lvwSelected, selected);
+    UpdateButtons();
+}
+
+void frmEditTour::UpdateButtons() {
+    const bool any = m_draft.Count() > 0;
+    for (QPushButton* button :
+         {m_ui->cmdMove_1, m_ui->cmdMove_2, m_ui->cmdMove_3, m_ui->cmdEditTime})
+        button->setEnabled(any);
+    m_ui->cmdMove_0->setEnabled(m_locations.rowCount() > 0);
+}
+
+void frmEditTour::UpdateTimes() { ShowPoints(SelectedPoint()); }
+
+void frmEditTour::AddLocation(int position) {
+    const int place = SelectedPlace(*m_ui->lvwLocations);
+    if (place < 0)
+        return;
+    const ListRow& location = m_locations.Row(place);
+    m_draft.Insert(position, {m_newInterval, location.tag.toString(),
+                              m_ui->imgCboSites->currentText(), location.texts[0]});
+    ShowPoints(position);
+    SelectPlace(*m_ui->lvwLocations, place + 1); // so that several can be added in a row
+}
+
+void frmEditTour::RemoveLocation() {
+    const int place = SelectedPoint();
+    if (place < 0)
+        return;
+    m_draft.Remove(place);
+    ShowPoints(place);
+}
+
+void frmEditTour::PromoteLocation() { MoveLocation(SelectedPoint() - 1); }
+
+void frmEditTour::DemoteLocation() {
+    if (SelectedPoint() < m_draft.Count() - 1)
+        MoveLocation(SelectedPoint() + 2);
+}
+
+/// Puts the selected point in front of the one at `position`.
+void frmEditTour::MoveLocation(int position) {
+    if (SelectedPoint() >= 0 && position >= 0)
+        ShowPoints(m_draft.Move(SelectedPoint(), position));
+}
+
+void frmEditTour::DropOn(QTreeView* source, QTreeView* target, int position) {
+    const bool fromTour = source == m_ui->lvwSelected, toTour = target == m_ui->lvwSelected;
+    if (!fromTour && toTour)
+        AddLocation(position);
+    else if (fromTour && toTour)
+        MoveLocation(position);
+    else if (fromTour)
+        RemoveLocation();
+}
+
+void frmEditTour::EditTime() {
+    const int place = SelectedPoint();
+    if (place < 0)
+        return;
+    frmEditTime dialog(this);
+    dialog.SetIntervalTime(m_draft.Points()[static_cast<std::size_t>(place)].minutes);
+    dialog.exec();
+    if (!dialog.OK)
+        return;
+    m_newInterval = dialog.IntervalTime();
+    SaveSetting(SettingsApplication, SettingsSection::Settings, IntervalKey,
+                QString::number(m_newInterval));
+    m_draft.SetMinutes(place, m_newInterval);
+    ShowPoints(place);
+}
+
+bool frmEditTour::IsValid() {
+    if (!AcceptName(Named::Group, *m_ui->txtName, ExistingNames, ListName))
+        return false;
+    if (const char* fault = m_draft.NeighbourFault()) {
+        IvMessageBox(Translate(fault));
+        m_ui->lvwSelected->setFocus();
+        return false;
+    }
+    const std::optional<int> tolerance = ToleranceFromText(m_ui->txtTolerance->text());
+    if (!tolerance) {
+        IvMessageBox(Translate(ToleranceFault));
+        FocusAndSelect(*m_ui->txtTolerance);
+        return false;
+    }
+    if (const char* fault = m_draft.TotalTimeFault(*tolerance)) {
+        IvMessageBox(Translate(fault));
+        m_ui->lvwSelected->setFocus();
+        return false;
+    }
+    Tolerance = *tolerance;
+    return true;
+}
+
+void frmEditTour::cmdOK_Click() {
+    Guarded("cmdOK_Click of Form frmEditTour", [this] {
+        if (!IsValid())
+            return;
+        m_draft.Save(GroupID);
+        ListName = m_ui->txtName->text().trimmed();
+        ListDesc = m_ui->txtDesc->text().trimmed();
+        StartTime = ChosenStart();
+        OK = true;
+        accept();
+    });
+}
+
+/// Fields of text keep their own Delete key; it comes here from everywhere else.
+void frmEditTour::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Delete)
+        RemoveLocation();
+    else
+        QDialog::keyPressEvent(event);
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "RowListModel.h"
+#include "TourDraft.h"
+
+#include <QDialog>
+
+#include <cstdint>
+#include <memory>
+
+class QTreeView;
+class TourListDrag;
+namespace Ui {
+class frmEditTour;
+}
+
+/// Edits one tour: its name, start and tolerance, which it hands back, and its points, which it
+/// writes.
+class frmEditTour : public QDialog {
+    Q_OBJECT
+public:
+    explicit frmEditTour(QWidget* parent);
+    ~frmEditTour() override;
+
+    bool OK = false;
+    int GroupID = 0; ///< the tour's ID
+    QString ListName;
+    QString ListDesc;
+    DateTime StartTime; ///< time of day
+    int Tolerance = 0;  ///< minutes
+    QStringList ExistingNames;
+    std::uint8_t ItemType = 0;
+    bool AddMode = false;
+
+    /// Fills the window from the above and from the store.
+    void Populate();
+    /// True if a location's description is this text.
+    bool EditedNameOK(const QString& name) const;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void FillSites();
+    void FillLocations();
+    void ShowPoints(int selected);
+    void UpdateButtons();
+    void UpdateTimes();
+    int SelectedPoint() const;
+
+    void AddLocation(int position);
+    void RemoveLocation();
+    void PromoteLocation();
+    void DemoteLocation();
+    void MoveLocation(int position);
+    void DropOn(QTreeView* source, QTreeView* target, int position);
+    void EditTime();
+    bool IsValid();
+    void cmdOK_Click();
+    DateTime ChosenStart() const;
+
+    std::unique_ptr<Ui::frmEditTour> m_ui;
+    TourListDrag* m_drag;
+    TourDraft m_draft;
+    RowListModel m_locations;
+    RowListModel m_selected;
+    int m_newInterval;
+};

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "Definitions.h"
+#include "RowListModel.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class DockingLink;
+namespace Ui {
+class frmListEdit;
+}
+
+/// Edits one group: its name, its description, and its buttons. The buttons are written at once;
+/// the name is the caller's to take.
+class frmListEdit : public QDialog {
+    Q_OBJECT
+public:
+    frmListEdit(DockingLink& link, QWidget* parent);
+    ~frmListEdit() override;
+
+    bool OK = false;
+    int ID = 0; ///< the group's
+    QString ListName;
+    QString ListDesc;
+    GroupType ItemType = UserGroup;
+    bool AddMode = false;      ///< begin with the name
+    QStringList ExistingNames; ///< names that may not be used; its own may stand in it
+
+    /// Shows the group and its buttons afresh.
+    void Update();
+    /// The name check, without a word.
+    bool EditedNameOK() const;
+
+    int exec() override;
+
+private:
+    void KeepTyped();
+    void EditButtonItem();
+    void AddButtonItem();
+    void DeleteButtonItem();
+    void cmdOK_Click();
+
+    std::unique_ptr<Ui::frmListEdit> m_ui;
+    DockingLink& m_link;
+    RowListModel m_buttons;
+    QString m_receivedName;
+};

@@ -1,0 +1,344 @@
+#include "frmMDISetup.h"
+
+#include "Format.h"
+#include "WindowTools.h"
+#include "frmAddReader.h"
+#include "frmCopyTour.h"
+#include "frmEditReader.h"
+#include "frmEditTour.h"
+#include "frmListEdit.h"
+#include "mErrorHandler.h"
+#include "mTranslations.h"
+#include "ui_frmMDISetup.h"
+
+#include <QKeyEvent>
+
+const QList<frmMDISetup::Kind>& frmMDISetup::Kinds() {
+    using Page = frmMDISetup;
+    const QList<const char*> nameAndText = {"Name", "Description"};
+    static const QList<Kind> kinds = {
+        {"Sites",
+         "location",
+         SiteGroup,
+         nameAndText,
+         {40, 59},
+         &Page::GroupRows,
+         &Page::EditGroup,
+         &Page::AddGroup,
+         &Page::DeleteGroup},
+        {"Event Books",
+         "event",
+         EventBookGroup,
+         nameAndText,
+         {40, 59},
+         &Page::GroupRows,
+         &Page::EditGroup,
+         &Page::AddGroup,
+         &Page::DeleteGroup},
+        {"Tours",
+         "tour",
+         UserGroup,
+         {"Tour Name", "Start Time", "Description"},
+         {40, 15, 44},
+         &Page::TourRows,
+         &Page::EditTour,
+         &Page::AddTour,
+         &Page::DeleteTour},
+        {"Readers",
+         "reader",
+         UserGroup,
+         {"Reader ID", "Description"},
+         {30, 69},
+         &Page::ReaderRows,
+         &Page::EditReader,
+         &Page::AddReader,
+         &Page::DeleteReader},
+    };
+    return kinds;
+}
+
+frmMDISetup::frmMDISetup(DockingLink& link, QWidget* parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::frmMDISetup>()), m_link(link) {
+    m_ui->setupUi(this);
+    m_ui->tabSetup->setExpanding(false);
+    m_ui->lvwProgram->setModel(&m_rows);
+    for (const Kind& kind : Kinds())
+        m_ui->tabSetup->addTab(ProgramIcon(QString::fromLatin1(kind.icon)), QString());
+    Translate();
+    connect(m_ui->tabSetup, &QTabBar::currentChanged, this, &frmMDISetup::ShowTab);
+    connect(m_ui->lvwProgram, &QTreeView::doubleClicked, this,
+            [this] { (this->*Present().edit)(); });
+    connect(m_ui->cmdSetup_0, &QPushButton::clicked, this, [this] { (this->*Present().edit)(); });
+    connect(m_ui->cmdSetup_1, &QPushButton::clicked, this, [this] { (this->*Present().add)(); });
+    connect(m_ui->cmdSetup_2, &QPushButton::clicked, this, [this] { (this->*Present().remove)(); });
+    connect(m_ui->cmdTourCopy, &QPushButton::clicked, this, &frmMDISetup::CopyTour);
+    setFocusProxy(m_ui->lvwProgram);
+}
+
+frmMDISetup::~frmMDISetup() = default;
+
+void frmMDISetup::Translate() {
+    TranslateWindow(*this, [](const QString& text) { return ::Translate(text); });
+    for (int i = 0; i < Kinds().size(); ++i)
+        m_ui->tabSetup->setTabText(i, ::Translate(Kinds()[i].caption));
+}
+
+bool frmMDISetup::EditedNameOK(const QString& name) const {
+    return m_rows.TextsOf(1).contains(name);
+}
+
+const frmMDISetup::Kind& frmMDISetup::Present() const {
+    return Kinds()[m_ui->tabSetup->currentIndex()];
+}
+
+bool frmMDISetup::ShowsTours() const { return Present().edit == &frmMDISetup::EditTour; }
+
+int frmMDISetup::Selected() const { return SelectedPlace(*m_ui->lvwProgram); }
+
+bool frmMDISetup::Confirmed(const QString& question) const {
+    return IvMessageBox(question, MessageKind::Question, MessageButtons::YesNo) !=
+           MessageAnswer::No;
+}
+
+void frmMDISetup::Start() { ShowTab(); }
+
+void frmMDISetup::ShowTab() {
+    emit TitleChanged(::Translate("Setup") + QStringLiteral(": ") + ::Translate(Present().caption));
+    QStringList headers;
+    for (const char* column : Present().columns)
+        headers += ::Translate(column);
+    m_rows.SetColumns(headers);
+    m_rows.SetIcon(ProgramIcon(QString::fromLatin1(Present().icon)));
+    m_ui->lvwProgram->sortByColumn(0, Qt::AscendingOrder);
+    ShareWidth(*m_ui->lvwProgram, Present().widths);
+    FillList();
+    SelectPlace(*m_ui->lvwProgram, 0);
+}
+
+void frmMDISetup::FillList() {
+    m_rows.SetRows((this->*Present().rows)());
+    m_ui->cmdTourCopy->setVisible(ShowsTours());
+    const bool teachesReaders = Present().add == &frmMDISetup::AddReader;
+    m_ui->cmdSetup_1->setEnabled(!teachesReaders || gDockingDetected);
+    const bool any = m_rows.rowCount() > 0;
+    m_ui->cmdSetup_0->setEnabled(any);
+    m_ui->cmdSetup_2->setEnabled(any);
+}
+
+void frmMDISetup::FillListAndSelect(const QVariant& tag) {
+    FillList();
+    SelectPlace(*m_ui->lvwProgram, m_rows.PlaceOf(tag));
+}
+
+void frmMDISetup::FillListAfterDelete(int place) {
+    FillList();
+    SelectPlace(*m_ui->lvwProgram, place);
+    m_ui->lvwProgram->setFocus(); // the delete button may have been disabled under the pointer
+}
+
+void frmMDISetup::keyPressEvent(QKeyEvent* event) {
+    Guarded("Form_KeyDown of Form frmMDISetup", ErrorShow::Dialog, [&] {
+        const bool onList = m_ui->lvwProgram->hasFocus();
+        if (event->key() == Qt::Key_Delete)
+            (this->*Present().remove)();
+        else if (onList && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+            (this->*Present().edit)();
+        else
+            QWidget::keyPressEvent(event);
+    });
+}
+
+// ---- sites and event books
+
+QList<ListRow> frmMDISetup::GroupRows() {
+    QList<ListRow> rows;
+    Guarded("OpenGroupsRecordset of Form frmMDISetup", ErrorShow::Dialog, [&] {
+        for (const Group& group : GroupsOf(Present().type))
+            rows += ListRow{{group.name, group.description}, group.id};
+    });
+    return rows;
+}
+
+void frmMDISetup::AddGroup() {
+    Guarded("AddGroup of Form frmMDISetup", [this] {
+        const QString base = ::Translate(Present().type == SiteGroup ? "Site" : "Event Book");
+        FillListAndSelect(::AddGroup(Present().type, FreshName(base, m_rows.TextsOf(0))));
+    });
+}
+
+void frmMDISetup::EditGroup() {
+    Guarded("EditGroup of Form frmMDISetup", [this] {
+        if (Selected() < 0)
+            return;
+        const ListRow row = m_rows.Row(Selected());
+        frmListEdit dialog(m_link, window());
+        dialog.ID = row.tag.toInt();
+        dialog.ListName = row.texts[0];
+        dialog.ListDesc = row.texts[1];
+        dialog.ItemType = Present().type;
+        dialog.ExistingNames = m_rows.TextsOf(0);
+        dialog.exec();
+        if (!dialog.OK)
+            return;
+        UpdateGroup({dialog.ID, dialog.ListName, dialog.ListDesc});
+        FillListAndSelect(row.tag);
+    });
+}
+
+void frmMDISetup::DeleteGroup() {
+    Guarded("DeleteGroup of Form frmMDISetup", [this] {
+        const int place = Selected();
+        if (place < 0)
+            return;
+        const int id = m_rows.Row(place).tag.toInt();
+        QString question = ::Translate("Are you sure you want to delete it?");
+        if (GroupHasButtons(id))
+            question = ::Translate("The selected group contains sub-items") + u'\n' + question;
+        if (!Confirmed(question))
+            return;
+        ::DeleteGroup(id);
+        FillListAfterDelete(place);
+    });
+}
+
+// ---- readers
+
+QList<ListRow> frmMDISetup::ReaderRows() {
+    QList<ListRow> rows;
+    GuardedWithBox("OpenReadersRecordset", [&] {
+        for (const Reader& reader : Readers())
+            rows += ListRow{{reader.id, reader.description}, reader.id};
+    });
+    return rows;
+}
+
+void frmMDISetup::AddReader() {
+    GuardedWithBox("AddReader", [this] {
+        frmAddReader dialog(m_link, window());
+        dialog.ExistingNames = m_rows.TextsOf(1);
+        dialog.Desc = FreshReaderName(dialog.ExistingNames);
+        dialog.exec();
+        if (!dialog.OK)
+            return;
+        ::AddReader({dialog.ReaderId, dialog.Desc});
+        FillListAndSelect(dialog.ReaderId);
+    });
+}
+
+void frmMDISetup::EditReader() {
+    GuardedWithBox("EditReader", [this] {
+        if (Selected() < 0)
+            return;
+        const ListRow row = m_rows.Row(Selected());
+        frmEditReader dialog(window());
+        dialog.ReaderId = row.texts[0];
+        dialog.Desc = row.texts[1];
+        dialog.ExistingNames = m_rows.TextsOf(1);
+        dialog.exec();
+        if (!dialog.OK)
+            return;
+        UpdateReader({row.texts[0], dialog.Desc});
+        FillListAndSelect(row.tag);
+    });
+}
+
+void frmMDISetup::DeleteReader() {
+    GuardedWithBox("DeleteReader", [this] {
+        const int place = Selected();
+        if (place < 0)
+            return;
+        const QString id = m_rows.Row(place).texts[0];
+        if (!Confirmed(::Translate("Are you sure you want to delete this reader?") + u' ' + id))
+            return;
+        ::DeleteReader(id);
+        FillListAfterDelete(place);
+    });
+}
+
+// ---- tours
+
+QList<ListRow> frmMDISetup::TourRows() {
+    QList<ListRow> rows;
+    GuardedWithBox("OpenToursRecordset", [&] {
+        for (const Tour& tour : Tours())
+            rows += ListRow{
+                {tour.name, Format(tour.startTime, QStringLiteral("Short Time")), tour.description},
+                tour.id};
+    });
+    return rows;
+}
+
+QString frmMDISetup::FreshTourName() const {
+    return FreshName(::Translate("Tour"), m_rows.TextsOf(0));
+}
+
+void frmMDISetup::AddTour() {
+    Guarded("AddTour of Form frmMDISetup",
+            [this] { FillListAndSelect(::AddTour(FreshTourName())); });
+}
+
+void frmMDISetup::EditTour() {
+    Guarded("EditTour of Form frmMDISetup", [this] {
+        if (Selected() < 0)
+            return;
+        if (!HasLocations()) {
+            IvMessageBox(
+                ::Translate("You must add at least one location before you can define a tour"));
+            return;
+        }
+        const QVariant tag = m_rows.Row(Selected()).tag;
+        for (Tour& tour : Tours()) {
+            if (tour.id != tag.toInt())
+                continue;
+            frmEditTour dialog(window());
+            dialog.GroupID = tour.id;
+            dialog.ListName = tour.name;
+            dialog.ListDesc = tour.description;
+            dialog.Tolerance = tour.tolerance;
+            dialog.StartTime = tour.startTime;
+            dialog.ExistingNames = m_rows.TextsOf(0);
+            dialog.Populate();
+            dialog.exec();
+            if (!dialog.OK)
+                return;
+            UpdateTour(
+                {tour.id, dialog.ListName, dialog.ListDesc, dialog.Tolerance, dialog.StartTime});
+            FillListAndSelect(tag);
+        }
+    });
+}
+
+void frmMDISetup::DeleteTour() {
+    Guarded("DeleteTour of Form frmMDISetup", [this] {
+        const int place = Selected();
+        if (place < 0)
+            return;
+        const int id = m_rows.Row(place).tag.toInt();
+        QString question = ::Translate("Are you sure you want to delete this tour?");
+        if (TourHasPoints(id))
+            question = ::Translate("The selected Tour contains data.") + u'\n' + question;
+        if (!Confirmed(question))
+            return;
+        ::DeleteTour(id);
+        FillListAfterDelete(place);
+    });
+}
+
+void frmMDISetup::CopyTour() {
+    frmCopyTour dialog(window());
+    dialog.exec();
+    if (!dialog.OK)
+        return;
+    const auto copy = [&] {
+        if (!TourHasPoints(dialog.TourID())) {
+            IvMessageBox(::Translate("Cannot find any Tour Points to copy"));
+            return;
+        }
+        FillListAndSelect(::CopyTour(dialog.TourID(), FreshTourName()));
+    };
+    Trapped(copy, [](const RunTimeError& error) {
+        ReportError(QStringLiteral("cmdTourCopy_Click of Form frmMDISetup"), error,
+                    ErrorShow::LogOnly);
+        IvMessageBox(::Translate("Error in creating new Tour"));
+    });
+}
