@@ -218,7 +218,7 @@ private slots:
                  tools);
         QVERIFY(action("mnuFileExit")->isEnabled());
         QCOMPARE(action("setup")->isVisible(), tools);
-        for (const char* unbuilt : {"setup", "mnuFileArchive", "mnuFileBackup", "mnuFileRestore",
+        for (const char* unbuilt : {"mnuFileArchive", "mnuFileBackup", "mnuFileRestore",
                                     "mnuToolCompany", "mnuHelpAbout"})
             QVERIFY2(!action(unbuilt)->isVisible(), unbuilt);
         for (const char* noDock : {"mnuToolsPipeOptions", "mnuToolsClearPipe"})

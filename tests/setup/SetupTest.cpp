@@ -1,0 +1,307 @@
+// What is defined, apart from its windows: the rules of a tour, and the document that carries all
+// definitions.
+
+#include "Definitions.h"
+#include "SetupFile.h"
+#include "TestHome.h"
+#include "TourDraft.h"
+#include "cTourReport.h"
+
+#include <QTest>
+
+namespace {
+
+const QString Points =
+    QStringLiteral("SELECT lIndex, tButtonCode FROM tblTourPoints WHERE lParentID = 1");
+
+TourDraft DraftOf(const QList<std::pair<int, const char*>>& points) {
+    TourDraft draft;
+    for (const auto& [minutes, code] : points)
+        draft.Insert(draft.Count(), {minutes, QString::fromLatin1(code), {}, {}});
+    return draft;
+}
+
+QString Codes(const TourDraft& draft) {
+    QString codes;
+    for (const TourDraft::Point& point : draft.Points())
+        codes += point.buttonCode;
+    return codes;
+}
+
+/// What an import of this document says; empty where it is taken.
+QString FaultOf(const QByteArray& document) {
+    try {
+        ImportSetup(document);
+    } catch (const RunTimeError& error) {
+        return error.Description();
+    }
+    return {};
+}
+
+QByteArray Site(const QByteArray& buttons) {
+    return R"({"groups":[{"type":"site","name":"Quay","buttons":[)" + buttons + "]}]";
+}
+
+QByteArray TourWith(const QByteArray& fields) {
+    return Site(R"({"code":"A00001","name":"A"},{"code":"A00002","name":"B"})") +
+           R"(,"tours":[{"name":"Round","start":"22:30",)" + fields + "}]}";
+}
+
+} // namespace
+
+class SetupTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void TypedMinutes_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("interval"); // -1: refused
+        QTest::addColumn<int>("tolerance");
+        const auto row = [](const char* text, int interval, int tolerance) {
+            QTest::newRow(text) << QString::fromUtf8(text) << interval << tolerance;
+        };
+        row("0", 0, 0);
+        row(" 59 ", 59, 59);
+        row("59.4", 59, -1);
+        row("60", 60, -1);
+        row("5.5", 6, 6);
+        row("4.5", 4, 4);
+        row("12.5", 12, 12);
+        row("0.5", 0, 0);
+        row("1439", 1439, -1);
+        row("1439.4", 1439, -1);
+        row("1439.5", -1, -1); // would round to a whole day
+        row("1440", -1, -1);
+        row("-1", -1, -1);
+        row("-0.4", -1, -1);
+        row("1e1", 10, 10);
+        for (const char* text : {"", " ", "abc", "5 5", "5m", "0x10", "nan", "inf", "5,5"})
+            row(text, -1, -1);
+    }
+    void TypedMinutes() {
+        QFETCH(QString, text);
+        QTEST(IntervalFromText(text).value_or(-1), "interval");
+        QTEST(ToleranceFromText(text).value_or(-1), "tolerance");
+        if (text == u"5,5") { // by the user's own decimal sign
+            QLocale::setDefault(QLocale(QLocale::German));
+            QCOMPARE(ToleranceFromText(text), 6);
+            QLocale::setDefault(QLocale::c());
+        }
+    }
+
+    // Every interval reads back as it was entered, and from every start the times shown are those
+    // that the evaluation plans.
+    void TimesAreThoseOfTheEvaluation() {
+        const TestHome home(TestHome::EmptyStore);
+        Tour tour{AddTour(QStringLiteral("All")), QStringLiteral("All"), {}, 5, {}};
+        TourDraft draft;
+        for (int minutes = 0; minutes < MinutesOfDay; ++minutes)
+            draft.Insert(minutes, {minutes, QStringLiteral("A00001"), {}, {}});
+        draft.Save(tour.id);
+        TourDraft loaded;
+        loaded.Load(tour.id);
+        for (int minutes = 0; minutes < MinutesOfDay; ++minutes)
+            QCOMPARE(loaded.Points()[std::size_t(minutes)].minutes, minutes);
+
+        const DateTime day = DateTime::FromQt(QDate(2026, 3, 29));
+        for (int start = 0; start < MinutesOfDay; start += 7) {
+            cTourReport report;
+            report.TourID = tour.id;
+            report.StartDate = day;
+            report.StartTime = DateTime::FromTime(start / 60, start % 60);
+            QVERIFY(report.LoadTourPoints());
+            const std::vector<DateTime> times = loaded.TimesFrom(report.StartTime);
+            for (std::size_t i = 0; i < times.size(); ++i)
+                if (report.TourPoints()[i].PointDateTime != day + times[i])
+                    QFAIL(qPrintable(QStringLiteral("start %1, point %2").arg(start).arg(i)));
+        }
+    }
+
+    void MovingPoints() {
+        TourDraft draft = DraftOf({{0, "A"}, {1, "B"}, {2, "C"}, {3, "D"}});
+        QCOMPARE(draft.Move(0, 4), 3); // to the end
+        QCOMPARE(Codes(draft), "BCDA");
+        QCOMPARE(draft.Move(3, 0), 0);
+        QCOMPARE(Codes(draft), "ABCD");
+        QCOMPARE(draft.Move(1, 3), 2);
+        QCOMPARE(Codes(draft), "ACBD");
+        QCOMPARE(draft.Move(2, 2) + draft.Move(2, 3), 4); // where it is
+        QCOMPARE(Codes(draft), "ACBD");
+        QCOMPARE(draft.Points()[2].minutes, 1); // the minutes go along
+    }
+
+    void RulesOfATour() {
+        QVERIFY(!DraftOf({}).NeighbourFault());
+        QVERIFY(!DraftOf({{0, "A"}, {5, "B"}, {5, "A"}}).NeighbourFault());
+        QVERIFY(DraftOf({{0, "A"}, {5, "B"}, {5, "B"}}).NeighbourFault());
+        const auto fits = [](const QList<std::pair<int, const char*>>& points, int tolerance) {
+            return DraftOf(points).TotalTimeFault(tolerance) == nullptr;
+        };
+        QVERIFY(fits({}, 59));
+        QVERIFY(fits({{720, "A"}, {1439, "B"}}, 0)); // the first interval lies before the tour
+        QVERIFY(!fits({{0, "A"}, {1439, "B"}, {1, "C"}}, 0));
+        QVERIFY(fits({{0, "A"}, {1429, "B"}}, 5));
+        QVERIFY(!fits({{0, "A"}, {1430, "B"}}, 5));
+        QList<std::pair<int, const char*>> many;
+        for (int i = 0; i < 100; ++i)
+            many += {1439, i % 2 ? "A" : "B"};
+        QVERIFY(!fits(many, 0));
+    }
+
+    // A tour has all old points or all new ones.
+    void SavingIsAllOrNothing() {
+        const TestHome home(TestHome::EmptyStore);
+        AddTour(QStringLiteral("Round"));
+        DraftOf({{0, "A00001"}, {5, "A00002"}, {5, "A00003"}}).Save(1);
+        const QStringList before = RowsOf(Points);
+        gConn->Execute(QStringLiteral(
+            "CREATE TRIGGER refuse BEFORE INSERT ON tblTourPoints WHEN NEW.tButtonCode = 'B00002' "
+            "BEGIN SELECT RAISE(ABORT, 'no room'); END"));
+        const TourDraft other = DraftOf({{0, "B00001"}, {5, "B00002"}, {5, "B00003"}});
+        QVERIFY(ErrorOf([&] { other.Save(1); }) != 0);
+        QCOMPARE(RowsOf(Points), before);
+        gConn->Execute(QStringLiteral("DROP TRIGGER refuse"));
+        other.Save(1);
+        QCOMPARE(RowsOf(Points), (QStringList{"1|B00001", "2|B00002", "3|B00003"}));
+        DraftOf({}).Save(1);
+        QVERIFY(!TourHasPoints(1));
+    }
+
+    void FreshNames() {
+        QCOMPARE(FreshName("Site", {}), "Site 001");
+        QCOMPARE(FreshName("Site", {"Site 001", "Site 003"}), "Site 002");
+        QCOMPARE(FreshReaderName({"Reader 1", "reader 2"}), "Reader 2");
+        QStringList all;
+        for (int i = 1; i <= 999; ++i)
+            all += QStringLiteral("Tour %1").arg(i, 3, 10, QLatin1Char('0'));
+        QCOMPARE(FreshName("Tour", all), "");
+        all.removeLast();
+        QCOMPARE(FreshName("Tour", all), "Tour 999");
+    }
+
+    // Deleting takes the parts along and leaves events, and tours that visit a location, alone.
+    void Deleting() {
+        const TestHome home(TestHome::DemoSite);
+        const QStringList points = RowsOf("SELECT * FROM tblTourPoints");
+        DeleteGroup(GroupsOf(SiteGroup).first().id);
+        QCOMPARE(GroupsOf(SiteGroup).size(), 1);
+        QCOMPARE(RowsOf("SELECT * FROM tblButtons WHERE lParentID = 1"), QStringList());
+        QCOMPARE(RowsOf("SELECT * FROM tblTourPoints"), points);
+        const int copy = CopyTour(2, QStringLiteral("Copy"));
+        DeleteTour(2);
+        QVERIFY(!TourHasPoints(2) && TourHasPoints(1));
+        QCOMPARE(RowsOf("SELECT lIndex, dtTime, tButtonCode FROM tblTourPoints WHERE lParentID = " +
+                        QString::number(copy))
+                     .size(),
+                 5);
+        QCOMPARE(RowsOf("SELECT tDesc, iTolerance, dtStartTime FROM tblTours WHERE tName = 'Copy'"),
+                 QStringList(" |5|0"));
+    }
+
+    void ExportAndImport() {
+        QByteArray document;
+        QStringList tours;
+        const QString allPoints =
+            QStringLiteral("SELECT lIndex, dtTime, tButtonCode FROM tblTourPoints");
+        {
+            const TestHome home(TestHome::DemoSite);
+            UpdateGroup({AddGroup(UserGroup, "Guards \"A\""), "Guards \"A\"", "line\nline ü"});
+            AddButton(4, {0, "00FF00", "'quoted' \\", {}});
+            AddReader({"00000001", " blank "});
+            DeleteButton(ButtonsOf(1).first().id); // the night tour visits it twice
+            document = ExportSetup();
+            tours = RowsOf(allPoints);
+        }
+        const TestHome home(TestHome::EmptyStore);
+        QCOMPARE(FaultOf(document), "");
+        QCOMPARE(ExportSetup(), document);
+        QCOMPARE(RowsOf(allPoints), tours);
+        QVERIFY(FaultOf(document).contains("That name is already used"));
+        QCOMPARE(ExportSetup(), document);
+    }
+
+    void ImportFaults_data() {
+        QTest::addColumn<QByteArray>("document");
+        QTest::addColumn<QString>("fault"); // in part; empty: it is taken
+        const auto row = [](const char* name, const QByteArray& document, const char* fault) {
+            QTest::newRow(name) << document << QString::fromUtf8(fault);
+        };
+        row("good tour",
+            TourWith(R"("tolerance":59,"points":[{"minutes":1439,"button":"a00001"},)"
+                     R"({"minutes":1321,"button":"A00002"},{"minutes":0,"button":"A00001"}])"),
+            "");
+        row("no JSON", "{\"groups\": [}", "no JSON");
+        row("no object", "[]", "an object");
+        row("unknown list", R"({"Groups":[]})", "\"Groups\" is not known here");
+        row("no list", R"({"groups":{}})", "\"groups\" must be a list");
+        row("no entry", R"({"groups":[1]})", "group 1: must be an object");
+        row("bad type", R"({"groups":[{"type":"Site","name":"x"}]})", "group 1 \"x\": \"type\"");
+        row("no name", R"({"groups":[{"type":"site","name":"  "}]})",
+            "You must enter a name for this group");
+        row("name is a number", R"({"groups":[{"type":"site","name":7}]})", "\"name\" must be");
+        row("same name", R"({"groups":[{"type":"site","name":"A"},{"type":"site","name":"A"}]})",
+            "group 2 \"A\": That name is already used.");
+        row("same name, other type",
+            R"({"groups":[{"type":"site","name":"A"},{"type":"event book","name":"A"}]})", "");
+        row("short code", Site(R"({"code":"A0001","name":"A"})") + "}",
+            "group 1 \"Quay\", button 1 \"A\": \"code\": Illegal Value");
+        row("code twice",
+            Site(R"({"code":"a00001","name":"A"},{"code":"A00001","name":"B"})") + "}",
+            "button 2 \"B\": \"code\": That key is already used!");
+        row("button named twice",
+            Site(R"({"code":"A00001","name":"A"},{"code":"A00002","name":"A"})") + "}",
+            "button 2 \"A\": That name is already used.");
+        row("misspelt", Site(R"({"code":"A00001","name":"A","desc":""})") + "}",
+            "\"desc\" is not known here");
+        row("reader", R"({"readers":[{"id":"4b5831a7","description":"R"}]})", "");
+        row("bad reader", R"({"readers":[{"id":"4B5831A","description":"R"}]})", "Illegal Value");
+        row("reader twice",
+            R"({"readers":[{"id":"00000001","description":"R"},{"id":"00000001","description":"S"}]})",
+            "reader 2 \"00000001\": This Reader ID already exists!");
+        row("reader without a name", R"({"readers":[{"id":"00000001","description":""}]})",
+            "You must enter a name for this item");
+        row("start", R"({"tours":[{"name":"T","start":"24:00","tolerance":5}]})", "\"start\"");
+        row("tolerance", TourWith(R"("tolerance":60)"), "tour 1 \"Round\": The tolerance value");
+        row("half a minute", TourWith(R"("tolerance":5.5)"), "The tolerance value");
+        row("tolerance as text", TourWith(R"("tolerance":"5")"), "The tolerance value");
+        row("interval", TourWith(R"("tolerance":5,"points":[{"minutes":1440,"button":"A00001"}])"),
+            "tour 1 \"Round\", point 1 \"A00001\": Only valid numbers");
+        row("neighbours",
+            TourWith(R"("tolerance":5,"points":[{"minutes":0,"button":"A00001"},)"
+                     R"({"minutes":5,"button":"A00001"}])"),
+            "Cannot assign two sequential tour points");
+        row("total",
+            TourWith(R"("tolerance":59,"points":[{"minutes":0,"button":"A00001"},)"
+                     R"({"minutes":1322,"button":"A00002"}])"),
+            "The total tour time");
+        row("unknown location",
+            TourWith(R"("tolerance":5,"points":[{"minutes":0,"button":"A00003"}])"),
+            "point 1 \"A00003\": no location has this code");
+        row("deleted location",
+            TourWith(R"("tolerance":5,"points":[{"minutes":0,"button":"A00003","deleted":true}])"),
+            "");
+    }
+    void ImportFaults() {
+        QFETCH(QByteArray, document);
+        QFETCH(QString, fault);
+        const TestHome home(TestHome::EmptyStore);
+        const QStringList before = ContentOfStore();
+        const QString told = FaultOf(document);
+        QVERIFY2(fault.isEmpty() ? told.isEmpty() : told.contains(fault), qPrintable(told));
+        QCOMPARE(ContentOfStore() == before, !fault.isEmpty());
+    }
+
+    // What the store holds already counts too.
+    void ImportIntoAFullStore() {
+        const TestHome home(TestHome::DemoSite);
+        QVERIFY(FaultOf(Site(R"({"code":"1A40C2","name":"A"})") + "}").contains("already used!"));
+        QVERIFY(FaultOf(R"({"readers":[{"id":"4B5831A7","description":"x"}]})").contains("exists"));
+        QCOMPARE(FaultOf(R"({"tours":[{"name":"Third","start":"06:00","tolerance":0,)"
+                         R"("points":[{"minutes":3,"button":"1A40C2"}]}]})"),
+                 "");
+        QCOMPARE(Tours().size(), 3);
+    }
+};
+
+QTEST_GUILESS_MAIN(SetupTest)
+#include "SetupTest.moc"
