@@ -1,6 +1,503 @@
-#include <QTest>
+// The setup page and its editors, driven by their controls' names.
+
+#include "Clock.h"
+#include "CommPort.h"
+#include "Dock.h"
+#include "DockingLink.h"
+#include "Recordset.h"
+#include "Script.h"
+#include "ScriptedBoxes.h"
+#include "Settings.h"
+#include "TestHome.h"
+#include "frmCopyTour.h"
+#include "frmEditTour.h"
+#include "frmMDISetup.h"
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QTimeEdit>
+#include <QTreeView>
+
+namespace {
+
+enum Tab { Sites, EventBooks, TourTab, ReaderTab };
+
+template <typename T>
+T* In(QWidget& window, const char* name) {
+    T* control = window.findChild<T*>(QString::fromLatin1(name));
+    if (!control)
+        qFatal("no control %s", name);
+    return control;
+}
+
+/// A list's rows, a row a text, its columns parted by "|".
+QStringList RowsIn(const QTreeView& list) {
+    QStringList rows;
+    for (int row = 0; row < list.model()->rowCount(); ++row) {
+        QStringList texts;
+        for (int column = 0; column < list.model()->columnCount(); ++column)
+            texts += list.model()->index(row, column).data().toString();
+        rows += texts.join(u'|');
+    }
+    return rows;
+}
+
+QPoint CentreOf(const QTreeView& list, int row) {
+    return list.visualRect(list.model()->index(row, 0)).center();
+}
+
+/// Drags a row, by real mouse events, to a place in the viewport of a list. `during` looks before
+/// the button is let go.
+void Drag(QTreeView& from, int row, QTreeView& to, const QPoint& target,
+          const std::function<void()>& during = {}) {
+    QWidget* source = from.viewport();
+    const QPoint start = CentreOf(from, row);
+    const QPoint end = source->mapFromGlobal(to.viewport()->mapToGlobal(target));
+    QTest::mousePress(source, Qt::LeftButton, {}, start);
+    for (int step = 1; step <= 4; ++step) {
+        const QPoint place = start + (end - start) * step / 4;
+        QMouseEvent move(QEvent::MouseMove, place, source->mapToGlobal(place), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QApplication::sendEvent(source, &move);
+    }
+    if (during)
+        during();
+    QTest::mouseRelease(source, Qt::LeftButton, {}, end);
+}
+
+} // namespace
+
 class SetupWindowsTest : public QObject {
     Q_OBJECT
+
+    std::unique_ptr<TestHome> m_home;
+    ScriptedBoxes m_boxes;
+    DockingLink m_link;
+
+    /// The page on a tab.
+    std::unique_ptr<frmMDISetup> Page(Tab tab) {
+        auto page = std::make_unique<frmMDISetup>(m_link, nullptr);
+        page->resize(800, 500);
+        page->show();
+        page->Start();
+        page->setFocus();
+        In<QTabBar>(*page, "tabSetup")->setCurrentIndex(tab);
+        return page;
+    }
+
+    /// The tour editor on the night tour of the demonstration site.
+    std::unique_ptr<frmEditTour> Editor() {
+        auto editor = std::make_unique<frmEditTour>(nullptr);
+        editor->GroupID = 2;
+        editor->ListName = QStringLiteral("Night round");
+        editor->Tolerance = 5;
+        editor->StartTime = DateTime::FromTime(23, 15);
+        editor->ExistingNames = {QStringLiteral("Day round"), QStringLiteral("Night round")};
+        editor->Populate();
+        editor->show();
+        return editor;
+    }
+
+private slots:
+    void init() {
+        m_home = std::make_unique<TestHome>(TestHome::DemoSite);
+        gDockingDetected = true;
+        m_boxes.TakeTexts();
+        m_boxes.Answers.clear();
+    }
+    void cleanup() {
+        m_link.ClosePort();
+        m_home.reset();
+        gDockingDetected = false;
+    }
+
+    void TabsAndLists() {
+        auto page = std::make_unique<frmMDISetup>(m_link, nullptr);
+        QString title;
+        connect(page.get(), &frmMDISetup::TitleChanged, [&](const QString& text) { title = text; });
+        page->show();
+        page->Start();
+        QCOMPARE(title, "Setup: Sites");
+        auto* list = In<QTreeView>(*page, "lvwProgram");
+        auto* copy = In<QPushButton>(*page, "cmdTourCopy");
+        QCOMPARE(RowsIn(*list), (QStringList{"Harbour Warehouse|Pier 4, north side",
+                                             "Office Tower|Kestrel Street 12"}));
+        QVERIFY(copy->isHidden() && page->EditedNameOK("Kestrel Street 12"));
+        auto* tabs = In<QTabBar>(*page, "tabSetup");
+        tabs->setCurrentIndex(TourTab);
+        QCOMPARE(title, "Setup: Tours");
+        QVERIFY(copy->isVisible());
+        QCOMPARE(RowsIn(*list),
+                 (QStringList{"Day round|14:00|Office Tower, once a day",
+                              "Night round|23:15|Harbour Warehouse, over midnight"}));
+        // A header sorts, a second click turns round, another column begins upwards.
+        const auto clickHeader = [&](int column) {
+            QHeaderView* header = list->header();
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                              QPoint(header->sectionPosition(column) + 20, 8));
+            return RowsIn(*list).first().section(u'|', 0, 0);
+        };
+        QCOMPARE(clickHeader(0), "Night round");
+        QCOMPARE(list->currentIndex().data(), "Day round"); // the selection goes along
+        QCOMPARE(clickHeader(0), "Day round");
+        QCOMPARE(clickHeader(2), "Night round");
+        gDockingDetected = false;
+        tabs->setCurrentIndex(ReaderTab);
+        QVERIFY(!In<QPushButton>(*page, "cmdSetup_1")->isEnabled());
+        QVERIFY(In<QPushButton>(*page, "cmdSetup_0")->isEnabled() && copy->isHidden());
+    }
+
+    void AddingAndDeleting() {
+        const auto page = Page(EventBooks);
+        auto* list = In<QTreeView>(*page, "lvwProgram");
+        auto* add = In<QPushButton>(*page, "cmdSetup_1");
+        const auto current = [&] { return list->currentIndex().data().toString(); };
+        add->click();
+        add->click();
+        QCOMPARE(current(), "Event Book 002");
+        SelectPlace(*list, 0);
+        QTest::keyClick(list, Qt::Key_Delete);
+        QCOMPARE(RowsIn(*list).size(), 3); // the answer was No
+        QCOMPARE(m_boxes.TakeTexts(), {"Are you sure you want to delete it?"});
+        m_boxes.Answers = {MessageAnswer::Yes};
+        QTest::keyClick(list, Qt::Key_Delete);
+        QCOMPARE(RowsIn(*list),
+                 (QStringList{"Event Book 002|", "Incidents|Carried by every guard"}));
+        QCOMPARE(current(), "Event Book 002"); // the row at the old place
+        add->click();
+        QCOMPARE(current(), "Event Book 001"); // the number is free again
+        m_boxes.TakeTexts();
+        SelectPlace(*list, 2);
+        m_boxes.Answers = {MessageAnswer::Yes, MessageAnswer::Yes, MessageAnswer::Yes};
+        for (int i = 0; i < 3; ++i)
+            In<QPushButton>(*page, "cmdSetup_2")->click();
+        QCOMPARE(m_boxes.TakeTexts().first(),
+                 "The selected group contains sub-items\nAre you sure you want to delete it?");
+        QVERIFY(RowsIn(*list).isEmpty());
+        QVERIFY(!In<QPushButton>(*page, "cmdSetup_0")->isEnabled() &&
+                !In<QPushButton>(*page, "cmdSetup_2")->isEnabled());
+        QTest::keyClick(page.get(), Qt::Key_Delete); // nothing is left to be asked about
+        QCOMPARE(m_boxes.TakeTexts(), QStringList());
+        QCOMPARE(RowsOf("SELECT * FROM tblButtons WHERE tButtonCode LIKE '7E%'"), QStringList());
+    }
+
+    void Readers() {
+        Dock dock("reader 0A0B0C0D");
+        OverrideDevice(dock.Device());
+        QVERIFY(m_link.OpenPort(1));
+        const TestClock clock(15);
+        const auto page = Page(ReaderTab);
+        auto* list = In<QTreeView>(*page, "lvwProgram");
+        Script add;
+        const QString window = QStringLiteral("frmAddReader");
+        add.Click(window, QStringLiteral("cmdRead"));
+        add.Click(window, QStringLiteral("cmdOK"));
+        add.Start();
+        In<QPushButton>(*page, "cmdSetup_1")->click();
+        QVERIFY(add.Finish());
+        QCOMPARE(RowsIn(*list), (QStringList{"0A0B0C0D|Reader 1", "4B5831A7|Night reader"}));
+        QCOMPARE(list->currentIndex().row(), 0);
+
+        // The editor keeps what was typed when it refuses it.
+        Script edit;
+        const QString editor = QStringLiteral("frmEditReader");
+        QStringList kept;
+        for (const char* name : {"Night reader", "  ", " Day reader "}) {
+            edit.Then([=] {
+                auto* field = Script::Find<QLineEdit>(editor, QStringLiteral("txtDesc"));
+                if (field)
+                    field->setText(QString::fromLatin1(name));
+                return field != nullptr;
+            });
+            edit.Click(editor, QStringLiteral("cmdOK"));
+            edit.Then([&, refused = kept.size()] { return m_boxes.Messages.size() >= refused; });
+        }
+        edit.Start();
+        QTest::keyClick(list, Qt::Key_Return);
+        QVERIFY(edit.Finish());
+        QCOMPARE(RowsIn(*list).first(), "0A0B0C0D|Day reader");
+        m_boxes.TakeTexts();
+        m_boxes.Answers = {MessageAnswer::Yes};
+        In<QPushButton>(*page, "cmdSetup_2")->click();
+        QCOMPARE(m_boxes.TakeTexts(), {"Are you sure you want to delete this reader? 0A0B0C0D"});
+        QCOMPARE(RowsIn(*list).size(), 1);
+    }
+
+    // Buttons are written at once; a name that was typed meanwhile stays, and is the page's to
+    // take.
+    void GroupEditor() {
+        Dock dock("reader 0A0B0C0D");
+        OverrideDevice(dock.Device());
+        QVERIFY(m_link.OpenPort(1));
+        const auto page = Page(Sites);
+        auto* list = In<QTreeView>(*page, "lvwProgram");
+        const QString editor = QStringLiteral("frmListEdit");
+        const auto field = [&](const char* name) {
+            return Script::Find<QLineEdit>(editor, QString::fromLatin1(name));
+        };
+        const auto items = [&] {
+            return RowsIn(*Script::Find<QTreeView>(editor, QStringLiteral("lvwItems")));
+        };
+        Script script;
+        script.Then([&] {
+            if (!field("txtName"))
+                return false;
+            field("txtName")->setText(QStringLiteral("Office Tower"));
+            return true;
+        });
+        script.Click(editor, QStringLiteral("cmdOK"));
+        QString focused;
+        script.Then([&] {
+            if (m_boxes.Messages.isEmpty())
+                return false;
+            focused = field("txtName")->selectedText();
+            field("txtName")->setText(QStringLiteral("Quay"));
+            return true;
+        });
+        script.Click(editor, QStringLiteral("cmdSetup_1"));
+        script.Then([&] {
+            if (!Script::Find<QLabel>(QStringLiteral("frmAddButton"), QStringLiteral("lblID")))
+                return false;
+            dock.Say("button 00000A");
+            return true;
+        });
+        script.Then([&] {
+            auto* name =
+                Script::Find<QLineEdit>(QStringLiteral("frmAddButton"), QStringLiteral("txtName"));
+            if (name)
+                name->setText(QStringLiteral("Bollard 1"));
+            return name != nullptr;
+        });
+        script.Click(QStringLiteral("frmAddButton"), QStringLiteral("cmdOK"));
+        QStringList afterAdding;
+        script.Then([&] {
+            if (!field("txtName") || items().size() != 5)
+                return false;
+            afterAdding = items() + QStringList{field("txtName")->text()};
+            return true;
+        });
+        script.Click(editor, QStringLiteral("cmdSetup_0"));
+        script.Then([&] {
+            auto* name =
+                Script::Find<QLineEdit>(QStringLiteral("frmEditButton"), QStringLiteral("txtName"));
+            if (name)
+                name->setText(QStringLiteral("Aft bollard"));
+            return name != nullptr;
+        });
+        script.Click(QStringLiteral("frmEditButton"), QStringLiteral("cmdOK"));
+        QStringList afterEditing;
+        script.Then([&] {
+            if (!items().first().contains(u"Aft"))
+                return false;
+            afterEditing = items();
+            m_boxes.Answers = {MessageAnswer::Yes};
+            return true;
+        });
+        script.Click(editor, QStringLiteral("cmdSetup_2"));
+        script.Then([&] { return items().size() == 4; });
+        script.Click(editor, QStringLiteral("cmdOK"));
+        script.Start();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, CentreOf(*list, 0));
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, CentreOf(*list, 0));
+        QVERIFY(script.Finish());
+        QCOMPARE(focused, "Office Tower");
+        QCOMPARE(afterAdding,
+                 (QStringList{"00000A|Bollard 1|", "1A41D0|Cold store|Compressor room door",
+                              "1A40C7|Loading bay 2|Beside the roller door",
+                              "1A40C2|Main gate|Left post, knee height",
+                              "1A422B|Quay stairs|Top step rail", "Quay"}));
+        QCOMPARE(afterEditing.first(), "00000A|Aft bollard|");
+        QCOMPARE(m_boxes.TakeTexts(),
+                 (QStringList{"That name is already used.  Please enter another name.",
+                              "Are you sure you want to delete this item?"}));
+        QCOMPARE(RowsIn(*list).last(), "Quay|Pier 4, north side");
+        QVERIFY(!gCommActive);
+    }
+
+    void TourPage() {
+        const auto page = Page(TourTab);
+        auto* list = In<QTreeView>(*page, "lvwProgram");
+        In<QPushButton>(*page, "cmdSetup_1")->click();
+        QCOMPARE(RowsIn(*list).last(), "Tour 001|00:00| ");
+        // A tour without points cannot be copied; one with points can, under a fresh name.
+        for (const int tour : {2, 1}) {
+            Script script;
+            script.Then([&] {
+                auto* tours = Script::Find<QComboBox>(QStringLiteral("frmCopyTour"),
+                                                      QStringLiteral("cboTours"));
+                if (tours)
+                    tours->setCurrentIndex(tour);
+                return tours != nullptr;
+            });
+            script.Click(QStringLiteral("frmCopyTour"), QStringLiteral("cmdOK"));
+            script.Start();
+            In<QPushButton>(*page, "cmdTourCopy")->click();
+            QVERIFY(script.Finish());
+        }
+        QCOMPARE(m_boxes.TakeTexts(), {"Cannot find any Tour Points to copy"});
+        QCOMPARE(list->currentIndex().data(), "Tour 002");
+        QCOMPARE(
+            RowsOf("SELECT tButtonCode FROM tblTourPoints WHERE lParentID = 4 ORDER BY lIndex"),
+            (QStringList{"1A40C2", "1A40C7", "1A41D0", "1A422B", "1A40C2"}));
+        In<QPushButton>(*page, "cmdSetup_2")->click();
+        QCOMPARE(m_boxes.TakeTexts(), {"The selected Tour contains data.\nAre you sure you want to "
+                                       "delete this tour?"});
+        gConn->Execute("DELETE * FROM tblButtons");
+        In<QPushButton>(*page, "cmdSetup_0")->click();
+        QCOMPARE(m_boxes.TakeTexts(),
+                 {"You must add at least one location before you can define a tour"});
+    }
+
+    void TourEditorMoves() {
+        const auto editor = Editor();
+        auto* locations = In<QTreeView>(*editor, "lvwLocations");
+        auto* selected = In<QTreeView>(*editor, "lvwSelected");
+        const auto tour = [&] {
+            QStringList points;
+            for (const QString& row : RowsIn(*selected))
+                points += row.section(u'|', 0, 0) + row.section(u'|', 2, 2).left(2);
+            return points.join(u' ');
+        };
+        const auto move = [&](int button) {
+            In<QPushButton>(*editor, qPrintable(QStringLiteral("cmdMove_%1").arg(button)))->click();
+        };
+        QCOMPARE(RowsIn(*selected).last(), "25|Harbour Warehouse|Main gate|00:40");
+        QCOMPARE(tour(), "0Ma 20Lo 20Co 20Qu 25Ma");
+        move(2); // the first cannot go further up
+        move(3);
+        QCOMPARE(tour(), "20Lo 0Ma 20Co 20Qu 25Ma");
+        QCOMPARE(selected->currentIndex().row(), 1);
+        move(2);
+        move(1);
+        QCOMPARE(tour(), "20Lo 20Co 20Qu 25Ma");
+        In<QTimeEdit>(*editor, "dtpStartTime")->setTime(QTime(8, 0));
+        QCOMPARE(RowsIn(*selected).last(), "25|Harbour Warehouse|Main gate|09:25");
+
+        // From the other site, two in a row; the pointer of the list goes on by itself.
+        In<QComboBox>(*editor, "imgCboSites")->setCurrentIndex(1);
+        move(0);
+        move(0);
+        QCOMPARE(tour(), "20Lo 20Co 20Qu 25Ma 10Re 10Se");
+        QCOMPARE(RowsIn(*selected).last(), "10|Office Tower|Server room|09:45");
+
+        // By the mouse: in front of the row under the pointer, behind the last, out, and called
+        // off.
+        auto* cue = In<QLabel>(*editor, "picInsertPtr");
+        QVERIFY(cue->isHidden());
+        Drag(*locations, 2, *selected, CentreOf(*selected, 1), [&] {
+            QVERIFY(cue->isVisible() && In<QLabel>(*editor, "lblDragDrop")->isVisible());
+            QVERIFY(std::abs(cue->geometry().center().y() -
+                             selected->visualRect(selected->model()->index(1, 0)).top()) <= 2);
+        });
+        QVERIFY(cue->isHidden());
+        QCOMPARE(tour(), "20Lo 10Ro 20Co 20Qu 25Ma 10Re 10Se");
+        Drag(*selected, 0, *selected, CentreOf(*selected, 6) + QPoint(0, 60));
+        QCOMPARE(tour(), "10Ro 20Co 20Qu 25Ma 10Re 10Se 20Lo");
+        Drag(*selected, 6, *selected, CentreOf(*selected, 0));
+        Drag(*selected, 1, *locations, QPoint(30, 100));
+        QCOMPARE(tour(), "20Lo 20Co 20Qu 25Ma 10Re 10Se");
+        Drag(*selected, 0, *selected, CentreOf(*selected, 3),
+             [&] { QTest::keyClick(selected, Qt::Key_Escape); });
+        QCOMPARE(tour(), "20Lo 20Co 20Qu 25Ma 10Re 10Se");
+
+        // Delete takes a point away, but in a text it takes a letter.
+        SelectPlace(*selected, 5);
+        selected->setFocus();
+        QTest::keyClick(selected, Qt::Key_Delete);
+        QTest::keyClick(In<QLineEdit>(*editor, "txtName"), Qt::Key_Delete);
+        QCOMPARE(tour(), "20Lo 20Co 20Qu 25Ma 10Re");
+        move(4);
+        QVERIFY(tour().isEmpty());
+        for (const char* button : {"cmdMove_1", "cmdMove_2", "cmdMove_3", "cmdEditTime"})
+            QVERIFY(!In<QPushButton>(*editor, button)->isEnabled());
+        QVERIFY(In<QPushButton>(*editor, "cmdMove_0")->isEnabled());
+        editor->close();
+        QCOMPARE(RowsOf("SELECT * FROM tblTourPoints WHERE lParentID = 2").size(), 5);
+    }
+
+    // An interval that was confirmed is the one of new points, also in the next editor.
+    void IntervalIsKept() {
+        auto editor = Editor();
+        SelectPlace(*In<QTreeView>(*editor, "lvwSelected"), 1);
+        Script script;
+        for (const char* minutes : {"1440", "-1", "x", "90"}) {
+            script.Then([=] {
+                auto* field = Script::Find<QLineEdit>(QStringLiteral("frmEditTime"),
+                                                      QStringLiteral("txtTime"));
+                if (field)
+                    field->setText(QString::fromLatin1(minutes));
+                return field != nullptr;
+            });
+            script.Click(QStringLiteral("frmEditTime"), QStringLiteral("cmdOK"));
+            script.Then([] { return true; });
+        }
+        script.Start();
+        In<QPushButton>(*editor, "cmdEditTime")->click();
+        QVERIFY(script.Finish());
+        QCOMPARE(m_boxes.TakeTexts(),
+                 QStringList(3, "Only valid numbers from 0 to 1439 can be entered"));
+        QCOMPARE(RowsIn(*In<QTreeView>(*editor, "lvwSelected"))[1],
+                 "90|Harbour Warehouse|Loading bay 2|00:45");
+        editor = Editor();
+        In<QPushButton>(*editor, "cmdMove_0")->click();
+        QVERIFY(RowsIn(*In<QTreeView>(*editor, "lvwSelected")).last().startsWith("90|"));
+    }
+
+    void TourEditorChecks_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("tolerance");
+        QTest::addColumn<int>("remove"); // a point; -1: none
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("focus");
+        const auto row = [](const char* name, const char* tourName, const char* tolerance,
+                            int remove, const char* message, const char* focus) {
+            QTest::newRow(name) << QString::fromLatin1(tourName) << QString::fromLatin1(tolerance)
+                                << remove << QString::fromLatin1(message)
+                                << QString::fromLatin1(focus);
+        };
+        row("as it was", "Night round", "5", -1, "", "");
+        row("new name, edge", " Late round ", "59", -1, "", "");
+        row("half a minute", "Night round", "5.5", -1, "", "");
+        row("name of another", "Day round ", "60", 4,
+            "That name is already used.  Please enter another name.", "txtName");
+        row("no name", "  ", "60", -1, "You must enter a name for this group", "txtName");
+        row("neighbours", "Night round", "x", 4,
+            "Cannot assign two sequential tour points with the same location", "lvwSelected");
+        row("tolerance", "Night round", "60", -1,
+            "The tolerance value can only range from 0 to 59 minutes", "txtTolerance");
+        row("no tolerance", "Night round", "", -1,
+            "The tolerance value can only range from 0 to 59 minutes", "txtTolerance");
+    }
+    void TourEditorChecks() {
+        QFETCH(QString, name);
+        QFETCH(QString, tolerance);
+        QFETCH(int, remove);
+        QFETCH(QString, message);
+        const auto editor = Editor();
+        In<QLineEdit>(*editor, "txtName")->setText(name);
+        In<QLineEdit>(*editor, "txtTolerance")->setText(tolerance);
+        if (remove > 0) { // the main gate comes to stand beside itself
+            SelectPlace(*In<QTreeView>(*editor, "lvwSelected"), 4);
+            for (int i = 0; i < 3; ++i)
+                In<QPushButton>(*editor, "cmdMove_2")->click();
+        }
+        In<QPushButton>(*editor, "cmdOK")->click();
+        QCOMPARE(m_boxes.TakeTexts().join(u'|'), message);
+        QCOMPARE(editor->OK, message.isEmpty());
+        QCOMPARE(editor->isVisible(), !message.isEmpty());
+        QCOMPARE(In<QLineEdit>(*editor, "txtName")->text(), name);
+        if (editor->OK) {
+            QCOMPARE(editor->ListName, name.trimmed());
+            QCOMPARE(editor->Tolerance, tolerance == u"5.5" ? 6 : tolerance.toInt());
+        } else {
+            QTEST(editor->focusWidget()->objectName(), "focus");
+        }
+        QCOMPARE(RowsOf("SELECT * FROM tblTourPoints WHERE lParentID = 2").size(), 5);
+    }
 };
+
 QTEST_MAIN(SetupWindowsTest)
 #include "SetupWindowsTest.moc"

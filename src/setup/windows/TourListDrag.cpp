@@ -15,19 +15,20 @@ constexpr int ScrollInterval = 80; ///< ms a row
 
 TourListDrag::TourListDrag(QTreeView& lvwLocations, QTreeView& lvwSelected)
     : QObject(&lvwSelected), m_lvwLocations(lvwLocations), m_lvwSelected(lvwSelected),
-      m_lblDragDrop(lvwSelected.window()), m_picInsertPtr(lvwSelected.viewport()) {
-    m_lblDragDrop.setObjectName(QStringLiteral("lblDragDrop"));
-    m_picInsertPtr.setObjectName(QStringLiteral("picInsertPtr"));
-    for (QLabel* label : {&m_lblDragDrop, &m_picInsertPtr}) {
+      m_lblDragDrop(new QLabel(lvwSelected.window())),
+      m_picInsertPtr(new QLabel(lvwSelected.viewport())) {
+    m_lblDragDrop->setObjectName(QStringLiteral("lblDragDrop"));
+    m_picInsertPtr->setObjectName(QStringLiteral("picInsertPtr"));
+    for (QLabel* label : {m_lblDragDrop, m_picInsertPtr}) {
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
         label->setAutoFillBackground(true);
         label->hide();
     }
-    m_lblDragDrop.setFrameShape(QFrame::Box);
-    m_lblDragDrop.setBackgroundRole(QPalette::ToolTipBase);
-    m_lblDragDrop.setForegroundRole(QPalette::ToolTipText);
-    m_lblDragDrop.setMargin(3);
-    m_picInsertPtr.setBackgroundRole(QPalette::Highlight);
+    m_lblDragDrop->setFrameShape(QFrame::Box);
+    m_lblDragDrop->setBackgroundRole(QPalette::ToolTipBase);
+    m_lblDragDrop->setForegroundRole(QPalette::ToolTipText);
+    m_lblDragDrop->setMargin(3);
+    m_picInsertPtr->setBackgroundRole(QPalette::Highlight);
     m_scroll.setInterval(ScrollInterval);
     connect(&m_scroll, &QTimer::timeout, this, &TourListDrag::Follow);
     for (QTreeView* list : {&lvwLocations, &lvwSelected}) {
@@ -107,15 +108,15 @@ void TourListDrag::Begin() {
     for (int column = 0; column < row.model()->columnCount(); ++column)
         if (const QString text = row.siblingAtColumn(column).data().toString(); !text.isEmpty())
             texts += text;
-    m_lblDragDrop.setText(texts.join(QStringLiteral("  ")));
-    m_lblDragDrop.adjustSize();
-    m_lblDragDrop.show();
-    m_lblDragDrop.raise();
+    m_lblDragDrop->setText(texts.join(QStringLiteral("  ")));
+    m_lblDragDrop->adjustSize();
+    m_lblDragDrop->show();
+    m_lblDragDrop->raise();
     m_scroll.start();
 }
 
 void TourListDrag::Follow() {
-    m_lblDragDrop.move(m_lblDragDrop.parentWidget()->mapFromGlobal(m_pointer) + QPoint(14, 10));
+    m_lblDragDrop->move(m_lblDragDrop->parentWidget()->mapFromGlobal(m_pointer) + QPoint(14, 10));
     const bool overSelected = ListUnder(m_pointer) == &m_lvwSelected;
     if (overSelected) {
         const int y = m_lvwSelected.viewport()->mapFromGlobal(m_pointer).y();
@@ -126,7 +127,7 @@ void TourListDrag::Follow() {
             bar->setValue(bar->value() + bar->singleStep());
         ShowCue(InsertPositionAt(m_pointer));
     }
-    m_picInsertPtr.setVisible(overSelected);
+    m_picInsertPtr->setVisible(overSelected);
 }
 
 void TourListDrag::ShowCue(int position) {
@@ -136,14 +137,14 @@ void TourListDrag::ShowCue(int position) {
         y = m_lvwSelected.visualRect(model.index(position, 0)).top();
     else if (position > 0)
         y = m_lvwSelected.visualRect(model.index(position - 1, 0)).bottom();
-    m_picInsertPtr.setGeometry(0, std::max(0, y - CueHeight / 2), m_lvwSelected.viewport()->width(),
-                               CueHeight);
-    m_picInsertPtr.raise();
+    m_picInsertPtr->setGeometry(0, std::max(0, y - CueHeight / 2),
+                                m_lvwSelected.viewport()->width(), CueHeight);
+    m_picInsertPtr->raise();
 }
 
 void TourListDrag::End() {
     m_dragging = false;
     m_scroll.stop();
-    m_lblDragDrop.hide();
-    m_picInsertPtr.hide();
+    m_lblDragDrop->hide();
+    m_picInsertPtr->hide();
 }

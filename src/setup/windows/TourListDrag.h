@@ -30,8 +30,8 @@ private:
 
     QTreeView& m_lvwLocations;
     QTreeView& m_lvwSelected;
-    QLabel m_lblDragDrop;
-    QLabel m_picInsertPtr;
+    QLabel* m_lblDragDrop;  ///< the window's
+    QLabel* m_picInsertPtr; ///< the second list's
     QTimer m_scroll;
     QTreeView* m_source = nullptr; ///< where the button went down on a row
     QPoint m_pressed;

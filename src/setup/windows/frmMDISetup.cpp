@@ -138,7 +138,7 @@ void frmMDISetup::FillListAfterDelete(int place) {
 
 void frmMDISetup::keyPressEvent(QKeyEvent* event) {
     Guarded("Form_KeyDown of Form frmMDISetup", ErrorShow::Dialog, [&] {
-        const bool onList = m_ui->lvwProgram->hasFocus();
+        const bool onList = focusWidget() == m_ui->lvwProgram;
         if (event->key() == Qt::Key_Delete)
             (this->*Present().remove)();
         else if (onList && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
