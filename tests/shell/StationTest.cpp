@@ -4,12 +4,14 @@
 #include "Connection.h"
 #include "DemoStore.h"
 #include "Dock.h"
+#include "RecordingViewer.h"
 #include "Recordset.h"
 #include "RunTimeError.h"
 #include "Schema.h"
 #include "Script.h"
 #include "Settings.h"
 #include "StationApplication.h"
+#include "TourReportBuilder.h"
 #include "frmMain.h"
 #include "frmUserMaintenance.h"
 #include "mMain.h"
@@ -25,6 +27,8 @@
 #include <QMenu>
 #include <QRadioButton>
 #include <QSettings>
+#include <QTabBar>
+#include <QTimeEdit>
 
 namespace {
 
@@ -178,6 +182,109 @@ private slots:
         QCOMPARE(Saved(SettingsSection::Settings, "ShowAllStatus"), QStringLiteral("True"));
         QVERIFY(!TableExists(QStringLiteral("tblXXXException")));
         QVERIFY(LogText().contains(QStringLiteral("Logged in as user type = 1")));
+    }
+
+    // From the delivered store to a report, through the windows alone.
+    void SetsUpANewInstallation() {
+        gConn.reset();
+        QFile::remove(m_home->filePath(QStringLiteral("main.mdb")));
+        CreateStoreFile(m_home->filePath(QStringLiteral("main.mdb")), StorePassword);
+        {
+            Connection store;
+            store.Open(ConnectionText(m_home->filePath(QStringLiteral("main.mdb")), StorePassword));
+            CreateTables(store);
+        }
+        Dock dock("reader 0A0B0C0D\n"
+                  "touch 2026-11-21 23:14 00000A\n"
+                  "touch 2026-11-21 23:36 00000B\n"
+                  "touch 2026-11-21 23:37 7E0001\n");
+        OverrideDevice(dock.Device());
+        Script login; // the first try makes the operator known
+        LogIn(login, QStringLiteral("keeper"));
+        login.Answer(QStringLiteral("OK"));
+        LogIn(login, QStringLiteral("keeper"));
+        login.Start();
+        QVERIFY(Main({}));
+        const QString page = QStringLiteral("frmMDISetup"), list = QStringLiteral("frmListEdit"),
+                      capture = QStringLiteral("frmAddButton"),
+                      tour = QStringLiteral("frmEditTour");
+        Script script;
+        const auto type = [&](const QString& window, const char* field, const char* text) {
+            script.Then([=] {
+                auto* edit = Script::Find<QLineEdit>(window, QString::fromLatin1(field));
+                if (edit)
+                    edit->setText(QString::fromLatin1(text));
+                return edit != nullptr;
+            });
+        };
+        const auto addButton = [&](const char* code, const char* name) {
+            script.Click(list, QStringLiteral("cmdSetup_1"));
+            type(capture, "txtName", name);
+            script.Then([=, &dock] {
+                dock.Say(QByteArray("button ") + code);
+                return true;
+            });
+            script.Click(capture, QStringLiteral("cmdOK")); // once the code has come
+            script.Then([=] { return !Script::Find<QLabel>(capture, QStringLiteral("lblID")); });
+        };
+        const auto showTab = [&](int tab) {
+            script.Then([=] {
+                Script::Find<QTabBar>(page, QStringLiteral("tabSetup"))->setCurrentIndex(tab);
+                return true;
+            });
+        };
+        script.Click(page, QStringLiteral("cmdSetup_1"));
+        script.Click(page, QStringLiteral("cmdSetup_0"));
+        type(list, "txtName", "Quay");
+        addButton("00000A", "Bollard");
+        addButton("00000B", "Crane");
+        script.Click(list, QStringLiteral("cmdOK"));
+        showTab(1);
+        script.Click(page, QStringLiteral("cmdSetup_1"));
+        script.Click(page, QStringLiteral("cmdSetup_0"));
+        addButton("7E0001", "Light on");
+        script.Click(list, QStringLiteral("cmdOK"));
+        showTab(3);
+        script.Click(page, QStringLiteral("cmdSetup_1"));
+        script.Click(QStringLiteral("frmAddReader"), QStringLiteral("cmdRead"));
+        script.Click(QStringLiteral("frmAddReader"), QStringLiteral("cmdOK"));
+        script.Then([] { return CountReaders() == 1; });
+        showTab(2);
+        script.Click(page, QStringLiteral("cmdSetup_1"));
+        script.Click(page, QStringLiteral("cmdSetup_0"));
+        type(tour, "txtName", "Night");
+        script.Then([=] {
+            Script::Find<QTimeEdit>(tour, QStringLiteral("dtpStartTime"))->setTime(QTime(23, 5));
+            return true;
+        });
+        for (int i = 0; i < 2; ++i)
+            script.Click(tour, QStringLiteral("cmdMove_0"));
+        script.Click(tour, QStringLiteral("cmdEditTime")); // of the crane, that came last
+        type(QStringLiteral("frmEditTime"), "txtTime", "20");
+        script.Click(QStringLiteral("frmEditTime"), QStringLiteral("cmdOK"));
+        script.Click(tour, QStringLiteral("cmdOK"));
+        script.Then([] { return CountTours() == 1; });
+        script.Start();
+        MainWindow()->GoSetup();
+        QVERIFY(script.Finish());
+
+        MainWindow()->GoOnline();
+        Script::Find<QAbstractButton>(QStringLiteral("frmMdiDownload"),
+                                      QStringLiteral("cmdOnline_0"))
+            ->click();
+        RecordingViewer viewer;
+        BuildTourReport({1, DateTime::FromQt(QDate(2026, 11, 21)), QStringLiteral("0A0B0C0D"),
+                         QStringLiteral("Reader 1"), true, true},
+                        viewer);
+        QStringList rows;
+        for (const QString& row : viewer.Rows)
+            if (!row.contains(u"____"))
+                rows += row;
+        QCOMPARE(rows, (QStringList{"1|23:15|23:10 to 23:20|||Quay - Bollard|ON TIME||||",
+                                    "||||||||23:14|ON TIME|Quay - Bollard",
+                                    "2|23:35|23:30 to 23:40|||Quay - Crane|ON TIME||||",
+                                    "||||||||23:36|ON TIME|Quay - Crane",
+                                    "||||||||23:37|EVENT|Event Book 001 - Light on"}));
     }
 
     void FourWrongPasswordsEndTheProgram() {
