@@ -62,7 +62,7 @@ public:
     /// Sets a column of the row being added, or of the current row.
     void Set(QStringView name, Value value);
     /// Writes what was set. A row added gets its automatic ID here. The row that was written is
-    /// then the current one.
+    /// then the current one; a server cursor stays where it was.
     void Update();
 
     /// What the set holds and how much memory its values take, for measuring.

@@ -8,10 +8,10 @@ namespace {
 /// A statement's rows, to be read, added to and changed.
 class Rows : public Recordset {
 public:
-    /// For adding alone a server cursor will do: it fetches nothing.
-    explicit Rows(const QString& statement, CursorLocationKind cursor = adUseClient) {
-        CursorLocation = cursor;
-        Open(statement, *gConn);
+    /// For adding alone, where no ID is asked for, a forward cursor will do: it fetches nothing.
+    explicit Rows(const QString& statement, CursorType cursor = adOpenStatic) {
+        CursorLocation = cursor == adOpenStatic ? adUseClient : adUseServer;
+        Open(statement, *gConn, cursor);
     }
     bool Any() { return RecordCount() > 0; }
     int Id() { return static_cast<int>(Number(u"ID")); }
@@ -45,7 +45,7 @@ QList<Group> GroupsOf(GroupType type) {
 }
 
 int AddGroup(GroupType type, const QString& name) {
-    Rows rows(AllGroups, adUseServer);
+    Rows rows(AllGroups);
     rows.AddNew();
     rows.Set(u"tName", name);
     rows.Set(u"tDesc", QString());
@@ -79,7 +79,7 @@ QList<Button> ButtonsOf(int groupId) {
 }
 
 void AddButton(int groupId, const Button& button) {
-    Rows rows(ById(ButtonsOfGroup, groupId), adUseServer);
+    Rows rows(ById(ButtonsOfGroup, groupId), adOpenForwardOnly);
     rows.AddNew();
     rows.Set(u"lParentID", groupId);
     rows.Set(u"tButtonName", button.name);
@@ -114,7 +114,7 @@ QList<Reader> Readers() {
 }
 
 void AddReader(const Reader& reader) {
-    Rows rows(AllReaders, adUseServer);
+    Rows rows(AllReaders, adOpenForwardOnly);
     rows.AddNew();
     rows.Set(u"tReaderId", reader.id);
     rows.Set(u"tDescription", reader.description);
@@ -144,7 +144,7 @@ QList<Tour> Tours() {
 }
 
 int AddTour(const QString& name) {
-    Rows rows(AllTours, adUseServer);
+    Rows rows(AllTours);
     rows.AddNew();
     rows.Set(u"tName", name);
     rows.Set(u"tDesc", QStringLiteral(" "));
@@ -175,7 +175,7 @@ void DeleteTour(int id) {
 int CopyTour(int from, const QString& name) {
     Transaction transaction(*gConn);
     const int id = AddTour(name);
-    Rows target(ById(PointsOfTour, id), adUseServer);
+    Rows target(ById(PointsOfTour, id), adOpenForwardOnly);
     for (Rows source(ById(PointsOfTour, from)); !source.Eof(); source.MoveNext()) {
         target.AddNew();
         target.Set(u"lParentID", id);
