@@ -1001,7 +1001,7 @@
     </message>
     <message>
         <source>Are you sure you want to delete it?</source>
-        <translation>Soll sie wirklich gelöscht werden?</translation>
+        <translation>Soll diese Gruppe wirklich gelöscht werden?</translation>
     </message>
     <message>
         <source>The selected group contains sub-items</source>

@@ -122,7 +122,12 @@ public:
             Fail(fault);
         return static_cast<int>(number);
     }
-    bool Flag(const char* key) const { return m_fields[QLatin1String(key)].toBool(); }
+    bool Flag(const char* key) const {
+        const QJsonValue value = m_fields[QLatin1String(key)];
+        if (!value.isUndefined() && !value.isBool())
+            Fail(QStringLiteral("\"%1\" must be true or false").arg(QLatin1String(key)));
+        return value.toBool();
+    }
     /// The entries of a list, named by `what`, their number from 1, and the text under `nameKey`.
     QList<Entry> List(const char* key, const char* what, const char* nameKey) const {
         const QJsonValue value = m_fields[QLatin1String(key)];
@@ -246,10 +251,10 @@ private:
         TourDraft draft;
         for (const Entry& point : entry.List("points", "point", "button"))
             draft.Insert(draft.Count(), PointOf(point));
-        if (const char* fault = draft.NeighbourFault())
-            entry.Fail(Translate(fault));
-        if (const char* fault = draft.TotalTimeFault(tour.tolerance))
-            entry.Fail(Translate(fault));
+        if (draft.EqualNeighbour())
+            entry.Fail(Translate(NeighbourFault));
+        if (!draft.FitsADay(tour.tolerance))
+            entry.Fail(Translate(TotalTimeFault));
         tour.id = AddTour(tour.name);
         UpdateTour(tour);
         draft.Write(tour.id);

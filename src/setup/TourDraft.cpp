@@ -81,19 +81,18 @@ std::vector<DateTime> TourDraft::TimesFrom(DateTime start) const {
     return times;
 }
 
-const char* TourDraft::NeighbourFault() const {
+std::optional<int> TourDraft::EqualNeighbour() const {
     for (std::size_t i = 1; i < m_points.size(); ++i)
         if (m_points[i].buttonCode == m_points[i - 1].buttonCode)
-            return "Cannot assign two sequential tour points with the same location";
-    return nullptr;
+            return static_cast<int>(i);
+    return {};
 }
 
-const char* TourDraft::TotalTimeFault(int tolerance) const {
+bool TourDraft::FitsADay(int tolerance) const {
     int total = 2 * tolerance;
     for (std::size_t i = 1; i < m_points.size(); ++i)
         total += m_points[i].minutes;
-    return total < MinutesOfDay ? nullptr
-                                : "The total tour time can only range from 0 to 1439 minutes";
+    return total < MinutesOfDay;
 }
 
 std::optional<int> IntervalFromText(const QString& text) {

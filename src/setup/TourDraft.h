@@ -42,10 +42,11 @@ public:
     /// beyond 24 hours.
     std::vector<DateTime> TimesFrom(DateTime start) const;
 
-    /// Why the points cannot be saved, untranslated; null where they can.
-    const char* NeighbourFault() const;
-    /// The first interval does not count: it lies before the first point.
-    const char* TotalTimeFault(int tolerance) const;
+    /// The position of the first point that is at the same location as the one before it.
+    std::optional<int> EqualNeighbour() const;
+    /// True if the tour, with the tolerance before and behind it, takes less than a day. The first
+    /// interval does not count: it lies before the first point.
+    bool FitsADay(int tolerance) const;
 
 private:
     std::vector<Point> m_points;
@@ -60,5 +61,7 @@ std::optional<int> IntervalFromText(const QString& text);
 std::optional<int> ToleranceFromText(const QString& text);
 
 /// Messages, untranslated.
+constexpr char NeighbourFault[] = "Cannot assign two sequential tour points with the same location";
+constexpr char TotalTimeFault[] = "The total tour time can only range from 0 to 1439 minutes";
 constexpr char ToleranceFault[] = "The tolerance value can only range from 0 to 59 minutes";
 constexpr char IntervalFault[] = "Only valid numbers from 0 to 1439 can be entered";

@@ -131,11 +131,11 @@ private slots:
     }
 
     void RulesOfATour() {
-        QVERIFY(!DraftOf({}).NeighbourFault());
-        QVERIFY(!DraftOf({{0, "A"}, {5, "B"}, {5, "A"}}).NeighbourFault());
-        QVERIFY(DraftOf({{0, "A"}, {5, "B"}, {5, "B"}}).NeighbourFault());
+        QVERIFY(!DraftOf({}).EqualNeighbour());
+        QVERIFY(!DraftOf({{0, "A"}, {5, "B"}, {5, "A"}}).EqualNeighbour());
+        QCOMPARE(DraftOf({{0, "A"}, {5, "B"}, {5, "B"}}).EqualNeighbour(), 2);
         const auto fits = [](const QList<std::pair<int, const char*>>& points, int tolerance) {
-            return DraftOf(points).TotalTimeFault(tolerance) == nullptr;
+            return DraftOf(points).FitsADay(tolerance);
         };
         QVERIFY(fits({}, 59));
         QVERIFY(fits({{720, "A"}, {1439, "B"}}, 0)); // the first interval lies before the tour

@@ -373,7 +373,11 @@ private slots:
         move(2);
         move(1);
         QCOMPARE(tour(), "20Lo 20Co 20Qu 25Ma");
+        // The times wait for a tolerance that is a number.
+        In<QLineEdit>(*editor, "txtTolerance")->setText("x");
         In<QTimeEdit>(*editor, "dtpStartTime")->setTime(QTime(8, 0));
+        QCOMPARE(RowsIn(*selected).last(), "25|Harbour Warehouse|Main gate|00:40");
+        In<QLineEdit>(*editor, "txtTolerance")->setText("7");
         QCOMPARE(RowsIn(*selected).last(), "25|Harbour Warehouse|Main gate|09:25");
 
         // From the other site, two in a row; the pointer of the list goes on by itself.
@@ -403,13 +407,29 @@ private slots:
              [&] { QTest::keyClick(selected, Qt::Key_Escape); });
         QCOMPARE(tour(), "20Lo 20Co 20Qu 25Ma 10Re 10Se");
 
+        // Another button calls it off too, and a row that goes while it is held is not dragged.
+        Drag(*selected, 0, *selected, CentreOf(*selected, 3), [&] {
+            QTest::mousePress(selected->viewport(), Qt::RightButton);
+            QTest::mouseRelease(selected->viewport(), Qt::RightButton);
+        });
+        QVERIFY(cue->isHidden());
+        QCOMPARE(tour(), "20Lo 20Co 20Qu 25Ma 10Re 10Se");
+
         // Delete takes a point away, but in a text it takes a letter.
         SelectPlace(*selected, 5);
         selected->setFocus();
         QTest::keyClick(selected, Qt::Key_Delete);
         QTest::keyClick(In<QLineEdit>(*editor, "txtName"), Qt::Key_Delete);
         QCOMPARE(tour(), "20Lo 20Co 20Qu 25Ma 10Re");
+        QTest::mousePress(selected->viewport(), Qt::LeftButton, {}, CentreOf(*selected, 4));
         move(4);
+        for (const int y : {10, 40}) {
+            QMouseEvent drag(QEvent::MouseMove, QPoint(10, y),
+                             selected->viewport()->mapToGlobal(QPoint(10, y)), Qt::NoButton,
+                             Qt::LeftButton, {});
+            QApplication::sendEvent(selected->viewport(), &drag);
+        }
+        QTest::mouseRelease(selected->viewport(), Qt::LeftButton);
         QVERIFY(tour().isEmpty());
         for (const char* button : {"cmdMove_1", "cmdMove_2", "cmdMove_3", "cmdEditTime"})
             QVERIFY(!In<QPushButton>(*editor, button)->isEnabled());
@@ -487,6 +507,8 @@ private slots:
         In<QPushButton>(*editor, "cmdOK")->click();
         QCOMPARE(m_boxes.TakeTexts().join(u'|'), message);
         QCOMPARE(editor->OK, message.isEmpty());
+        if (message.startsWith(u"Cannot"))
+            QCOMPARE(In<QTreeView>(*editor, "lvwSelected")->currentIndex().row(), 1);
         QCOMPARE(editor->isVisible(), !message.isEmpty());
         QCOMPARE(In<QLineEdit>(*editor, "txtName")->text(), name);
         if (editor->OK) {

@@ -7,7 +7,10 @@
 
 bool AcceptName(Named what, QLineEdit& field, const QStringList& existingNames,
                 const QString& received) {
-    const QString fault = NameFault(what, field.text().trimmed(), existingNames, received);
+    QString fault = NameFault(what, field.text().trimmed(), existingNames, received);
+    // Where blanks around a name are kept, the name with its blanks may be there too.
+    if (fault.isEmpty() && field.text() != received)
+        fault = NameFault(what, field.text(), existingNames, received);
     if (fault.isEmpty())
         return true;
     IvMessageBox(fault);

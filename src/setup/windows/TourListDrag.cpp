@@ -28,9 +28,10 @@ TourListDrag::TourListDrag(QTreeView& lvwLocations, QTreeView& lvwSelected)
     m_lblDragDrop->setBackgroundRole(QPalette::ToolTipBase);
     m_lblDragDrop->setForegroundRole(QPalette::ToolTipText);
     m_lblDragDrop->setMargin(3);
+    m_lblDragDrop->setTextFormat(Qt::PlainText);
     m_picInsertPtr->setBackgroundRole(QPalette::Highlight);
     m_scroll.setInterval(ScrollInterval);
-    connect(&m_scroll, &QTimer::timeout, this, &TourListDrag::Follow);
+    connect(&m_scroll, &QTimer::timeout, this, &TourListDrag::ScrollAtTheEdge);
     for (QTreeView* list : {&lvwLocations, &lvwSelected}) {
         list->installEventFilter(this);
         list->viewport()->installEventFilter(this);
@@ -40,15 +41,13 @@ TourListDrag::TourListDrag(QTreeView& lvwLocations, QTreeView& lvwSelected)
 bool TourListDrag::eventFilter(QObject* watched, QEvent* event) {
     const auto* mouse = static_cast<QMouseEvent*>(event);
     switch (event->type()) {
-    case QEvent::MouseButtonPress: {
-        auto* list = qobject_cast<QTreeView*>(watched->parent());
-        m_source = list && mouse->button() == Qt::LeftButton &&
-                           list->indexAt(mouse->position().toPoint()).isValid()
-                       ? list
-                       : nullptr;
-        m_pressed = mouse->globalPosition().toPoint();
+    case QEvent::MouseButtonPress:
+        if (m_dragging) { // of another button
+            End();
+            return true;
+        }
+        Press(qobject_cast<QTreeView*>(watched->parent()), *mouse);
         return false;
-    }
     case QEvent::MouseMove:
         if (!m_source || !(mouse->buttons() & Qt::LeftButton))
             return false;
@@ -59,27 +58,41 @@ bool TourListDrag::eventFilter(QObject* watched, QEvent* event) {
         if (m_dragging)
             Follow();
         return true; // the selection stays on the row that is dragged
-    case QEvent::MouseButtonRelease: {
-        QTreeView* source = m_source;
-        m_source = nullptr;
-        if (!m_dragging)
-            return false;
+    case QEvent::MouseButtonRelease:
+        if (!m_dragging || mouse->button() != Qt::LeftButton) {
+            m_source = m_dragging ? m_source : nullptr;
+            return m_dragging;
+        }
         m_pointer = mouse->globalPosition().toPoint();
-        End();
-        if (QTreeView* target = ListUnder(m_pointer))
-            emit Dropped(source, target,
-                         target == &m_lvwSelected ? InsertPositionAt(m_pointer) : -1);
+        Drop();
         return true;
-    }
+    case QEvent::ShortcutOverride: // what is dragged must not change on the way
+        if (m_dragging)
+            event->accept();
+        return m_dragging;
     case QEvent::KeyPress:
-        if (!m_dragging || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
-            return false;
-        m_source = nullptr;
-        End();
-        return true;
+        if (m_dragging && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+            End();
+            return true;
+        }
+        return m_dragging;
     default:
         return false;
     }
+}
+
+void TourListDrag::Press(QTreeView* list, const QMouseEvent& event) {
+    m_pressed = event.globalPosition().toPoint();
+    const bool onRow = list && event.button() == Qt::LeftButton &&
+                       list->indexAt(event.position().toPoint()).isValid();
+    m_source = onRow ? list : nullptr;
+}
+
+void TourListDrag::Drop() {
+    QTreeView* source = m_source;
+    End();
+    if (QTreeView* target = ListUnder(m_pointer))
+        emit Dropped(source, target, target == &m_lvwSelected ? InsertPositionAt(m_pointer) : -1);
 }
 
 QTreeView* TourListDrag::ListUnder(const QPoint& globalPosition) const {
@@ -101,10 +114,15 @@ int TourListDrag::InsertPositionAt(const QPoint& globalPosition) const {
 }
 
 void TourListDrag::Begin() {
+    const QModelIndex row =
+        m_source->indexAt(m_source->viewport()->mapFromGlobal(m_pressed)).siblingAtColumn(0);
+    if (!row.isValid()) { // it has gone since the button went down
+        m_source = nullptr;
+        return;
+    }
+    m_source->setCurrentIndex(row);
     m_dragging = true;
-    // What stands in a row's columns, as far as there is any text.
-    QStringList texts;
-    const QModelIndex row = m_source->currentIndex();
+    QStringList texts; // what stands in its columns, as far as there is any
     for (int column = 0; column < row.model()->columnCount(); ++column)
         if (const QString text = row.siblingAtColumn(column).data().toString(); !text.isEmpty())
             texts += text;
@@ -118,16 +136,21 @@ void TourListDrag::Begin() {
 void TourListDrag::Follow() {
     m_lblDragDrop->move(m_lblDragDrop->parentWidget()->mapFromGlobal(m_pointer) + QPoint(14, 10));
     const bool overSelected = ListUnder(m_pointer) == &m_lvwSelected;
-    if (overSelected) {
-        const int y = m_lvwSelected.viewport()->mapFromGlobal(m_pointer).y();
-        QScrollBar* bar = m_lvwSelected.verticalScrollBar();
-        if (y < ScrollEdge)
-            bar->setValue(bar->value() - bar->singleStep());
-        else if (y > m_lvwSelected.viewport()->height() - ScrollEdge)
-            bar->setValue(bar->value() + bar->singleStep());
+    if (overSelected)
         ShowCue(InsertPositionAt(m_pointer));
-    }
     m_picInsertPtr->setVisible(overSelected);
+}
+
+void TourListDrag::ScrollAtTheEdge() {
+    if (ListUnder(m_pointer) != &m_lvwSelected)
+        return;
+    const int y = m_lvwSelected.viewport()->mapFromGlobal(m_pointer).y();
+    QScrollBar* bar = m_lvwSelected.verticalScrollBar();
+    if (y < ScrollEdge)
+        bar->setValue(bar->value() - bar->singleStep());
+    else if (y > m_lvwSelected.viewport()->height() - ScrollEdge)
+        bar->setValue(bar->value() + bar->singleStep());
+    ShowCue(InsertPositionAt(m_pointer));
 }
 
 void TourListDrag::ShowCue(int position) {
@@ -143,6 +166,7 @@ void TourListDrag::ShowCue(int position) {
 }
 
 void TourListDrag::End() {
+    m_source = nullptr;
     m_dragging = false;
     m_scroll.stop();
     m_lblDragDrop->hide();

@@ -7,7 +7,7 @@
 
 /// Dragging with the mouse between the two lists of the tour editor, and within the second. While
 /// it lasts, a label goes along with the pointer, and a cue in the second list shows where what is
-/// dragged would go. Escape calls it off.
+/// dragged would go. Escape, or another button, calls it off.
 class TourListDrag : public QObject {
     Q_OBJECT
 public:
@@ -23,8 +23,11 @@ protected:
 private:
     QTreeView* ListUnder(const QPoint& globalPosition) const;
     int InsertPositionAt(const QPoint& globalPosition) const;
+    void Press(QTreeView* list, const QMouseEvent& event);
     void Begin();
     void Follow();
+    void ScrollAtTheEdge();
+    void Drop();
     void ShowCue(int position);
     void End();
 

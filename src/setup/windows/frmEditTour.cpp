@@ -3,6 +3,7 @@
 #include "Definitions.h"
 #include "Format.h"
 #include "NameField.h"
+#include "Number.h"
 #include "Recordset.h"
 #include "Settings.h"
 #include "TourListDrag.h"
@@ -69,6 +70,7 @@ bool frmEditTour::EditedNameOK(const QString& name) const {
 }
 
 void frmEditTour::Populate() {
+    m_ui->cmdOK->setEnabled(false); // a tour that could not be read must not be written
     Guarded("Populate of Form frmEditTour", [this] {
         m_ui->txtName->setText(ListName);
         m_ui->txtDesc->setText(ListDesc);
@@ -85,6 +87,7 @@ void frmEditTour::Populate() {
         FillSites();
         m_draft.Load(GroupID);
         ShowPoints(0);
+        m_ui->cmdOK->setEnabled(true);
     });
 }
 
@@ -101,6 +104,7 @@ void frmEditTour::FillSites() {
 }
 
 void frmEditTour::FillLocations() {
+    m_locations.SetRows({});
     Guarded("FillLocations of Form frmEditTour", [this] {
         QList<ListRow> rows;
         for (const Button& button : ButtonsOf(m_ui->imgCboSites->currentData().toInt()))
@@ -118,17 +122,19 @@ DateTime frmEditTour::ChosenStart() const {
     return DateTime::FromTime(start.hour(), start.minute());
 }
 
-/// Shows the points with their times, and selects one.
+/// Shows the points with their times, and selects one. While the tolerance is no number the times
+/// stay as they were.
 void frmEditTour::ShowPoints(int selected) {
-    const std::vector<DateTime> times = m_draft.TimesFrom(ChosenStart());
-    QList<ListRow> rows;
-    for (int i = 0; i < m_draft.Count(); ++i) {
-        const auto place = static_cast<std::size_t>(i);
-        const TourDraft::Point& point = m_draft.Points()[place];
-        rows += ListRow{{QString::number(point.minutes), point.site, point.location,
-                         Format(times[place].TimePart(), QStringLiteral("Short Time"))},
-                        point.buttonCode};
+    if (NumericValue(m_ui->txtTolerance->text())) {
+        m_times.clear();
+        for (const DateTime& time : m_draft.TimesFrom(ChosenStart()))
+            m_times += Format(time.TimePart(), QStringLiteral("Short Time"));
     }
+    QList<ListRow> rows;
+    for (const TourDraft::Point& point : m_draft.Points())
+        rows += ListRow{{QString::number(point.minutes), point.site, point.location,
+                         m_times.value(rows.size())},
+                        point.buttonCode};
     m_selected.SetRows(std::move(rows));
     SelectPlace(*m_ui->lvwSelected, selected);
     UpdateButtons();
@@ -136,6 +142,8 @@ void frmEditTour::ShowPoints(int selected) {
 
 void frmEditTour::UpdateButtons() {
     const bool any = m_draft.Count() > 0;
+    if (!any && m_ui->cmdMove_1->hasFocus())
+        m_ui->cmdMove_0->setFocus(); // and not on "Reset", as the focus would go
     for (QPushButton* button :
          {m_ui->cmdMove_1, m_ui->cmdMove_2, m_ui->cmdMove_3, m_ui->cmdEditTime})
         button->setEnabled(any);
@@ -178,7 +186,7 @@ void frmEditTour::MoveLocation(int position) {
 
 void frmEditTour::DropOn(QTreeView* source, QTreeView* target, int position) {
     const bool fromTour = source == m_ui->lvwSelected, toTour = target == m_ui->lvwSelected;
-    if (!fromTour && toTour)
+    if (source == m_ui->lvwLocations && toTour)
         AddLocation(position);
     else if (fromTour && toTour)
         MoveLocation(position);
@@ -202,32 +210,38 @@ void frmEditTour::EditTime() {
     ShowPoints(place);
 }
 
-bool frmEditTour::IsValid() {
-    if (!AcceptName(Named::Group, *m_ui->txtName, ExistingNames, ListName))
-        return false;
-    if (const char* fault = m_draft.NeighbourFault()) {
-        IvMessageBox(Translate(fault));
-        m_ui->lvwSelected->setFocus();
-        return false;
+bool frmEditTour::PointsAreValid() {
+    const std::optional<int> place = m_draft.EqualNeighbour();
+    if (!place)
+        return true;
+    IvMessageBox(Translate(NeighbourFault));
+    SelectPlace(*m_ui->lvwSelected, *place);
+    m_ui->lvwSelected->setFocus();
+    return false;
+}
+
+bool frmEditTour::ToleranceIsValid() {
+    if (const std::optional<int> tolerance = ToleranceFromText(m_ui->txtTolerance->text())) {
+        Tolerance = *tolerance;
+        return true;
     }
-    const std::optional<int> tolerance = ToleranceFromText(m_ui->txtTolerance->text());
-    if (!tolerance) {
-        IvMessageBox(Translate(ToleranceFault));
-        FocusAndSelect(*m_ui->txtTolerance);
-        return false;
-    }
-    if (const char* fault = m_draft.TotalTimeFault(*tolerance)) {
-        IvMessageBox(Translate(fault));
-        m_ui->lvwSelected->setFocus();
-        return false;
-    }
-    Tolerance = *tolerance;
-    return true;
+    IvMessageBox(Translate(ToleranceFault));
+    FocusAndSelect(*m_ui->txtTolerance);
+    return false;
+}
+
+bool frmEditTour::TourTimeIsValid() {
+    if (m_draft.FitsADay(Tolerance))
+        return true;
+    IvMessageBox(Translate(TotalTimeFault));
+    m_ui->lvwSelected->setFocus();
+    return false;
 }
 
 void frmEditTour::cmdOK_Click() {
     Guarded("cmdOK_Click of Form frmEditTour", [this] {
-        if (!IsValid())
+        if (!AcceptName(Named::Group, *m_ui->txtName, ExistingNames, ListName) ||
+            !PointsAreValid() || !ToleranceIsValid() || !TourTimeIsValid())
             return;
         m_draft.Save(GroupID);
         ListName = m_ui->txtName->text().trimmed();

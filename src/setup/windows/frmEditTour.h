@@ -55,7 +55,9 @@ private:
     void MoveLocation(int position);
     void DropOn(QTreeView* source, QTreeView* target, int position);
     void EditTime();
-    bool IsValid();
+    bool PointsAreValid();
+    bool ToleranceIsValid();
+    bool TourTimeIsValid();
     void cmdOK_Click();
     DateTime ChosenStart() const;
 
@@ -64,5 +66,6 @@ private:
     TourDraft m_draft;
     RowListModel m_locations;
     RowListModel m_selected;
+    QStringList m_times; ///< as the list shows them
     int m_newInterval;
 };

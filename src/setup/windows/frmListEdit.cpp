@@ -137,6 +137,7 @@ void frmListEdit::DeleteButtonItem() {
         KeepTyped();
         Update();
         SelectPlace(*m_ui->lvwItems, std::max(place - 1, 0));
+        m_ui->lvwItems->setFocus(); // the button under the focus may be disabled now
     });
 }
 
