@@ -151,7 +151,10 @@ Hourglass::Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
 Hourglass::~Hourglass() { QApplication::restoreOverrideCursor(); }
 
 QIcon ProgramIcon(const QString& name) {
-    return QIcon(QStringLiteral(":/icons/") + name + QStringLiteral(".svg"));
+    const QString path = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");
+    QIcon icon(path);
+    icon.addFile(path, {}, QIcon::Selected); // as it is, not tinted with the selection's colour
+    return icon;
 }
 
 void ShowIcon(QLabel& label, const QString& name) {
