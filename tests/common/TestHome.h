@@ -18,8 +18,8 @@ public:
     ~TestHome();
 
     QString File(const QString& name) const { return m_folder.filePath(name); }
-    QString Store() const { return File(QStringLiteral("main.mdb")); }
-    QString Temp() const { return File(QStringLiteral("temp.mdb")); }
+    QString Store() const { return File("main.mdb"); }
+    QString Temp() const { return File("temp.mdb"); }
 
     bool Open() const { return ADOInit(Store(), StorePassword); }
     static void Close() { gConn.reset(); }

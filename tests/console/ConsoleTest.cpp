@@ -27,18 +27,18 @@ struct Outcome {
 class Office {
 public:
     Office() {
-        m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath("config"));
-        m_environment.insert(QStringLiteral("WARDLOCK_PASSWORD"), QStringLiteral("keeper"));
-        m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
-        QDir(m_dir.path()).mkdir(QStringLiteral("home"));
-        Run(MKSTORE, {QStringLiteral("--demo"), Store()});
+        m_environment.insert("XDG_CONFIG_HOME", m_dir.filePath("config"));
+        m_environment.insert("WARDLOCK_PASSWORD", "keeper");
+        m_environment.insert("LC_ALL", "C");
+        QDir(m_dir.path()).mkdir("home");
+        Run(MKSTORE, {"--demo", Store()});
     }
 
-    QString Home() const { return m_dir.filePath(QStringLiteral("home")); }
+    QString Home() const { return m_dir.filePath("home"); }
     QString Store() const { return Home() + QStringLiteral("/main.mdb"); }
     QString Path(const QString& name) const { return m_dir.filePath(name); }
     void SetPassword(const QString& password) {
-        m_environment.insert(QStringLiteral("WARDLOCK_PASSWORD"), password);
+        m_environment.insert("WARDLOCK_PASSWORD", password);
     }
 
     Outcome Run(const QString& program, const QStringList& arguments) const {
@@ -144,7 +144,7 @@ private slots:
         QVERIFY(first.err.contains("The User Name / Password are incorrect."));
         const Outcome second = office.Ctl(words);
         QCOMPARE(second.Json()[u"message"].toString(),
-                 QStringLiteral("Error in creating new Tour\r\n<ERROR #0001>"));
+                 "Error in creating new Tour\r\n<ERROR #0001>");
     }
 
     void DownloadsReportsAndErases() {
@@ -163,26 +163,26 @@ private slots:
                                                      {"name", "Door found open"},
                                                      {"group", "Incidents"},
                                                      {"type", 2}}));
-        QCOMPARE(touches[2][u"name"].toString(), QStringLiteral("Unknown"));
+        QCOMPARE(touches[2][u"name"].toString(), "Unknown");
         const QJsonObject state = dock.State();
         QCOMPARE(state[u"touches"].toInt(), 0);
         QVERIFY(state[u"clock"].isString());
 
         const Outcome report = office.Ctl(ReportWords("--events --all --format json"));
         QCOMPARE(report.status, 0);
-        QCOMPARE(report.Json()[u"title"].toString(), QStringLiteral("Tour Report"));
+        QCOMPARE(report.Json()[u"title"].toString(), "Tour Report");
         const QJsonArray rows = report.Json()[u"rows"].toArray();
         QCOMPARE(rows[1].toObject().size(), 11);
-        QCOMPARE(rows[1][u"tStatus"].toString(), QStringLiteral("ON TIME"));
+        QCOMPARE(rows[1][u"tStatus"].toString(), "ON TIME");
         QVERIFY(rows[1][u"txtEventTime"].isNull());
-        QCOMPARE(rows[3][u"txtEventStatus"].toString(), QStringLiteral("EVENT"));
+        QCOMPARE(rows[3][u"txtEventStatus"].toString(), "EVENT");
 
         const Outcome text = office.Ctl(ReportWords("--format text"));
         QVERIFY(text.out.contains("Exception Report") && text.out.contains("NO EXCEPTIONS"));
         const Outcome csv = office.Ctl(ReportWords("--format csv"));
         QVERIFY(csv.out.startsWith("\"tItem\",\"tTourTime\""));
         QVERIFY(office.Ctl(ReportWords("--format pdf")).out.startsWith("%PDF"));
-        const QString unwritable = office.Path(QStringLiteral("nowhere/report.pdf"));
+        const QString unwritable = office.Path("nowhere/report.pdf");
         const Outcome failed = office.Ctl(ReportWords("--format pdf --output ") + unwritable);
         QCOMPARE(failed.status, 1);
         QCOMPARE(failed.err.count('\n'), 1);
@@ -271,7 +271,7 @@ private slots:
         QFETCH(QJsonObject, state);
         Office office;
         if (words.contains(u"user"))
-            office.SetPassword(QStringLiteral("crew"));
+            office.SetPassword("crew");
         Dock dock(scenario);
         const Outcome outcome = office.Ctl(QStringLiteral("reader ") + words +
                                            QStringLiteral(" --device ") + dock.Device());

@@ -85,8 +85,7 @@ private slots:
         const QByteArray three = Taught + Touches(150); // frames
         const QByteArray end = "record 00 00 00 00\n";
 
-        row("empty reader", Untaught, 0, 1,
-            QStringLiteral("The Reader was empty\nReader Memory erased"));
+        row("empty reader", Untaught, 0, 1, "The Reader was empty\nReader Memory erased");
         good("one unknown button", Untaught + "touch 2026-03-01 08:30 ABCDEF", 1);
         good("three frames", three, 150);
         good("full frame", Untaught + Touches(57), 57);
@@ -118,9 +117,8 @@ private slots:
         row("erase unanswered", three + "silent erase", 150, 0, notErased, {EraseFailed},
             {MessageAnswer::No});
         row("clock refused", three + "refuse clock 1", 150, 1, Successful(150),
-            {QStringLiteral("Reader Clock update failed.  Please try again.")});
-        const QStringList noReader{
-            QStringLiteral("Reader not detected. Check reader and try again.")};
+            {"Reader Clock update failed.  Please try again."});
+        const QStringList noReader{"Reader not detected. Check reader and try again."};
         const QStringList fault{Error + QStringLiteral(" (002)")};
         row("no reader", three + "remove", 0, 0, Failed, noReader);
         row("reader taken out", three + "no-reader 2", 0, 0, Failed, noReader);
@@ -175,7 +173,7 @@ private slots:
                                  "touch 2026-03-01 08:02 7E0002\n"
                                  "touch 2026-03-01 08:03 7E0003");
         station.download.Run();
-        gConn->Execute(QStringLiteral("DROP TRIGGER refuse"));
+        gConn->Execute("DROP TRIGGER refuse");
         TestHome::Close(); // committed, not just seen
         QVERIFY(m_home.Open());
         QCOMPARE(StoredTouches(), {"7E0001 1.3.2026 8:01"});

@@ -59,21 +59,20 @@ inline QByteArrayList SomeRecords(int count) {
 
 /// A touch as "CODE d.m.yyyy h:nn".
 inline QString TouchText(const QString& code, DateTime time) {
-    return code + time.ToQDate().toString(QStringLiteral(" d.M.yyyy ")) +
-           time.ToQTime().toString(QStringLiteral("H:mm"));
+    return code + time.ToQDate().toString(" d.M.yyyy ") + time.ToQTime().toString("H:mm");
 }
 
 /// The stored touches in the order in which they were stored.
 inline QStringList StoredTouches() {
     QStringList rows;
     Recordset events;
-    events.Open(QStringLiteral("SELECT * FROM tblEvents ORDER BY ID"), *gConn);
+    events.Open("SELECT * FROM tblEvents ORDER BY ID", *gConn);
     for (; !events.Eof(); events.MoveNext())
         rows += TouchText(events.Text(u"tButtonCode"), events.Date(u"dtDateTime"));
     return rows;
 }
 
-inline void ForgetTouches() { gConn->Execute(QStringLiteral("DELETE * FROM tblEvents")); }
+inline void ForgetTouches() { gConn->Execute("DELETE * FROM tblEvents"); }
 
 /// The far end of a line without a dock: what it answers to a command is up to the test.
 class LineEnd {

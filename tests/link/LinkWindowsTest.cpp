@@ -199,7 +199,7 @@ private slots:
         };
         QCOMPARE(cells(-1), "Number|Date|Time|ID|Button Name|Group Name");
         const auto date = [](int month, int day) {
-            return Format(DateTime::FromQt(QDate(2026, month, day)), QStringLiteral("Short Date"));
+            return Format(DateTime::FromQt(QDate(2026, month, day)), "Short Date");
         };
         QCOMPARE(model.rowCount(), 2);
         QCOMPARE(cells(0), "1|" + date(2, 28) + "|23:59|1A40C2|Main gate|Harbour Warehouse");

@@ -124,7 +124,7 @@ private slots:
         QFETCH(QString, message);
         Station station("reader 4B5831A7\n" + fault);
         frmSetTime dialog(station.link, nullptr);
-        Operator guard(QStringLiteral("frmSetTime"));
+        Operator guard("frmSetTime");
         guard.Click("cmdSendRealTime");
         guard.Wait([&] { return !m_boxes.Messages.isEmpty(); });
         bool open = false;
@@ -147,7 +147,7 @@ private slots:
     void CustomTimeAndSignals() {
         Station station("reader 4B5831A7");
         frmSetTime dialog(station.link, nullptr);
-        Operator guard(QStringLiteral("frmSetTime"));
+        Operator guard("frmSetTime");
         bool customByItself = false, autoAtOnce = true;
         guard.Do([&] {
             guard.Control<QTimeEdit>("DTPicker1")->setTime(QTime(23, 59));
@@ -174,7 +174,7 @@ private slots:
         SaveSetting(SettingsApplication, SettingsSection::ReaderSetting, "BuzzerDuration", "0");
         {
             frmSetTime dialog(station.link, nullptr);
-            Operator guard(QStringLiteral("frmSetTime"));
+            Operator guard("frmSetTime");
             bool longAtFirst = false;
             guard.Do([&] {
                 longAtFirst = guard.Control<QRadioButton>("optTime_1")->isChecked();
@@ -197,7 +197,7 @@ private slots:
     void CancelWhileSending() {
         Station station("reader 4B5831A7\nsilent clock\nsilent options");
         frmSetTime dialog(station.link, nullptr);
-        Operator guard(QStringLiteral("frmSetTime"));
+        Operator guard("frmSetTime");
         guard.Click("cmdSendRealTime");
         guard.Wait([&] { return station.dock.Logged("CmdSetClock") == 1; });
         guard.Click("cmdCancel");
@@ -236,12 +236,12 @@ private slots:
     void AddReader() {
         Station station(Untaught + "touch 2026-03-01 08:10 1A40C2");
         frmAddReader dialog(station.link, nullptr);
-        dialog.ExistingNames = {QStringLiteral("Night reader")};
+        dialog.ExistingNames = {"Night reader"};
         dialog.Desc = QStringLiteral("Reader 1");
-        Operator guard(QStringLiteral("frmAddReader"));
+        Operator guard("frmAddReader");
         guard.Do([&] { QVERIFY(!guard.Control<QPushButton>("cmdOK")->isEnabled()); });
         guard.Click("cmdRead");
-        guard.WaitForText("lblID", QStringLiteral("0A0B0C0D"));
+        guard.WaitForText("lblID", "0A0B0C0D");
         guard.Wait([&] { return dialog.focusWidget() == guard.Control<QLineEdit>("txtDesc"); });
         guard.Do([&] { QVERIFY(guard.Control<QLabel>("lblMsg")->isHidden()); });
         for (const char* name : {" Night reader ", "   "}) {
@@ -251,7 +251,7 @@ private slots:
                 return guard.Control<QLineEdit>("txtDesc")->selectedText() == QLatin1String(name);
             });
         }
-        guard.Type("txtDesc", QStringLiteral(" Day reader "));
+        guard.Type("txtDesc", " Day reader ");
         guard.Click("cmdOK");
         QVERIFY(guard.Run(dialog) && dialog.OK);
         QCOMPARE(m_boxes.TakeTexts(),
@@ -288,13 +288,13 @@ private slots:
         Station station(scenario);
         frmAddReader dialog(station.link, nullptr);
         dialog.Desc = QStringLiteral("Reader 1");
-        Operator guard(QStringLiteral("frmAddReader"));
+        Operator guard("frmAddReader");
         guard.Click("cmdRead");
         if (scenario.contains("silent"))
-            guard.ClickIn(QStringLiteral("frmDownload"), "cmdCancel");
+            guard.ClickIn("frmDownload", "cmdCancel");
         guard.Wait([&] {
             return m_boxes.Messages.size() == messages.size() &&
-                   !Script::Find<QPushButton>(QStringLiteral("frmDownload"), "cmdCancel") &&
+                   !Script::Find<QPushButton>("frmDownload", "cmdCancel") &&
                    guard.Control<QLabel>("lblID")->text() == readerId;
         });
         guard.Do([&] {
@@ -313,9 +313,9 @@ private slots:
         Station station(Untaught);
         frmAddReader dialog(station.link, nullptr);
         dialog.Desc = QStringLiteral("Reader 1");
-        Operator guard(QStringLiteral("frmAddReader"));
+        Operator guard("frmAddReader");
         guard.Click("cmdRead");
-        guard.WaitForText("lblID", QStringLiteral("0A0B0C0D"));
+        guard.WaitForText("lblID", "0A0B0C0D");
         guard.Do([&] { station.dock.Say("remove"); });
         guard.Click("cmdRead");
         guard.Wait([&] { return m_boxes.Messages.size() == 2; });
@@ -328,9 +328,9 @@ private slots:
     void AddButton() {
         Station station(Untaught);
         frmAddButton dialog(station.link, nullptr);
-        dialog.ExistingNames = {QStringLiteral("Main gate")};
+        dialog.ExistingNames = {"Main gate"};
         dialog.ButtonName = QStringLiteral("Location 001");
-        Operator guard(QStringLiteral("frmAddButton"));
+        Operator guard("frmAddButton");
         const auto verdict = [&] {
             const bool ok = guard.Control<QPushButton>("cmdOK")->isEnabled();
             return QStringList{guard.Control<QLabel>("img1")->accessibleName(), dialog.DallasID(),
@@ -342,20 +342,20 @@ private slots:
             return name && dialog.focusWidget() == name && name->selectedText() == u"Location 001";
         });
         guard.Do([&] { station.dock.Say("button abcdef"); });
-        guard.WaitForText("lblID", QStringLiteral("ABCDEF"));
+        guard.WaitForText("lblID", "ABCDEF");
         guard.Do([&] { QCOMPARE(verdict(), "Not in use yet|ABCDEF|OK"); });
         // One that the demonstration site has takes the free one away.
         guard.Do([&] { station.dock.Say("button 1A40C2"); });
-        guard.WaitForText("lblID", QStringLiteral("1A40C2"));
+        guard.WaitForText("lblID", "1A40C2");
         guard.Do([&] { QCOMPARE(verdict(), "That key is already used!||no"); });
         guard.Do([&] { station.dock.Say("fault cut 25\nbutton 00000A"); });
-        guard.WaitForText("lblID", QStringLiteral("00000A"));
+        guard.WaitForText("lblID", "00000A");
         guard.Do([&] { QCOMPARE(verdict(), "Not in use yet|00000A|OK"); });
-        guard.Type("txtName", QStringLiteral("Main gate"));
+        guard.Type("txtName", "Main gate");
         guard.Click("cmdOK");
         guard.Wait([&] { return m_boxes.Messages.size() == 1 && dialog.isVisible(); });
-        guard.Type("txtName", QStringLiteral("Yard "));
-        guard.Type("txtDesc", QStringLiteral("behind the fence"));
+        guard.Type("txtName", "Yard ");
+        guard.Type("txtDesc", "behind the fence");
         guard.Click("cmdOK");
         QVERIFY(guard.Run(dialog) && dialog.OK);
         QCOMPARE(dialog.DallasID() + u'|' + dialog.ButtonName + u'|' + dialog.Desc,
@@ -391,11 +391,11 @@ private slots:
         Station station(Untaught);
         frmAddButton dialog(station.link, nullptr);
         dialog.ButtonName = QStringLiteral("Yard");
-        Operator guard(QStringLiteral("frmAddButton"));
+        Operator guard("frmAddButton");
         const QString manual = QStringLiteral("frmManualID");
         const auto type = [&](const char* code) {
             guard.Wait([&, code] {
-                auto* field = Script::Find<QLineEdit>(manual, QStringLiteral("txtID"));
+                auto* field = Script::Find<QLineEdit>(manual, "txtID");
                 if (!field)
                     return false;
                 field->setText(QString::fromLatin1(code));
@@ -415,16 +415,16 @@ private slots:
             station.dock.Say("button 00000A");
             return true;
         });
-        guard.WaitForText("lblID", QStringLiteral("00000A"));
+        guard.WaitForText("lblID", "00000A");
         guard.ClickIn(manual, "cmdCancel");
-        guard.Wait([&] { return !Script::Find<QLineEdit>(manual, QStringLiteral("txtID")); });
-        guard.WaitForText("lblID", QStringLiteral("00000A"));
+        guard.Wait([&] { return !Script::Find<QLineEdit>(manual, "txtID"); });
+        guard.WaitForText("lblID", "00000A");
         guard.Click("cmdManual");
         type(" 1a40c2 "); // one that the demonstration site has
-        guard.WaitForText("lblMsg", QStringLiteral("That key is already used!"));
+        guard.WaitForText("lblMsg", "That key is already used!");
         guard.Click("cmdManual");
         type(" ab12cd ");
-        guard.WaitForText("lblID", QStringLiteral("AB12CD"));
+        guard.WaitForText("lblID", "AB12CD");
         guard.Do([&] { station.dock.Say("quit"); }); // unplugged
         guard.Wait([&] { return !station.link.comPort().PortOpen(); });
         guard.Click("cmdOK");
@@ -467,7 +467,7 @@ private slots:
     }
 
     void Firmware() {
-        frmFirmwareVersion dialog(QStringLiteral("V06"), nullptr);
+        frmFirmwareVersion dialog("V06", nullptr);
         dialog.show();
         QCOMPARE(dialog.findChild<QLabel*>("Label1")->text(), "Firmware Version is V06");
         dialog.findChild<QPushButton*>("cmdClose")->click();

@@ -28,7 +28,7 @@ class Shown {
 public:
     explicit Shown(const RowSource& rows) : report(SmallReport()) {
         report->SetDataSource(&rows);
-        report->SetCaption(QStringLiteral("A report"));
+        report->SetCaption("A report");
         window = std::make_unique<frmPreview>(*report, AsItIs, nullptr);
         window->show();
         page = Find<QScrollArea>("scrPage");
@@ -75,7 +75,7 @@ QString Export(const Shown& preview, const QString& path) {
         if (!dialog)
             return;
         proposed = QFileInfo(dialog->selectedFiles().value(0)).fileName();
-        auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
         name->setText(path);
         QTest::keyClick(name, Qt::Key_Return);
     });
@@ -93,40 +93,40 @@ private slots:
         const CountedRows source(100'000);
         const auto report = SmallReport();
         report->SetDataSource(&source);
-        report->SetCaption(QStringLiteral("A report"));
+        report->SetCaption("A report");
         frmPreview preview(*report, AsItIs, nullptr);
         preview.show();
         QVERIFY(QTest::qWaitForWindowExposed(&preview));
         QTRY_VERIFY(preview.PagesPainted() > 0);
         QVERIFY(preview.PagesPainted() < 5);
-        QCOMPARE(preview.windowTitle(), QStringLiteral("A report"));
-        auto* field = preview.findChild<QLineEdit*>(QStringLiteral("txtPage"));
-        QWidget* page = preview.findChild<QWidget*>(QStringLiteral("scrPage"));
+        QCOMPARE(preview.windowTitle(), "A report");
+        auto* field = preview.findChild<QLineEdit*>("txtPage");
+        QWidget* page = preview.findChild<QWidget*>("scrPage");
         const int pages = report->PageCount();
 
         QTest::keyClick(page, Qt::Key_PageDown);
         QCOMPARE(preview.Page(), 1);
         QTest::keyClick(page, Qt::Key_End);
         QCOMPARE(preview.Page(), pages - 1);
-        QVERIFY(!preview.findChild<QAction*>(QStringLiteral("next"))->isEnabled());
+        QVERIFY(!preview.findChild<QAction*>("next")->isEnabled());
         QTest::keyClick(page, Qt::Key_PageUp);
         QCOMPARE(preview.Page(), pages - 2);
         QTest::keyClick(page, Qt::Key_Home);
         QCOMPARE(preview.Page(), 0);
         QTest::keyClick(page, Qt::Key_G, Qt::ControlModifier);
-        QTest::keyClicks(field, QStringLiteral("777"));
+        QTest::keyClicks(field, "777");
         QTest::keyClick(field, Qt::Key_Return);
         QCOMPARE(preview.Page(), 776);
-        QCOMPARE(field->text(), QStringLiteral("777"));
+        QCOMPARE(field->text(), "777");
 
-        auto* zoom = preview.findChild<QLabel*>(QStringLiteral("lblZoom"));
+        auto* zoom = preview.findChild<QLabel*>("lblZoom");
         QTest::keyClick(page, Qt::Key_0, Qt::ControlModifier);
-        QCOMPARE(zoom->text(), QStringLiteral("100 %"));
+        QCOMPARE(zoom->text(), "100 %");
         QTest::keyClick(page, Qt::Key_Equal, Qt::ControlModifier);
-        QCOMPARE(zoom->text(), QStringLiteral("125 %"));
+        QCOMPARE(zoom->text(), "125 %");
         QTest::keyClick(page, Qt::Key_Minus, Qt::ControlModifier);
         QTest::keyClick(page, Qt::Key_Minus, Qt::ControlModifier);
-        QCOMPARE(zoom->text(), QStringLiteral("75 %"));
+        QCOMPARE(zoom->text(), "75 %");
         for (const auto* button : preview.findChildren<QWidget*>())
             if (button->inherits("QToolButton") && button->isVisible())
                 QVERIFY(!button->accessibleName().isEmpty());
@@ -147,7 +147,7 @@ private slots:
 
         preview.Key(Qt::Key_0, Qt::ControlModifier);
         preview.Wheel(120, Qt::ControlModifier);
-        QCOMPARE(preview.Zoom(), QStringLiteral("125 %"));
+        QCOMPARE(preview.Zoom(), "125 %");
         QCOMPARE(preview.window->Page(), 1);
         preview.Wheel(-120); // now there is something to scroll
         QCOMPARE(preview.window->Page(), 1);
@@ -158,9 +158,9 @@ private slots:
         const CountedRows rows(100);
         const Shown preview(rows);
         const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("typed name"));
+        const QString path = folder.filePath("typed name");
         KeptMessages messages;
-        QCOMPARE(Export(preview, path), QStringLiteral("A report.pdf"));
+        QCOMPARE(Export(preview, path), "A report.pdf");
         QCOMPARE(messages.texts, QStringList());
         QFile file(path + QStringLiteral(".pdf"));
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -170,12 +170,12 @@ private slots:
     void RowsThatFailAreTold() {
         CountedRows rows(100);
         rows.Text = [](qsizetype) -> QString {
-            throw RunTimeError(RunTimeErrorNumber::ObjectClosed, QStringLiteral("is closed"));
+            throw RunTimeError(RunTimeErrorNumber::ObjectClosed, "is closed");
         };
         const Shown preview(rows); // shows the failure in the page's place
         const QTemporaryDir folder;
         KeptMessages messages;
-        Export(preview, folder.filePath(QStringLiteral("report")));
+        Export(preview, folder.filePath("report"));
         QCOMPARE(messages.texts, QStringList{"The report could not be exported.\r\nis closed"});
         QVERIFY(QDir(folder.path()).isEmpty());
     }
@@ -206,7 +206,7 @@ private slots:
         const QTemporaryDir folder;
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(folder.filePath(QStringLiteral("print.pdf")));
+        printer.setOutputFileName(folder.filePath("print.pdf"));
         printer.setPrintRange(range);
         printer.setFromTo(from, to);
         printer.setPageOrder(lastFirst ? QPrinter::LastPageFirst : QPrinter::FirstPageFirst);
@@ -219,7 +219,7 @@ private slots:
         report->SetDataSource(&rows);
         PrintReport(*report, printer, 2);
         QStringList printed;
-        static const QRegularExpression number(QStringLiteral("(\\d) / 4"));
+        static const QRegularExpression number("(\\d) / 4");
         for (const auto& match : number.globalMatch(TextOfPdf(printer.outputFileName())))
             printed += match.captured(1);
         QCOMPARE(printed.join(u' '), pages);
@@ -228,7 +228,7 @@ private slots:
     void PrintingFailsAloud() {
         QPrinter printer;
         printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(QStringLiteral("/none/print.pdf"));
+        printer.setOutputFileName("/none/print.pdf");
         QVERIFY_THROWS_EXCEPTION(RunTimeError, PrintReport(*SmallReport(), printer, 0));
     }
 };

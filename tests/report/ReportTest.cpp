@@ -20,8 +20,8 @@ const DateTime Evening = DateTime::FromQt(QDate(2026, 11, 5)) + DateTime::FromTi
 
 QString PdfText(const DataReport& report) {
     QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("report.pdf"));
-    ExportPdf(report, path, QStringLiteral("Title"));
+    const QString path = folder.filePath("report.pdf");
+    ExportPdf(report, path, "Title");
     return TextOfPdf(path);
 }
 
@@ -129,7 +129,7 @@ private slots:
         } other;
         QVERIFY_THROWS_EXCEPTION(RunTimeError, report->SetDataSource(&other));
         QVERIFY(!report->DataSource());
-        QVERIFY_THROWS_EXCEPTION(RunTimeError, LoadReportLayout(QStringLiteral("darNone")));
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, LoadReportLayout("darNone"));
     }
 
     void FaultyLayoutsAreNamed_data() {
@@ -171,9 +171,8 @@ private slots:
         QFETCH(QByteArray, named);
         const QByteArray json = SmallLayout().replace(from, to);
         QVERIFY(json != SmallLayout());
-        const QString text =
-            DescriptionOf([&] { ReadReportLayout(json, QStringLiteral("test.json")); });
-        QVERIFY2(text.contains(QStringLiteral("test.json")), qPrintable(text));
+        const QString text = DescriptionOf([&] { ReadReportLayout(json, "test.json"); });
+        QVERIFY2(text.contains("test.json"), qPrintable(text));
         QVERIFY2(text.contains(QString::fromUtf8(named)), qPrintable(text));
     }
 
@@ -207,8 +206,7 @@ private slots:
         QTest::newRow("shortened, right") << latin << cut << QByteArray("right") << 50.0;
         QTest::newRow("shortened, centred") << latin << cut << QByteArray("centre") << 50.0;
         QTest::newRow("shortened, right to left") << hebrew << cut << left << 50.0;
-        QTest::newRow("kerned") << QString(QStringLiteral("AV")).repeated(60) << cut << left
-                                << 50.0;
+        QTest::newRow("kerned") << QString("AV").repeated(60) << cut << left << 50.0;
         QTest::newRow("clipped") << latin << clip << left << 58.0;
         QTest::newRow("clipped, right to left") << hebrew << clip << left << 58.0;
         QTest::newRow("rule") << QString(255, u'_') << clip << left << 59.8;
@@ -237,16 +235,15 @@ private slots:
         if (!HasPdfTool())
             QSKIP("pdftotext is not there");
         CountedRows source(3);
-        const QString texts[] = {QStringLiteral("Harbour Warehouse - Gate 7"),
-                                 QStringLiteral("Warehouse ").repeated(20),
-                                 QStringLiteral("one\r\ntwo")};
+        const QString texts[] = {"Harbour Warehouse - Gate 7",
+                                 QStringLiteral("Warehouse ").repeated(20), "one\r\ntwo"};
         source.Text = [&](qsizetype row) { return texts[row]; };
         const auto report = SmallReport();
         report->SetDataSource(&source);
         const QString text = PdfText(*report);
         QVERIFY2(text.contains(texts[0] + QStringLiteral(" Warehouse ")), qPrintable(text));
         QCOMPARE(text.count(u'\u2026'), 1);
-        QVERIFY(text.contains(QStringLiteral("one two")));
+        QVERIFY(text.contains("one two"));
     }
 
     void PlaceholdersAreExpanded() {
@@ -255,10 +252,8 @@ private slots:
         const TestClock clock(Evening, 0.001);
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
         const auto report = SmallReport();
-        report->Sections(u"TOP")
-            .Controls(u"LBLPAGE")
-            .SetCaption(QStringLiteral("%p|%P|%d|%t|%x|100%"));
-        QCOMPARE(PdfText(*report), QStringLiteral("Beginning 1|1|05/11/2026|22:07|%x|100%"));
+        report->Sections(u"TOP").Controls(u"LBLPAGE").SetCaption("%p|%P|%d|%t|%x|100%");
+        QCOMPARE(PdfText(*report), "Beginning 1|1|05/11/2026|22:07|%x|100%");
     }
     void PdfHoldsEveryRowAndPage() {
         if (!HasPdfTool())
@@ -271,33 +266,29 @@ private slots:
         for (int row = 9; row <= 17; ++row) // those of the second page
             rows += QStringLiteral("Row %1 ").arg(row);
         QVERIFY2(text.contains(rows), qPrintable(text));
-        QCOMPARE(text.count(QStringLiteral("Row ")), 20);
-        QVERIFY(text.contains(QStringLiteral("1 / 3")) && text.contains(QStringLiteral("3 / 3")));
+        QCOMPARE(text.count("Row "), 20);
+        QVERIFY(text.contains("1 / 3") && text.contains("3 / 3"));
     }
 
     void PlaceholdersAreTheLayoutsOnly() {
         if (!HasPdfTool())
             QSKIP("pdftotext is not there");
         darTourException report;
-        report.SetReportParam({}, {}, QStringLiteral("Tour %p at 100%d"), {}, QStringLiteral("T"),
-                              {}, QStringLiteral("Line one\r\nLine two"), {});
+        report.SetReportParam({}, {}, "Tour %p at 100%d", {}, "T", {}, "Line one\r\nLine two", {});
         const QString text = PdfText(report);
-        QVERIFY(text.contains(QStringLiteral("Tour %p at 100%d")));
-        QVERIFY(text.contains(QStringLiteral("1 / 1")));
-        QVERIFY(text.contains(QStringLiteral("Line one")) &&
-                text.contains(QStringLiteral("Line two")));
-        QCOMPARE(report.Caption(), QStringLiteral("T"));
+        QVERIFY(text.contains("Tour %p at 100%d"));
+        QVERIFY(text.contains("1 / 1"));
+        QVERIFY(text.contains("Line one") && text.contains("Line two"));
+        QCOMPARE(report.Caption(), "T");
     }
 
     void FailedPdfLeavesNothing() {
         const auto report = SmallReport();
         QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("none/report.pdf"));
-        QVERIFY(DescriptionOf([&] {
-                    ExportPdf(*report, path, {});
-                }).contains(QStringLiteral("report.pdf")));
-        if (QFile::exists(QStringLiteral("/dev/full"))) {
-            QFile full(QStringLiteral("/dev/full"));
+        const QString path = folder.filePath("none/report.pdf");
+        QVERIFY(DescriptionOf([&] { ExportPdf(*report, path, {}); }).contains("report.pdf"));
+        if (QFile::exists("/dev/full")) {
+            QFile full("/dev/full");
             QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
             QVERIFY_THROWS_EXCEPTION(RunTimeError, ExportPdf(*report, full, {}));
         }

@@ -57,18 +57,18 @@ inline QByteArray SmallLayout(int footerHeight = 10) {
 }
 
 inline std::unique_ptr<DataReport> SmallReport(const QByteArray& layout = SmallLayout()) {
-    return std::make_unique<DataReport>(ReadReportLayout(layout, QStringLiteral("test.json")));
+    return std::make_unique<DataReport>(ReadReportLayout(layout, "test.json"));
 }
 
 /// What a PDF says, pages and lines in their order, each parted by a blank; empty without the tool.
 inline QString TextOfPdf(const QString& path) {
     QProcess tool;
-    tool.start(QStringLiteral("pdftotext"), {QStringLiteral("-raw"), path, QStringLiteral("-")});
+    tool.start("pdftotext", {"-raw", path, "-"});
     tool.waitForFinished();
     return QString::fromUtf8(tool.readAllStandardOutput()).simplified();
 }
 inline bool HasPdfTool() {
     QProcess tool;
-    tool.start(QStringLiteral("pdftotext"), {QStringLiteral("-v")});
+    tool.start("pdftotext", {"-v"});
     return tool.waitForFinished() && tool.exitCode() == 0;
 }

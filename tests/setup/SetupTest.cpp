@@ -11,8 +11,7 @@
 
 namespace {
 
-const QString Points =
-    QStringLiteral("SELECT lIndex, tButtonCode FROM tblTourPoints WHERE lParentID = 1");
+const QString Points = "SELECT lIndex, tButtonCode FROM tblTourPoints WHERE lParentID = 1";
 
 TourDraft DraftOf(const QList<std::pair<int, const char*>>& points) {
     TourDraft draft;
@@ -93,10 +92,10 @@ private slots:
     // that the evaluation plans.
     void TimesAreThoseOfTheEvaluation() {
         const TestHome home(TestHome::EmptyStore);
-        Tour tour{AddTour(QStringLiteral("All")), QStringLiteral("All"), {}, 5, {}};
+        Tour tour{AddTour("All"), "All", {}, 5, {}};
         TourDraft draft;
         for (int minutes = 0; minutes < MinutesOfDay; ++minutes)
-            draft.Insert(minutes, {minutes, QStringLiteral("A00001"), {}, {}});
+            draft.Insert(minutes, {minutes, "A00001", {}, {}});
         draft.Save(tour.id);
         TourDraft loaded;
         loaded.Load(tour.id);
@@ -151,7 +150,7 @@ private slots:
     // A tour has all old points or all new ones.
     void SavingIsAllOrNothing() {
         const TestHome home(TestHome::EmptyStore);
-        AddTour(QStringLiteral("Round"));
+        AddTour("Round");
         DraftOf({{0, "A00001"}, {5, "A00002"}, {5, "A00003"}}).Save(1);
         const QStringList before = RowsOf(Points);
         gConn->Execute(QStringLiteral(
@@ -160,7 +159,7 @@ private slots:
         const TourDraft other = DraftOf({{0, "B00001"}, {5, "B00002"}, {5, "B00003"}});
         QVERIFY(ErrorOf([&] { other.Save(1); }) != 0);
         QCOMPARE(RowsOf(Points), before);
-        gConn->Execute(QStringLiteral("DROP TRIGGER refuse"));
+        gConn->Execute("DROP TRIGGER refuse");
         other.Save(1);
         QCOMPARE(RowsOf(Points), (QStringList{"1|B00001", "2|B00002", "3|B00003"}));
         DraftOf({}).Save(1);
@@ -187,7 +186,7 @@ private slots:
         QCOMPARE(GroupsOf(SiteGroup).size(), 1);
         QCOMPARE(RowsOf("SELECT * FROM tblButtons WHERE lParentID = 1"), QStringList());
         QCOMPARE(RowsOf("SELECT * FROM tblTourPoints"), points);
-        const int copy = CopyTour(2, QStringLiteral("Copy"));
+        const int copy = CopyTour(2, "Copy");
         DeleteTour(2);
         QVERIFY(!TourHasPoints(2) && TourHasPoints(1));
         QCOMPARE(RowsOf("SELECT lIndex, dtTime, tButtonCode FROM tblTourPoints WHERE lParentID = " +
@@ -201,8 +200,7 @@ private slots:
     void ExportAndImport() {
         QByteArray document;
         QStringList tours;
-        const QString allPoints =
-            QStringLiteral("SELECT lIndex, dtTime, tButtonCode FROM tblTourPoints");
+        const QString allPoints = "SELECT lIndex, dtTime, tButtonCode FROM tblTourPoints";
         {
             const TestHome home(TestHome::DemoSite);
             UpdateGroup({AddGroup(UserGroup, "Guards \"A\""), "Guards \"A\"", "line\nline ü"});

@@ -95,7 +95,7 @@ class SetupWindowsTest : public QObject {
         editor->ListName = QStringLiteral("Night round");
         editor->Tolerance = 5;
         editor->StartTime = DateTime::FromTime(23, 15);
-        editor->ExistingNames = {QStringLiteral("Day round"), QStringLiteral("Night round")};
+        editor->ExistingNames = {"Day round", "Night round"};
         editor->Populate();
         editor->show();
         return editor;
@@ -193,8 +193,8 @@ private slots:
         auto* list = In<QTreeView>(*page, "lvwProgram");
         Script add;
         const QString window = QStringLiteral("frmAddReader");
-        add.Click(window, QStringLiteral("cmdRead"));
-        add.Click(window, QStringLiteral("cmdOK"));
+        add.Click(window, "cmdRead");
+        add.Click(window, "cmdOK");
         add.Start();
         In<QPushButton>(*page, "cmdSetup_1")->click();
         QVERIFY(add.Finish());
@@ -207,12 +207,12 @@ private slots:
         QStringList kept;
         for (const char* name : {"Night reader", "  ", " Day reader "}) {
             edit.Then([=] {
-                auto* field = Script::Find<QLineEdit>(editor, QStringLiteral("txtDesc"));
+                auto* field = Script::Find<QLineEdit>(editor, "txtDesc");
                 if (field)
                     field->setText(QString::fromLatin1(name));
                 return field != nullptr;
             });
-            edit.Click(editor, QStringLiteral("cmdOK"));
+            edit.Click(editor, "cmdOK");
             edit.Then([&, refused = kept.size()] { return m_boxes.Messages.size() >= refused; });
         }
         edit.Start();
@@ -238,40 +238,37 @@ private slots:
         const auto field = [&](const char* name) {
             return Script::Find<QLineEdit>(editor, QString::fromLatin1(name));
         };
-        const auto items = [&] {
-            return RowsIn(*Script::Find<QTreeView>(editor, QStringLiteral("lvwItems")));
-        };
+        const auto items = [&] { return RowsIn(*Script::Find<QTreeView>(editor, "lvwItems")); };
         Script script;
         script.Then([&] {
             if (!field("txtName"))
                 return false;
-            field("txtName")->setText(QStringLiteral("Office Tower"));
+            field("txtName")->setText("Office Tower");
             return true;
         });
-        script.Click(editor, QStringLiteral("cmdOK"));
+        script.Click(editor, "cmdOK");
         QString focused;
         script.Then([&] {
             if (m_boxes.Messages.isEmpty())
                 return false;
             focused = field("txtName")->selectedText();
-            field("txtName")->setText(QStringLiteral("Quay"));
+            field("txtName")->setText("Quay");
             return true;
         });
-        script.Click(editor, QStringLiteral("cmdSetup_1"));
+        script.Click(editor, "cmdSetup_1");
         script.Then([&] {
-            if (!Script::Find<QLabel>(QStringLiteral("frmAddButton"), QStringLiteral("lblID")))
+            if (!Script::Find<QLabel>("frmAddButton", "lblID"))
                 return false;
             dock.Say("button 00000A");
             return true;
         });
         script.Then([&] {
-            auto* name =
-                Script::Find<QLineEdit>(QStringLiteral("frmAddButton"), QStringLiteral("txtName"));
+            auto* name = Script::Find<QLineEdit>("frmAddButton", "txtName");
             if (name)
-                name->setText(QStringLiteral("Bollard 1"));
+                name->setText("Bollard 1");
             return name != nullptr;
         });
-        script.Click(QStringLiteral("frmAddButton"), QStringLiteral("cmdOK"));
+        script.Click("frmAddButton", "cmdOK");
         QStringList afterAdding;
         script.Then([&] {
             if (!field("txtName") || items().size() != 5)
@@ -279,15 +276,14 @@ private slots:
             afterAdding = items() + QStringList{field("txtName")->text()};
             return true;
         });
-        script.Click(editor, QStringLiteral("cmdSetup_0"));
+        script.Click(editor, "cmdSetup_0");
         script.Then([&] {
-            auto* name =
-                Script::Find<QLineEdit>(QStringLiteral("frmEditButton"), QStringLiteral("txtName"));
+            auto* name = Script::Find<QLineEdit>("frmEditButton", "txtName");
             if (name)
-                name->setText(QStringLiteral("Aft bollard"));
+                name->setText("Aft bollard");
             return name != nullptr;
         });
-        script.Click(QStringLiteral("frmEditButton"), QStringLiteral("cmdOK"));
+        script.Click("frmEditButton", "cmdOK");
         QStringList afterEditing;
         script.Then([&] {
             if (!items().first().contains(u"Aft"))
@@ -296,9 +292,9 @@ private slots:
             m_boxes.Answers = {MessageAnswer::Yes};
             return true;
         });
-        script.Click(editor, QStringLiteral("cmdSetup_2"));
+        script.Click(editor, "cmdSetup_2");
         script.Then([&] { return items().size() == 4; });
-        script.Click(editor, QStringLiteral("cmdOK"));
+        script.Click(editor, "cmdOK");
         script.Start();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, CentreOf(*list, 0));
         QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, CentreOf(*list, 0));
@@ -326,13 +322,12 @@ private slots:
         for (const int tour : {2, 1}) {
             Script script;
             script.Then([&] {
-                auto* tours = Script::Find<QComboBox>(QStringLiteral("frmCopyTour"),
-                                                      QStringLiteral("cboTours"));
+                auto* tours = Script::Find<QComboBox>("frmCopyTour", "cboTours");
                 if (tours)
                     tours->setCurrentIndex(tour);
                 return tours != nullptr;
             });
-            script.Click(QStringLiteral("frmCopyTour"), QStringLiteral("cmdOK"));
+            script.Click("frmCopyTour", "cmdOK");
             script.Start();
             In<QPushButton>(*page, "cmdTourCopy")->click();
             QVERIFY(script.Finish());
@@ -445,13 +440,12 @@ private slots:
         Script script;
         for (const char* minutes : {"1440", "-1", "x", "90"}) {
             script.Then([=] {
-                auto* field = Script::Find<QLineEdit>(QStringLiteral("frmEditTime"),
-                                                      QStringLiteral("txtTime"));
+                auto* field = Script::Find<QLineEdit>("frmEditTime", "txtTime");
                 if (field)
                     field->setText(QString::fromLatin1(minutes));
                 return field != nullptr;
             });
-            script.Click(QStringLiteral("frmEditTime"), QStringLiteral("cmdOK"));
+            script.Click("frmEditTime", "cmdOK");
             script.Then([] { return true; });
         }
         script.Start();

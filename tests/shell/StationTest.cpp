@@ -40,7 +40,7 @@ const QByteArray Night = "reader 4B5831A7\n"
 constexpr double Speed = 30;
 
 QString LogText() {
-    QFile log(AppFile(QStringLiteral("error.log")));
+    QFile log(AppFile("error.log"));
     return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()) : QString();
 }
 
@@ -60,16 +60,15 @@ frmMain* MainWindow() {
 }
 
 void LogIn(Script& script, const QString& password, const char* operatorButton = "optUser_0") {
-    script.Click(QStringLiteral("frmLogin"), QString::fromLatin1(operatorButton));
+    script.Click("frmLogin", QString::fromLatin1(operatorButton));
     script.Then([password] {
-        auto* field = Script::Find<QLineEdit>(QStringLiteral("frmLogin"),
-                                              QStringLiteral("txtEnteredPassword"));
+        auto* field = Script::Find<QLineEdit>("frmLogin", "txtEnteredPassword");
         if (!field)
             return false;
         field->setText(password);
         return true;
     });
-    script.Click(QStringLiteral("frmLogin"), QStringLiteral("cmdOK"));
+    script.Click("frmLogin", "cmdOK");
 }
 
 } // namespace
@@ -82,10 +81,18 @@ class StationTest : public QObject {
 
     /// Starts the station without a dock and logs in.
     bool StartOffline(const char* operatorButton, const QString& password) {
-        OverrideDevice(QStringLiteral("/dev/no-such-dock"));
+        OverrideDevice("/dev/no-such-dock");
         Script script;
         LogIn(script, password, operatorButton);
-        script.Answer(QStringLiteral("OK"));
+        script.Answer("OK");
+        script.Start();
+        return Main({}) && script.Finish();
+    }
+    /// Starts the station at a dock and logs the master in.
+    static bool StartAt(const Dock& dock) {
+        OverrideDevice(dock.Device());
+        Script script;
+        LogIn(script, "keeper");
         script.Start();
         return Main({}) && script.Finish();
     }
@@ -95,17 +102,17 @@ private slots:
         m_home = std::make_unique<QTemporaryDir>();
         m_clock = std::make_unique<TestClock>(Speed);
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                           m_home->filePath(QStringLiteral("settings")));
+                           m_home->filePath("settings"));
         SetAppPath(m_home->path());
         for (const char* name : {"WK3.MLD", "login.bmp", "contact.bmp", "WK3_ENG.HLP"})
             QFile::copy(QStringLiteral(BESIDE "/") + QString::fromLatin1(name),
                         m_home->filePath(QString::fromLatin1(name)));
-        CreateStoreFile(m_home->filePath(QStringLiteral("main.mdb")), StorePassword);
+        CreateStoreFile(m_home->filePath("main.mdb"), StorePassword);
         Connection store;
-        store.Open(ConnectionText(m_home->filePath(QStringLiteral("main.mdb")), StorePassword));
+        store.Open(ConnectionText(m_home->filePath("main.mdb"), StorePassword));
         CreateTables(store);
         DemoStore::Fill(store);
-        Save(SettingsSection::Properties, "Language", QStringLiteral("0"));
+        Save(SettingsSection::Properties, "Language", "0");
     }
     void cleanup() {
         if (frmMain* main = MainWindow())
@@ -114,50 +121,41 @@ private slots:
         gConn.reset();
         OverrideDevice({});
         gDockingDetected = false;
-        QVERIFY(!QFile::exists(m_home->filePath(QStringLiteral("main.ldb"))));
+        QVERIFY(!QFile::exists(m_home->filePath("main.ldb")));
         m_clock.reset();
         m_home.reset();
     }
 
     void RunsTheMainJobThroughItsWindows() {
         Dock dock(Night);
-        OverrideDevice(dock.Device());
-        Script login;
-        LogIn(login, QStringLiteral("keeper"));
-        login.Start();
-        QVERIFY(Main({}));
+        QVERIFY(StartAt(dock));
         QVERIFY(gDockingDetected);
-        QCOMPARE(MainWindow()->findChild<QLabel*>(QStringLiteral("panel1"))->text(),
-                 QStringLiteral("Docking Station : OK"));
+        QCOMPARE(MainWindow()->findChild<QLabel*>("panel1")->text(), "Docking Station : OK");
 
-        MainWindow()->findChild<QAction*>(QStringLiteral("download"))->trigger();
-        auto* list = Script::Find<QAbstractItemView>(QStringLiteral("frmMdiDownload"),
-                                                     QStringLiteral("lvwDownload"));
+        MainWindow()->findChild<QAction*>("download")->trigger();
+        auto* list = Script::Find<QAbstractItemView>("frmMdiDownload", "lvwDownload");
         QVERIFY(list);
-        Script::Find<QAbstractButton>(QStringLiteral("frmMdiDownload"),
-                                      QStringLiteral("cmdOnline_0"))
-            ->click();
-        QCOMPARE(Script::Find<QLabel>(QStringLiteral("frmMdiDownload"), QStringLiteral("lblMsg"))
-                     ->text(),
-                 QStringLiteral("Download Successful\nData Readings = 2\nReader Memory erased"));
+        Script::Find<QAbstractButton>("frmMdiDownload", "cmdOnline_0")->click();
+        QCOMPARE(Script::Find<QLabel>("frmMdiDownload", "lblMsg")->text(),
+                 "Download Successful\nData Readings = 2\nReader Memory erased");
         QCOMPARE(list->model()->rowCount(), 2);
         QCOMPARE(list->currentIndex().row(), 1);
-        QCOMPARE(list->model()->index(1, 4).data().toString(), QStringLiteral("Unknown"));
+        QCOMPARE(list->model()->index(1, 4).data().toString(), "Unknown");
 
-        MainWindow()->findChild<QAction*>(QStringLiteral("reports"))->trigger();
+        MainWindow()->findChild<QAction*>("reports")->trigger();
         Script report;
         const QString dialog = QStringLiteral("frmRptTour");
         report.Then([&] {
-            auto* date = Script::Find<QDateEdit>(dialog, QStringLiteral("dtpStartDate"));
+            auto* date = Script::Find<QDateEdit>(dialog, "dtpStartDate");
             if (!date)
                 return false;
             date->setDate(QDate(2026, 11, 21));
-            auto* tours = Script::Find<QComboBox>(dialog, QStringLiteral("imgcboTour"));
-            tours->setCurrentIndex(tours->findText(QStringLiteral("Night"), Qt::MatchStartsWith));
-            Script::Find<QRadioButton>(dialog, QStringLiteral("optShowAll_1"))->setChecked(true);
+            auto* tours = Script::Find<QComboBox>(dialog, "imgcboTour");
+            tours->setCurrentIndex(tours->findText("Night", Qt::MatchStartsWith));
+            Script::Find<QRadioButton>(dialog, "optShowAll_1")->setChecked(true);
             return true;
         });
-        report.Click(dialog, QStringLiteral("cmdPrintPreview"));
+        report.Click(dialog, "cmdPrintPreview");
         QString caption;
         report.Then([&] {
             QWidget* preview = QApplication::activeModalWidget();
@@ -167,10 +165,9 @@ private slots:
             QTimer::singleShot(0, preview, &QWidget::close);
             return true;
         });
-        report.Click(dialog, QStringLiteral("cmdCancel"));
+        report.Click(dialog, "cmdCancel");
         report.Start();
-        auto* reports = Script::Find<QAbstractItemView>(QStringLiteral("frmMdiReports"),
-                                                        QStringLiteral("lvwReports"));
+        auto* reports = Script::Find<QAbstractItemView>("frmMdiReports", "lvwReports");
         DoEvents();                               // lays the page out
         QTest::keyClick(reports, Qt::Key_Return); // opens nothing
         QVERIFY(!QApplication::activeModalWidget());
@@ -178,20 +175,20 @@ private slots:
         QTest::mouseClick(reports->viewport(), Qt::LeftButton, {}, row);
         QTest::mouseDClick(reports->viewport(), Qt::LeftButton, {}, row);
         QVERIFY(report.Finish());
-        QVERIFY2(caption.contains(QStringLiteral("Tour Report")), qPrintable(caption));
-        QCOMPARE(Saved(SettingsSection::Settings, "ShowAllStatus"), QStringLiteral("True"));
-        QVERIFY(!TableExists(QStringLiteral("tblXXXException")));
-        QVERIFY(LogText().contains(QStringLiteral("Logged in as user type = 1")));
+        QVERIFY2(caption.contains("Tour Report"), qPrintable(caption));
+        QCOMPARE(Saved(SettingsSection::Settings, "ShowAllStatus"), "True");
+        QVERIFY(!TableExists("tblXXXException"));
+        QVERIFY(LogText().contains("Logged in as user type = 1"));
     }
 
     // From the delivered store to a report, through the windows alone.
     void SetsUpANewInstallation() {
         gConn.reset();
-        QFile::remove(m_home->filePath(QStringLiteral("main.mdb")));
-        CreateStoreFile(m_home->filePath(QStringLiteral("main.mdb")), StorePassword);
+        QFile::remove(m_home->filePath("main.mdb"));
+        CreateStoreFile(m_home->filePath("main.mdb"), StorePassword);
         {
             Connection store;
-            store.Open(ConnectionText(m_home->filePath(QStringLiteral("main.mdb")), StorePassword));
+            store.Open(ConnectionText(m_home->filePath("main.mdb"), StorePassword));
             CreateTables(store);
         }
         Dock dock("reader 0A0B0C0D\n"
@@ -200,9 +197,9 @@ private slots:
                   "touch 2026-11-21 23:37 7E0001\n");
         OverrideDevice(dock.Device());
         Script login; // the first try makes the operator known
-        LogIn(login, QStringLiteral("keeper"));
-        login.Answer(QStringLiteral("OK"));
-        LogIn(login, QStringLiteral("keeper"));
+        LogIn(login, "keeper");
+        login.Answer("OK");
+        LogIn(login, "keeper");
         login.Start();
         QVERIFY(Main({}));
         const QString page = QStringLiteral("frmMDISetup"), list = QStringLiteral("frmListEdit"),
@@ -218,64 +215,61 @@ private slots:
             });
         };
         const auto addButton = [&](const char* code, const char* name) {
-            script.Click(list, QStringLiteral("cmdSetup_1"));
+            script.Click(list, "cmdSetup_1");
             type(capture, "txtName", name);
             script.Then([=, &dock] {
                 dock.Say(QByteArray("button ") + code);
                 return true;
             });
-            script.Click(capture, QStringLiteral("cmdOK")); // once the code has come
-            script.Then([=] { return !Script::Find<QLabel>(capture, QStringLiteral("lblID")); });
+            script.Click(capture, "cmdOK"); // once the code has come
+            script.Then([=] { return !Script::Find<QLabel>(capture, "lblID"); });
         };
         const auto showTab = [&](int tab) {
             script.Then([=] {
-                Script::Find<QTabBar>(page, QStringLiteral("tabSetup"))->setCurrentIndex(tab);
+                Script::Find<QTabBar>(page, "tabSetup")->setCurrentIndex(tab);
                 return true;
             });
         };
-        script.Click(page, QStringLiteral("cmdSetup_1"));
-        script.Click(page, QStringLiteral("cmdSetup_0"));
+        script.Click(page, "cmdSetup_1");
+        script.Click(page, "cmdSetup_0");
         type(list, "txtName", "Quay");
         addButton("00000A", "Bollard");
         addButton("00000B", "Crane");
-        script.Click(list, QStringLiteral("cmdOK"));
+        script.Click(list, "cmdOK");
         showTab(1);
-        script.Click(page, QStringLiteral("cmdSetup_1"));
-        script.Click(page, QStringLiteral("cmdSetup_0"));
+        script.Click(page, "cmdSetup_1");
+        script.Click(page, "cmdSetup_0");
         addButton("7E0001", "Light on");
-        script.Click(list, QStringLiteral("cmdOK"));
+        script.Click(list, "cmdOK");
         showTab(3);
-        script.Click(page, QStringLiteral("cmdSetup_1"));
-        script.Click(QStringLiteral("frmAddReader"), QStringLiteral("cmdRead"));
-        script.Click(QStringLiteral("frmAddReader"), QStringLiteral("cmdOK"));
+        script.Click(page, "cmdSetup_1");
+        script.Click("frmAddReader", "cmdRead");
+        script.Click("frmAddReader", "cmdOK");
         script.Then([] { return CountReaders() == 1; });
         showTab(2);
-        script.Click(page, QStringLiteral("cmdSetup_1"));
-        script.Click(page, QStringLiteral("cmdSetup_0"));
+        script.Click(page, "cmdSetup_1");
+        script.Click(page, "cmdSetup_0");
         type(tour, "txtName", "Night");
         script.Then([=] {
-            Script::Find<QTimeEdit>(tour, QStringLiteral("dtpStartTime"))->setTime(QTime(23, 5));
+            Script::Find<QTimeEdit>(tour, "dtpStartTime")->setTime(QTime(23, 5));
             return true;
         });
         for (int i = 0; i < 2; ++i)
-            script.Click(tour, QStringLiteral("cmdMove_0"));
-        script.Click(tour, QStringLiteral("cmdEditTime")); // of the crane, that came last
-        type(QStringLiteral("frmEditTime"), "txtTime", "20");
-        script.Click(QStringLiteral("frmEditTime"), QStringLiteral("cmdOK"));
-        script.Click(tour, QStringLiteral("cmdOK"));
+            script.Click(tour, "cmdMove_0");
+        script.Click(tour, "cmdEditTime"); // of the crane, that came last
+        type("frmEditTime", "txtTime", "20");
+        script.Click("frmEditTime", "cmdOK");
+        script.Click(tour, "cmdOK");
         script.Then([] { return CountTours() == 1; });
         script.Start();
         MainWindow()->GoSetup();
         QVERIFY(script.Finish());
 
         MainWindow()->GoOnline();
-        Script::Find<QAbstractButton>(QStringLiteral("frmMdiDownload"),
-                                      QStringLiteral("cmdOnline_0"))
-            ->click();
+        Script::Find<QAbstractButton>("frmMdiDownload", "cmdOnline_0")->click();
         RecordingViewer viewer;
-        BuildTourReport({1, DateTime::FromQt(QDate(2026, 11, 21)), QStringLiteral("0A0B0C0D"),
-                         QStringLiteral("Reader 1"), true, true},
-                        viewer);
+        BuildTourReport(
+            {1, DateTime::FromQt(QDate(2026, 11, 21)), "0A0B0C0D", "Reader 1", true, true}, viewer);
         QStringList rows;
         for (const QString& row : viewer.Rows)
             if (!row.contains(u"____"))
@@ -290,18 +284,17 @@ private slots:
     void FourWrongPasswordsEndTheProgram() {
         Script script;
         for (int i = 0; i < 4; ++i) {
-            LogIn(script, QStringLiteral("wrong"), "optUser_1");
-            script.Answer(QStringLiteral("OK"));
+            LogIn(script, "wrong", "optUser_1");
+            script.Answer("OK");
         }
         script.Start();
         QVERIFY(!Main({}));
-        const QString retry =
-            QStringLiteral("The User Name / Password are incorrect. Please try again.");
+        const QString retry = "The User Name / Password are incorrect. Please try again.";
         QCOMPARE(script.Texts(),
                  (QStringList{retry, retry, retry,
                               QStringLiteral("You could not be logged in.  Closing the program "
                                              "now.")}));
-        QCOMPARE(Saved(SettingsSection::Info, "LastLogin"), QStringLiteral("2"));
+        QCOMPARE(Saved(SettingsSection::Info, "LastLogin"), "2");
         QVERIFY(!MainWindow());
     }
 
@@ -321,8 +314,7 @@ private slots:
         const auto action = [main](const char* name) {
             return main->findChild<QAction*>(QString::fromLatin1(name));
         };
-        QCOMPARE(main->findChild<QMenu*>(QStringLiteral("mnuTools"))->menuAction()->isVisible(),
-                 tools);
+        QCOMPARE(main->findChild<QMenu*>("mnuTools")->menuAction()->isVisible(), tools);
         QVERIFY(action("mnuFileExit")->isEnabled());
         QCOMPARE(action("setup")->isVisible(), tools);
         for (const char* unbuilt : {"mnuFileArchive", "mnuFileBackup", "mnuFileRestore",
@@ -333,38 +325,36 @@ private slots:
         main->GoReports();
         QVERIFY(!action("download")->isEnabled()); // no dock
         QVERIFY(action("home")->isEnabled() && !action("reports")->isEnabled());
-        QVERIFY_THROWS_EXCEPTION(RunTimeError, main->NavigateToolbarButtons(QStringLiteral("111")));
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, main->NavigateToolbarButtons("111"));
         QVERIFY(action("home")->isEnabled() && !action("reports")->isEnabled());
     }
 
     void OfflineAndPortChoice() {
-        QVERIFY(StartOffline("optUser_0", QStringLiteral("keeper")));
-        auto* panel = MainWindow()->findChild<QLabel*>(QStringLiteral("panel1"));
-        QCOMPARE(panel->text(), QStringLiteral("Docking Station : Not Detected"));
+        QVERIFY(StartOffline("optUser_0", "keeper"));
+        auto* panel = MainWindow()->findChild<QLabel*>("panel1");
+        QCOMPARE(panel->text(), "Docking Station : Not Detected");
         Script cancel;
-        cancel.Click(QStringLiteral("frmPrpComms"), QStringLiteral("cmdSetupCancel"));
+        cancel.Click("frmPrpComms", "cmdSetupCancel");
         cancel.Start();
         MainWindow()->GoOptions();
-        QCOMPARE(panel->text(), QStringLiteral("Status: Offline"));
+        QCOMPARE(panel->text(), "Status: Offline");
 
         Dock dock(Night);
         OverrideDevice({});
         Script choose;
         choose.Then([&] {
-            auto* device =
-                Script::Find<QComboBox>(QStringLiteral("frmPrpComms"), QStringLiteral("cboDevice"));
+            auto* device = Script::Find<QComboBox>("frmPrpComms", "cboDevice");
             if (!device)
                 return false;
-            Script::Find<QComboBox>(QStringLiteral("frmPrpComms"), QStringLiteral("cboLocalPort"))
-                ->setCurrentIndex(2);
+            Script::Find<QComboBox>("frmPrpComms", "cboLocalPort")->setCurrentIndex(2);
             device->setEditText(dock.Device());
             return true;
         });
-        choose.Click(QStringLiteral("frmPrpComms"), QStringLiteral("cmdSetupOK"));
+        choose.Click("frmPrpComms", "cmdSetupOK");
         choose.Start();
         MainWindow()->GoOptions();
-        QCOMPARE(panel->text(), QStringLiteral("Docking Station : OK"));
-        QCOMPARE(Saved(SettingsSection::ComPort, "ComPort"), QStringLiteral("3"));
+        QCOMPARE(panel->text(), "Docking Station : OK");
+        QCOMPARE(Saved(SettingsSection::ComPort, "ComPort"), "3");
         QCOMPARE(DeviceOfPort(3), dock.Device());
     }
 
@@ -372,42 +362,36 @@ private slots:
     // it.
     void ToolsActOnTheDockedReader() {
         Dock dock(Night);
-        OverrideDevice(dock.Device());
-        Script login;
-        LogIn(login, QStringLiteral("keeper"));
-        login.Start();
-        QVERIFY(Main({}));
+        QVERIFY(StartAt(dock));
         const auto trigger = [](const char* name) {
             auto* action = MainWindow()->findChild<QAction*>(QString::fromLatin1(name));
             QVERIFY(action->isVisible() && action->isEnabled());
             action->trigger();
         };
         Script configure;
-        configure.Click(QStringLiteral("frmSetTime"), QStringLiteral("cmdSendRealTime"));
-        configure.Answer(QStringLiteral("OK"));
+        configure.Click("frmSetTime", "cmdSendRealTime");
+        configure.Answer("OK");
         configure.Start();
         trigger("mnuToolsPipeOptions");
         QVERIFY(configure.Finish());
-        QVERIFY(
-            configure.Texts().value(0).startsWith(QStringLiteral("Reader update successful\n")));
+        QVERIFY(configure.Texts().value(0).startsWith("Reader update successful\n"));
         QCOMPARE(dock.State()[u"options"].toInt(), 7);
         QVERIFY(gDockingDetected); // it went home, and connected
 
         Script erase;
-        erase.Answer(QStringLiteral("No"));
+        erase.Answer("No");
         erase.Start();
         trigger("mnuToolsClearPipe");
         QCOMPARE(dock.Erasures(), 0);
         Script eraseNow;
-        eraseNow.Answer(QStringLiteral("Yes"));
-        eraseNow.Answer(QStringLiteral("OK"));
+        eraseNow.Answer("Yes");
+        eraseNow.Answer("OK");
         eraseNow.Start();
         trigger("mnuToolsClearPipe");
         QVERIFY(eraseNow.Finish());
-        QCOMPARE(eraseNow.Texts().value(1), QStringLiteral("Reader Erased"));
+        QCOMPARE(eraseNow.Texts().value(1), "Reader Erased");
         QCOMPARE(dock.Erasures(), 1);
-        QVERIFY(Script::Find<QAbstractItemView>(QStringLiteral("frmMdiDownload"),
-                                                QStringLiteral("lvwDownload")));
+        QVERIFY(Script::Find<QAbstractItemView>("frmMdiDownload", "lvwDownload"));
     }
 
     void FirmwareVersion_data() {
@@ -429,29 +413,25 @@ private slots:
         QFETCH(QByteArray, scenario);
         QFETCH(QStringList, shown);
         Dock dock(scenario);
-        OverrideDevice(dock.Device());
-        Script login;
-        LogIn(login, QStringLiteral("keeper"));
-        login.Start();
-        QVERIFY(Main({}));
+        QVERIFY(StartAt(dock));
         Script script;
         QStringList texts;
         const QString window = QStringLiteral("frmFirmwareVersion");
         for (const QString& text : shown) {
             if (!text.startsWith(u"Firmware")) {
-                script.Answer(QStringLiteral("OK"));
+                script.Answer("OK");
                 continue;
             }
             script.Then([&] {
-                auto* label = Script::Find<QLabel>(window, QStringLiteral("Label1"));
+                auto* label = Script::Find<QLabel>(window, "Label1");
                 if (label)
                     texts += label->text();
                 return label != nullptr;
             });
-            script.Click(window, QStringLiteral("cmdClose"));
+            script.Click(window, "cmdClose");
         }
         script.Start();
-        MainWindow()->findChild<QAction*>(QStringLiteral("mnuToolsReaderFW"))->trigger();
+        MainWindow()->findChild<QAction*>("mnuToolsReaderFW")->trigger();
         QVERIFY(script.Finish());
         QCOMPARE(script.Texts() + texts, shown);
         QVERIFY(!QApplication::overrideCursor());
@@ -466,87 +446,78 @@ private slots:
     void BadPortSettingsBecomeOne() {
         QFETCH(QString, saved);
         Save(SettingsSection::ComPort, "ComPort", saved);
-        QVERIFY(StartOffline("optUser_0", QStringLiteral("keeper")));
-        QCOMPARE(Saved(SettingsSection::ComPort, "ComPort"), QStringLiteral("1"));
+        QVERIFY(StartOffline("optUser_0", "keeper"));
+        QCOMPARE(Saved(SettingsSection::ComPort, "ComPort"), "1");
     }
 
     void PasswordsChange() {
-        QVERIFY(StartOffline("optUser_0", QStringLiteral("keeper")));
+        QVERIFY(StartOffline("optUser_0", "keeper"));
         frmUserMaintenance dialog(MainWindow());
         dialog.FormStart(UserOperator);
         dialog.show();
-        auto* first = dialog.findChild<QLineEdit*>(QStringLiteral("txtPassword"));
-        auto* second = dialog.findChild<QLineEdit*>(QStringLiteral("txtRetypePassword"));
-        auto* ok = dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"));
-        first->setText(QStringLiteral("Lantern"));
-        second->setText(QStringLiteral("lantern"));
+        auto* first = dialog.findChild<QLineEdit*>("txtPassword");
+        auto* second = dialog.findChild<QLineEdit*>("txtRetypePassword");
+        auto* ok = dialog.findChild<QPushButton*>("cmdOK");
+        first->setText("Lantern");
+        second->setText("lantern");
         Script script;
-        script.Answer(QStringLiteral("OK"));
+        script.Answer("OK");
         script.Start();
         ok->click();
-        QCOMPARE(script.Texts(),
-                 QStringList{QStringLiteral("The passwords do not match, please re-enter")});
+        QCOMPARE(script.Texts(), QStringList{"The passwords do not match, please re-enter"});
         QVERIFY(dialog.isVisible());
-        second->setText(QStringLiteral("Lantern"));
+        second->setText("Lantern");
         ok->click();
         QVERIFY(!dialog.isVisible());
-        QCOMPARE(CheckOperator(UserOperator, QStringLiteral(" LANTERN ")), UserOperator);
-        QCOMPARE(CheckOperator(UserOperator, QStringLiteral("crew")), NoOperator);
+        QCOMPARE(CheckOperator(UserOperator, " LANTERN "), UserOperator);
+        QCOMPARE(CheckOperator(UserOperator, "crew"), NoOperator);
     }
 
     void WindowKeepsItsPlace() {
-        QVERIFY(StartOffline("optUser_0", QStringLiteral("keeper")));
+        QVERIFY(StartOffline("optUser_0", "keeper"));
         MainWindow()->move(40, 30);
         MainWindow()->resize(700, 500);
         MainWindow()->close();
-        QCOMPARE(Saved(SettingsSection::Settings, "MainLeft"), QStringLiteral("600"));
-        QCOMPARE(Saved(SettingsSection::Settings, "MainWidth"), QStringLiteral("10500"));
-        QCOMPARE(Saved(SettingsSection::Settings, "Maximized"), QStringLiteral("False"));
+        QCOMPARE(Saved(SettingsSection::Settings, "MainLeft"), "600");
+        QCOMPARE(Saved(SettingsSection::Settings, "MainWidth"), "10500");
+        QCOMPARE(Saved(SettingsSection::Settings, "Maximized"), "False");
         ReleaseMainWindow();
-        QVERIFY(StartOffline("optUser_0", QStringLiteral("keeper")));
+        QVERIFY(StartOffline("optUser_0", "keeper"));
         QCOMPARE(MainWindow()->size(), QSize(700, 500));
     }
 
     void SpeaksGerman() {
-        Save(SettingsSection::Properties, "Language", QStringLiteral("2"));
-        OverrideDevice(QStringLiteral("/dev/no-such-dock"));
+        Save(SettingsSection::Properties, "Language", "2");
+        OverrideDevice("/dev/no-such-dock");
         Script script;
-        LogIn(script, QStringLiteral("keeper"));
-        script.Answer(QStringLiteral("OK"));
+        LogIn(script, "keeper");
+        script.Answer("OK");
         script.Start();
         QVERIFY(Main({}));
-        QCOMPARE(MainWindow()->findChild<QMenu*>(QStringLiteral("mnuFile"))->title(),
-                 QStringLiteral("&Datei"));
-        QCOMPARE(MainWindow()->findChild<QAction*>(QStringLiteral("reports"))->text(),
-                 QStringLiteral("Berichte"));
+        QCOMPARE(MainWindow()->findChild<QMenu*>("mnuFile")->title(), "&Datei");
+        QCOMPARE(MainWindow()->findChild<QAction*>("reports")->text(), "Berichte");
         // And changes its language while it runs.
         gDictionary->InstallChooser([](Dictionary&, int& number) {
             number = 0;
             return true;
         });
         Script offline;
-        offline.Answer(QStringLiteral("OK"));
+        offline.Answer("OK");
         offline.Start();
-        MainWindow()->findChild<QAction*>(QStringLiteral("mnuToolsLanguage"))->trigger();
-        QCOMPARE(MainWindow()->findChild<QMenu*>(QStringLiteral("mnuFile"))->title(),
-                 QStringLiteral("&File"));
-        QCOMPARE(Saved(SettingsSection::Properties, "Language"), QStringLiteral("0"));
-        QVERIFY(!MainWindow()->findChild<QAction*>(QStringLiteral("download"))->isEnabled());
+        MainWindow()->findChild<QAction*>("mnuToolsLanguage")->trigger();
+        QCOMPARE(MainWindow()->findChild<QMenu*>("mnuFile")->title(), "&File");
+        QCOMPARE(Saved(SettingsSection::Properties, "Language"), "0");
+        QVERIFY(!MainWindow()->findChild<QAction*>("download")->isEnabled());
     }
 
     void NothingElseIsBegunDuringAnErase() {
         Dock dock(Night + "fault silent erase\n");
-        OverrideDevice(dock.Device());
-        Script login;
-        LogIn(login, QStringLiteral("keeper"));
-        login.Start();
-        QVERIFY(Main({}));
+        QVERIFY(StartAt(dock));
         MainWindow()->GoOnline();
-        auto* erase = Script::Find<QAbstractButton>(QStringLiteral("frmMdiDownload"),
-                                                    QStringLiteral("cmdOnline_1"));
+        auto* erase = Script::Find<QAbstractButton>("frmMdiDownload", "cmdOnline_1");
         bool refused = false;
         Script script;
-        script.Answer(QStringLiteral("Yes"));
+        script.Answer("Yes");
         script.Then([&] {
             if (erase->isEnabled())
                 return false;
@@ -555,7 +526,7 @@ private slots:
             refused = MainWindow()->isVisible() && erase->isVisible();
             return true;
         });
-        script.Answer(QStringLiteral("No"));
+        script.Answer("No");
         script.Start();
         erase->click();
         QVERIFY(script.Finish());
@@ -581,14 +552,14 @@ private slots:
         QFETCH(QString, log);
         std::unique_ptr<InstanceLock> other;
         if (what == u"store")
-            QFile::remove(m_home->filePath(QStringLiteral("main.mdb")));
+            QFile::remove(m_home->filePath("main.mdb"));
         else if (what == u"language")
-            Save(SettingsSection::Properties, "Language", QStringLiteral("abc"));
+            Save(SettingsSection::Properties, "Language", "abc");
         else
             other = TakeInstanceLock();
         Script script;
         if (!box.isEmpty())
-            script.Answer(QStringLiteral("OK"));
+            script.Answer("OK");
         script.Start();
         QVERIFY(!Main({}));
         QCOMPARE(script.Texts().join(u'|').left(box.size()), box);
@@ -597,18 +568,18 @@ private slots:
     }
 
     void UnknownLanguageFallsBack() {
-        Save(SettingsSection::Properties, "Language", QStringLiteral("77"));
+        Save(SettingsSection::Properties, "Language", "77");
         Script script;
-        script.Answer(QStringLiteral("OK"));
-        script.Click(QStringLiteral("frmLogin"), QStringLiteral("cmdCancel"));
+        script.Answer("OK");
+        script.Click("frmLogin", "cmdCancel");
         script.Start();
-        QVERIFY(!Main(QStringLiteral("x-debugging")));
+        QVERIFY(!Main("x-debugging"));
         QVERIFY(script.Texts().value(0).endsWith(
-            QStringLiteral("could not be displayed\nResetting to default system language...")));
-        QCOMPARE(Saved(SettingsSection::Properties, "Language"), QStringLiteral("1"));
+            "could not be displayed\nResetting to default system language..."));
+        QCOMPARE(Saved(SettingsSection::Properties, "Language"), "1");
         QVERIFY(Saved(SettingsSection::Settings, "MainLeft").isEmpty());
-        QVERIFY(LogText().contains(QStringLiteral(" Started at ")));
-        QVERIFY(!LogText().contains(QStringLiteral("Database path = ")));
+        QVERIFY(LogText().contains(" Started at "));
+        QVERIFY(!LogText().contains("Database path = "));
     }
 };
 
