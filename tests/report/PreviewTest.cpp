@@ -1,6 +1,7 @@
 // The preview window, driven by its keys and its wheel, and printing.
 
 #include "MessageBox.h"
+#include "PrintReport.h"
 #include "SmallReport.h"
 #include "frmPreview.h"
 

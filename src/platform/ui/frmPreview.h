@@ -10,7 +10,6 @@ class PreviewCanvas;
 class QAction;
 class QLabel;
 class QLineEdit;
-class QPrinter;
 class QScrollArea;
 class QToolBar;
 
@@ -81,11 +80,6 @@ private:
     double m_zoom = 1.0;
     Fit m_fit = Fit::Width;
 };
-
-/// Prints the pages that the printer's settings ask for, as often and in the order that they ask;
-/// `currentPage`, from 0, is the one on the screen. A sheet smaller than the report's paper takes
-/// the page scaled down. Throws RunTimeError where printing fails.
-void PrintReport(const DataReport& report, QPrinter& printer, int currentPage);
 
 /// Shows reports in a preview window over `parent`, modally.
 class PreviewViewer : public ReportViewer {

@@ -130,6 +130,21 @@ void frmMDISetup::FillListAndSelect(const QVariant& tag) {
     SelectPlace(*m_ui->lvwProgram, m_rows.PlaceOf(tag));
 }
 
+void frmMDISetup::DeleteSelected(bool (*hasParts)(int), const char* partsText, const char* question,
+                                 void (*remove)(int)) {
+    const int place = Selected();
+    if (place < 0)
+        return;
+    const int id = m_rows.Row(place).tag.toInt();
+    QString text = ::Translate(question);
+    if (hasParts(id))
+        text = ::Translate(partsText) + u'\n' + text;
+    if (!Confirmed(text))
+        return;
+    remove(id);
+    FillListAfterDelete(place);
+}
+
 void frmMDISetup::FillListAfterDelete(int place) {
     FillList();
     SelectPlace(*m_ui->lvwProgram, place);
@@ -187,17 +202,8 @@ void frmMDISetup::EditGroup() {
 
 void frmMDISetup::DeleteGroup() {
     Guarded("DeleteGroup of Form frmMDISetup", [this] {
-        const int place = Selected();
-        if (place < 0)
-            return;
-        const int id = m_rows.Row(place).tag.toInt();
-        QString question = ::Translate("Are you sure you want to delete it?");
-        if (GroupHasButtons(id))
-            question = ::Translate("The selected group contains sub-items") + u'\n' + question;
-        if (!Confirmed(question))
-            return;
-        ::DeleteGroup(id);
-        FillListAfterDelete(place);
+        DeleteSelected(GroupHasButtons, "The selected group contains sub-items",
+                       "Are you sure you want to delete it?", ::DeleteGroup);
     });
 }
 
@@ -310,17 +316,8 @@ void frmMDISetup::EditTour() {
 
 void frmMDISetup::DeleteTour() {
     Guarded("DeleteTour of Form frmMDISetup", [this] {
-        const int place = Selected();
-        if (place < 0)
-            return;
-        const int id = m_rows.Row(place).tag.toInt();
-        QString question = ::Translate("Are you sure you want to delete this tour?");
-        if (TourHasPoints(id))
-            question = ::Translate("The selected Tour contains data.") + u'\n' + question;
-        if (!Confirmed(question))
-            return;
-        ::DeleteTour(id);
-        FillListAfterDelete(place);
+        DeleteSelected(TourHasPoints, "The selected Tour contains data.",
+                       "Are you sure you want to delete this tour?", ::DeleteTour);
     });
 }
 

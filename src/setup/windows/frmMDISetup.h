@@ -53,6 +53,9 @@ private:
     void FillList();
     void FillListAndSelect(const QVariant& tag);
     void FillListAfterDelete(int place);
+    /// Asks, with a warning where there are parts that would go too, and deletes by ID.
+    void DeleteSelected(bool (*hasParts)(int), const char* partsText, const char* question,
+                        void (*remove)(int));
     /// -1 where no row is selected; else its place in the list.
     int Selected() const;
     bool Confirmed(const QString& question) const;
