@@ -109,7 +109,9 @@ MessageAnswer WindowMessageBoxes::Show(const Message& message) {
         const auto role = i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole;
         buttons += box.addButton(message.buttonTexts.value(i), role);
     }
-    box.setDefaultButton(static_cast<QPushButton*>(buttons.first()));
+    // A question is about what cannot be taken back: Enter alone must not do it.
+    const bool question = message.kind == MessageKind::Question;
+    box.setDefaultButton(static_cast<QPushButton*>(question ? buttons.last() : buttons.first()));
     box.setEscapeButton(buttons.last());
     // Whatever the pointer says of work behind it, a question wants an arrow.
     const bool waiting = QApplication::overrideCursor() != nullptr;
