@@ -6,7 +6,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <stdexcept>
+#include <sys/prctl.h>
 
 /// The simulated docking station, as a program of its own, with the lines of a scenario.
 class Dock {
@@ -17,6 +19,8 @@ public:
             throw std::runtime_error("no scenario");
         file.close();
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        // A test that dies takes its dock along.
+        m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
         m_process.start(DOCKSIM, {"--scenario", file.fileName(), "--log", m_log});
         m_device = QString::fromUtf8(ReadLine()).trimmed();
     }

@@ -39,7 +39,7 @@ TourListDrag::TourListDrag(QTreeView& lvwLocations, QTreeView& lvwSelected)
 }
 
 bool TourListDrag::eventFilter(QObject* watched, QEvent* event) {
-    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const auto* mouse = dynamic_cast<QMouseEvent*>(event); // null for the keys
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         if (m_dragging) { // of another button
