@@ -793,7 +793,7 @@
     </message>
     <message>
         <source>&amp;Reader Options</source>
-        <translation>&amp;Leser einstellen</translation>
+        <translation>Leser &amp;einstellen</translation>
     </message>
     <message>
         <source>Reader Firmware Version</source>

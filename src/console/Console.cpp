@@ -17,8 +17,6 @@
 
 #include <QFile>
 
-#include <cstdio>
-
 namespace {
 
 constexpr int Done = 0, NotDone = 1, WrongUsage = 2;
@@ -43,7 +41,9 @@ bool OpenStation(const CommandLine& line) {
         return false;
     if (CheckOperator(line.login, qEnvironmentVariable("WARDLOCK_PASSWORD"), RememberLogin::No) ==
         NoOperator) {
-        Complain(Translate("The User Name / Password are incorrect. Please try again."));
+        const bool given = qEnvironmentVariableIsSet("WARDLOCK_PASSWORD");
+        Complain(Translate("The User Name / Password are incorrect. Please try again.") +
+                 (given ? QString() : QStringLiteral(" (WARDLOCK_PASSWORD is not set)")));
         return false;
     }
     return true;
@@ -174,8 +174,8 @@ int RunConsole(const QStringList& arguments) {
         return RunCommand(ParseCommandLine(arguments)) ? Done : NotDone;
     } catch (const UsageError& error) {
         Complain(QStringLiteral("wardlockctl: ") + QString::fromStdString(error.what()));
-        const QByteArray usage = UsageText().toUtf8();
-        std::fwrite(usage.constData(), 1, static_cast<std::size_t>(usage.size()), stderr);
+        Complain(UsageText().section(u'\n', 0, 0));
+        Complain(QStringLiteral("\"wardlockctl --help\" tells the commands and their options"));
         return WrongUsage;
     } catch (const std::exception& error) {
         Complain(QString::fromUtf8(error.what()));

@@ -7,6 +7,7 @@
 #include "mTranslations.h"
 
 #include <QFileDevice>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -49,9 +50,9 @@ bool Connect(DockingLink& link, const QString& device) {
                                              QRegularExpression::CaseInsensitiveOption);
     const auto match = portName.match(device);
     if (!match.hasMatch())
-        OverrideDevice(device);
+        OverrideDevice(QFileInfo::exists(device) ? QFileInfo(device).absoluteFilePath() : device);
     if (!link.OpenPort(match.hasMatch() ? match.captured(1).toInt() : 1)) {
-        Complain(Translate("Could not open the com port.") + u' ' +
+        Complain(device + QStringLiteral(": ") + Translate("Could not open the com port.") + u' ' +
                  Translate("Check settings and try again."));
         return false;
     }

@@ -104,6 +104,8 @@ void MemoryDownload::EraseReader(bool silent, bool& succeeded) {
     if (!silent && IvMessageBox(Translate("Are you sure you want to clear the reader? "),
                                 MessageKind::Question, MessageButtons::YesNo) != MessageAnswer::Yes)
         return;
+    if (!silent)
+        m_view.ShowStatus({}); // what stands there is of an earlier one
     // The conversation handles events: nothing else may be begun meanwhile, nor the page left.
     const bool alone = !m_busy;
     if (alone)

@@ -159,6 +159,7 @@ bool frmMain::UnloadPage() {
     if (!m_page->close())
         return false;
     m_ui->layPage->removeWidget(m_page);
+    m_panel2->clear();
     m_page->deleteLater(); // this may be running in one of its own events
     m_page = nullptr;
     m_downloadPage = nullptr;

@@ -405,6 +405,7 @@ private slots:
         // Another button calls it off too, and a row that goes while it is held is not dragged.
         Drag(*selected, 0, *selected, CentreOf(*selected, 3), [&] {
             QTest::mousePress(selected->viewport(), Qt::RightButton);
+            QVERIFY(cue->isHidden());
             QTest::mouseRelease(selected->viewport(), Qt::RightButton);
         });
         QVERIFY(cue->isHidden());

@@ -372,11 +372,13 @@ private slots:
         configure.Click("frmSetTime", "cmdSendRealTime");
         configure.Answer("OK");
         configure.Start();
+        MainWindow()->GoReports();
         trigger("mnuToolsPipeOptions");
         QVERIFY(configure.Finish());
         QVERIFY(configure.Texts().value(0).startsWith("Reader update successful\n"));
         QCOMPARE(dock.State()[u"options"].toInt(), 7);
         QVERIFY(gDockingDetected); // it went home, and connected
+        QVERIFY(Script::Find<QLabel>("frmMdiMenu", "lblMainTitle"));
 
         Script erase;
         erase.Answer("No");

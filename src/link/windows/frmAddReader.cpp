@@ -34,6 +34,7 @@ int frmAddReader::exec() {
 
 void frmAddReader::cmdRead_Click() {
     m_ui->lblID->clear();
+    CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ClearPicture();
     bool ok = false;
     CheckReaderID(ok);
     if (ok)

@@ -26,6 +26,8 @@ frmSetTime::frmSetTime(DockingLink& link, QWidget* parent)
     Translate();
     m_ui->dtpPanelDate->setDisplayFormat(GetShortDateFormat());
     m_ui->dtpPanelDate->setDateRange(FirstDay, LastDay);
+    SelectSectionOnFocus(*m_ui->DTPicker1);
+    SelectSectionOnFocus(*m_ui->dtpPanelDate);
     Guarded("Form_Load of Form frmSetTime", [this] { Form_Load(); });
     connect(m_ui->DTPicker1, &QTimeEdit::timeChanged, m_ui->optSetTime_1,
             [this] { m_ui->optSetTime_1->setChecked(true); });

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QDateTimeEdit>
 #include <QDir>
 #include <QFocusEvent>
 #include <QGroupBox>
@@ -139,7 +140,27 @@ public:
     }
 };
 
+class SectionFilter : public QObject {
+public:
+    explicit SectionFilter(QDateTimeEdit& field) : QObject(&field), m_field(field) {}
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonRelease)
+            QTimer::singleShot(0, this,
+                               [this] { m_field.setSelectedSection(m_field.currentSection()); });
+        return false;
+    }
+
+private:
+    QDateTimeEdit& m_field;
+};
+
 } // namespace
+
+void SelectSectionOnFocus(QDateTimeEdit& field) {
+    auto* filter = new SectionFilter(field);
+    field.installEventFilter(filter);
+    field.findChild<QLineEdit*>()->installEventFilter(filter);
+}
 
 void SelectAllOnFocus(QLineEdit& field) { field.installEventFilter(new SelectingFilter(&field)); }
 

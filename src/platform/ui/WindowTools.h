@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class QDateTimeEdit;
 class QLabel;
 class QLineEdit;
 class QWidget;
@@ -28,6 +29,9 @@ public:
 
 /// Selects a field's whole text whenever it gets the focus.
 void SelectAllOnFocus(QLineEdit& field);
+
+/// Selects the part of a date or time that gets the focus or is clicked, so that it can be typed.
+void SelectSectionOnFocus(QDateTimeEdit& field);
 
 /// Puts the focus on a field with its text selected, where the mistake is.
 void FocusAndSelect(QLineEdit& field);

@@ -42,6 +42,7 @@ frmEditTour::frmEditTour(QWidget* parent)
         move(parent->pos() + QPoint(PixelsOf(Right), PixelsOf(Below)));
     m_ui->lvwLocations->setModel(&m_locations);
     m_ui->lvwSelected->setModel(&m_selected);
+    SelectSectionOnFocus(*m_ui->dtpStartTime);
     m_drag = new TourListDrag(*m_ui->lvwLocations, *m_ui->lvwSelected);
     connect(m_drag, &TourListDrag::Dropped, this, &frmEditTour::DropOn);
     connect(m_ui->imgCboSites, &QComboBox::currentIndexChanged, this, &frmEditTour::FillLocations);

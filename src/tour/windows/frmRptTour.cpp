@@ -35,6 +35,7 @@ frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptTour>()), m_viewer(viewer) {
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    SelectSectionOnFocus(*m_ui->dtpStartDate);
     m_ui->dtpStartDate->setDisplayFormat(GetShortDateFormat());
     m_ui->dtpStartDate->setDate(Today().ToQDate());
     connect(m_ui->imgcboReader, &QComboBox::currentIndexChanged, this,
