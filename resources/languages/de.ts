@@ -1043,5 +1043,9 @@
         <source>Only valid numbers from 0 to 1439 can be entered</source>
         <translation>Nur Zahlen von 0 bis 1439 sind gültig</translation>
     </message>
+    <message>
+        <source>The docking station has gone. Enter the ID by hand, or go home to connect again.</source>
+        <translation>Die Dockingstation ist weg. Den Code von Hand eingeben, oder zur Startseite gehen und neu verbinden.</translation>
+    </message>
 </context>
 </TS>

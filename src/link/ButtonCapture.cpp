@@ -40,6 +40,8 @@ ButtonCapture::ButtonCapture(DockingLink& link) : m_link(link) {
 
 ButtonCapture::~ButtonCapture() { gCommActive = false; }
 
+bool ButtonCapture::LineIsOpen() const { return m_link.comPort().PortOpen(); }
+
 QString ButtonCapture::TakeCode() {
     cInBuffer& buffer = m_link.InBuffer();
     QByteArray frame;

@@ -21,6 +21,9 @@ public:
     /// is the beginning of a frame whose rest does not come.
     QString TakeCode();
 
+    /// False once the docking station has gone: no button will come any more.
+    bool LineIsOpen() const;
+
     /// True for a code that no button has. Where the store could not be read none is free.
     bool IsFree(const QString& code) const { return m_codes && !m_codes->contains(code); }
 

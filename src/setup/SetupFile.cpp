@@ -249,10 +249,11 @@ private:
         tour.startTime = DateTime::FromTime(start.hour(), start.minute());
         tour.tolerance = entry.Number("tolerance", MostTolerance, Translate(ToleranceFault));
         TourDraft draft;
-        for (const Entry& point : entry.List("points", "point", "button"))
+        const QList<Entry> points = entry.List("points", "point", "button");
+        for (const Entry& point : points)
             draft.Insert(draft.Count(), PointOf(point));
-        if (draft.EqualNeighbour())
-            entry.Fail(Translate(NeighbourFault));
+        if (const auto place = draft.EqualNeighbour())
+            points[*place].Fail(Translate(NeighbourFault));
         if (!draft.FitsADay(tour.tolerance))
             entry.Fail(Translate(TotalTimeFault));
         tour.id = AddTour(tour.name);

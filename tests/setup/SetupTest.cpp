@@ -267,7 +267,7 @@ private slots:
         row("neighbours",
             TourWith(R"("tolerance":5,"points":[{"minutes":0,"button":"A00001"},)"
                      R"({"minutes":5,"button":"A00001"}])"),
-            "Cannot assign two sequential tour points");
+            "point 2 \"A00001\": Cannot assign two sequential tour points");
         row("total",
             TourWith(R"("tolerance":59,"points":[{"minutes":0,"button":"A00001"},)"
                      R"({"minutes":1322,"button":"A00002"}])"),

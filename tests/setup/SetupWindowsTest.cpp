@@ -133,6 +133,8 @@ private slots:
         QCOMPARE(RowsIn(*list),
                  (QStringList{"Day round|14:00|Office Tower, once a day",
                               "Night round|23:15|Harbour Warehouse, over midnight"}));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(50, 200)); // below the rows
+        QCOMPARE(SelectedPlace(*list), 0);
         // A header sorts, a second click turns round, another column begins upwards.
         const auto clickHeader = [&](int column) {
             QHeaderView* header = list->header();

@@ -43,6 +43,10 @@ int frmAddButton::exec() {
 // No event is handled from here: a click that opened the manual entry from within a tick would keep
 // the timer from ticking on behind it.
 void frmAddButton::tmrGetID_Timer() {
+    if (!m_capture.LineIsOpen())
+        m_ui->lblHint->setText(
+            Translate("The docking station has gone. Enter the ID by hand, or go "
+                      "home to connect again."));
     const QString code = m_capture.TakeCode();
     if (code.isEmpty())
         return;

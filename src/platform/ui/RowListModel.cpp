@@ -104,6 +104,18 @@ void RowListModel::sort(int column, Qt::SortOrder order) {
     emit layoutChanged();
 }
 
+void JoinList(QTreeView& list, RowListModel& rows) {
+    list.setModel(&rows);
+    QItemSelectionModel* selection = list.selectionModel();
+    QObject::connect(selection, &QItemSelectionModel::selectionChanged, &list, [selection] {
+        if (!selection->hasSelection() && selection->currentIndex().isValid())
+            selection->select(selection->currentIndex(),
+                              QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    });
+    QObject::connect(&rows, &RowListModel::layoutChanged, &list,
+                     [&list] { list.scrollTo(list.currentIndex()); });
+}
+
 int SelectedPlace(const QTreeView& list) {
     const QModelIndexList rows = list.selectionModel()->selectedRows();
     return rows.isEmpty() ? -1 : rows.first().row();

@@ -48,6 +48,10 @@ private:
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };
 
+/// Joins a list and its rows. While there are rows one of them stays selected, once one was: a
+/// click beside the rows takes no selection away. The selected row stays in sight when the list is
+/// sorted.
+void JoinList(QTreeView& list, RowListModel& rows);
 /// The place of a list's selected row; -1 where none is.
 int SelectedPlace(const QTreeView& list);
 /// Selects the row at a place, the last one for a place beyond it, and shows it. Below 0 it does

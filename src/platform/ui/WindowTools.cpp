@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFocusEvent>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -147,7 +148,12 @@ public:
         if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonRelease)
             QTimer::singleShot(0, this,
                                [this] { m_field.setSelectedSection(m_field.currentSection()); });
-        return false;
+        // What is typed over all of it would go into one part only.
+        const bool selectAll = event->type() == QEvent::KeyPress &&
+                               static_cast<QKeyEvent*>(event)->matches(QKeySequence::SelectAll);
+        if (selectAll)
+            m_field.setSelectedSection(m_field.sectionAt(0));
+        return selectAll;
     }
 
 private:

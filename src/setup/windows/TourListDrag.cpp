@@ -29,7 +29,7 @@ TourListDrag::TourListDrag(QTreeView& lvwLocations, QTreeView& lvwSelected)
     m_lblDragDrop->setForegroundRole(QPalette::ToolTipText);
     m_lblDragDrop->setMargin(3);
     m_lblDragDrop->setTextFormat(Qt::PlainText);
-    m_picInsertPtr->setBackgroundRole(QPalette::Highlight);
+    m_picInsertPtr->setStyleSheet(QStringLiteral("background: #d98e04"));
     m_scroll.setInterval(ScrollInterval);
     connect(&m_scroll, &QTimer::timeout, this, &TourListDrag::ScrollAtTheEdge);
     for (QTreeView* list : {&lvwLocations, &lvwSelected}) {

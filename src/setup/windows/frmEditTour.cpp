@@ -40,8 +40,8 @@ frmEditTour::frmEditTour(QWidget* parent)
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     if (parent)
         move(parent->pos() + QPoint(PixelsOf(Right), PixelsOf(Below)));
-    m_ui->lvwLocations->setModel(&m_locations);
-    m_ui->lvwSelected->setModel(&m_selected);
+    JoinList(*m_ui->lvwLocations, m_locations);
+    JoinList(*m_ui->lvwSelected, m_selected);
     SelectSectionOnFocus(*m_ui->dtpStartTime);
     m_drag = new TourListDrag(*m_ui->lvwLocations, *m_ui->lvwSelected);
     connect(m_drag, &TourListDrag::Dropped, this, &frmEditTour::DropOn);

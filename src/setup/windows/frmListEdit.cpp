@@ -8,6 +8,8 @@
 #include "mTranslations.h"
 #include "ui_frmListEdit.h"
 
+#include <QKeyEvent>
+
 namespace {
 
 enum Column { CodeColumn, NameColumn, DescColumn };
@@ -32,7 +34,7 @@ frmListEdit::frmListEdit(DockingLink& link, QWidget* parent)
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     m_buttons.SetColumns({Translate("Button ID"), Translate("Name"), Translate("Description")});
-    m_ui->lvwItems->setModel(&m_buttons);
+    JoinList(*m_ui->lvwItems, m_buttons);
     ShareWidth(*m_ui->lvwItems, {20, 40, 39});
     m_ui->lvwItems->sortByColumn(NameColumn, Qt::AscendingOrder);
     SelectAllOnFocus(*m_ui->txtName);
@@ -153,4 +155,11 @@ void frmListEdit::cmdOK_Click() {
     ListDesc = m_ui->txtDesc->text();
     OK = true;
     accept();
+}
+
+void frmListEdit::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Delete && m_ui->lvwItems->hasFocus())
+        DeleteButtonItem();
+    else
+        QDialog::keyPressEvent(event);
 }

@@ -35,6 +35,9 @@ public:
 
     int exec() override;
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void KeepTyped();
     void EditButtonItem();

@@ -61,7 +61,7 @@ frmMDISetup::frmMDISetup(DockingLink& link, QWidget* parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::frmMDISetup>()), m_link(link) {
     m_ui->setupUi(this);
     m_ui->tabSetup->setExpanding(false);
-    m_ui->lvwProgram->setModel(&m_rows);
+    JoinList(*m_ui->lvwProgram, m_rows);
     for (const Kind& kind : Kinds())
         m_ui->tabSetup->addTab(ProgramIcon(QString::fromLatin1(kind.icon)), QString());
     Translate();
