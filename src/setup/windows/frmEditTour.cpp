@@ -43,6 +43,7 @@ frmEditTour::frmEditTour(QWidget* parent)
     JoinList(*m_ui->lvwLocations, m_locations);
     JoinList(*m_ui->lvwSelected, m_selected);
     SelectSectionOnFocus(*m_ui->dtpStartTime);
+    SelectAllOnFocus(*m_ui->txtTolerance);
     m_drag = new TourListDrag(*m_ui->lvwLocations, *m_ui->lvwSelected);
     connect(m_drag, &TourListDrag::Dropped, this, &frmEditTour::DropOn);
     connect(m_ui->imgCboSites, &QComboBox::currentIndexChanged, this, &frmEditTour::FillLocations);
