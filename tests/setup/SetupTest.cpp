@@ -102,6 +102,8 @@ private slots:
         for (int minutes = 0; minutes < MinutesOfDay; ++minutes)
             QCOMPARE(loaded.Points()[std::size_t(minutes)].minutes, minutes);
 
+        QCOMPARE(loaded.TimesFrom({}).back(), DateTime::FromTime(0, 1439 * 1440 / 2));
+
         const DateTime day = DateTime::FromQt(QDate(2026, 3, 29));
         for (int start = 0; start < MinutesOfDay; start += 7) {
             cTourReport report;
