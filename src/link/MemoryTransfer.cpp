@@ -157,8 +157,8 @@ MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray&
     if (GetIDMode) { // the frame must do without those that would follow
         colPackets alone;
         alone.Add(frame).Tag = 1;
-        const int records = std::min(m_recordCount, Wire::FirstFrameRecords);
-        return m_evidence == Evidence::Sure || RecordsIn(alone) == records ? Complete : Failed;
+        const bool believed = m_evidence == Evidence::Sure || RecordsIn(alone) == m_recordCount;
+        return believed ? Complete : Failed;
     }
     m_view.ShowReaderId(m_pipeId);
     m_frameTotal = FramesFor(m_recordCount);

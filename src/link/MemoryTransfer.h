@@ -43,8 +43,8 @@ struct TransferResult {
 ///
 /// - the line was quiet when the request was sent, and no byte came in front of the frame, and
 /// - its first record is a marker, as a reader writes one before its first touch, or else the image
-///   turns out to hold just as many records as its count says (for the identifier alone: the frame
-///   holds as many as its count lets it).
+///   turns out to hold just as many records as its count says (for the identifier alone: the first
+///   frame holds all of them).
 ///
 /// And nothing but status frames may follow the last frame. The watchdog runs from the first byte
 /// on, so that only complete silence waits for the operator.

@@ -192,8 +192,7 @@ namespace {
 
 QString FirstNotTaken(const QString& base, int digits, const QStringList& taken) {
     for (int number = 1; number <= 999; ++number) {
-        const QString name =
-            base + u' ' + QStringLiteral("%1").arg(number, digits, 10, QLatin1Char('0'));
+        QString name = base + u' ' + QStringLiteral("%1").arg(number, digits, 10, QLatin1Char('0'));
         if (!taken.contains(name))
             return name;
     }

@@ -134,7 +134,7 @@ public:
         if (!value.isUndefined() && !value.isArray())
             Fail(QStringLiteral("\"%1\" must be a list").arg(QLatin1String(key)));
         QList<Entry> entries;
-        for (const QJsonValue& item : value.toArray()) {
+        for (const auto& item : value.toArray()) {
             const QString name = QStringLiteral("%1%2 %3").arg(
                 m_name.isEmpty() ? QString() : m_name + QStringLiteral(", "), QLatin1String(what),
                 QString::number(entries.size() + 1));
@@ -187,7 +187,7 @@ private:
 
     /// Takes a name as it stands. Only its exact like is refused.
     static QString TakeName(const Entry& entry, const char* key, Named what, QStringList& taken) {
-        const QString name = entry.Text(key);
+        QString name = entry.Text(key);
         entry.FailIf(NameFault(what, name.trimmed().isEmpty() ? QString() : name, taken));
         taken += name;
         return name;

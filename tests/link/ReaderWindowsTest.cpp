@@ -274,6 +274,10 @@ private slots:
             << QStringList{"Reader not detected. Check reader and try again.", failed} << "";
         QTest::newRow("damaged") << Untaught + "checksum 1" << QStringList{"Download Error", failed}
                                  << "";
+        QTest::newRow("first of three frames lost")
+            << Untaught + QByteArray("touch 2026-03-01 08:10 1A40C2\n").repeated(130) +
+                   "drop-bytes 0 252"
+            << QStringList{"Download Error", failed} << "";
         QTest::newRow("first frame lost") << Untaught + "frames 2\ndrop-bytes 0 252"
                                           << QStringList{"Download Error", failed} << "";
         QTest::newRow("vanished") << Untaught + "vanish-after-bytes 100"
