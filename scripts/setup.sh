@@ -50,3 +50,5 @@ build() {
     quietly build.log cmake --build "$BUILD" ${1:+--target "$@"}
 }
 cmake_options=()
+# Precompiled headers and the place of the checkout are no reason to compile anew.
+export CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1

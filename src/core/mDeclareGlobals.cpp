@@ -8,6 +8,7 @@ std::unique_ptr<Dictionary> gDictionary;
 QString gDatabasePath;
 QString gConnectionString;
 std::unique_ptr<Connection> gConn;
+bool gStoreDamaged = false;
 bool gAutoSetTime = true;
 std::array<QString, 4> gCompanyInfo;
 bool gDockingDetected = false;
