@@ -64,11 +64,9 @@ bool Download(DockingLink& link, const CommandLine& line, const ConsoleBoxes& bo
         WriteOut(DownloadJson(outcome));
     else if (outcome.stored)
         WriteOut(DownloadText(outcome, view.MessageText()));
-    if (!outcome.stored) {
-        Complain(Translate("The touches could not be stored. The reader was not erased."));
+    if (!outcome.stored)
         return false;
-    }
-    if (!line.keep && !outcome.erased)
+    if (!line.keep && !outcome.erased && !download.HasSaidWhyNotErased())
         Complain(Translate("Reader Memory NOT erased!"));
     return (line.keep || outcome.erased) && outcome.clockSet;
 }
@@ -160,6 +158,7 @@ bool RunCommand(const CommandLine& line) {
         break;
     }
     DockingLink link;
+    link.GivesUpInTime = true;
     return Connect(link, line.device) && RunAtDock(link, line, boxes);
 }
 

@@ -26,15 +26,14 @@ class NoTransferView : public TransferView {
 
 } // namespace
 
-TransferResult ConsoleDownload::RunTransfer() {
-    return RunConsoleTransfer(m_link, TransferPurpose::Touches);
+TransferResult ConsoleDownload::RunTransfer(TransferPurpose purpose) {
+    return RunConsoleTransfer(m_link, purpose);
 }
 
 TransferResult RunConsoleTransfer(DockingLink& link, TransferPurpose purpose) {
     NoTransferView view;
     MemoryTransfer transfer(link, view);
-    transfer.GetIDMode = purpose == TransferPurpose::Identifier;
-    transfer.bFirmwareVersion = purpose == TransferPurpose::Firmware;
+    transfer.SetPurpose(purpose);
     QEventLoop loop;
     QObject::connect(&transfer, &MemoryTransfer::Closed, &loop, &QEventLoop::quit);
     Timer silence(SilenceLimit);
@@ -60,6 +59,7 @@ QByteArray DownloadJson(const MemoryDownload::Outcome& outcome) {
                                {QStringLiteral("type"), touch.EventType}};
     return QJsonDocument(QJsonObject{{QStringLiteral("reader"), outcome.readerId},
                                      {QStringLiteral("touches"), touches},
+                                     {QStringLiteral("stored"), outcome.rowsStored},
                                      {QStringLiteral("erased"), outcome.erased}})
         .toJson();
 }

@@ -9,9 +9,10 @@ class ConsoleDownload : public DownloadView {
 public:
     explicit ConsoleDownload(DockingLink& link) : m_link(link) {}
 
-    TransferResult RunTransfer() override;
+    TransferResult RunTransfer(TransferPurpose purpose) override;
     void ShowBusy(bool) override {}
     void ShowMessageText(const QString& text) override { m_text = text; }
+    void ShowWarning(bool) override {}
     void ClearList() override {}
     void ShowTouches(const colRawButtons&) override {}
     void ShowLastRow() override {}
@@ -25,7 +26,6 @@ private:
     QString m_text;
 };
 
-enum class TransferPurpose { Touches, Identifier, Firmware };
 /// Runs a transfer that nobody watches. Where nothing at all answers it is given up.
 TransferResult RunConsoleTransfer(DockingLink& link, TransferPurpose purpose);
 

@@ -63,6 +63,8 @@ bool TellFirmware(DockingLink& link, const CommandLine& line, const ConsoleBoxes
 
 bool SetReaderClock(DockingLink& link, const CommandLine& line) {
     const DateTime moment = line.time.value_or(Now());
+    if (!ClockDateIsUsable(moment))
+        return false;
     if (!link.SetClock(moment)) {
         Complain(Translate("Reader Clock update failed.  Please try again."));
         return false;
@@ -104,7 +106,8 @@ bool EraseReader(DockingLink& link, const CommandLine& line) {
     bool succeeded = false;
     download.EraseReader(true, succeeded);
     if (!succeeded) {
-        Complain(Translate("Reader Memory NOT erased!"));
+        if (!download.HasSaidWhyNotErased())
+            Complain(Translate("Reader Memory NOT erased!"));
         return false;
     }
     if (line.json)

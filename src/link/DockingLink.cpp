@@ -7,6 +7,7 @@
 #include "Trace.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
+#include "mTranslations.h"
 #include "mWardlock.h"
 
 namespace {
@@ -15,6 +16,8 @@ const QString PortKey = QStringLiteral("ComPort");
 
 constexpr int AnswerPause = 500; ///< ms that the reader side is given after each command
 constexpr int LookAgainPause = 300;
+/// In this time a memory stream brings several frames.
+constexpr int QuietPause = 1000;
 
 /// The status byte tells success; a reply without one does not.
 bool Succeeded(const QByteArray& reply, bool received) {
@@ -67,6 +70,8 @@ void DockingLink::OnComm() {
         m_bytesSeen += bytes.size();
         if (gCommActive)
             m_inBuffer.Append(bytes);
+        if (m_watched)
+            m_watched->Append(bytes);
         return;
     }
     const QString text = EventText(event);
@@ -115,9 +120,13 @@ void DockingLink::WaitFor(int tries, std::uint8_t header1, const QByteArray& dat
             Sleep(AnswerPause);
             DoEvents();
             DoEvents();
-            // By the time of day: a wait that crosses midnight goes on until a frame comes.
             const double start = SecondsOfDay();
-            while (SecondsOfDay() - start < timeout / 1000.0) {
+            m_waitEnd = MillisecondsRunning() + timeout;
+            const auto goesOn = [&] {
+                return GivesUpInTime ? MillisecondsRunning() < *m_waitEnd
+                                     : SecondsOfDay() - start < timeout / 1000.0;
+            };
+            while (!gWaitCancelled && goesOn()) {
                 QByteArray packet;
                 bool found = false;
                 m_inBuffer.GetPacket(packet, found);
@@ -125,7 +134,8 @@ void DockingLink::WaitFor(int tries, std::uint8_t header1, const QByteArray& dat
                     Trace(QStringLiteral("?  No packets in buffer"));
                     Sleep(LookAgainPause);
                     DoEvents();
-                } else if (acceptAny || ByteAt(packet, Wire::PayloadOffset) == expected) {
+                } else if (!IsMemoryLong(packet) &&
+                           (acceptAny || ByteAt(packet, Wire::PayloadOffset) == expected)) {
                     m_inBuffer.Clear();
                     reply = packet.mid(Wire::PayloadOffset).chopped(1);
                     gCommActive = false;
@@ -135,8 +145,10 @@ void DockingLink::WaitFor(int tries, std::uint8_t header1, const QByteArray& dat
                     Trace(QStringLiteral("Didnt want that, look for more"));
                 }
             }
+            m_waitEnd.reset();
             DoEvents();
-            Sleep(timeout);
+            if (!gWaitCancelled)
+                Sleep(timeout);
         }
         gCommActive = false;
     };
@@ -144,6 +156,42 @@ void DockingLink::WaitFor(int tries, std::uint8_t header1, const QByteArray& dat
         gCommActive = false;
         Trace(QStringLiteral("** Error in WaitFor! ") + error.Description());
     });
+    m_waitEnd.reset();
+}
+
+bool DockingLink::EndOverdueWait() const {
+    // One look late is how a wait that ends in time may end.
+    const bool overdue = m_waitEnd && MillisecondsRunning() > *m_waitEnd + LookAgainPause;
+    if (overdue)
+        gWaitCancelled = true;
+    return overdue;
+}
+
+void DockingLink::WatchForRemoval() {
+    m_watched = m_inBuffer;
+    m_readerRemoved = false;
+}
+
+bool DockingLink::ReaderWasRemoved() {
+    for (qsizetype before = -1; m_watched && before != m_watched->Buffer().size();) {
+        before = m_watched->Buffer().size();
+        QByteArray frame;
+        bool received = false;
+        m_watched->DropBrokenFrame();
+        m_watched->GetPacket(frame, received);
+        m_readerRemoved = m_readerRemoved || StatusOf(frame) == FrameStatus::NoReader;
+    }
+    return m_readerRemoved;
+}
+
+void DockingLink::AwaitQuietLine() {
+    std::int64_t seen = 0;
+    do {
+        DoEvents();
+        seen = m_bytesSeen;
+        Sleep(QuietPause);
+        DoEvents();
+    } while (m_bytesSeen - seen > Wire::MostNoise);
 }
 
 bool DockingLink::DetectStation() {
@@ -165,6 +213,8 @@ bool DockingLink::TxNewDate(std::uint8_t hour, std::uint8_t minute, std::uint8_t
 }
 
 bool DockingLink::SetClock(DateTime moment) {
+    if (!HasDateCode(moment))
+        return false;
     const QTime time = moment.ToQTime();
     const std::uint16_t code = DateCodeOf(moment);
     return TxNewDate(static_cast<std::uint8_t>(time.hour()),
@@ -197,11 +247,19 @@ void DockingLink::EraseRequest(bool& succeeded) {
     DoEvents();
     QByteArray reply;
     bool received = false;
-    WaitFor(1, Wire::Header1, CmdEraseMemory(), 1500, Wire::ReplyMemory, false, reply, received);
-    // A memory frame that comes late bears the same code, but is no answer to this.
-    succeeded =
-        Succeeded(reply, received) && reply.size() + Wire::Overhead <= Wire::LeastMemoryIndex;
+    if (!ReaderWasRemoved())
+        WaitFor(1, Wire::Header1, CmdEraseMemory(), 1500, Wire::ReplyMemory, false, reply,
+                received);
+    succeeded = Succeeded(reply, received);
     gCommActive = false;
+}
+
+bool ClockDateIsUsable(DateTime moment) {
+    if (HasDateCode(moment))
+        return true;
+    IvMessageBox(Translate("The reader's clock can only be set to a date from 1 January 2000 to 6 "
+                           "June 2179. It was not set."));
+    return false;
 }
 
 int SavedPortNumber() {

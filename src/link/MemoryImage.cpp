@@ -16,21 +16,41 @@ struct Record {
     bool IsEndMark() const { return b0 == 0 && b1 == 0 && b2 == 0 && b3 == 0; }
 };
 
-/// Goes through the records of an image up to the end mark or the end of the frames.
-void ForEachRecord(const colPackets& packets, const std::function<void(const Record&)>& visit) {
+Record RecordAt(const QByteArray& frame, int at) {
+    return {ByteAt(frame, at), ByteAt(frame, at + 1), ByteAt(frame, at + 2), ByteAt(frame, at + 3)};
+}
+
+/// Goes through all records of the frames until `visit` gives false.
+void ForEachRecord(const colPackets& packets, const std::function<bool(const Record&)>& visit) {
     for (const cPacket& packet : packets) {
         const QByteArray& frame = packet.RawData;
         const int start = packet.Tag == 1 ? Wire::FirstRecordOffset : Wire::RecordOffset;
         const int records = (static_cast<int>(frame.size()) - 1 - start) / Wire::RecordBytes;
-        for (int i = 0; i < records; ++i) {
-            const int at = start + i * Wire::RecordBytes;
-            const Record record{ByteAt(frame, at), ByteAt(frame, at + 1), ByteAt(frame, at + 2),
-                                ByteAt(frame, at + 3)};
-            if (record.IsEndMark())
+        for (int i = 0; i < records; ++i)
+            if (!visit(RecordAt(frame, start + i * Wire::RecordBytes)))
                 return;
-            visit(record);
-        }
     }
+}
+
+/// What an image holds, its end mark and what stands after it included.
+struct Extent {
+    int records = 0; ///< before the end mark
+    bool endMark = false;
+    bool dataAfterIt = false;
+};
+
+Extent ExtentOf(const colPackets& packets) {
+    Extent extent;
+    ForEachRecord(packets, [&](const Record& record) {
+        if (record.IsEndMark())
+            extent.endMark = true;
+        else if (extent.endMark)
+            extent.dataAfterIt = true;
+        else
+            ++extent.records;
+        return true;
+    });
+    return extent;
 }
 
 } // namespace
@@ -92,10 +112,27 @@ bool BeginsWithMarker(const QByteArray& firstFrame) {
     return ByteAt(firstFrame, Wire::FirstRecordOffset + 3) == Wire::MarkerByte;
 }
 
-int RecordsIn(const colPackets& packets) {
-    int count = 0;
-    ForEachRecord(packets, [&](const Record&) { ++count; });
-    return count;
+int RecordsIn(const colPackets& packets) { return ExtentOf(packets).records; }
+
+ImageEnd EndOf(const colPackets& packets, int recordCount) {
+    const Extent extent = ExtentOf(packets);
+    if (extent.dataAfterIt)
+        return ImageEnd::DataAfterEndMark;
+    // Frames that are full to the end may not hold all that a low count left out.
+    const bool agrees =
+        extent.records == recordCount || (extent.records > recordCount && extent.endMark);
+    return agrees ? ImageEnd::Sound : ImageEnd::CountDisagrees;
+}
+
+bool TellTheSame(const QByteArray& firstFrame, const QByteArray& other) {
+    const auto countAndReader = [](const QByteArray& frame) {
+        return frame.mid(Wire::CountOffset, Wire::FirmwareOffset - Wire::CountOffset);
+    };
+    const auto records = [](const QByteArray& frame) {
+        return frame.mid(Wire::FirstRecordOffset).chopped(1);
+    };
+    return countAndReader(firstFrame) == countAndReader(other) &&
+           records(firstFrame) == records(other);
 }
 
 colRawButtons DecodeImage(const colPackets& packets, ButtonDirectory& directory,
@@ -105,13 +142,15 @@ colRawButtons DecodeImage(const colPackets& packets, ButtonDirectory& directory,
     DateTime date;
     int hour = 0;
     ForEachRecord(packets, [&](const Record& record) {
+        if (record.IsEndMark())
+            return false;
         if (record.b3 == Wire::MarkerByte) {
             hour = std::min<int>(record.b0, 23);
             date = DateTime::FromDays(DecodeDateCode(record.b2, record.b1));
             Trace(QStringLiteral("Rx date = ") + Hex00(record.b1) + Hex00(record.b2));
             Trace(QStringLiteral("*Decoded event date = ") +
                   Format(date, QStringLiteral("Medium Date")));
-            return;
+            return true;
         }
         const QString code = Hex00(record.b2) + Hex00(record.b1) + Hex00(record.b0);
         cRawButton touch = directory.LookUpButtonData(code);
@@ -119,6 +158,7 @@ colRawButtons DecodeImage(const colPackets& packets, ButtonDirectory& directory,
         touches.push_back(std::move(touch));
         if (decoded)
             decoded();
+        return true;
     });
     return touches;
 }

@@ -26,8 +26,19 @@ bool NamesFirmware(const QString& firmwareText);
 
 /// True if the image's first record is a marker.
 bool BeginsWithMarker(const QByteArray& firstFrame);
-/// Records in front of the end mark, or of the end of the frames; markers count.
+/// Records before the end mark, or before the end of the frames; markers count.
 int RecordsIn(const colPackets& packets);
+
+/// Whether an image ends where it should.
+enum class ImageEnd {
+    Sound,
+    DataAfterEndMark, ///< bytes other than zero stand after the end mark
+    CountDisagrees,   ///< fewer records than the count says, or more and no end mark
+};
+ImageEnd EndOf(const colPackets& packets, int recordCount);
+
+/// True if two first frames tell of the same reader with the same count and records.
+bool TellTheSame(const QByteArray& firstFrame, const QByteArray& other);
 
 /// What is known of buttons, looked up in the store once a code.
 class ButtonDirectory {

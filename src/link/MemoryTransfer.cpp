@@ -19,6 +19,8 @@ constexpr int WatchdogInterval = 5000;
 
 /// What the empty end of an image would name, were it taken for a first frame.
 const QString NoReaderId = QStringLiteral("00000000");
+/// The record count of a reader that has no valid memory.
+constexpr int NoValidMemory = -1;
 
 QString Percent(int part, int whole, const char* pattern) {
     return Format((part * 100LL + whole / 2) / whole, QString::fromLatin1(pattern)) + u'%';
@@ -36,6 +38,11 @@ MemoryTransfer::MemoryTransfer(DockingLink& link, TransferView& view)
 
 MemoryTransfer::~MemoryTransfer() = default;
 
+void MemoryTransfer::SetPurpose(TransferPurpose purpose) {
+    GetIDMode = purpose == TransferPurpose::Identifier;
+    bFirmwareVersion = purpose == TransferPurpose::Firmware;
+}
+
 void MemoryTransfer::Start() {
     m_bytesAtStart = m_link.BytesSeen();
     m_tmrStart.SetEnabled(true);
@@ -52,8 +59,7 @@ void MemoryTransfer::BeginReading() {
     if (m_closed)
         return;
     m_bytesAtRequest = m_link.BytesSeen();
-    m_lineWasBusy = m_bytesAtRequest != m_bytesAtStart;
-    if (m_lineWasBusy) { // what came may have been the answer to an earlier request, or its end
+    if (m_bytesAtRequest != m_bytesAtStart) { // perhaps the answer to an earlier request
         m_answered = true;
         m_tmrTimeout.SetEnabled(true);
     }
@@ -82,6 +88,7 @@ void MemoryTransfer::TakePacket() {
     }
     QByteArray frame;
     bool received = false;
+    m_link.InBuffer().DropBrokenFrame();
     m_link.InBuffer().GetPacket(frame, received);
     if (!received) {
         if (!m_link.comPort().PortOpen()) // the dock has gone, and all it sent is taken
@@ -116,8 +123,8 @@ void MemoryTransfer::TakePacket() {
 }
 
 MemoryTransfer::PacketResult MemoryTransfer::ProcessPacket(const QByteArray& frame) {
-    if (frame.size() - 1 < Wire::LeastMemoryIndex)
-        return StatusOf(frame);
+    if (!IsMemoryLong(frame))
+        return ResultOf(StatusOf(frame));
     if (ByteAt(frame, Wire::PayloadOffset) != Wire::ReplyMemory)
         return Running;
     ++m_frameCount;
@@ -131,59 +138,66 @@ MemoryTransfer::PacketResult MemoryTransfer::ProcessPacket(const QByteArray& fra
     return m_frameCount == m_frameTotal ? Complete : Running;
 }
 
-MemoryTransfer::Evidence MemoryTransfer::EvidenceOf(const QByteArray& firstFrame) const {
-    const QString readerId = ReaderIdOf(firstFrame);
-    bool known = false;
-    IgnoringErrors([&] { known = IsKnownReader(readerId); });
-    if (known)
-        return Evidence::Sure;
-    const bool soundStream = !m_lineWasBusy && m_link.InBuffer().Lost() == 0;
-    if (!soundStream || readerId == NoReaderId)
-        return Evidence::None;
-    return BeginsWithMarker(firstFrame) ? Evidence::Sure : Evidence::Count;
+bool MemoryTransfer::MayBeFirst(const QByteArray& frame) const {
+    if (m_taught)
+        return true;
+    const std::int64_t noise = m_bytesAtRequest - m_bytesAtStart + m_link.InBuffer().Lost();
+    if (ReaderIdOf(frame) == NoReaderId || noise > Wire::MostNoise)
+        return false;
+    const int count = RecordCountOf(frame);
+    if (count < 0)
+        return count == NoValidMemory && noise == 0;
+    colPackets alone;
+    alone.Add(frame).Tag = 1;
+    if (RecordsIn(alone) != std::min(count, Wire::FirstFrameRecords))
+        return false;
+    const bool marker = count == 0 || BeginsWithMarker(frame);
+    const bool tellsAll = count <= Wire::FirstFrameRecords;
+    if (FirstFrameMustDo())
+        return noise == 0 ? marker || tellsAll : marker && tellsAll;
+    return marker;
 }
 
 MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray& frame) {
+    const QString readerId = ReaderIdOf(frame);
+    IgnoringErrors([&] { m_taught = IsKnownReader(readerId); });
+    if (!MayBeFirst(frame))
+        return Failed;
     m_firmware = FirmwareTextOf(frame);
     if (bFirmwareVersion && m_firmware == u"V08") // two names of one version
         m_firmware = QStringLiteral("V06");
-    m_evidence = EvidenceOf(frame);
-    if (m_evidence == Evidence::None)
-        return Failed;
-    m_pipeId = ReaderIdOf(frame);
+    m_pipeId = readerId;
+    m_firstFrame = frame;
+    m_lostMemoryFrames = m_link.InBuffer().LostMemoryFrames();
     m_recordCount = RecordCountOf(frame);
     if (m_recordCount < 0)
         return Failed;
-    if (GetIDMode) { // the frame must do without those that would follow
-        colPackets alone;
-        alone.Add(frame).Tag = 1;
-        const bool believed = m_evidence == Evidence::Sure || RecordsIn(alone) == m_recordCount;
-        return believed ? Complete : Failed;
-    }
+    if (GetIDMode)
+        return Complete;
     m_view.ShowReaderId(m_pipeId);
     m_frameTotal = FramesFor(m_recordCount);
     return Running;
 }
 
-MemoryTransfer::PacketResult MemoryTransfer::StatusOf(const QByteArray& frame) {
-    const int behindStatus = Wire::StatusOffset + Wire::StatusBytes;
-    if (frame.size() - 1 < behindStatus) // the last byte is the checksum
-        return Running;
-    const QByteArray status = frame.mid(Wire::StatusOffset, Wire::StatusBytes);
-    const auto allAre = [&](std::uint8_t value) {
-        return status.count(static_cast<char>(value)) == Wire::StatusBytes;
-    };
-    if (allAre(Wire::StatusTransferFault))
+MemoryTransfer::PacketResult MemoryTransfer::ResultOf(FrameStatus status) {
+    switch (status) {
+    case FrameStatus::TransferFault:
         return TransferFault;
-    return allAre(Wire::StatusNoReader) ? NoReader : Running;
+    case FrameStatus::NoReader:
+        return NoReader;
+    case FrameStatus::None:
+        break;
+    }
+    return Running;
 }
 
 void MemoryTransfer::EndReading() {
+    m_link.WatchForRemoval();
     m_view.ShowText(Translate("Download Completed"));
     DoEvents();
     if (m_closed)
         return;
-    if (bFirmwareVersion || GetIDMode) {
+    if (FirstFrameMustDo()) {
         Finish();
         return;
     }
@@ -195,8 +209,7 @@ void MemoryTransfer::EndReading() {
     DoEvents();
     if (m_closed)
         return;
-    const bool believed = m_evidence == Evidence::Sure || RecordsIn(m_packets) == m_recordCount;
-    if (!believed || !StreamHasEnded()) {
+    if (!ImageAgrees()) {
         Fail(Translate("Download Error"));
         return;
     }
@@ -209,18 +222,24 @@ void MemoryTransfer::EndReading() {
         Fail(Translate("Download Error"));
 }
 
+bool MemoryTransfer::ImageAgrees() {
+    m_end = EndOf(m_packets, m_recordCount);
+    return StreamHasEnded() && (m_taught || RecordsIn(m_packets) == m_recordCount);
+}
+
 bool MemoryTransfer::StreamHasEnded() {
     cInBuffer& buffer = m_link.InBuffer();
-    const std::int64_t lost = buffer.Lost();
-    for (;;) {
+    // A call that gives no frame may yet have thrown one away, with another after it.
+    for (qsizetype before = -1; before != buffer.Buffer().size();) {
+        before = buffer.Buffer().size();
         QByteArray frame;
         bool received = false;
+        buffer.DropBrokenFrame();
         buffer.GetPacket(frame, received);
-        if (!received)
-            return buffer.Buffer().isEmpty() && buffer.Lost() == lost;
-        if (frame.size() - 1 >= Wire::LeastMemoryIndex)
+        if (received && IsMemoryLong(frame))
             return false;
     }
+    return buffer.LostMemoryFrames() == m_lostMemoryFrames && !buffer.AwaitsMemoryFrame();
 }
 
 bool MemoryTransfer::ProcessData() {
@@ -238,6 +257,7 @@ bool MemoryTransfer::ProcessData() {
         });
         ShowProgress(m_recordCount, m_recordCount);
         m_view.ShowProgressText(QStringLiteral("100%"));
+        DoEvents();
         Sleep(400);
         DoEvents();
         return true;

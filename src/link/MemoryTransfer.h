@@ -1,8 +1,10 @@
 #pragma once
 
 #include "Clock.h"
+#include "MemoryImage.h"
 #include "cRawButton.h"
 #include "colPackets.h"
+#include "mWardlock.h"
 
 #include <QObject>
 #include <QString>
@@ -22,12 +24,18 @@ public:
     virtual void Beep() = 0;
 };
 
+/// What a transfer is for.
+enum class TransferPurpose { Touches, Identifier, Firmware };
+
 /// What came of a memory transfer.
 struct TransferResult {
     bool OK = false;
     colRawButtons Buttons;
-    QString PipeID;    ///< the reader's identifier
-    QString tFirmware; ///< "V" and two hexadecimal digits; empty before the first frame
+    QString PipeID;        ///< the reader's identifier
+    QString tFirmware;     ///< "V" and two hexadecimal digits; empty before the first frame
+    QByteArray FirstFrame; ///< the frame that names the reader; empty before it
+    /// Whether the memory that was read ends where it should. If not, the reader may hold more.
+    ImageEnd End = ImageEnd::Sound;
 };
 
 /// Runs one memory read: sends the command, takes the memory frames on a timer and decodes them
@@ -37,17 +45,25 @@ struct TransferResult {
 ///           --> all frames are there: decoded, OK      --> Closed
 ///           --> no frame for 5000 ms, a fault, Cancel  --> Closed, no touches
 ///
-/// The frames of a memory image carry no number, so a lost first frame would let the second pass
-/// for it: a made-up reader with made-up touches, and an erase behind. So a first frame is believed
-/// if it names a reader that has been taught. That of another reader is believed only if
+/// The frames of a memory image carry no number, so a second frame whose first was lost could pass
+/// for it: a made-up reader with made-up touches, and an erase that loses the real ones. So an
+/// image is believed only if everything in it agrees:
 ///
-/// - the line was quiet when the request was sent, and no byte came in front of the frame, and
-/// - its first record is a marker, as a reader writes one before its first touch, or else the image
-///   turns out to hold just as many records as its count says (for the identifier alone: the first
-///   frame holds all of them).
+/// - That of a reader that has been taught: the first frame names that reader, and there are as
+/// many
+///   frames as its count asks for.
+/// - That of any other reader: it also begins with a marker, as a reader writes one before its
+/// first
+///   touch (or it is empty), and it holds exactly as many records as its count says. In front of it
+///   came less than half a memory frame of bytes that belong to no frame: more could be the rest of
+///   a first frame.
+/// - Of neither does a further memory frame follow, whole, damaged or only begun.
 ///
-/// And nothing but status frames may follow the last frame. The watchdog runs from the first byte
-/// on, so that only complete silence waits for the operator.
+/// Noise before the first frame, between frames and after the last is otherwise no reason to doubt.
+/// For the identifier or the firmware alone the first frame must do. If it cannot show all records,
+/// or has no marker, then no stray byte at all may come in front of it.
+///
+/// The watchdog runs from the first byte on, so that only complete silence waits for the operator.
 class MemoryTransfer : public QObject {
     Q_OBJECT
 public:
@@ -56,6 +72,8 @@ public:
 
     bool GetIDMode = false;        ///< stop after the first frame, with the identifier
     bool bFirmwareVersion = false; ///< only the firmware text is wanted
+    /// Sets both.
+    void SetPurpose(TransferPurpose purpose);
 
     void Start();
     /// Ends it; nothing is sent to the reader.
@@ -65,24 +83,26 @@ public:
     bool IsClosed() const { return m_closed; }
     /// True from the first byte of the answer on.
     bool HasAnswered() const { return m_answered; }
-    TransferResult Result() const { return {m_ok, m_buttons, m_pipeId, m_firmware}; }
+    TransferResult Result() const {
+        return {m_ok, m_buttons, m_pipeId, m_firmware, m_firstFrame, m_end};
+    }
 
 signals:
     /// Emitted once. The object may be dropped from here on, but not from within.
     void Closed();
 
 private:
-    /// What tells that the first frame is the first.
-    enum class Evidence { None, Count, Sure };
     enum PacketResult { Running = 0, Complete = 1, Failed = -1, TransferFault = -2, NoReader = -3 };
 
     void BeginReading();
     void TakePacket();
     PacketResult ProcessPacket(const QByteArray& frame);
     PacketResult ProcessFirstFrame(const QByteArray& frame);
-    static PacketResult StatusOf(const QByteArray& frame);
-    Evidence EvidenceOf(const QByteArray& firstFrame) const;
+    static PacketResult ResultOf(FrameStatus status);
+    bool MayBeFirst(const QByteArray& frame) const;
+    bool FirstFrameMustDo() const { return GetIDMode || bFirmwareVersion; }
     void EndReading();
+    bool ImageAgrees();
     bool StreamHasEnded();
     bool ProcessData();
     void ShowProgress(int value, int maximum);
@@ -100,14 +120,16 @@ private:
     colRawButtons m_buttons;
     QString m_pipeId;
     QString m_firmware;
+    QByteArray m_firstFrame;
+    ImageEnd m_end = ImageEnd::Sound;
     int m_recordCount = 0;
     int m_decoded = 0;
     int m_frameTotal = 0;
     int m_frameCount = 0;
     std::int64_t m_bytesAtStart = 0;
     std::int64_t m_bytesAtRequest = 0;
-    bool m_lineWasBusy = false;
-    Evidence m_evidence = Evidence::None;
+    int m_lostMemoryFrames = 0; ///< before the first one
+    bool m_taught = false;
     bool m_answered = false;
     bool m_ok = false;
     bool m_closed = false;

@@ -8,6 +8,7 @@ namespace {
 constexpr char PreambleByte = '\xFF';
 constexpr char SyncByte = '\x55';
 constexpr int PreambleLength = 3;
+const QByteArray FrameStart = QByteArrayLiteral("\xFF\xFF\xFF\x55");
 /// Frames with a payload of this many bytes or more are not taken: no dock sends them, and a
 /// damaged length byte must not swallow what follows.
 constexpr int TooLong = 245;
@@ -86,6 +87,33 @@ QByteArray cInBuffer::Parse() {
     }
     if (ChecksumHolds(frame))
         return frame;
-    m_lost += frame.size();
+    NoteLostFrame(frame.size(), frame.size());
     return {};
+}
+
+void cInBuffer::NoteLostFrame(qsizetype length, qsizetype bytes) {
+    m_lost += bytes;
+    if (length > Wire::LeastMemoryIndex)
+        ++m_lostMemoryFrames;
+}
+
+void cInBuffer::DropBrokenFrame() {
+    const qsizetype start = m_bytes.indexOf(FrameStart);
+    const qsizetype next = start < 0 ? -1 : m_bytes.indexOf(FrameStart, start + FrameStart.size());
+    if (next < 0 || m_bytes.size() <= start + Wire::LengthOffset)
+        return;
+    const qsizetype length =
+        ByteAt(m_bytes, static_cast<int>(start) + Wire::LengthOffset) + Wire::Overhead;
+    const bool whole = m_bytes.size() >= start + length;
+    if (!whole || next >= start + length || ChecksumHolds(m_bytes.mid(start, length)))
+        return;
+    NoteLostFrame(length, next);
+    Cut(next);
+}
+
+bool cInBuffer::AwaitsMemoryFrame() const {
+    const qsizetype start = m_bytes.indexOf(FrameStart);
+    return start >= 0 && m_bytes.size() > start + Wire::LengthOffset &&
+           ByteAt(m_bytes, static_cast<int>(start) + Wire::LengthOffset) + Wire::Overhead >
+               Wire::LeastMemoryIndex;
 }

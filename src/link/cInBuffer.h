@@ -13,6 +13,7 @@ public:
     void Clear() {
         m_bytes.clear();
         m_lost = 0;
+        m_lostMemoryFrames = 0;
     }
     /// The highest index: one less than the number of bytes, and 0 for an empty buffer too.
     int Count() const { return m_bytes.isEmpty() ? 0 : static_cast<int>(m_bytes.size()) - 1; }
@@ -24,15 +25,24 @@ public:
     /// holds a frame; if not, it is empty.
     void GetPacket(QByteArray& frame, bool& received);
 
+    /// Throws away a frame that broke off, if one stands in front: its checksum does not hold, and
+    /// another frame begins in it, whose beginning GetPacket would throw away along with it.
+    void DropBrokenFrame();
+    /// True if a memory frame has begun whose end is still to come.
+    bool AwaitsMemoryFrame() const;
+
     /// Bytes since the last Clear that arrived and were thrown away: junk, frames with a wrong
-    /// checksum, purged bytes. Where nothing else tells one frame from another, this tells that
-    /// one may have been lost.
+    /// checksum, purged bytes.
     std::int64_t Lost() const { return m_lost; }
+    /// Among them, frames as long as a memory frame.
+    int LostMemoryFrames() const { return m_lostMemoryFrames; }
 
 private:
     QByteArray Parse();
     void Cut(qsizetype bytes);
+    void NoteLostFrame(qsizetype length, qsizetype bytes);
 
     QByteArray m_bytes;
     std::int64_t m_lost = 0;
+    int m_lostMemoryFrames = 0;
 };

@@ -23,6 +23,19 @@ QByteArray Command(std::uint8_t code, std::initializer_list<int> fields) {
 
 } // namespace
 
+FrameStatus StatusOf(const QByteArray& frame) {
+    const int statusEnd = Wire::StatusOffset + Wire::StatusBytes;
+    if (IsMemoryLong(frame) || frame.size() - 1 < statusEnd) // the last byte is the checksum
+        return FrameStatus::None;
+    const QByteArray status = frame.mid(Wire::StatusOffset, Wire::StatusBytes);
+    const auto allAre = [&](std::uint8_t value) {
+        return status.count(static_cast<char>(value)) == Wire::StatusBytes;
+    };
+    if (allAre(Wire::StatusTransferFault))
+        return FrameStatus::TransferFault;
+    return allAre(Wire::StatusNoReader) ? FrameStatus::NoReader : FrameStatus::None;
+}
+
 QByteArray CmdDetect() { return QByteArray(1, '\x11'); }
 
 QByteArray CmdSetClock(int hour, int minute, std::uint8_t dateMsb, std::uint8_t dateLsb) {
@@ -76,6 +89,11 @@ void SetBit(std::uint8_t& target, int index) {
 }
 
 int DecodeDateCode(int high, int low) { return high * 256 + low + Wire::DateCodeZero; }
+
+bool HasDateCode(DateTime date) {
+    const auto days = date.WholeDays() - Wire::DateCodeZero;
+    return days >= 0 && days <= 0xFFFF;
+}
 
 std::uint16_t DateCodeOf(DateTime date) {
     return static_cast<std::uint16_t>(date.WholeDays() - Wire::DateCodeZero);

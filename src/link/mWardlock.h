@@ -38,6 +38,8 @@ constexpr std::uint8_t ReplyDetect = 0x80, ReplyClock = 0x93, ReplyOptions = 0x8
 
 /// A memory frame has at least this highest index; anything shorter tells a status.
 constexpr int LeastMemoryIndex = 251;
+/// Fewer bytes than half a memory frame are taken for noise, not for what is left of one.
+constexpr int MostNoise = LeastMemoryIndex / 2;
 /// Memory frame 1: record count (2 bytes, low first), identifier (4 bytes), firmware, first record.
 constexpr int CountOffset = 11, IdentifierOffset = 13, FirmwareOffset = 17, FirstRecordOffset = 19,
               FirstFrameRecords = 58;
@@ -53,6 +55,13 @@ constexpr std::uint8_t StatusTransferFault = 0x01, StatusNoReader = 0xFF;
 constexpr int DateCodeZero = 36526;
 
 } // namespace Wire
+
+/// What a status frame says.
+enum class FrameStatus { None, TransferFault, NoReader };
+FrameStatus StatusOf(const QByteArray& frame);
+/// True for a frame as long as the memory frames are, whatever its code. Anything shorter is a
+/// reply, a button or a status.
+inline bool IsMemoryLong(const QByteArray& frame) { return frame.size() > Wire::LeastMemoryIndex; }
 
 /// The commands, as payloads.
 QByteArray CmdDetect();
@@ -75,6 +84,8 @@ void SetBit(std::uint8_t& target, int index);
 
 /// Days since 30 December 1899 of a date code.
 int DecodeDateCode(int high, int low);
+/// False for a day that no date code tells: before 1 January 2000, or after 6 June 2179.
+bool HasDateCode(DateTime date);
 /// The date code of a day, 16 bits; the time of day is dropped.
 std::uint16_t DateCodeOf(DateTime date);
 

@@ -40,6 +40,16 @@ DateTime Today() { return Now().DatePart(); }
 
 double SecondsOfDay() { return static_cast<double>(Now().TimePart().Milliseconds()) / 1000.0; }
 
+std::int64_t MillisecondsRunning() {
+    static const QElapsedTimer running = [] {
+        QElapsedTimer timer;
+        timer.start();
+        return timer;
+    }();
+    const double speed = TheOverride() ? TheOverride()->speed : 1.0;
+    return static_cast<std::int64_t>(static_cast<double>(running.nsecsElapsed()) / 1e6 * speed);
+}
+
 void Sleep(int milliseconds) {
     QThread::msleep(static_cast<unsigned long>(std::max(0, Shortened(milliseconds))));
 }

@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include <cstdint>
+
 /// The one place that knows the time. Everything that pauses, waits or ticks goes through here, so
 /// that a test can set the time and let it run faster; nothing but a test does.
 
@@ -14,6 +16,9 @@ DateTime Now();
 DateTime Today();
 /// Seconds since midnight; falls back to 0 at midnight, as a wall clock does.
 double SecondsOfDay();
+/// Milliseconds since some moment, by a clock that no setting of the time moves. For measuring how
+/// long something takes.
+std::int64_t MillisecondsRunning();
 /// Blocks the thread; no event is handled meanwhile.
 void Sleep(int milliseconds);
 /// Handles all events that are waiting.

@@ -96,8 +96,7 @@ void frmMain::mnuToolsReaderFW_Click() {
         {
             const Hourglass hourglass;
             frmDownload dialog(m_link, this);
-            dialog.bFirmwareVersion = true;
-            result = dialog.Run();
+            result = dialog.Run(TransferPurpose::Firmware);
         }
         if (!NamesFirmware(result.tFirmware))
             return;

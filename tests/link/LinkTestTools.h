@@ -131,8 +131,9 @@ public:
     /// A transfer that runs longer than this, in milliseconds, is cancelled, as an operator would.
     int Patience = 20'000;
 
-    TransferResult RunTransfer() override {
+    TransferResult RunTransfer(TransferPurpose purpose) override {
         MemoryTransfer transfer(m_link, *this);
+        transfer.SetPurpose(purpose);
         m_transfer = &transfer;
         WasCancelled = false;
         QEventLoop loop;
@@ -160,7 +161,7 @@ public:
         if (std::exchange(CancelAtFirstFrame, false))
             m_transfer->Cancel();
     }
-    void ShowWarning(bool) override {}
+    void ShowWarning(bool visible) override { Warned += visible; }
     void ShowProgress(int value, int maximum) override {
         ProgressInRange = ProgressInRange && value >= 0 && value <= maximum;
     }
@@ -168,7 +169,7 @@ public:
     void Beep() override {}
 
     QString MessageText, Status;
-    QList<bool> Busy;
+    QList<bool> Busy, Warned;
     std::size_t Listed = 0;
     bool ProgressInRange = true, WasCancelled = false, HasAnswered = false;
 

@@ -79,7 +79,7 @@ private slots:
             warned = warned || Control(dialog, "lblWarning")->isVisible();
             return false;
         });
-        const TransferResult result = dialog.Run();
+        const TransferResult result = dialog.Run(TransferPurpose::Touches);
         QVERIFY(result.OK && inRange && warned && !dialog.isVisible());
         QCOMPARE(result.Buttons.size(), 130U);
         texts.removeDuplicates();
@@ -98,16 +98,14 @@ private slots:
         Station station(ManyTouches + "firmware 08");
         {
             frmDownload dialog(station.link, nullptr);
-            dialog.GetIDMode = true;
-            const TransferResult result = dialog.Run();
+            const TransferResult result = dialog.Run(TransferPurpose::Identifier);
             QVERIFY(result.OK && result.Buttons.empty());
             QCOMPARE(result.PipeID, "4B5831A7");
         }
         frmDownload dialog(station.link, nullptr);
-        dialog.bFirmwareVersion = true;
         const Watcher wrongText(
             [&] { return TextOf(dialog, "lblMsgs") == u"Downloading data from reader"; });
-        const TransferResult result = dialog.Run();
+        const TransferResult result = dialog.Run(TransferPurpose::Firmware);
         QVERIFY(result.OK && result.Buttons.empty() && !wrongText.Seen());
         QCOMPARE(result.tFirmware, "V06"); // what 08 is shown as
         QCOMPARE(station.dock.Logged("CmdEraseMemory"), 0);
@@ -153,7 +151,7 @@ private slots:
                 dialog.close();
             return true;
         });
-        const TransferResult result = dialog.Run();
+        const TransferResult result = dialog.Run(TransferPurpose::Touches);
         QVERIFY(watcher.Seen() && !result.OK && !dialog.isVisible() && !gCommActive);
         QVERIFY(m_boxes.Messages.isEmpty());
         QTRY_VERIFY(station.link.DetectStation()); // the line is in order, and all has arrived

@@ -46,8 +46,7 @@ void frmAddReader::CheckReaderID(bool& ok) {
     TransferResult result;
     {
         frmDownload dialog(m_link, this);
-        dialog.GetIDMode = true;
-        result = dialog.Run();
+        result = dialog.Run(TransferPurpose::Identifier);
     }
     if (!result.OK) {
         IvMessageBox(Translate("Reader ID Download Failed"));

@@ -21,9 +21,8 @@ frmDownload::frmDownload(DockingLink& link, QWidget* parent)
 
 frmDownload::~frmDownload() = default;
 
-TransferResult frmDownload::Run() {
-    m_transfer.GetIDMode = GetIDMode;
-    m_transfer.bFirmwareVersion = bFirmwareVersion;
+TransferResult frmDownload::Run(TransferPurpose purpose) {
+    m_transfer.SetPurpose(purpose);
     m_transfer.Start();
     exec();
     return m_transfer.Result();

@@ -17,11 +17,8 @@ public:
     frmDownload(DockingLink& link, QWidget* parent);
     ~frmDownload() override;
 
-    bool GetIDMode = false;
-    bool bFirmwareVersion = false;
-
     /// Shows the dialog and runs the transfer to its end.
-    TransferResult Run();
+    TransferResult Run(TransferPurpose purpose);
 
     /// Escape and the close button cancel the transfer.
     void reject() override { m_transfer.Cancel(); }

@@ -2,8 +2,11 @@
 
 #include "DockingLink.h"
 #include "WindowTools.h"
+#include "mDeclareGlobals.h"
 #include "mTranslations.h"
 #include "ui_frmGoOnline.h"
+
+#include <utility>
 
 frmGoOnline::frmGoOnline(DockingLink& link, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmGoOnline>()), m_link(link), m_tmrStart(200) {
@@ -47,6 +50,10 @@ void frmGoOnline::Connect() {
     OK = true;
     message(Translate("Checking Docking Station...") + QStringLiteral("\n\n"));
     DockingDetected = m_link.DetectStation();
+    if (std::exchange(m_calledOff, false))
+        gWaitCancelled = gCommActive = false;
     AppendMessage(Translate(DockingDetected ? "OK" : "Failed"));
     accept();
 }
+
+void frmGoOnline::reject() { m_calledOff = m_link.EndOverdueWait() || m_calledOff; }

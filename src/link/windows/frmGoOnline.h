@@ -31,8 +31,8 @@ public:
     /// connects anew.
     bool Online = false;
 
-    /// Runs by itself; there is nothing to cancel.
-    void reject() override {}
+    /// Runs by itself; there is nothing to cancel but a wait that lasts too long.
+    void reject() override;
 
 private:
     void Connect();
@@ -40,4 +40,5 @@ private:
     std::unique_ptr<Ui::frmGoOnline> m_ui;
     DockingLink& m_link;
     Timer m_tmrStart;
+    bool m_calledOff = false;
 };

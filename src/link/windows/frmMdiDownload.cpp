@@ -1,13 +1,18 @@
 #include "frmMdiDownload.h"
 
+#include "DockingLink.h"
 #include "WindowTools.h"
 #include "frmDownload.h"
+#include "mDeclareGlobals.h"
 #include "mTranslations.h"
 #include "ui_frmMdiDownload.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHeaderView>
+#include <QTimer>
+
+#include <utility>
 
 namespace {
 
@@ -24,11 +29,13 @@ frmMdiDownload::frmMdiDownload(DockingLink& link, QWidget* parent)
     m_ui->cmdOnline_1->setIcon(ProgramIcon(QStringLiteral("erase")));
     m_ui->lvwDownload->setModel(&m_touches);
     m_ui->lvwDownload->header()->setStretchLastSection(false);
-    // Its place stays while it is hidden, so that the buttons stay where they are.
-    QSizePolicy policy = m_ui->lblMsg->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    m_ui->lblMsg->setSizePolicy(policy);
-    m_ui->lblMsg->hide();
+    // Their places stay while they are hidden, so that nothing else moves.
+    for (QLabel* label : {m_ui->lblMsg, m_ui->lblWarning}) {
+        QSizePolicy policy = label->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        label->setSizePolicy(policy);
+        label->hide();
+    }
     setFocusProxy(m_ui->cmdOnline_0);
     Translate();
     connect(m_ui->cmdOnline_0, &QPushButton::clicked, this, [this] { cmdOnline_Click(0); });
@@ -54,9 +61,9 @@ void frmMdiDownload::EraseReader(bool silent, bool& succeeded) {
     m_download.EraseReader(silent, succeeded);
 }
 
-TransferResult frmMdiDownload::RunTransfer() {
+TransferResult frmMdiDownload::RunTransfer(TransferPurpose purpose) {
     frmDownload dialog(m_link, window());
-    return dialog.Run();
+    return dialog.Run(purpose);
 }
 
 void frmMdiDownload::ShowBusy(bool busy) {
@@ -67,12 +74,18 @@ void frmMdiDownload::ShowBusy(bool busy) {
     m_ui->cmdOnline_0->setEnabled(!busy);
     m_ui->cmdOnline_1->setEnabled(!busy);
     emit BusyChanged(busy);
+    if (!busy && std::exchange(m_closeWhenDone, false)) {
+        gWaitCancelled = false;
+        QTimer::singleShot(0, window(), &QWidget::close);
+    }
 }
 
 void frmMdiDownload::ShowMessageText(const QString& text) {
     m_ui->lblMsg->setText(text);
     m_ui->lblMsg->setVisible(!text.isEmpty());
 }
+
+void frmMdiDownload::ShowWarning(bool visible) { m_ui->lblWarning->setVisible(visible); }
 
 void frmMdiDownload::ClearList() { m_touches.SetTouches({}); }
 
@@ -99,4 +112,9 @@ void frmMdiDownload::resizeEvent(QResizeEvent* event) {
     SizeColumns();
 }
 
-void frmMdiDownload::closeEvent(QCloseEvent* event) { event->setAccepted(!Busy()); }
+void frmMdiDownload::closeEvent(QCloseEvent* event) {
+    event->setAccepted(!Busy());
+    // A wait that would last until a frame comes must not keep the window open.
+    if (Busy() && m_link.EndOverdueWait())
+        m_closeWhenDone = true;
+}

@@ -22,7 +22,8 @@ public:
     void Translate();
     /// Erases the reader, with or without questions.
     void EraseReader(bool silent, bool& succeeded);
-    /// While a download runs the page may not be left.
+    /// While a download runs the page may not be left. (If it waits for the dock longer than it
+    /// should, closing it ends the wait, and closes its window after that.)
     bool Busy() const { return m_download.Busy(); }
 
 signals:
@@ -38,9 +39,10 @@ private:
     void cmdOnline_Click(int index);
     void SizeColumns();
 
-    TransferResult RunTransfer() override;
+    TransferResult RunTransfer(TransferPurpose purpose) override;
     void ShowBusy(bool busy) override;
     void ShowMessageText(const QString& text) override;
+    void ShowWarning(bool visible) override;
     void ClearList() override;
     void ShowTouches(const colRawButtons& touches) override;
     void ShowLastRow() override;
@@ -50,4 +52,5 @@ private:
     DockingLink& m_link;
     MemoryDownload m_download;
     TouchListModel m_touches;
+    bool m_closeWhenDone = false;
 };

@@ -13,19 +13,11 @@
 #include <optional>
 #include <utility>
 
-namespace {
-
-/// What a date code can tell.
-const QDate FirstDay(2000, 1, 1), LastDay(2179, 6, 6);
-
-} // namespace
-
 frmSetTime::frmSetTime(DockingLink& link, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmSetTime>()), m_link(link) {
     m_ui->setupUi(this);
     Translate();
     m_ui->dtpPanelDate->setDisplayFormat(GetShortDateFormat());
-    m_ui->dtpPanelDate->setDateRange(FirstDay, LastDay);
     SelectSectionOnFocus(*m_ui->DTPicker1);
     SelectSectionOnFocus(*m_ui->dtpPanelDate);
     Guarded("Form_Load of Form frmSetTime", [this] { Form_Load(); });
@@ -93,6 +85,8 @@ void frmSetTime::cmdSendRealTime_Click() {
 
 void frmSetTime::Send() {
     const DateTime moment = ChosenMoment();
+    if (!ClockDateIsUsable(moment))
+        return;
     std::optional<Hourglass> hourglass(std::in_place);
     SetSending(true);
     const bool clockSet = m_link.SetClock(moment);

@@ -25,7 +25,7 @@ public:
 
     /// Saves what is chosen, whatever closes the dialog.
     void done(int result) override;
-    /// While a sending runs it is called off, and the dialog closes when the try in hand is over.
+    /// While a sending runs it is called off, and the dialog closes when that has ended.
     void reject() override;
 
 private:
