@@ -2,6 +2,7 @@
 // report in a large store, compaction.
 
 #include "Connection.h"
+#include "Engine.h"
 #include "Figures.h"
 #include "MemoryDownload.h"
 #include "MemoryImage.h"
@@ -72,7 +73,7 @@ public:
         sqlite3_key(m_database, key.constData(), static_cast<int>(key.size()));
         Run("PRAGMA cipher_default_compatibility = 3");
         Run("PRAGMA cipher_compatibility = 3");
-        Run("PRAGMA synchronous = FULL");
+        Run("PRAGMA synchronous = EXTRA");
     }
     ~Bare() { sqlite3_close(m_database); }
     Bare(const Bare&) = delete;
@@ -302,7 +303,8 @@ void BenchWalk(Figures& figures, const QString& path) {
         [] {},
         [&] {
             sqlite3_stmt* walk = nullptr;
-            sqlite3_prepare_v2(gConn->Handle(), "SELECT * FROM tblEvents", -1, &walk, nullptr);
+            sqlite3_prepare_v2(gConn->OpenEngine()->Handle(), "SELECT * FROM tblEvents", -1, &walk,
+                               nullptr);
             std::vector<PlainRow> rows;
             while (sqlite3_step(walk) == SQLITE_ROW)
                 rows.push_back({sqlite3_column_int64(walk, 0), sqlite3_column_double(walk, 1),

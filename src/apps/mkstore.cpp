@@ -22,7 +22,7 @@ void MakeStore(const QString& path, bool demo) {
     try {
         Connection store;
         store.Properties(QStringLiteral("Jet OLEDB:Database Password")) = StorePassword;
-        store.Open(QStringLiteral("Data Source=") + path);
+        store.Open(QStringLiteral("Data Source=") + ConnectionValue(path));
         CreateTables(store);
         if (demo)
             DemoStore::Fill(store);

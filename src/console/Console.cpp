@@ -7,6 +7,7 @@
 #include "ConsoleReport.h"
 #include "ConsoleTools.h"
 #include "DockingLink.h"
+#include "InstanceLock.h"
 #include "SetupFile.h"
 #include "TourReportBuilder.h"
 #include "mErrorHandler.h"
@@ -39,6 +40,7 @@ bool OpenStation(const CommandLine& line) {
     gConnectionString = ConnectionText(gDatabasePath, StorePassword);
     if (!ADOTest(gDatabasePath, StorePassword) || !ADOInit(gDatabasePath, StorePassword))
         return false;
+    RemoveLeftoverCopy(AppFile(QStringLiteral("temp.mdb")));
     if (CheckOperator(line.login, qEnvironmentVariable("WARDLOCK_PASSWORD"), RememberLogin::No) ==
         NoOperator) {
         const bool given = qEnvironmentVariableIsSet("WARDLOCK_PASSWORD");

@@ -6,7 +6,6 @@
 #include "mDeclareGlobals.h"
 #include "mTranslations.h"
 
-#include <QFileDevice>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -29,7 +28,7 @@ void WriteOut(const QByteArray& bytes, const QString& path) {
         return;
     }
     OutputFile file(path);
-    file.Device().write(bytes);
+    file.Write(bytes);
     file.Commit();
 }
 

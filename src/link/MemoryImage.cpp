@@ -95,9 +95,8 @@ const cRawButton& ButtonDirectory::LookUpButtonData(const QString& code) {
                              "tblListItems.tName AS tGroupName, tblListItems.tDesc AS tGroupDesc "
                              "FROM tblButtons INNER JOIN tblListItems ON "
                              "tblButtons.lParentID = tblListItems.ID "
-                             "WHERE (((tblButtons.tButtonCode)='") +
-                  code + QStringLiteral("'));"),
-              *gConn);
+                             "WHERE (((tblButtons.tButtonCode)=?));"),
+              {code}, *gConn);
     if (rows.RecordCount() == 1) {
         button.EventType = static_cast<int>(rows.Number(u"wType"));
         button.Name = rows.Text(u"tButtonName");

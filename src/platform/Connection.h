@@ -1,15 +1,15 @@
 #pragma once
 
 #include "ObjectState.h"
+#include "Value.h"
 
 #include <QHash>
 #include <QString>
 
 #include <memory>
 
-struct sqlite3;
+class Engine;
 class Recordset;
-class StoreLock;
 
 /// One connection to a password-protected store file. While it is open, a lock file beside the
 /// store (the same name, ending in ".ldb") keeps other processes out; several connections of one
@@ -23,39 +23,52 @@ public:
 
     /// Kept for the caller; there is one provider.
     QString Provider;
-    /// "Data Source=" and the path, and other parts split by ";" as a connection text has them.
+    /// "Data Source=" and the path, and other parts split by ";" as a connection text has them. A
+    /// value that holds a ";" stands in double quotes (ConnectionValue).
     QString ConnectionString;
     int Mode = 0;
     /// "Jet OLEDB:Database Password" is the one that is used.
     QString& Properties(const QString& name) { return m_properties[name.toLower()]; }
 
     /// Opens the store, which must be there, be an encrypted store file and open with the
-    /// password. A transaction that a dying process left half done is rolled back here.
-    /// `connectionString`, where not empty, replaces the property.
+    /// password. A transaction that a dying process left half done is rolled back here, unless its
+    /// journal belongs to another file (ForeignJournal). `connectionString`, where not empty,
+    /// replaces the property.
     void Open(const QString& connectionString = {});
+    /// Recordsets that are still open keep the file and its lock until they are closed.
     void Close();
-    ObjectState State() const { return m_database ? adStateOpen : adStateClosed; }
+    ObjectState State() const { return m_engine ? adStateOpen : adStateClosed; }
 
-    /// Runs one statement of the store's dialect and gives the number of rows it changed.
-    int Execute(const QString& statement);
+    /// A journal beside the store that did not belong to it, such as one that a killed program left
+    /// before somebody put a backup in the store's place. Open has moved it to this path; empty
+    /// where there was none.
+    const QString& ForeignJournal() const { return m_foreignJournal; }
+
+    /// Runs one statement of the store's dialect, with a value for each "?" in it, and gives the
+    /// number of rows it changed.
+    int Execute(const QString& statement, const Values& values = {});
+
+    /// The first fault that the engine's own check of the store finds; empty for a sound one. Reads
+    /// the whole store.
+    QString QuickCheck() const;
 
     /// A transaction is on disk when CommitTrans returns. They do not nest.
     void BeginTrans();
     void CommitTrans();
     void RollbackTrans();
+    /// False also after the engine has rolled a transaction back by itself, as on a full disk.
+    bool InTransaction() const;
 
     /// The names of the tables, one row each, in the column "TABLE_NAME", and "TABLE_TYPE".
     std::unique_ptr<Recordset> OpenSchema();
 
-    /// The engine's handle, for the platform's own use.
-    sqlite3* Handle() const { return m_database; }
-    /// Throws RunTimeError with the engine's present error.
-    [[noreturn]] void ThrowEngineError() const;
+    /// For the platform's own use; null while the connection is closed.
+    const std::shared_ptr<Engine>& OpenEngine() const { return m_engine; }
 
 private:
     QHash<QString, QString> m_properties;
-    std::unique_ptr<StoreLock> m_lock;
-    sqlite3* m_database = nullptr;
+    std::shared_ptr<Engine> m_engine;
+    QString m_foreignJournal;
 };
 
 /// A transaction that is rolled back unless Commit was called.
@@ -74,10 +87,13 @@ private:
     bool m_open = true;
 };
 
+/// A value as it stands in a connection text.
+QString ConnectionValue(const QString& value);
+
 /// Makes a new, empty store file with this password. Throws RunTimeError if the file exists.
 void CreateStoreFile(const QString& path, const QString& password);
 
-/// Copies the store that the first connection text names, without its waste, into a new file that
-/// the second names; both texts carry path and password. The source must be complete and sound;
-/// otherwise this throws RunTimeError and the destination is to be thrown away.
+/// Checks the store that the first connection text names, and copies it without its waste into a
+/// new file that the second names; both texts carry path and password. Throws RunTimeError, whose
+/// number IsDamage knows if the source is not sound; the destination is then to be thrown away.
 void CompactDatabase(const QString& source, const QString& destination);

@@ -1,29 +1,125 @@
 #include "LockFile.h"
 
-#include <QString>
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QSysInfo>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#else
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 namespace {
 
-/// ms that another process is given to fill a lock file that it has just made.
-constexpr int FillingTime = 100;
+/// Process, program and machine, a line each.
+QByteArray Introduction() {
+    const QString program = QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName();
+    return QStringLiteral("%1\n%2\n%3\n")
+        .arg(QString::number(QCoreApplication::applicationPid()), program,
+             QSysInfo::machineHostName())
+        .toUtf8();
+}
 
 } // namespace
 
-LockFile::LockFile(const QString& path) : m_file(path) { m_file.setStaleLockTime(0); }
+LockFile::Holder LockFile::HolderOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QList<QByteArray> lines = file.read(1000).split('\n');
+    Holder holder{lines.value(0).toLongLong(), QString::fromUtf8(lines.value(1)).simplified(),
+                  QString::fromUtf8(lines.value(2)).simplified()};
+    if (holder.machine == QSysInfo::machineHostName())
+        holder.machine.clear();
+    return holder;
+}
+
+#ifdef Q_OS_WIN
 
 LockFile::Outcome LockFile::Take() {
-    if (m_file.tryLock(0))
-        return Outcome::Taken;
-    if (m_file.error() != QLockFile::LockFailedError)
-        return Outcome::Impossible;
-    qint64 pid = 0;
-    QString host, name;
-    if (m_file.getLockInfo(&pid, &host, &name) && pid > 0)
-        return Outcome::Held;
-    if (m_file.tryLock(FillingTime))
-        return Outcome::Taken;
-    if (m_file.getLockInfo(&pid, &host, &name) && pid > 0)
-        return Outcome::Held;
-    // Refused by the system where a living process holds it after all.
-    return m_file.removeStaleLockFile() && m_file.tryLock(0) ? Outcome::Taken : Outcome::Held;
+    // Others may read who holds it; the system removes the file with its last handle.
+    const HANDLE file =
+        CreateFileW(reinterpret_cast<const wchar_t*>(m_path.utf16()), GENERIC_READ | GENERIC_WRITE,
+                    FILE_SHARE_READ, nullptr, CREATE_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        const DWORD error = GetLastError();
+        return error == ERROR_SHARING_VIOLATION ? Outcome::Held
+               : error == ERROR_DISK_FULL       ? Outcome::DiskFull
+                                                : Outcome::Impossible;
+    }
+    const QByteArray text = Introduction();
+    DWORD written = 0;
+    WriteFile(file, text.constData(), static_cast<DWORD>(text.size()), &written, nullptr);
+    m_file = file;
+    return Outcome::Taken;
 }
+
+LockFile::~LockFile() {
+    if (m_file)
+        CloseHandle(m_file);
+}
+
+#else
+
+namespace {
+
+/// Another process may remove the file between its opening and its locking; then there is a new
+/// one.
+constexpr int MostTries = 100;
+
+int OpenForLocking(const QByteArray& path) {
+    const int flags = O_CREAT | O_CLOEXEC | O_NOFOLLOW;
+    const int file = ::open(path.constData(), O_RDWR | flags, 0666);
+    // One that another user's dead process left can be locked without being written.
+    return file < 0 && errno == EACCES ? ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW)
+                                       : file;
+}
+
+bool IsStillAt(const QByteArray& path, int file) {
+    struct stat here {
+    }, there{};
+    return ::fstat(file, &here) == 0 && ::stat(path.constData(), &there) == 0 &&
+           here.st_ino == there.st_ino && here.st_dev == there.st_dev;
+}
+
+} // namespace
+
+LockFile::Outcome LockFile::Take() {
+    const QByteArray path = QFile::encodeName(m_path);
+    for (int tries = 0; tries < MostTries; ++tries) {
+        const int file = OpenForLocking(path);
+        if (file < 0)
+            return errno == ENOSPC || errno == EDQUOT ? Outcome::DiskFull : Outcome::Impossible;
+        if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
+            const bool held = errno == EWOULDBLOCK;
+            ::close(file);
+            return held ? Outcome::Held : Outcome::Impossible;
+        }
+        if (!IsStillAt(path, file)) {
+            ::close(file);
+            continue;
+        }
+        // Only to say who holds it: on a full disk the lock holds without this.
+        const QByteArray text = Introduction();
+        if (::ftruncate(file, 0) == 0)
+            (void)!::pwrite(file, text.constData(), static_cast<std::size_t>(text.size()), 0);
+        m_file = file;
+        return Outcome::Taken;
+    }
+    return Outcome::Held;
+}
+
+LockFile::~LockFile() {
+    if (m_file < 0)
+        return;
+    ::unlink(QFile::encodeName(m_path).constData()); // still held: nobody else can hold this one
+    ::close(m_file);
+}
+
+#endif

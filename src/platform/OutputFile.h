@@ -1,26 +1,29 @@
 #pragma once
 
-#include <QString>
+#include <QFile>
 
 #include <memory>
 
-class QFileDevice;
-
-/// A file that is being written. It takes the place of an older one only when it is complete; what
-/// is no regular file, such as a device or a pipe, is written as it stands. Every failure throws
-/// RunTimeError, with the file's name in its text.
+/// A file that is being written. It takes the place of an older one only when it is complete and on
+/// the disk; a device or a pipe is written as it stands, and so is a file whose folder cannot be
+/// written. Every failure throws RunTimeError, with the file's name and the cause in its text.
 class OutputFile {
 public:
     explicit OutputFile(const QString& path);
-    /// Without a Commit before, an older file stays as it was.
+    /// Without a Commit before, an older file stays as it was, and no new one is left.
     ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
 
-    QFileDevice& Device() { return *m_device; }
+    void Write(const QByteArray& bytes);
+    /// For a writer of its own, which must look at the result of every write.
+    QFile& Device() { return *m_device; }
     void Commit();
 
 private:
     [[noreturn]] void Fail() const;
 
-    QString m_path;
-    std::unique_ptr<QFileDevice> m_device;
+    QString m_target;
+    std::unique_ptr<QFile> m_device;
+    bool m_replaces = false;
 };

@@ -7,8 +7,6 @@
 
 namespace {
 
-void Finalize(sqlite3_stmt* statement) { sqlite3_finalize(statement); }
-
 Value ColumnValue(sqlite3_stmt* statement, int column) {
     switch (sqlite3_column_type(statement, column)) {
     case SQLITE_INTEGER:
@@ -42,45 +40,23 @@ void AppendColumn(RowStore& rows, sqlite3_stmt* statement, int column) {
     }
 }
 
-void Bind(sqlite3_stmt* statement, int position, const Value& value) {
-    if (const auto* number = std::get_if<qint64>(&value.Data())) {
-        sqlite3_bind_int64(statement, position, *number);
-    } else if (const auto* real = std::get_if<double>(&value.Data())) {
-        sqlite3_bind_double(statement, position, *real);
-    } else if (const auto* text = std::get_if<QString>(&value.Data())) {
-        const QByteArray utf8 = text->toUtf8();
-        sqlite3_bind_text(statement, position, utf8.constData(), static_cast<int>(utf8.size()),
-                          SQLITE_TRANSIENT);
-    } else {
-        sqlite3_bind_null(statement, position);
-    }
-}
-
 } // namespace
 
-Recordset::Recordset() : m_reader(nullptr, Finalize), m_writer(nullptr, Finalize) {}
+Recordset::Recordset() = default;
 
 Recordset::~Recordset() = default;
 
-ObjectState Recordset::State() const { return m_connection ? adStateOpen : adStateClosed; }
+ObjectState Recordset::State() const { return m_engine ? adStateOpen : adStateClosed; }
 
 void Recordset::RequireOpen() const {
-    if (!m_connection)
+    if (!m_engine)
         throw RunTimeError(RunTimeErrorNumber::ObjectClosed,
                            QStringLiteral("Operation is not allowed when the object is closed."));
 }
 
-Recordset::Statement Recordset::Prepare(const QByteArray& engineSql) const {
-    sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(m_connection->Handle(), engineSql.constData(),
-                           static_cast<int>(engineSql.size()), &statement, nullptr) != SQLITE_OK)
-        m_connection->ThrowEngineError();
-    return {statement, Finalize};
-}
-
-void Recordset::Open(const QString& source, Connection& connection, CursorType cursor,
-                     LockType lock, CommandType command) {
-    if (m_connection)
+void Recordset::Open(const QString& source, const Values& values, Connection& connection,
+                     CursorType cursor, LockType lock, CommandType command) {
+    if (m_engine)
         throw RunTimeError(RunTimeErrorNumber::ObjectOpen,
                            QStringLiteral("Operation is not allowed when the object is open."));
     if (connection.State() != adStateOpen)
@@ -95,13 +71,14 @@ void Recordset::Open(const QString& source, Connection& connection, CursorType c
     m_current = 0;
     m_edit = Edit::None;
     m_rows.Clear();
-    m_connection = &connection;
+    m_engine = connection.OpenEngine();
     try {
-        m_reader = Prepare(m_sql.text);
+        m_reader = Statement(m_engine, m_sql.text);
+        m_reader.Bind(values);
         m_columns.clear();
-        const int count = sqlite3_column_count(m_reader.get()) - (m_sql.hasRowKey ? 1 : 0);
+        const int count = sqlite3_column_count(m_reader.Handle()) - (m_sql.hasRowKey ? 1 : 0);
         for (int column = 0; column < count; ++column)
-            m_columns += QString::fromUtf8(sqlite3_column_name(m_reader.get(), column));
+            m_columns += QString::fromUtf8(sqlite3_column_name(m_reader.Handle(), column));
         if (!m_server)
             FetchAll();
     } catch (...) {
@@ -111,34 +88,28 @@ void Recordset::Open(const QString& source, Connection& connection, CursorType c
 }
 
 void Recordset::Close() {
-    m_connection = nullptr;
-    m_reader.reset();
-    m_writer.reset();
+    m_reader = {};
+    m_writer = {};
+    m_engine.reset();
     m_writerKind = Edit::None;
     m_rows.Clear();
     m_edit = Edit::None;
 }
 
 void Recordset::FetchAll() {
-    const int count = sqlite3_column_count(m_reader.get());
-    int code;
-    while ((code = sqlite3_step(m_reader.get())) == SQLITE_ROW) {
+    const int count = sqlite3_column_count(m_reader.Handle());
+    while (m_reader.Step()) {
         m_rows.BeginRow();
         for (int column = 0; column < count; ++column)
-            AppendColumn(m_rows, m_reader.get(), column);
+            AppendColumn(m_rows, m_reader.Handle(), column);
         m_rows.EndRow();
     }
-    if (code != SQLITE_DONE)
-        m_connection->ThrowEngineError();
-    m_reader.reset();
+    m_reader = {};
 }
 
 bool Recordset::FetchOne() {
     m_serverStarted = true;
-    const int code = sqlite3_step(m_reader.get());
-    if (code != SQLITE_ROW && code != SQLITE_DONE)
-        m_connection->ThrowEngineError();
-    m_serverRow = code == SQLITE_ROW;
+    m_serverRow = m_reader.Step();
     return m_serverRow;
 }
 
@@ -162,7 +133,7 @@ void Recordset::MoveFirst() {
     WritePending();
     m_current = 0;
     if (m_server) {
-        sqlite3_reset(m_reader.get());
+        m_reader.Reset();
         FetchOne();
     }
 }
@@ -189,7 +160,7 @@ Value Recordset::FieldAt(int column) {
     const auto index = static_cast<std::size_t>(column);
     if (m_edit == Edit::Adding || (m_edit == Edit::Changing && m_assigned[index]))
         return m_pending[index];
-    return m_server ? ColumnValue(m_reader.get(), column) : m_rows.At(m_current, column);
+    return m_server ? ColumnValue(m_reader.Handle(), column) : m_rows.At(m_current, column);
 }
 
 void Recordset::AddNew() {
@@ -223,7 +194,7 @@ void Recordset::Update() {
     WritePending();
 }
 
-Recordset::Statement& Recordset::WriterFor(const std::vector<int>& assigned) {
+Statement& Recordset::WriterFor(const std::vector<int>& assigned) {
     if (m_writer && m_writerKind == m_edit && m_writerColumns == assigned)
         return m_writer;
     QStringList names;
@@ -240,7 +211,7 @@ Recordset::Statement& Recordset::WriterFor(const std::vector<int>& assigned) {
         sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
                   .arg(m_sql.table, names.join(QStringLiteral(", ")), marks);
     }
-    m_writer = Prepare(sql.toUtf8());
+    m_writer = Statement(m_engine, sql.toUtf8());
     m_writerKind = m_edit;
     m_writerColumns = assigned;
     return m_writer;
@@ -255,18 +226,14 @@ qint64 Recordset::WriteRow() {
     const int keyColumn = static_cast<int>(m_columns.size());
     const qint64 changedKey =
         m_edit == Edit::Changing ? m_rows.At(m_current, keyColumn).Number() : 0;
-    sqlite3_stmt* writer = WriterFor(assigned).get();
+    Statement& writer = WriterFor(assigned);
     int position = 0;
     for (const int column : assigned)
-        Bind(writer, ++position, m_pending[static_cast<std::size_t>(column)]);
+        writer.Bind(++position, m_pending[static_cast<std::size_t>(column)]);
     if (m_edit == Edit::Changing)
-        sqlite3_bind_int64(writer, ++position, changedKey);
-    const int code = sqlite3_step(writer);
-    sqlite3_reset(writer);
-    if (code != SQLITE_DONE)
-        m_connection->ThrowEngineError();
-    return m_edit == Edit::Changing ? changedKey
-                                    : sqlite3_last_insert_rowid(m_connection->Handle());
+        writer.Bind(++position, changedKey);
+    writer.Run();
+    return m_edit == Edit::Changing ? changedKey : sqlite3_last_insert_rowid(m_engine->Handle());
 }
 
 void Recordset::WritePending() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Engine.h"
 #include "ObjectState.h"
 #include "RowSource.h"
 #include "RowStore.h"
@@ -12,7 +13,6 @@
 #include <vector>
 
 class Connection;
-struct sqlite3_stmt;
 
 enum CursorLocationKind { adUseServer = 2, adUseClient = 3 };
 enum CursorType { adOpenForwardOnly = 0, adOpenStatic = 3 };
@@ -30,7 +30,7 @@ enum CommandType { adCmdText = 1, adCmdTable = 2 };
 /// only. AddNew begins a row; assignments fill it; Update writes it. Beginning another row or
 /// moving writes a row that is still pending. A closed recordset forgets it.
 ///
-/// Everything that fails throws RunTimeError. The connection must outlive the open recordset.
+/// Everything that fails throws RunTimeError.
 class Recordset : public RowSource {
 public:
     Recordset();
@@ -40,8 +40,15 @@ public:
 
     CursorLocationKind CursorLocation = adUseServer;
 
+    /// `values` take the places of the "?" in the source, in their order. No value of the
+    /// operator's or the store's ever becomes part of the source itself.
+    void Open(const QString& source, const Values& values, Connection& connection,
+              CursorType cursor = adOpenStatic, LockType lock = adLockOptimistic,
+              CommandType command = adCmdText);
     void Open(const QString& source, Connection& connection, CursorType cursor = adOpenStatic,
-              LockType lock = adLockOptimistic, CommandType command = adCmdText);
+              LockType lock = adLockOptimistic, CommandType command = adCmdText) {
+        Open(source, {}, connection, cursor, lock, command);
+    }
     void Close();
     ObjectState State() const;
 
@@ -78,18 +85,16 @@ public:
 
 private:
     enum class Edit { None, Changing, Adding };
-    using Statement = std::unique_ptr<sqlite3_stmt, void (*)(sqlite3_stmt*)>;
 
     void RequireOpen() const;
     void RequireRow();
-    Statement Prepare(const QByteArray& engineSql) const;
     void FetchAll();
     bool FetchOne();
     void WritePending();
     qint64 WriteRow();
     Statement& WriterFor(const std::vector<int>& assigned);
 
-    Connection* m_connection = nullptr;
+    std::shared_ptr<Engine> m_engine; ///< null while the recordset is closed
     EngineSql m_sql;
     bool m_writable = false;
     Statement m_reader;

@@ -1,22 +1,21 @@
 #pragma once
 
+#include "LockFile.h"
+
 #include <QString>
 
 #include <memory>
 
-class LockFile;
-
 /// The process's hold on a store file, kept in a lock file beside it ("main.ldb" for "main.mdb").
-/// All connections of one process share one hold. A lock file left by a process that died is
-/// cleaned away.
+/// For a symbolic link that is beside its target. All connections of one process share one hold.
 class StoreLock {
 public:
-    /// Throws RunTimeError (FileInUse) when another process holds the store, or when the lock file
-    /// cannot be written.
+    /// Throws RunTimeError: FileInUse when another process holds the store; DiskFull or
+    /// PermissionDenied when the lock file cannot be made.
     explicit StoreLock(const QString& storePath);
-    ~StoreLock();
-    StoreLock(const StoreLock&) = delete;
-    StoreLock& operator=(const StoreLock&) = delete;
+
+    /// Who holds a store, as far as its lock file says.
+    static LockFile::Holder HolderOf(const QString& storePath);
 
 private:
     std::shared_ptr<LockFile> m_file;

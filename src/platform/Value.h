@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <variant>
+#include <vector>
 
 /// One value of the store: null, a whole number, a real number or a text.
 class Value {
@@ -30,3 +31,6 @@ public:
 private:
     std::variant<std::monostate, qint64, double, QString> m_data;
 };
+
+/// What a statement's "?" stand for, in their order.
+using Values = std::vector<Value>;

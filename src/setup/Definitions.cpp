@@ -8,31 +8,33 @@ namespace {
 /// A statement's rows, to be read, added to and changed.
 class Rows : public Recordset {
 public:
-    /// For adding alone, where no ID is asked for, a forward cursor will do: it fetches nothing.
-    explicit Rows(const QString& statement, CursorType cursor = adOpenStatic) {
-        CursorLocation = cursor == adOpenStatic ? adUseClient : adUseServer;
-        Open(statement, *gConn, cursor);
+    explicit Rows(const QString& statement, const Values& values = {}) {
+        CursorLocation = adUseClient;
+        Open(statement, values, *gConn);
     }
     bool Any() { return RecordCount() > 0; }
     int Id() { return static_cast<int>(Number(u"ID")); }
 };
 
-QString ById(const char* statement, int id) {
-    return QString::fromLatin1(statement) + QString::number(id) + QStringLiteral(" ;");
-}
+/// For adding alone. It fetches no row, so adding many takes no longer where there are many.
+class NewRows : public Rows {
+public:
+    explicit NewRows(const char* table)
+        : Rows(QStringLiteral("SELECT * FROM %1 WHERE 1 = 0 ;").arg(QLatin1String(table))) {}
+};
 
-void DeleteWithParts(const char* deleteOne, const char* deleteParts, int id) {
+void DeleteWithParts(const QString& deleteOne, const QString& deleteParts, int id) {
     Transaction transaction(*gConn);
-    gConn->Execute(ById(deleteOne, id));
-    gConn->Execute(ById(deleteParts, id));
+    gConn->Execute(deleteOne, {id});
+    gConn->Execute(deleteParts, {id});
     transaction.Commit();
 }
 
 const QString AllGroups = QStringLiteral("SELECT * FROM tblListItems ;");
 const QString AllReaders = QStringLiteral("SELECT * FROM tblReaders ;");
 const QString AllTours = QStringLiteral("SELECT * FROM tblTours ;");
-constexpr char ButtonsOfGroup[] = "SELECT * FROM tblButtons WHERE lParentID = ";
-constexpr char PointsOfTour[] = "SELECT * FROM tblTourPoints WHERE lParentID = ";
+const QString ButtonsOfGroup = QStringLiteral("SELECT * FROM tblButtons WHERE lParentID = ? ;");
+const QString PointsOfTour = QStringLiteral("SELECT * FROM tblTourPoints WHERE lParentID = ? ;");
 
 } // namespace
 
@@ -45,7 +47,7 @@ QList<Group> GroupsOf(GroupType type) {
 }
 
 int AddGroup(GroupType type, const QString& name) {
-    Rows rows(AllGroups);
+    NewRows rows("tblListItems");
     rows.AddNew();
     rows.Set(u"tName", name);
     rows.Set(u"tDesc", QString());
@@ -55,7 +57,7 @@ int AddGroup(GroupType type, const QString& name) {
 }
 
 void UpdateGroup(const Group& group) {
-    Rows rows(ById("SELECT * FROM tblListItems WHERE ID = ", group.id));
+    Rows rows(QStringLiteral("SELECT * FROM tblListItems WHERE ID = ? ;"), {group.id});
     if (!rows.Any())
         return;
     rows.Set(u"tName", group.name);
@@ -63,23 +65,23 @@ void UpdateGroup(const Group& group) {
     rows.Update();
 }
 
-bool GroupHasButtons(int id) { return Rows(ById(ButtonsOfGroup, id)).Any(); }
+bool GroupHasButtons(int id) { return Rows(ButtonsOfGroup, {id}).Any(); }
 
 void DeleteGroup(int id) {
-    DeleteWithParts("DELETE * FROM tblListItems WHERE ID = ",
-                    "DELETE * FROM tblButtons WHERE lParentID = ", id);
+    DeleteWithParts(QStringLiteral("DELETE * FROM tblListItems WHERE ID = ? ;"),
+                    QStringLiteral("DELETE * FROM tblButtons WHERE lParentID = ? ;"), id);
 }
 
 QList<Button> ButtonsOf(int groupId) {
     QList<Button> buttons;
-    for (Rows rows(ById(ButtonsOfGroup, groupId)); !rows.Eof(); rows.MoveNext())
+    for (Rows rows(ButtonsOfGroup, {groupId}); !rows.Eof(); rows.MoveNext())
         buttons += Button{rows.Id(), rows.Text(u"tButtonCode"), rows.Text(u"tButtonName"),
                           rows.Text(u"tButtonDesc")};
     return buttons;
 }
 
 void AddButton(int groupId, const Button& button) {
-    Rows rows(ById(ButtonsOfGroup, groupId), adOpenForwardOnly);
+    NewRows rows("tblButtons");
     rows.AddNew();
     rows.Set(u"lParentID", groupId);
     rows.Set(u"tButtonName", button.name);
@@ -89,7 +91,7 @@ void AddButton(int groupId, const Button& button) {
 }
 
 void UpdateButton(const Button& button) {
-    Rows rows(ById("SELECT * FROM tblButtons WHERE ID = ", button.id));
+    Rows rows(QStringLiteral("SELECT * FROM tblButtons WHERE ID = ? ;"), {button.id});
     if (!rows.Any())
         return;
     rows.Set(u"tButtonName", button.name);
@@ -97,7 +99,9 @@ void UpdateButton(const Button& button) {
     rows.Update();
 }
 
-void DeleteButton(int id) { gConn->Execute(ById("DELETE * FROM tblButtons WHERE ID = ", id)); }
+void DeleteButton(int id) {
+    gConn->Execute(QStringLiteral("DELETE * FROM tblButtons WHERE ID = ? ;"), {id});
+}
 
 bool HasLocations() {
     return Rows(QStringLiteral("SELECT tblButtons.tButtonName, tblListItems.wType FROM tblButtons "
@@ -114,7 +118,7 @@ QList<Reader> Readers() {
 }
 
 void AddReader(const Reader& reader) {
-    Rows rows(AllReaders, adOpenForwardOnly);
+    NewRows rows("tblReaders");
     rows.AddNew();
     rows.Set(u"tReaderId", reader.id);
     rows.Set(u"tDescription", reader.description);
@@ -122,8 +126,7 @@ void AddReader(const Reader& reader) {
 }
 
 void UpdateReader(const Reader& reader) {
-    Rows rows(QStringLiteral("SELECT * FROM tblReaders WHERE tReaderId = '") + reader.id +
-              QStringLiteral("' ;"));
+    Rows rows(QStringLiteral("SELECT * FROM tblReaders WHERE tReaderId = ? ;"), {reader.id});
     if (!rows.Any())
         return;
     rows.Set(u"tDescription", reader.description);
@@ -131,8 +134,7 @@ void UpdateReader(const Reader& reader) {
 }
 
 void DeleteReader(const QString& id) {
-    gConn->Execute(QStringLiteral("DELETE * FROM tblReaders WHERE tReaderId = '") + id +
-                   QStringLiteral("' ;"));
+    gConn->Execute(QStringLiteral("DELETE * FROM tblReaders WHERE tReaderId = ? ;"), {id});
 }
 
 QList<Tour> Tours() {
@@ -144,7 +146,7 @@ QList<Tour> Tours() {
 }
 
 int AddTour(const QString& name) {
-    Rows rows(AllTours);
+    NewRows rows("tblTours");
     rows.AddNew();
     rows.Set(u"tName", name);
     rows.Set(u"tDesc", QStringLiteral(" "));
@@ -155,7 +157,7 @@ int AddTour(const QString& name) {
 }
 
 void UpdateTour(const Tour& tour) {
-    Rows rows(ById("SELECT * FROM tblTours WHERE ID = ", tour.id));
+    Rows rows(QStringLiteral("SELECT * FROM tblTours WHERE ID = ? ;"), {tour.id});
     if (!rows.Any())
         return;
     rows.Set(u"iTolerance", tour.tolerance);
@@ -165,18 +167,18 @@ void UpdateTour(const Tour& tour) {
     rows.Update();
 }
 
-bool TourHasPoints(int id) { return Rows(ById(PointsOfTour, id)).Any(); }
+bool TourHasPoints(int id) { return Rows(PointsOfTour, {id}).Any(); }
 
 void DeleteTour(int id) {
-    DeleteWithParts(
-        "DELETE * FROM tblTours WHERE ID = ", "DELETE * FROM tblTourPoints WHERE lParentID = ", id);
+    DeleteWithParts(QStringLiteral("DELETE * FROM tblTours WHERE ID = ? ;"),
+                    QStringLiteral("DELETE * FROM tblTourPoints WHERE lParentID = ? ;"), id);
 }
 
 int CopyTour(int from, const QString& name) {
     Transaction transaction(*gConn);
     const int id = AddTour(name);
-    Rows target(ById(PointsOfTour, id), adOpenForwardOnly);
-    for (Rows source(ById(PointsOfTour, from)); !source.Eof(); source.MoveNext()) {
+    NewRows target("tblTourPoints");
+    for (Rows source(PointsOfTour, {from}); !source.Eof(); source.MoveNext()) {
         target.AddNew();
         target.Set(u"lParentID", id);
         for (const QStringView column : {u"lIndex", u"dtTime", u"tButtonCode"})

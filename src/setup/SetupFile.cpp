@@ -169,6 +169,8 @@ public:
     }
 
 private:
+    using Names = QSet<QString>;
+
     void CollectCodesInUse() {
         for (const TypeWord& type : TypeWords)
             for (const Group& group : GroupsOf(type.type)) {
@@ -186,9 +188,10 @@ private:
     }
 
     /// Takes a name as it stands. Only its exact like is refused.
-    static QString TakeName(const Entry& entry, const char* key, Named what, QStringList& taken) {
+    static QString TakeName(const Entry& entry, const char* key, Named what, Names& taken) {
         QString name = entry.Text(key);
-        entry.FailIf(NameFault(what, name.trimmed().isEmpty() ? QString() : name, taken));
+        const QStringList same = taken.contains(name) ? QStringList(name) : QStringList();
+        entry.FailIf(NameFault(what, name.trimmed().isEmpty() ? QString() : name, same));
         taken += name;
         return name;
     }
@@ -207,12 +210,12 @@ private:
         const QString name = TakeName(entry, "name", Named::Group, m_groupNames[type]);
         const int id = AddGroup(type, name);
         UpdateGroup({id, name, entry.TextIfAny("description")});
-        QStringList names;
+        Names names;
         for (const Entry& button : entry.List("buttons", "button", "name"))
             TakeButton(button, type, id, names);
     }
 
-    void TakeButton(const Entry& entry, GroupType type, int groupId, QStringList& names) {
+    void TakeButton(const Entry& entry, GroupType type, int groupId, Names& names) {
         entry.AllowOnly({"code", "name", "description"});
         const QString code = TypedButtonCode(entry.Text("code"));
         if (code.isEmpty())
@@ -272,9 +275,8 @@ private:
     }
 
     const Entry& m_root;
-    QMap<GroupType, QStringList> m_groupNames;
-    QStringList m_readerNames, m_tourNames;
-    QSet<QString> m_codes, m_locations, m_readerIds;
+    QMap<GroupType, Names> m_groupNames;
+    Names m_readerNames, m_tourNames, m_codes, m_locations, m_readerIds;
 };
 
 } // namespace

@@ -24,9 +24,9 @@ void TourDraft::Load(int tourId) {
                              "tblListItems.tName AS tSiteName FROM (tblTourPoints LEFT JOIN "
                              "tblButtons ON tblTourPoints.tButtonCode = tblButtons.tButtonCode) "
                              "LEFT JOIN tblListItems ON tblButtons.lParentID = tblListItems.ID "
-                             "WHERE (((tblTourPoints.lParentID) = ") +
-                  QString::number(tourId) + QStringLiteral(")) ORDER BY tblTourPoints.lIndex; "),
-              *gConn);
+                             "WHERE (((tblTourPoints.lParentID) = ?)) "
+                             "ORDER BY tblTourPoints.lIndex; "),
+              {tourId}, *gConn);
     for (; !rows.Eof(); rows.MoveNext())
         m_points.push_back({MinutesOf(rows.Date(u"dtTime")), rows.Text(u"tButtonCode"),
                             rows.Text(u"tSiteName"), rows.Text(u"tButtonName")});
@@ -39,8 +39,7 @@ void TourDraft::Save(int tourId) const {
 }
 
 void TourDraft::Write(int tourId) const {
-    gConn->Execute(QStringLiteral("DELETE * FROM tblTourPoints WHERE lParentID = ") +
-                   QString::number(tourId) + QStringLiteral(" ;"));
+    gConn->Execute(QStringLiteral("DELETE * FROM tblTourPoints WHERE lParentID = ? ;"), {tourId});
     Recordset rows;
     // Forward only: the points of the other tours are of no concern.
     rows.Open(

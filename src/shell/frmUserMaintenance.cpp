@@ -32,9 +32,8 @@ void frmUserMaintenance::ReadOperatorRecord() {
     GuardedWithBox("ReadOperatorRecord", [this] {
         auto rows = std::make_unique<Recordset>();
         rows->CursorLocation = adUseClient;
-        rows->Open(QStringLiteral("SELECT * FROM tblOperators WHERE LoginName = '") +
-                       LoginNameOf(m_type) + QStringLiteral("';"),
-                   *gConn);
+        rows->Open(QStringLiteral("SELECT * FROM tblOperators WHERE LoginName = ?;"),
+                   {LoginNameOf(m_type)}, *gConn);
         m_operator = std::move(rows);
     });
 }

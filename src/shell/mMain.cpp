@@ -3,6 +3,7 @@
 #include "Application.h"
 #include "Clock.h"
 #include "Format.h"
+#include "InstanceLock.h"
 #include "MessageBox.h"
 #include "WindowTools.h"
 #include "deMain.h"
@@ -68,6 +69,7 @@ bool TestCompactAndOpen(frmSplash& splash) {
         return false;
     }
     deMain.Connect(gConnectionString);
+    TellOfDamage();
     return true;
 }
 

@@ -130,8 +130,8 @@ void DemoStore::Fill(Connection& connection) {
     Transaction transaction(connection);
     connection.Execute(QStringLiteral("INSERT INTO tblOperators VALUES ('KEEPER', 'KEEPER')"));
     connection.Execute(QStringLiteral("INSERT INTO tblOperators VALUES ('CREW', 'CREW')"));
-    connection.Execute(
-        QStringLiteral("INSERT INTO tblReaders VALUES ('%1', 'Night reader')").arg(ReaderId));
+    connection.Execute(QStringLiteral("INSERT INTO tblReaders VALUES (?, 'Night reader')"),
+                       {ReaderId});
     FillGroups(connection);
     FillTours(connection);
     transaction.Commit();

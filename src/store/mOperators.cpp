@@ -11,8 +11,7 @@ OperatorType CheckOperator(OperatorType type, const QString& entered, RememberLo
     const QString name = LoginNameOf(type);
     Recordset operators;
     operators.CursorLocation = adUseClient;
-    operators.Open(QStringLiteral("SELECT * From tblOperators WHERE LoginName = '") + name +
-                       QStringLiteral("';"),
+    operators.Open(QStringLiteral("SELECT * From tblOperators WHERE LoginName = ?;"), {name},
                    *gConn);
     if (operators.RecordCount() < 1) {
         operators.AddNew();

@@ -1,9 +1,11 @@
 #include "mStore.h"
 
-#include "Application.h"
+#include "Engine.h"
+#include "FileReplacement.h"
 #include "Format.h"
 #include "MessageBox.h"
 #include "Recordset.h"
+#include "StoreFailure.h"
 #include "StoreLock.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
@@ -11,6 +13,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -19,13 +22,26 @@ const QString PasswordProperty = QStringLiteral("Jet OLEDB:Database Password");
 
 void OpenStore(Connection& connection, const QString& path, const QString& password) {
     connection.Provider = Provider;
-    connection.ConnectionString = QStringLiteral("Data Source=") + path;
+    connection.ConnectionString = QStringLiteral("Data Source=") + ConnectionValue(path);
     connection.Properties(PasswordProperty) = password;
     connection.Open();
+    if (!connection.ForeignJournal().isEmpty())
+        TellOfForeignJournal(connection.ForeignJournal());
 }
 
 void LogOpenFailure(const QString& head, const RunTimeError& error) {
     WriteLog(head + QStringLiteral("\nError #%1\n").arg(error.Number()) + error.Description());
+}
+
+/// Where the copy of a store is made: in the store's own folder, for only there can it take its
+/// place. That is another folder than the temporary file's if the store is a symbolic link.
+QString CopyBeside(const QString& store, const QString& tempPath) {
+    return QFileInfo(store).dir().filePath(QFileInfo(tempPath).fileName());
+}
+
+void RemoveCopy(const QString& copy) {
+    QFile::remove(copy);
+    QFile::remove(copy + QStringLiteral("-journal"));
 }
 
 int CountRows(const QString& table) {
@@ -38,7 +54,8 @@ int CountRows(const QString& table) {
 } // namespace
 
 QString ConnectionText(const QString& path, const QString& password) {
-    return ProviderText + path + u';' + PasswordProperty + QStringLiteral(" = ") + password;
+    return ProviderText + ConnectionValue(path) + u';' + PasswordProperty + QStringLiteral(" = ") +
+           password;
 }
 
 bool ADOTest(const QString& path, const QString& password) {
@@ -52,8 +69,9 @@ bool ADOTest(const QString& path, const QString& password) {
     };
     return Trapped(test, [&](const RunTimeError& error) {
         LogOpenFailure(QStringLiteral("ADOTest Failed. Exiting..."), error);
-        MsgBox(QStringLiteral("*** System Error: Cannot Open the database at ") + path, {},
-               MessageKind::Warning);
+        MsgBox(QStringLiteral("*** System Error: Cannot Open the database at ") + path +
+                   QStringLiteral("\n\n") + CauseOf(error, path),
+               {}, MessageKind::Warning);
     });
 }
 
@@ -67,29 +85,63 @@ bool ADOInit(const QString& path, const QString& password) {
     return Trapped(open, [&](const RunTimeError& error) {
         LogOpenFailure(QStringLiteral("ADOInit Failed. Exiting..."), error);
         MsgBox(QStringLiteral("Cannot Open the database, please check that the database file is "
-                              "available."),
+                              "available.\n\n") +
+                   CauseOf(error, path),
                ShortTitle, MessageKind::Critical);
     });
 }
 
 void CompactStore(const QString& provider, const QString& path, const QString& tempPath,
                   const QString& password) {
-    IgnoringErrors([&] {
-        // Held until the new file is in place: who opened the old one in between would write into
-        // nothing.
+    gStoreDamaged = false;
+    const auto compact = [&] {
+        // Held until the new file is in place: a program that opened the old one in between would
+        // write to a file that is gone.
         const StoreLock hold(path);
-        // Left behind by a start that was killed; the engine's own file beside it as well.
-        QFile::remove(tempPath);
-        QFile::remove(tempPath + QStringLiteral("-journal"));
-        CompactDatabase(
-            provider + path + QStringLiteral("; Jet OLEDB:Database Password=") + password,
-            provider + tempPath +
-                QStringLiteral(";Jet OLEDB:Engine Type=5; Jet OLEDB:Database Password=") +
-                password);
-        QFile::setPermissions(tempPath, QFile::permissions(path));
-        ReplaceFile(tempPath, path);
+        const QString store = QFileInfo(path).canonicalFilePath();
+        const QString copy = CopyBeside(store, tempPath);
+        RemoveCopy(copy);
+        const QString passwordPart =
+            QStringLiteral("; Jet OLEDB:Database Password=") + ConnectionValue(password);
+        const auto replace = [&] {
+            CompactDatabase(provider + ConnectionValue(store) + passwordPart,
+                            provider + ConnectionValue(copy) +
+                                QStringLiteral(";Jet OLEDB:Engine Type=5") + passwordPart);
+            KeepOwnerAndMode(store, copy);
+            ReplaceFile(copy, store);
+        };
+        try {
+            replace();
+        } catch (...) {
+            RemoveCopy(copy);
+            throw;
+        }
+    };
+    Trapped(compact, [](const RunTimeError& error) {
+        WriteLog(QStringLiteral("The database was not compacted. Error #%1: ").arg(error.Number()) +
+                 error.Description());
+        gStoreDamaged = IsDamage(error.Number());
     });
-    QFile::remove(tempPath);
+}
+
+void RemoveLeftoverCopy(const QString& tempPath) {
+    RemoveCopy(CopyBeside(QFileInfo(gDatabasePath).canonicalFilePath(), tempPath));
+}
+
+void CheckStore() {
+    const QString fault = gConn->QuickCheck();
+    gStoreDamaged = !fault.isEmpty();
+    if (gStoreDamaged)
+        WriteLog(QStringLiteral("The database is damaged: ") + fault);
+}
+
+void TellOfDamage() {
+    if (gStoreDamaged)
+        IvMessageBox(Translate("The database is damaged. Some of its events can no longer be "
+                               "read.") +
+                         u'\n' +
+                         Translate("Please restore a backup. Until then, no reader is erased."),
+                     MessageKind::Critical, MessageButtons::Ok, ShortTitle);
 }
 
 QString SqlDateFmt(DateTime date) {
@@ -136,8 +188,7 @@ int CountTours() { return CountRows(QStringLiteral("tblTours")); }
 bool IsKnownReader(const QString& readerId) {
     Recordset readers;
     readers.CursorLocation = adUseClient;
-    readers.Open(QStringLiteral("SELECT * FROM tblReaders WHERE tReaderId = '") + readerId +
-                     QStringLiteral("' ; "),
+    readers.Open(QStringLiteral("SELECT * FROM tblReaders WHERE tReaderId = ? ; "), {readerId},
                  *gConn);
     return readers.RecordCount() > 0;
 }

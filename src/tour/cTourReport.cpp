@@ -11,9 +11,9 @@ namespace {
 /// A tour without tolerance still reads what lies this far from it, in minutes.
 constexpr int WindowWithoutTolerance = 15;
 
-void OpenQuery(Recordset& rows, const QString& sql) {
+void OpenQuery(Recordset& rows, const QString& sql, const Values& values) {
     rows.CursorLocation = adUseClient;
-    rows.Open(sql, *gConn, adOpenStatic, adLockOptimistic, adCmdText);
+    rows.Open(sql, values, *gConn, adOpenStatic, adLockOptimistic, adCmdText);
 }
 
 cLocation LocationOf(Recordset& rows) {
@@ -39,10 +39,11 @@ bool cTourReport::LoadTourHeader() {
         return false;
     return Guarded("LoadTourHeader of Class Module cTourReport", [this] {
         Recordset header;
-        OpenQuery(header, QStringLiteral("SELECT tblTours.ID, tblTours.tName, tblTours.tDesc, "
-                                         "tblTours.iTolerance, tblTours.dtStartTime FROM tblTours "
-                                         "WHERE tblTours.ID=") +
-                              QString::number(TourID) + QStringLiteral(" ; "));
+        OpenQuery(header,
+                  QStringLiteral("SELECT tblTours.ID, tblTours.tName, tblTours.tDesc, "
+                                 "tblTours.iTolerance, tblTours.dtStartTime FROM tblTours "
+                                 "WHERE tblTours.ID=? ; "),
+                  {TourID});
         if (header.RecordCount() < 1)
             return false;
         TourName = header.Text(u"tName");
@@ -65,9 +66,9 @@ bool cTourReport::LoadTourPoints() {
                                  "FROM (tblTourPoints LEFT JOIN tblButtons ON "
                                  "tblTourPoints.tButtonCode = tblButtons.tButtonCode) "
                                  "LEFT JOIN tblListItems ON tblButtons.lParentID = tblListItems.ID "
-                                 "Where (((tblTourPoints.lParentID) = ") +
-                      QString::number(TourID) +
-                      QStringLiteral(")) ORDER BY tblTourPoints.lIndex; "));
+                                 "Where (((tblTourPoints.lParentID) = ?)) "
+                                 "ORDER BY tblTourPoints.lIndex; "),
+                  {TourID});
         if (rows.RecordCount() < 1)
             return false;
         const QTime start = StartTime.ToQTime();
@@ -93,10 +94,10 @@ bool cTourReport::LoadReaderEvents() {
         OpenQuery(rows,
                   QStringLiteral("SELECT ID, dtDateTime, tButtonCode, tButtonName, tButtonDesc, "
                                  "tGroupName, tGroupDesc, wGroupType FROM tblEvents "
-                                 "WHERE ((wGroupType = 1) OR (wGroupType = 2)) AND (tPipeID = '") +
-                      ReaderId + QStringLiteral("') AND (dtDateTime >= #") + m_GetStartDate() +
-                      QStringLiteral("#) AND (dtDateTime <= #") + m_GetEndDate() +
-                      QStringLiteral("#) ORDER BY dtDateTime, ID;"));
+                                 "WHERE ((wGroupType = 1) OR (wGroupType = 2)) AND (tPipeID = ?) "
+                                 "AND (dtDateTime >= ?) AND (dtDateTime <= ?) "
+                                 "ORDER BY dtDateTime, ID;"),
+                  {ReaderId, m_GetStartDate(), m_GetEndDate()});
         if (rows.RecordCount() < 1) {
             IvMessageBox(Translate("No Data on the report"));
             return false;
@@ -111,14 +112,10 @@ bool cTourReport::LoadReaderEvents() {
     });
 }
 
-QString cTourReport::m_GetStartDate() const {
-    return Guarded("m_GetStartDate of Class Module cTourReport", [this] {
-        return SqlDateTimeFmt(m_tourPoints.front().PointDateTime - TourWindow);
-    });
+DateTime cTourReport::m_GetStartDate() const {
+    return m_tourPoints.front().PointDateTime - TourWindow;
 }
 
-QString cTourReport::m_GetEndDate() const {
-    return Guarded("m_GetEndDate of Class Module cTourReport", [this] {
-        return SqlDateTimeFmt(m_tourPoints.back().PointDateTime + TourWindow);
-    });
+DateTime cTourReport::m_GetEndDate() const {
+    return m_tourPoints.back().PointDateTime + TourWindow;
 }

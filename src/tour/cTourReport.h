@@ -37,8 +37,9 @@ public:
     bool LoadReaderEvents();
 
 private:
-    QString m_GetStartDate() const;
-    QString m_GetEndDate() const;
+    /// The range of the events' query. Only for a tour with points.
+    DateTime m_GetStartDate() const;
+    DateTime m_GetEndDate() const;
 
     colTourPoints m_tourPoints;
     colLocations m_buttons;

@@ -4,6 +4,7 @@
 #include "Connection.h"
 #include "DemoStore.h"
 #include "Dock.h"
+#include "InstanceLock.h"
 #include "RecordingViewer.h"
 #include "Recordset.h"
 #include "RunTimeError.h"

@@ -4,6 +4,7 @@
 #include "Application.h"
 #include "Connection.h"
 #include "ForkedChild.h"
+#include "InstanceLock.h"
 #include "Recordset.h"
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
@@ -55,7 +56,7 @@ class StoreFileTest : public QObject {
     std::mt19937 m_random{20261121};
 
 private slots:
-    void cleanup() { qunsetenv("TMPDIR"); }
+    void cleanup() { qunsetenv("XDG_CACHE_HOME"); }
 
     void DoesNotOpen_data() {
         QTest::addColumn<std::function<void(const QString&)>>("spoil");
@@ -71,6 +72,7 @@ private slots:
             QDir().mkdir(path);
         });
         row("empty", 10026, [](auto& path) { QFile::resize(path, 0); });
+        row("one byte", 10026, [](auto& path) { QFile::resize(path, 1); });
         row("garbage", 10026, [](auto& path) { Write(path, QByteArray(20'000, 'g')); });
         row("cut in half", 10011,
             [](auto& path) { QFile::resize(path, QFileInfo(path).size() / 2); });
@@ -101,16 +103,22 @@ private slots:
         ScriptedBoxes boxes;
         QVERIFY(!ADOTest(home.Store(), password));
         QCOMPARE(boxes.Messages.value(0).caption, QString());
-        QCOMPARE(boxes.TakeTexts(),
-                 QStringList("*** System Error: Cannot Open the database at " + home.Store()));
+        const QString cause = error == 53      ? "The file is not there."
+                              : error == 10026 ? "It has another password, or it is damaged. If "
+                                                 "it is damaged, please restore a backup."
+                                               : "It is damaged. Please restore a backup.";
+        QCOMPARE(boxes.TakeTexts(), QStringList("*** System Error: Cannot Open the database at " +
+                                                home.Store() + "\n\n" + cause));
         const QString log = home.TakeLog();
         const QString number = QStringLiteral("\nError #%1\n").arg(error);
         QVERIFY2(log.startsWith("ADOTest Failed. Exiting..." + number), qPrintable(log));
         QVERIFY(!ADOInit(home.Store(), password));
         QCOMPARE(boxes.Messages.value(0).caption, "Wardlock Lite");
         QCOMPARE(boxes.Messages.value(0).kind, MessageKind::Critical);
-        QCOMPARE(boxes.TakeTexts(), QStringList("Cannot Open the database, please check that the "
-                                                "database file is available."));
+        QCOMPARE(boxes.TakeTexts(),
+                 QStringList("Cannot Open the database, please check that the database file is "
+                             "available.\n\n" +
+                             cause));
         QVERIFY(home.TakeLog().startsWith("ADOInit Failed. Exiting..." + number));
         CompactStore(ProviderText, home.Store(), home.Temp(), password);
         QVERIFY(!QFile::exists(home.Temp()));
@@ -157,6 +165,7 @@ private slots:
         ScriptedBoxes boxes;
         QVERIFY(!ADOTest(home.Store(), StorePassword));
         QVERIFY(home.TakeLog().contains("Error #3045\nCould not use '"));
+        QVERIFY(boxes.TakeTexts().value(0).contains("It is in use by StoreFileTest (process "));
         const ino_t before = FileNumber(home.Store());
         home.Compact();
         QCOMPARE(FileNumber(home.Store()), before); // not while the other works on it
@@ -169,7 +178,7 @@ private slots:
 
     void OneInstanceAtATime() {
         const TestHome home(TestHome::NoStore);
-        qputenv("TMPDIR", home.File({}).toUtf8());
+        qputenv("XDG_CACHE_HOME", home.File({}).toUtf8());
         ForkedChild other([](int out) {
             const auto lock = TakeInstanceLock();
             (void)::write(out, lock ? "o" : "-", 1);
@@ -182,27 +191,110 @@ private slots:
         QVERIFY(TakeInstanceLock());
         SetAppPath(home.File({}));
         other.Kill();
-        const QStringList locks = QDir(home.File({})).entryList({"wardlock-*.lock"});
-        QCOMPARE(locks.size(), 1);
-        QVERIFY(TakeInstanceLock());
-        Write(home.File(locks[0]), {}); // by a process killed before it had filled it
+        QCOMPARE(QDir(home.File("wardlock")).entryList({"*.lock"}).size(), 1);
         QVERIFY(TakeInstanceLock());
     }
 
-    // A program killed between making the lock file and filling it, or a machine that lost power.
-    void LockFileWithoutContent_data() {
+    // Only a lock of the operating system keeps anybody out, whatever the file says.
+    void LockFileOfNobody_data() {
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("empty") << QByteArray();
         QTest::newRow("zeros") << QByteArray(64, '\0');
-        QTest::newRow("cut off") << QByteArray("123");
+        QTest::newRow("this process's number, as in a container")
+            << QByteArray::number(::getpid()) + "\nwardlock\n";
+        QTest::newRow("a living process of another machine") << QByteArray("1\nwardlock\nelse\n");
     }
-    void LockFileWithoutContent() {
+    void LockFileOfNobody() {
         QFETCH(QByteArray, content);
         const TestHome home(TestHome::DemoSite);
         TestHome::Close();
         Write(home.File("main.ldb"), content);
         ScriptedBoxes boxes;
         QVERIFY2(home.Open(), qPrintable(home.TakeLog()));
+    }
+
+    // A folder with a ";" in its name, and in it a link to a store that lies elsewhere.
+    void CompactsTheTargetOfALink() {
+        const TestHome home(TestHome::DemoSite);
+        TestHome::Close();
+        const QString folder = home.File("a; b = \"c\"");
+        QVERIFY(QDir().mkdir(folder));
+        const QString target = folder + "/night.mdb";
+        QVERIFY(QFile::rename(home.Store(), target) && QFile::link(target, home.Store()));
+        QVERIFY(QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner));
+        if (::geteuid() == 0)
+            QCOMPARE(::chown(QFile::encodeName(target).constData(), 12345, 54321), 0);
+        const ino_t before = FileNumber(target);
+        home.Compact();
+        QVERIFY(QFileInfo(home.Store()).isSymLink() && FileNumber(target) != before);
+        const QFileInfo compacted(target);
+        QVERIFY(!compacted.permission(QFile::ReadGroup) && !compacted.permission(QFile::ReadOther));
+        if (::geteuid() == 0)
+            QCOMPARE(std::pair(compacted.ownerId(), compacted.groupId()),
+                     std::pair(12345U, 54321U));
+        QVERIFY(home.Open());
+        QVERIFY(QFile::exists(folder + "/night.ldb") && !QFile::exists(home.File("main.ldb")));
+        Connection byText;
+        byText.Open(ConnectionText(target, StorePassword));
+        Write(folder + "/temp.mdb", "left over");
+        gDatabasePath = home.Store();
+        RemoveLeftoverCopy(home.Temp());
+        QVERIFY(!QFile::exists(folder + "/temp.mdb"));
+    }
+
+    // A program is killed in mid-transaction; then somebody puts a backup in the store's place.
+    void JournalOfAnotherFile_data() {
+        QTest::addColumn<bool>("sameSession");
+        QTest::addColumn<QString>("halfDone");
+        QTest::newRow("backup of an earlier session, journal of all pages")
+            << false << "UPDATE tblEvents SET tButtonDesc = 'half done'";
+        QTest::newRow("backup of the same session, journal of some pages")
+            << true << "DELETE FROM tblEvents WHERE ID > 1000 AND ID < 1800";
+    }
+    void JournalOfAnotherFile() {
+        QFETCH(bool, sameSession);
+        QFETCH(QString, halfDone);
+        const TestHome home(TestHome::DemoSite);
+        AddEvents(3000);
+        TestHome::Close();
+        const QString journal = home.Store() + "-journal";
+        QVERIFY(QFile::copy(home.Store(), home.File("backup")));
+        if (!sameSession)
+            home.Compact();
+        home.Open();
+        gConn->Execute("UPDATE tblEvents SET tButtonDesc = 'moved to other pages, all of them'");
+        TestHome::Close();
+        ForkedChild child([&](int out) {
+            home.Open();
+            gConn->Execute("PRAGMA cache_size = 5"); // so that pages reach the file
+            gConn->BeginTrans();
+            gConn->Execute(halfDone);
+            (void)::write(out, "o", 1);
+            ::pause();
+        });
+        QCOMPARE(child.Read(1), "o");
+        child.Kill();
+        QVERIFY(QFileInfo(journal).size() > 0);
+        ScriptedBoxes boxes;
+        QVERIFY(QFile::copy(home.Store(), home.File("own")) &&
+                QFile::copy(journal, home.File("own-journal")));
+        const QString moved = "moved to other pages, all of them|3000";
+        const QString descriptions =
+            "SELECT tButtonDesc, COUNT(*) AS n FROM tblEvents GROUP BY tButtonDesc";
+        QVERIFY(home.Open()); // its own journal: the half transaction is undone
+        QCOMPARE(RowsOf(descriptions), QStringList(moved));
+        TestHome::Close();
+        QCOMPARE(boxes.TakeTexts(), QStringList());
+
+        QFile::remove(home.Store());
+        QVERIFY(QFile::copy(home.File("backup"), home.Store()) &&
+                QFile::copy(home.File("own-journal"), journal));
+        QVERIFY(home.Open());
+        QCOMPARE(RowsOf(descriptions), QStringList("NULL|3000"));
+        QCOMPARE(gConn->QuickCheck(), QString());
+        QVERIFY(!QFile::exists(journal) && !QFile::exists(home.Store() + ".trial"));
+        QCOMPARE(QDir(home.File({})).entryList({"main.mdb-journal.*"}).size(), 1);
+        QVERIFY(boxes.TakeTexts().value(0).startsWith("Beside the database lay a journal"));
     }
 
     void CompactionKeepsAllButTheWaste() {
@@ -242,10 +334,20 @@ private slots:
         Write(home.Store(), damaged); // a page in the middle: the store opens all the same
         home.Compact();
         QVERIFY(BytesOf(home.Store()) == damaged && !QFile::exists(home.Temp()));
+        QVERIFY(gStoreDamaged);
+        QVERIFY(home.TakeLog().startsWith("The database was not compacted. Error #10011: "));
+        ScriptedBoxes boxes;
+        TellOfDamage();
+        QVERIFY(boxes.TakeTexts().value(0).contains("restore a backup"));
+        QVERIFY(home.Open());
+        gStoreDamaged = false;
+        CheckStore(); // as the command line does, which does not compact
+        QVERIFY(gStoreDamaged);
+        TestHome::Close();
         Write(home.Store(), whole);
         QVERIFY(QDir().mkdir(home.Temp())); // no room for the copy
         home.Compact();
-        QVERIFY(BytesOf(home.Store()) == whole);
+        QVERIFY(BytesOf(home.Store()) == whole && !gStoreDamaged);
         QVERIFY(home.Open());
     }
 

@@ -1,0 +1,167 @@
+#include "Engine.h"
+
+#include "RunTimeError.h"
+#include "SqlTranslator.h"
+
+#include <QCollator>
+#include <QDir>
+
+#include <sqlcipher/sqlite3.h>
+
+namespace {
+
+constexpr int BusyMilliseconds = 5000;
+
+[[noreturn]] void Throw(int code, const QString& text) {
+    throw RunTimeError(RunTimeErrorNumber::StoreEngine + (code & 0xff), text);
+}
+
+int ComparePeople(void* collator, int leftBytes, const void* left, int rightBytes,
+                  const void* right) {
+    const auto text = [](const void* data, int bytes) {
+        return QString::fromUtf8(static_cast<const char*>(data), bytes);
+    };
+    return static_cast<QCollator*>(collator)->compare(text(left, leftBytes),
+                                                      text(right, rightBytes));
+}
+
+void Require(const Engine& engine, int code) {
+    if (code != SQLITE_OK)
+        engine.ThrowError();
+}
+
+void Run(const Engine& engine, const char* sql) {
+    Require(engine, sqlite3_exec(engine.Handle(), sql, nullptr, nullptr, nullptr));
+}
+
+} // namespace
+
+Engine::Engine(const QString& path, const QString& password, Creation creation,
+               std::optional<StoreLock> lock)
+    : m_lock(std::move(lock)) {
+    const int flags =
+        SQLITE_OPEN_READWRITE | (creation == Creation::MayCreate ? SQLITE_OPEN_CREATE : 0);
+    const QByteArray name = QDir::toNativeSeparators(path).toUtf8();
+    try {
+        const int code = sqlite3_open_v2(name.constData(), &m_database, flags, nullptr);
+        if (!m_database)
+            Throw(code, QString::fromUtf8(sqlite3_errstr(code)));
+        Require(*this, code);
+        Prepare(password);
+    } catch (...) {
+        sqlite3_close(m_database);
+        throw;
+    }
+}
+
+void Engine::Prepare(const QString& password) {
+    sqlite3_busy_timeout(m_database, BusyMilliseconds);
+    const QByteArray key = password.toUtf8();
+    Require(*this, sqlite3_key(m_database, key.constData(), static_cast<int>(key.size())));
+    // The format is that of the third major version, which older engines have as their only one. A
+    // newer engine reads and writes it if it is told to.
+    Run(*this, "PRAGMA cipher_default_compatibility = 3");
+    Run(*this, "PRAGMA cipher_compatibility = 3");
+    // EXTRA also syncs the folder after the journal is deleted. With FULL, a power cut after the
+    // commit could bring the journal back, and with it the state before the commit.
+    Run(*this, "PRAGMA synchronous = EXTRA");
+    // The engine reads the first page, and so tries the password, only when it is asked something.
+    Run(*this, "SELECT count(*) FROM sqlite_master");
+    auto collator = std::make_unique<QCollator>(QLocale());
+    collator->setCaseSensitivity(Qt::CaseInsensitive);
+    // From here on the engine deletes the collator, also if the call fails.
+    Require(*this, sqlite3_create_collation_v2(m_database, PeopleCollation, SQLITE_UTF8,
+                                               collator.release(), ComparePeople,
+                                               [](void* p) { delete static_cast<QCollator*>(p); }));
+}
+
+Engine::~Engine() { sqlite3_close(m_database); }
+
+void Engine::ThrowError() const {
+    Throw(sqlite3_errcode(m_database), QString::fromUtf8(sqlite3_errmsg(m_database)));
+}
+
+bool Engine::InTransaction() const { return sqlite3_get_autocommit(m_database) == 0; }
+
+void Statement::Finalizer::operator()(sqlite3_stmt* statement) const {
+    sqlite3_finalize(statement);
+}
+
+Statement::Statement(std::shared_ptr<Engine> engine, const QByteArray& sql)
+    : m_engine(std::move(engine)) {
+    sqlite3_stmt* statement = nullptr;
+    const char* rest = nullptr;
+    Require(*m_engine, sqlite3_prepare_v2(m_engine->Handle(), sql.constData(),
+                                          static_cast<int>(sql.size()), &statement, &rest));
+    m_statement.reset(statement);
+    if (!QByteArray(rest).trimmed().isEmpty())
+        Throw(SQLITE_ERROR, QStringLiteral("Characters found after end of SQL statement."));
+}
+
+void Statement::Bind(int position, const Value& value) {
+    sqlite3_stmt* statement = m_statement.get();
+    int code;
+    if (const auto* number = std::get_if<qint64>(&value.Data())) {
+        code = sqlite3_bind_int64(statement, position, *number);
+    } else if (const auto* real = std::get_if<double>(&value.Data())) {
+        code = sqlite3_bind_double(statement, position, *real);
+    } else if (const auto* text = std::get_if<QString>(&value.Data())) {
+        const QByteArray utf8 = text->toUtf8();
+        code = sqlite3_bind_text(statement, position, utf8.constData(),
+                                 static_cast<int>(utf8.size()), SQLITE_TRANSIENT);
+    } else {
+        code = sqlite3_bind_null(statement, position);
+    }
+    Require(*m_engine, code);
+}
+
+void Statement::Bind(const Values& values) {
+    if (sqlite3_bind_parameter_count(m_statement.get()) != static_cast<int>(values.size()))
+        Throw(SQLITE_RANGE, QStringLiteral("The statement wants another number of values."));
+    int position = 0;
+    for (const Value& value : values)
+        Bind(++position, value);
+}
+
+bool Statement::Step() {
+    const int code = sqlite3_step(m_statement.get());
+    if (code != SQLITE_ROW && code != SQLITE_DONE)
+        m_engine->ThrowError();
+    return code == SQLITE_ROW;
+}
+
+void Statement::Run() {
+    const int code = sqlite3_step(m_statement.get());
+    if (code == SQLITE_ROW || code == SQLITE_DONE) {
+        Reset();
+        return;
+    }
+    // Reset gives the failure of the last step once more; take it before that.
+    try {
+        m_engine->ThrowError();
+    } catch (...) {
+        Reset();
+        throw;
+    }
+}
+
+void Statement::Reset() { sqlite3_reset(m_statement.get()); }
+
+QString FirstFault(const std::shared_ptr<Engine>& engine, Check check) {
+    try {
+        Statement pragma(engine, check == Check::Quick ? "PRAGMA quick_check(1)"
+                                                       : "PRAGMA integrity_check(1)");
+        if (!pragma.Step())
+            return QStringLiteral("The check gave no answer.");
+        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(pragma.Handle(), 0));
+        const QString answer = QString::fromUtf8(text).simplified();
+        return answer == u"ok" ? QString() : answer;
+    } catch (const RunTimeError& error) {
+        return error.Description();
+    }
+}
+
+bool IsDamage(int errorNumber) {
+    return errorNumber == RunTimeErrorNumber::StoreEngine + SQLITE_CORRUPT ||
+           errorNumber == RunTimeErrorNumber::StoreEngine + SQLITE_NOTADB;
+}

@@ -1,0 +1,63 @@
+#include "StoreFailure.h"
+
+#include "Engine.h"
+#include "RunTimeError.h"
+#include "StoreLock.h"
+#include "mErrorHandler.h"
+#include "mTranslations.h"
+
+#include <QDir>
+
+namespace {
+
+/// Codes of the engine.
+constexpr int Full = RunTimeErrorNumber::StoreEngine + 13;
+constexpr int NoDatabase = RunTimeErrorNumber::StoreEngine + 26;
+constexpr int ReadOnly = RunTimeErrorNumber::StoreEngine + 8;
+constexpr int CannotOpen = RunTimeErrorNumber::StoreEngine + 14;
+constexpr int InputOutput = RunTimeErrorNumber::StoreEngine + 10;
+
+QString InUse(const LockFile::Holder& holder) {
+    if (holder.process == 0)
+        return Translate("Another program is using it.");
+    const QStringList words = {holder.program, QString::number(holder.process), holder.machine};
+    return FormatStr(Translate(holder.machine.isEmpty()
+                                   ? "It is in use by %0:s (process %1:s)."
+                                   : "It is in use on the computer %2:s, by %0:s (process %1:s)."),
+                     words);
+}
+
+} // namespace
+
+QString CauseOf(const RunTimeError& error, const QString& storePath) {
+    switch (error.Number()) {
+    case RunTimeErrorNumber::FileInUse:
+        return InUse(StoreLock::HolderOf(storePath));
+    case RunTimeErrorNumber::FileNotFound:
+        return Translate("The file is not there.");
+    case RunTimeErrorNumber::DiskFull:
+    case Full:
+        return Translate("The disk is full.");
+    case RunTimeErrorNumber::PermissionDenied:
+    case ReadOnly:
+    case CannotOpen:
+        return Translate("You are not permitted to write to this file or its folder.");
+    case NoDatabase:
+        return Translate("It has another password, or it is damaged. If it is damaged, please "
+                         "restore a backup.");
+    default:
+        if (IsDamage(error.Number()) || error.Number() == InputOutput)
+            return Translate("It is damaged. Please restore a backup.");
+        return error.Description();
+    }
+}
+
+void TellOfForeignJournal(const QString& journalPath) {
+    const QString path = QDir::toNativeSeparators(journalPath);
+    WriteLog(QStringLiteral("A journal of another database lay beside the store. It is now ") +
+             path);
+    IvMessageBox(Translate("Beside the database lay a journal that did not belong to it. The "
+                           "database was opened without it.") +
+                     u'\n' + Translate("It was renamed to:") + u'\n' + path,
+                 MessageKind::Warning, MessageButtons::Ok, ShortTitle);
+}
