@@ -4,11 +4,11 @@
 #include "Connection.h"
 #include "Engine.h"
 #include "Figures.h"
-#include "MemoryDownload.h"
 #include "MemoryImage.h"
 #include "Recordset.h"
 #include "ReportViewer.h"
 #include "Schema.h"
+#include "StoreTouches.h"
 #include "TourReportBuilder.h"
 #include "mStore.h"
 #include "mWardlock.h"
@@ -227,7 +227,8 @@ void BenchDownload(Figures& figures, const QTemporaryDir& folder) {
     const Side ours{[] { gConn->Execute("DELETE * FROM tblEvents"); },
                     [&] {
                         ButtonDirectory fresh;
-                        StoreTouches(DecodeImage(image, fresh), Reader);
+                        int stored = 0;
+                        StoreTouches(DecodeImage(image, fresh), Reader, stored);
                     }};
     const Side baseline{
         [&] { bare.Run("DELETE FROM tblEvents"); },

@@ -40,6 +40,34 @@
         <translation>Die Kontakte konnten nicht gespeichert werden. Der Leser wurde nicht gelöscht.</translation>
     </message>
     <message>
+        <source>Touches stored: </source>
+        <translation>Gespeicherte Kontakte: </translation>
+    </message>
+    <message>
+        <source>The reader was taken out of the station. It was not erased.</source>
+        <translation>Der Leser wurde aus der Dockingstation genommen. Er wurde nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>Another reader is in the station. It was not erased.</source>
+        <translation>In der Dockingstation steckt ein anderer Leser. Er wurde nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>The reader has been used since it was read. It was not erased.</source>
+        <translation>Der Leser wurde seit dem Auslesen benutzt. Er wurde nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>The reader&apos;s memory goes on after its end mark. What was read is stored, but the reader was not erased.</source>
+        <translation>Im Speicher des Lesers stehen nach der Endmarke weitere Daten. Das Gelesene ist gespeichert, der Leser wurde aber nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>The reader holds another number of records than it says. What was read is stored, but the reader was not erased.</source>
+        <translation>Der Leser enthält eine andere Anzahl von Datensätzen, als er angibt. Das Gelesene ist gespeichert, der Leser wurde aber nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>The reader&apos;s clock can only be set to a date from 1 January 2000 to 6 June 2179. It was not set.</source>
+        <translation>Die Uhr des Lesers kann nur auf ein Datum vom 1. Januar 2000 bis zum 6. Juni 2179 gestellt werden. Sie wurde nicht gestellt.</translation>
+    </message>
+    <message>
         <source>Reader Memory NOT erased!</source>
         <translation>Leserspeicher NICHT gelöscht!</translation>
     </message>

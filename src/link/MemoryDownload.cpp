@@ -3,49 +3,11 @@
 #include "Clock.h"
 #include "DockingLink.h"
 #include "MemoryTransfer.h"
-#include "Recordset.h"
+#include "StoreTouches.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
+#include "mStore.h"
 #include "mTranslations.h"
-
-namespace {
-
-void WriteRows(Recordset& events, const colRawButtons& touches, const QString& readerId) {
-    const DateTime stamp = Now();
-    for (const cRawButton& touch : touches) {
-        events.AddNew();
-        events.Set(u"dtDLDateTime", stamp);
-        events.Set(u"dtDateTime", touch.DateAndTime);
-        events.Set(u"tButtonCode", touch.ButtonCode);
-        events.Set(u"tButtonName", touch.Name);
-        events.Set(u"tButtonDesc", touch.Description);
-        events.Set(u"wGroupType", touch.EventType);
-        events.Set(u"tGroupName", touch.GroupName);
-        events.Set(u"tGroupDesc", touch.GroupDesc);
-        events.Set(u"tPipeID", readerId);
-        events.Update();
-    }
-}
-
-} // namespace
-
-void StoreTouches(const colRawButtons& touches, const QString& readerId, int& stored) {
-    stored = 0;
-    Transaction transaction(*gConn);
-    Recordset events;
-    events.Open(QStringLiteral("tblEvents"), *gConn, adOpenForwardOnly, adLockOptimistic,
-                adCmdTable);
-    try {
-        WriteRows(events, touches, readerId);
-    } catch (const RunTimeError&) {
-        events.Close();
-        transaction.Commit();
-        throw;
-    }
-    events.Close();
-    transaction.Commit();
-    stored = static_cast<int>(touches.size());
-}
 
 void MemoryDownload::Run() {
     m_outcome = {};
@@ -112,6 +74,9 @@ void MemoryDownload::ReadStoreErase() {
 }
 
 bool MemoryDownload::Store() {
+    m_outcome.stored = m_outcome.touches.empty();
+    if (m_outcome.stored)
+        return true;
     Guarded("cmdOnline_Click of Form frmMdiDownload", [this] {
         StoreTouches(m_outcome.touches, m_outcome.readerId, m_outcome.rowsStored);
         m_outcome.stored = true;
@@ -174,20 +139,26 @@ void MemoryDownload::EraseUntilDone(bool& succeeded) {
 }
 
 bool MemoryDownload::MayErase() {
-    if (gStoreDamaged)
+    if (gStoreDamaged) {
+        m_saidWhyNotErased = true;
+        TellOfDamage();
+        return false;
+    }
+    switch (m_imageEnd) {
+    case ImageEnd::DataAfterEndMark:
         SayWhyNotErased(
-            Translate("The database is damaged. No reader is erased while it is in use."));
-    else if (m_imageEnd == ImageEnd::DataAfterEndMark)
+            Translate("The reader's memory goes on after its end mark. What was read is stored, "
+                      "but the reader was not erased."));
+        return false;
+    case ImageEnd::CountDisagrees:
         SayWhyNotErased(
-            Translate("The reader's memory goes on after its end mark. What was read is "
+            Translate("The reader holds another number of records than it says. What was read is "
                       "stored, but the reader was not erased."));
-    else if (m_imageEnd == ImageEnd::CountDisagrees)
-        SayWhyNotErased(
-            Translate("The reader holds another number of records than it says. What was "
-                      "read is stored, but the reader was not erased."));
-    else
-        return true;
-    return false;
+        return false;
+    case ImageEnd::Sound:
+        break;
+    }
+    return true;
 }
 
 /// The question whether to try again may have stood there for hours.

@@ -86,8 +86,3 @@ private:
     bool m_saidWhyNotErased = false;
     bool m_busy = false;
 };
-
-/// Writes one row of tblEvents for each touch, in one transaction. It is committed, and so on disk,
-/// when this returns. Where a row fails, those before it are committed and the failure is thrown
-/// on, as RunTimeError.
-void StoreTouches(const colRawButtons& touches, const QString& readerId, int& stored);

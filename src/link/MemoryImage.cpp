@@ -32,22 +32,23 @@ void ForEachRecord(const colPackets& packets, const std::function<bool(const Rec
     }
 }
 
-/// What an image holds, its end mark and what stands after it included.
+/// What the frames hold, their end mark and what stands after it included.
 struct Extent {
-    int records = 0; ///< before the end mark
+    int decoded = 0; ///< records before the end mark
+    int last = 0;    ///< number of the last record that is not all zeros
     bool endMark = false;
-    bool dataAfterIt = false;
 };
 
 Extent ExtentOf(const colPackets& packets) {
     Extent extent;
+    int number = 0;
     ForEachRecord(packets, [&](const Record& record) {
+        ++number;
         if (record.IsEndMark())
             extent.endMark = true;
-        else if (extent.endMark)
-            extent.dataAfterIt = true;
         else
-            ++extent.records;
+            extent.last = number;
+        extent.decoded += !extent.endMark;
         return true;
     });
     return extent;
@@ -111,15 +112,15 @@ bool BeginsWithMarker(const QByteArray& firstFrame) {
     return ByteAt(firstFrame, Wire::FirstRecordOffset + 3) == Wire::MarkerByte;
 }
 
-int RecordsIn(const colPackets& packets) { return ExtentOf(packets).records; }
+int RecordsIn(const colPackets& packets) { return ExtentOf(packets).last; }
 
 ImageEnd EndOf(const colPackets& packets, int recordCount) {
     const Extent extent = ExtentOf(packets);
-    if (extent.dataAfterIt)
+    if (extent.last > extent.decoded)
         return ImageEnd::DataAfterEndMark;
     // Frames that are full to the end may not hold all that a low count left out.
     const bool agrees =
-        extent.records == recordCount || (extent.records > recordCount && extent.endMark);
+        extent.decoded == recordCount || (extent.decoded > recordCount && extent.endMark);
     return agrees ? ImageEnd::Sound : ImageEnd::CountDisagrees;
 }
 

@@ -26,7 +26,7 @@ bool NamesFirmware(const QString& firmwareText);
 
 /// True if the image's first record is a marker.
 bool BeginsWithMarker(const QByteArray& firstFrame);
-/// Records before the end mark, or before the end of the frames; markers count.
+/// Records up to the last that is not all zeros; markers count, and an end mark before it does.
 int RecordsIn(const colPackets& packets);
 
 /// Whether an image ends where it should.

@@ -149,10 +149,11 @@ bool MemoryTransfer::MayBeFirst(const QByteArray& frame) const {
         return count == NoValidMemory && noise == 0;
     colPackets alone;
     alone.Add(frame).Tag = 1;
-    if (RecordsIn(alone) != std::min(count, Wire::FirstFrameRecords))
+    const bool tellsAll = count <= Wire::FirstFrameRecords;
+    if (RecordsIn(alone) != std::min(count, Wire::FirstFrameRecords) &&
+        (tellsAll || FirstFrameMustDo()))
         return false;
     const bool marker = count == 0 || BeginsWithMarker(frame);
-    const bool tellsAll = count <= Wire::FirstFrameRecords;
     if (FirstFrameMustDo())
         return noise == 0 ? marker || tellsAll : marker && tellsAll;
     return marker;

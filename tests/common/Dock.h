@@ -14,14 +14,11 @@
 class Dock {
 public:
     explicit Dock(const QByteArray& scenario) : m_log(m_folder.filePath("log")) {
-        QFile file(m_folder.filePath("scenario"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(scenario) < 0)
-            throw std::runtime_error("no scenario");
-        file.close();
+        Write(scenario);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         // A test that dies takes its dock along.
         m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
-        m_process.start(DOCKSIM, {"--scenario", file.fileName(), "--log", m_log});
+        m_process.start(DOCKSIM, {"--scenario", Scenario(), "--log", m_log});
         m_device = QString::fromUtf8(ReadLine()).trimmed();
     }
     ~Dock() {
@@ -31,6 +28,12 @@ public:
 
     const QString& Device() const { return m_device; }
     void Say(const QByteArray& line) { m_process.write(line + '\n'); }
+    /// Puts another station and reader in place.
+    void Load(const QByteArray& scenario) {
+        Write(scenario);
+        Say("load " + Scenario().toUtf8());
+        State();
+    }
     /// What was said before is in force when this returns.
     QJsonObject State() {
         Say("state");
@@ -48,6 +51,12 @@ public:
     }
 
 private:
+    QString Scenario() const { return m_folder.filePath("scenario"); }
+    void Write(const QByteArray& scenario) const {
+        QFile file(Scenario());
+        if (!file.open(QIODevice::WriteOnly) || file.write(scenario) < 0)
+            throw std::runtime_error("no scenario");
+    }
     QByteArray ReadLine() {
         while (!m_process.canReadLine() && m_process.waitForReadyRead(5000))
             ;

@@ -4,6 +4,9 @@
 
 #include <QStringList>
 
+#include <functional>
+#include <utility>
+
 /// Takes the place of the operator: keeps what was shown and gives the answers it was handed, then
 /// the harmless ones.
 class ScriptedBoxes : public MessageBoxes {
@@ -13,6 +16,8 @@ public:
 
     MessageAnswer Show(const Message& message) override {
         Messages += message;
+        if (Meanwhile && message.kind == MessageKind::Question)
+            std::exchange(Meanwhile, {})();
         return Answers.isEmpty() ? HarmlessAnswer(message.buttons) : Answers.takeFirst();
     }
     /// The texts shown since the last call.
@@ -25,4 +30,6 @@ public:
 
     QList<Message> Messages;
     QList<MessageAnswer> Answers;
+    /// What happens while the next question is open.
+    std::function<void()> Meanwhile;
 };

@@ -15,14 +15,16 @@ constexpr double Fastest = 800, Steady = 40;
 const QByteArray Taught = Hex("A7314B58");
 const QByteArray Untaught = Hex("11223344");
 
-/// A memory whose further frames would all pass for a first one: their first record reads as a
-/// record count of 5 and, unless it is to be `plain`, the third one is a marker, with which a
-/// memory begins.
+/// A memory whose further frames would all pass for a first one: their first record reads as the
+/// exact count of what is left and, unless it is to be `plain`, the third one is a marker, with
+/// which a memory begins.
 QByteArrayList TreacherousRecords(int count, bool plain) {
     QByteArrayList records = SomeRecords(count);
-    for (int i = 58; i < count; i += 60) {
-        records[i] = Hex("05000001");
-        if (!plain && i + 2 < count)
+    for (int i = 58; i + 2 < count; i += 60) {
+        const int left = count - i - 2;
+        records[i] =
+            QByteArray(1, static_cast<char>(left)) + static_cast<char>(left >> 8) + '\0' + '\1';
+        if (!plain)
             records[i + 2] = records[0];
     }
     return records;
@@ -129,10 +131,25 @@ private slots:
         row("2 frames, untaught", 118, Untaught, 1, {}, stored);
         row("5 frames", 270, Taught, 1, {}, stored);
         const QByteArray noise = Hex("FF00FFFF1755FFFFFF0055AA");
-        row("noise, taught", 100, Taught, 1, noise, stored);
-        row("noise, untaught", 100, Untaught, 1, noise, error);
-        row("noise before frame 2", 100, Untaught, 2, noise, stored);
-        row("noise behind", 100, Taught, 3, noise, error);
+        const QByteArray half = FrameOf(Hex("2400C2401A")).left(9);
+        for (const QByteArray& identifier : {Taught, Untaught}) {
+            const auto rows = [&](const char* name, const QByteArray& bytes) {
+                for (int place = 1; place <= 3; ++place)
+                    QTest::addRow("%s at frame %d, %s", name, place,
+                                  identifier == Taught ? "taught" : "untaught")
+                        << 100 << identifier << bytes << place << stored;
+            };
+            rows("noise", noise);
+            rows("CR LF", "\r\n");
+            rows("half a button frame", half);
+            rows("less of one", half.left(5));
+            rows("most noise", QByteArray(125, 'x'));
+        }
+        row("too much noise, untaught", 100, Untaught, 1, QByteArray(126, 'x'), error);
+        row("too much noise later, untaught", 100, Untaught, 2, QByteArray(5000, 'x'), stored);
+        const QByteArray further = ImageFrames(5, {}, 1).first();
+        row("a frame begun behind", 100, Taught, 3, further.left(60), error);
+        row("a frame damaged behind", 100, Taught, 3, further.chopped(1) + 'x', error);
         row("a frame too many", 100, Taught, 3, ImageFrames(5, {}, 1).first(), error);
         const QByteArray other = FrameOf(Hex("2400C2401A"));
         row("short frame before", 100, Untaught, 1, other, stored);
@@ -214,10 +231,10 @@ private slots:
         const Reader treacherous(count, identifier), plain(count, identifier, true);
         for (qsizetype start = 0; start < treacherous.frames.size() * 252; start += 21)
             for (const qsizetype length : {2, 4, 9, 21, 100, 231, 241, 252, 253, 400, 504, 1008}) {
-                // Whole frames lost from the front leave a stream that is sound in itself. Only
-                // what stands in it can tell, and that could be anything.
-                const bool sound = start == 0 && length % 252 == 0;
-                const Reader& reader = sound ? plain : treacherous;
+                // Frames lost from the front, but for what could be noise, leave a stream that is
+                // sound in itself. Only what stands in it can tell, and that could be anything.
+                const qsizetype left = 251 - (start + length - 1) % 252 + start;
+                const Reader& reader = start < 252 && left < 126 ? plain : treacherous;
                 QByteArray rest = reader.frames.join();
                 rest.remove(start, length);
                 if (!rest.isEmpty())

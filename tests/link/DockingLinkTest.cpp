@@ -94,6 +94,8 @@ private slots:
         QTest::newRow("another code") << FrameOf(Hex("8000")) << none << Hex("8000");
         QTest::newRow("another code before it")
             << FrameOf(Hex("2400010203")) + done << Hex("9300") << Hex("2400010203");
+        QTest::newRow("late memory frame before it")
+            << ImageFrames(0, {}, 1).first() + done << Hex("9300") << Hex("9300");
         QTest::newRow("wrong checksum before it")
             << done.chopped(1) + "a" + FrameOf(Hex("9301")) << Hex("9301") << Hex("9301");
     }
@@ -119,15 +121,38 @@ private slots:
         QCOMPARE(link.TxNewDate(1, 2, 3, 4), reply == Hex("9300"));
     }
 
-    // The wait goes by the time of day, which falls back at midnight.
+    // The wait goes by the time of day, which falls back at midnight; unless it is to give up in
+    // time, or is ended because it lasts too long.
+    void WaitAcrossMidnight_data() {
+        QTest::addColumn<bool>("answered");
+        QTest::addColumn<bool>("givesUp");
+        QTest::newRow("answered") << true << false;
+        QTest::newRow("gives up") << false << true;
+        QTest::newRow("ended") << false << false;
+    }
     void WaitAcrossMidnight() {
+        QFETCH(bool, answered);
         const TestClock clock(
             DateTime::FromQt(QDateTime(QDate(2026, 3, 1), QTime(23, 59, 58, 700))), 10);
         LineEnd line;
         DockingLink link;
         QVERIFY(link.OpenPort(1));
-        QTimer::singleShot(600, &link, [&] { line.Send(FrameOf(Hex("80"))); });
-        QVERIFY(link.DetectStation());
+        QFETCH(bool, givesUp);
+        link.GivesUpInTime = givesUp;
+        bool endedEarly = false, ended = false;
+        QTimer::singleShot(60, &link, [&] { endedEarly = link.EndOverdueWait(); });
+        QTimer::singleShot(600, &link, [&] {
+            if (answered)
+                line.Send(FrameOf(Hex("80")));
+            else
+                ended = link.EndOverdueWait();
+        });
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(link.DetectStation(), answered);
+        QVERIFY(!endedEarly && gWaitCancelled == ended && ended == (!answered && !givesUp));
+        QVERIFY2(givesUp ? timer.elapsed() < 600 : timer.elapsed() >= 600,
+                 qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(line.Commands.value(CmdDetect()), 1);
     }
 
@@ -146,12 +171,15 @@ private slots:
         QVERIFY(!erase());
         QCOMPARE(station.dock.Logged("CmdEraseMemory"), 3);
         QVERIFY(!gCommActive);
-        // A memory frame that comes late has the reply's code.
+        // A memory frame that comes late has the reply's code, but is none.
         LineEnd line;
-        line.Answers[CmdEraseMemory()] = ImageFrames(0, {}, 1).first();
         station.link.ClosePort();
         QVERIFY(station.link.OpenPort(1));
-        QVERIFY(!erase());
+        for (const bool answered : {false, true}) {
+            line.Answers[CmdEraseMemory()] =
+                ImageFrames(0, {}, 1).first() + (answered ? FrameOf(Hex("F300")) : QByteArray());
+            QCOMPARE(erase(), answered);
+        }
     }
 
     void BytesBetweenConversationsAreDropped() {

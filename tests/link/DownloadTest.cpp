@@ -19,6 +19,9 @@ const QByteArray Taught = "reader 4B5831A7\n";
 const QByteArray Untaught = "reader 0BADCAFE\n";
 const QString Error = QStringLiteral("Download Error");
 const QString EraseFailed = QStringLiteral("Reader Erase Failed.  Try again?");
+const QString Removed =
+    QStringLiteral("The reader was taken out of the station. It was not erased.");
+const QString ClockFailed = QStringLiteral("Reader Clock update failed.  Please try again.");
 const QString Failed = QStringLiteral("Download Failed");
 
 QString Successful(int touches, const char* more = "\nReader Memory erased") {
@@ -48,6 +51,7 @@ private slots:
         QCOMPARE(station.view.Busy, (QList<bool>{true, false}));
         QCOMPARE(station.view.Listed, 3U);
         QVERIFY(!station.download.Busy() && m_boxes.TakeTexts().isEmpty());
+        QCOMPARE(station.view.Warned, (QList<bool>{true, false, true, false}));
         QCOMPARE(station.dock.Erasures(), 1);
         QCOMPARE(station.dock.Clock(), "2026-03-02T07:15");
         QCOMPARE(RowsOf("SELECT tButtonCode, tButtonName, tButtonDesc, wGroupType, tGroupName, "
@@ -89,15 +93,35 @@ private slots:
         good("one unknown button", Untaught + "touch 2026-03-01 08:30 ABCDEF", 1);
         good("three frames", three, 150);
         good("full frame", Untaught + Touches(57), 57);
-        good("end mark in frame 1", Untaught + Touches(20) + end + Touches(130), 20);
-        good("count of 0", Untaught + Touches(30) + "count 0", 30);
-        good("count beyond the records", three + "count 300", 150);
+        const auto kept = [&](const char* name, const QByteArray& scenario, int rows,
+                              const QString& why) {
+            row(name, scenario, rows, 0, Successful(rows, "\nReader Memory NOT erased!"),
+                {why + " What was read is stored, but the reader was not erased."});
+        };
+        const QString goesOn = QStringLiteral("The reader's memory goes on after its end mark.");
+        const QString disagrees =
+            QStringLiteral("The reader holds another number of records than it says.");
+        kept("end mark in frame 1", Taught + Touches(20) + end + Touches(130), 20, goesOn);
+        kept("end mark, untaught", Untaught + Touches(20) + end + Touches(130), 20, goesOn);
+        kept("end mark in front of the last record", three + end + Touches(1), 150, goesOn);
+        kept("count beyond the records", three + "count 300", 150, disagrees);
+        kept("count by one too high", three + "count 152", 150, disagrees);
+        kept("count below the records", three + "count 60", 117, disagrees);
+        good("count of 0", Taught + Touches(30) + "count 0", 30);
+        bad("count of 0, untaught", Untaught + Touches(30) + "count 0");
+        bad("no marker in front, untaught", Untaught + "record EF CD AB 3C");
+        // The rest reads as an image of 11 records, but not all that its count says.
+        bad("second frame like a first one", Untaught + Touches(57) +
+                                                 "record 05 00 00 01\nrecord 01 02 03 04\n"
+                                                 "record 09 01 00 AA\n" +
+                                                 Touches(9) + "drop-bytes 0 252");
         good("in single bytes", Taught + Touches(57) + "single-byte", 57);
         good("in single bytes, three frames", three + "single-byte\ngap 40", 150);
         good("in two pieces", three + "cut 10", 150);
         good("noise before frame 2", three + "noise 40 2", 150);
         good("noise, taught reader", three + "noise 40", 150);
-        bad("noise, untaught reader", Untaught + Touches(150) + "noise 40");
+        good("noise, untaught reader", Untaught + Touches(150) + "noise 40", 150);
+        bad("as much noise as a frame", Untaught + Touches(150) + "noise 252");
         bad("checksum of the only frame", Taught + Touches(20) + "checksum 1");
         // The empty end of a memory is no empty memory.
         bad("empty second frame alone", Taught + Touches(57) + "count 100\ndrop-bytes 0 252");
@@ -116,8 +140,11 @@ private slots:
             {EraseFailed, EraseFailed}, {MessageAnswer::Yes, MessageAnswer::Yes});
         row("erase unanswered", three + "silent erase", 150, 0, notErased, {EraseFailed},
             {MessageAnswer::No});
-        row("clock refused", three + "refuse clock 1", 150, 1, Successful(150),
-            {"Reader Clock update failed.  Please try again."});
+        row("clock refused", three + "refuse clock 1", 150, 1, Successful(150), {ClockFailed});
+        row("reader taken out after the stream", three + "no-reader 3", 150, 0, notErased,
+            {Removed, EraseFailed}, {MessageAnswer::No});
+        row("reader taken out before the erase", three + "no-reader 3\ngap 130", 150, 0, notErased,
+            {Removed, EraseFailed}, {MessageAnswer::No});
         const QStringList noReader{"Reader not detected. Check reader and try again."};
         const QStringList fault{Error + QStringLiteral(" (002)")};
         row("no reader", three + "remove", 0, 0, Failed, noReader);
@@ -148,7 +175,7 @@ private slots:
         }
         const QJsonObject state = station.dock.State();
         QTEST(state["erased"].toInt(), "erased");
-        QCOMPARE(state["reads"].toInt(), 1);
+        QCOMPARE(state["reads"].toInt(), 1 + answers.count(MessageAnswer::Yes));
         QCOMPARE(state["clock"].isString(), text != Failed && !scenario.contains("refuse clock"));
     }
 
@@ -164,26 +191,125 @@ private slots:
         QCOMPARE(station.dock.Logged("CmdSetClock") + station.dock.Logged("CmdEraseMemory"), 0);
     }
 
-    // What was written before the failing row stays, and so does the reader's memory.
-    void RowThatCannotBeWritten() {
-        gConn->Execute(QStringLiteral(
-            "CREATE TRIGGER refuse BEFORE INSERT ON tblEvents WHEN NEW.tButtonCode = '7E0002' "
-            "BEGIN SELECT RAISE(ABORT, 'no room'); END"));
-        Station station(Taught + "touch 2026-03-01 08:01 7E0001\n"
-                                 "touch 2026-03-01 08:02 7E0002\n"
-                                 "touch 2026-03-01 08:03 7E0003");
+    // While the operator is asked whether to try again, the reader may go its own ways.
+    void ReaderExchanged_data() {
+        QTest::addColumn<QByteArray>("reader"); // a scenario, or a line to the dock
+        QTest::addColumn<QStringList>("messages");
+        QTest::addColumn<int>("touchesLeft");
+        const QByteArray others = "reader 0A0B0C0D\n" + Touches(150);
+        QTest::newRow("another one") << others
+                                     << QStringList{"Another reader is in the station. It was not "
+                                                    "erased.",
+                                                    EraseFailed}
+                                     << 150;
+        const QStringList used{"The reader has been used since it was read. It was not erased.",
+                               EraseFailed};
+        QTest::newRow("used again") << QByteArray("touch 1A40C2 2026-03-01 09:00") << used << 151;
+        QTest::newRow("emptied and used as often")
+            << Taught + "touch 2026-03-02 09:00 1A40C2\n" + Touches(148) << used << 149;
+        QTest::newRow("taken out")
+            << QByteArray("remove")
+            << QStringList{"Reader not detected. Check reader and try again.", EraseFailed,
+                           ClockFailed}
+            << 150;
+        QTest::newRow("put in again") << Taught + Touches(150) << QStringList{} << 0;
+    }
+    void ReaderExchanged() {
+        QFETCH(QByteArray, reader);
+        Station station(Taught + Touches(150) + "refuse erase 1\npace 96000");
+        m_boxes.Answers = {MessageAnswer::Yes};
+        m_boxes.Meanwhile = [&] {
+            if (reader.contains('\n'))
+                station.dock.Load(reader + "pace 96000");
+            else
+                station.dock.Say(reader);
+        };
         station.download.Run();
-        gConn->Execute("DROP TRIGGER refuse");
-        TestHome::Close(); // committed, not just seen
-        QVERIFY(m_home.Open());
-        QCOMPARE(StoredTouches(), {"7E0001 1.3.2026 8:01"});
-        QCOMPARE(station.view.MessageText, Successful(3, ""));
-        QVERIFY(m_boxes.TakeTexts().isEmpty() && !station.download.Busy() &&
-                !station.download.LastOutcome().stored);
+        QFETCH(QStringList, messages);
+        QCOMPARE(m_boxes.TakeTexts(), QStringList{EraseFailed} + messages);
+        QTEST(station.dock.State()["touches"].toInt(), "touchesLeft");
+        QCOMPARE(station.download.LastOutcome().erased, messages.isEmpty());
+        QCOMPARE(StoredTouches().size(), 150);
+    }
+
+    void ErasesNothingOverADamagedStore() {
+        gStoreDamaged = true;
+        Station station(Taught + Touches(3));
+        station.download.Run();
+        bool erased = true;
+        station.download.EraseReader(false, erased);
+        gStoreDamaged = false;
+        QVERIFY(!erased && station.download.HasSaidWhyNotErased());
+        const QStringList messages = m_boxes.TakeTexts();
+        QVERIFY(messages.size() == 2 && messages[0].contains("no reader is erased") &&
+                messages[1] == messages[0]);
+        QCOMPARE(station.view.MessageText, Successful(3, "\nReader Memory NOT erased!"));
+        QCOMPARE(StoredTouches().size(), 3);
+        QCOMPARE(station.dock.Logged("CmdEraseMemory"), 0);
+    }
+
+    void ClockBeyondItsDates() {
+        for (const QDate date : {QDate(1999, 12, 31), QDate(2179, 6, 7)}) {
+            Station station(Taught + Touches(3), Station::Speed, DateTime::FromQt(date));
+            station.download.Run();
+            QCOMPARE(m_boxes.TakeTexts(), {"The reader's clock can only be set to a date from 1 "
+                                           "January 2000 to 6 June 2179. It was not set."});
+            QVERIFY(!station.link.SetClockToNow());
+            QCOMPARE(station.dock.Logged("CmdSetClock"), 0);
+            QCOMPARE(station.dock.Erasures(), 1);
+        }
+    }
+
+    // What is told of the store holds after a restart too, and nothing is there twice in the end.
+    void StoringFails_data() {
+        QTest::addColumn<QString>("trouble");
+        QTest::addColumn<QString>("remedy");
+        QTest::addColumn<int>("rows"); // that stay, of 900
+        QTest::addColumn<QString>("cause");
+        QTest::addColumn<bool>("sameAgain");
+        const QString trigger =
+            QStringLiteral("CREATE TRIGGER refuse BEFORE INSERT ON tblEvents WHEN %1 "
+                           "BEGIN SELECT RAISE(ABORT, 'no room'); END");
+        const QString row20 = trigger.arg("(SELECT count(*) FROM tblEvents) = 20");
+        const QString remedy = QStringLiteral("DROP TRIGGER refuse");
+        QTest::newRow("a row") << row20 << remedy << 20 << "no room" << true;
+        QTest::newRow("a row, other touches next") << row20 << remedy << 20 << "no room" << false;
+        QTest::newRow("the first row") << trigger.arg("1") << remedy << 0 << "no room" << true;
+        QTest::newRow("disk full") << "PRAGMA max_page_count = 1"
+                                   << "PRAGMA max_page_count = 1000000" << 0 << "full" << true;
+    }
+    void StoringFails() {
+        QFETCH(QString, trouble);
+        QFETCH(int, rows);
+        QFETCH(QString, cause);
+        QFETCH(bool, sameAgain);
+        gConn->Execute("VACUUM"); // no page is free
+        m_home.TakeLog();
+        Station station(Taught + Touches(900));
+        const QString text = QStringLiteral("The touches could not be stored. The reader was not "
+                                            "erased.\nTouches stored: %1 / 900")
+                                 .arg(rows);
+        for (int again = 0; again < 2; ++again) { // the second failure takes over from the first
+            gConn->Execute(trouble);
+            station.download.Run();
+            QFETCH(QString, remedy);
+            gConn->Execute(remedy);
+            QCOMPARE(station.view.MessageText, text);
+            QCOMPARE(m_boxes.TakeTexts(), {text});
+            const QString log = m_home.TakeLog();
+            QVERIFY2(log.count('\n') <= 1 && log.contains(cause), qPrintable(log));
+            TestHome::Close(); // committed, not just seen
+            QVERIFY(m_home.Open());
+            QCOMPARE(StoredTouches().size(), rows);
+        }
+        QVERIFY(!station.download.Busy() && !station.download.LastOutcome().stored);
         QCOMPARE(station.dock.Logged("CmdSetClock") + station.dock.Logged("CmdEraseMemory"), 0);
+        if (!sameAgain)
+            station.dock.Load(Taught + Touches(30).replace("2026", "2025"));
         station.download.Run();
-        QCOMPARE(StoredTouches().size(), 4);
+        QCOMPARE(StoredTouches().size(), sameAgain ? 900 : rows + 30);
         QCOMPARE(station.dock.Erasures(), 1);
+        QVERIFY(!TableExists("tblTempDownload"));
     }
 
     // The dock goes on sending after a Cancel, so the next transfer begins in the middle of the

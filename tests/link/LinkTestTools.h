@@ -183,8 +183,8 @@ struct Station {
     static constexpr double Speed = 15;
     static DateTime Start() { return DateTime::FromQt(QDateTime(QDate(2026, 3, 2), QTime(7, 15))); }
 
-    explicit Station(const QByteArray& scenario, double speed = Speed)
-        : clock(Start(), speed), dock(scenario) {
+    explicit Station(const QByteArray& scenario, double speed = Speed, DateTime start = Start())
+        : clock(start, speed), dock(scenario) {
         OverrideDevice(dock.Device());
         if (!link.OpenPort(1))
             throw std::runtime_error("no line to the dock");

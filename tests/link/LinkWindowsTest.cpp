@@ -52,6 +52,29 @@ private:
     bool m_seen = false;
 };
 
+/// When a label that shows a text was painted first.
+class Painted : public QObject {
+public:
+    Painted(QLabel& label, const char* text) : m_label(label), m_text(QString::fromLatin1(text)) {
+        label.installEventFilter(this);
+    }
+    std::optional<DateTime> At;
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint && !At && m_label.text().contains(m_text))
+            At = Now();
+        return false;
+    }
+
+    QLabel& m_label;
+    QString m_text;
+};
+
+/// So late that a wait of the dialogs and pages lasts beyond midnight.
+const DateTime BeforeMidnight =
+    DateTime::FromQt(QDateTime(QDate(2026, 3, 1), QTime(23, 59, 58, 100)));
+
 } // namespace
 
 class LinkWindowsTest : public QObject {
@@ -170,6 +193,15 @@ private slots:
         QVERIFY(Control(page, "lblMsg")->isHidden());
         const QSignalSpy busy(&page, &frmMdiDownload::BusyChanged);
 
+        // The result is painted before the pause, and what the operator must not do is said.
+        gAutoSetTime = false;
+        const Painted painted(*Control(page, "lblMsg"), "Data Readings = 2");
+        bool warned = false;
+        const Watcher afterTransfer([&] {
+            warned = Control(page, "lblWarning")->isVisible() && !QApplication::activeModalWidget();
+            return warned;
+        });
+
         bool guarded = false;
         const Watcher whileBusy([&] {
             if (!QApplication::activeModalWidget())
@@ -180,6 +212,8 @@ private slots:
         });
         QTest::mouseClick(download, Qt::LeftButton);
         QVERIFY(whileBusy.Seen() && guarded && !page.Busy());
+        QVERIFY(painted.At && Now() - *painted.At >= DateTime::FromMilliseconds(3500));
+        QVERIFY(warned && !Control(page, "lblWarning")->isVisible());
         QCOMPARE(busy, (QList<QVariantList>{{true}, {false}}));
         QVERIFY(download->isEnabled() && erase->isEnabled() && !QApplication::overrideCursor());
         QCOMPARE(TextOf(page, "lblMsg"),
@@ -225,16 +259,46 @@ private slots:
         page.show();
         const QSignalSpy status(&page, &frmMdiDownload::StatusChanged);
         const QString sure = QStringLiteral("Are you sure you want to clear the reader? ");
-        m_boxes.Answers = {MessageAnswer::No, MessageAnswer::Yes, MessageAnswer::Yes};
+        m_boxes.Answers = {MessageAnswer::No, MessageAnswer::Yes, MessageAnswer::Yes,
+                           MessageAnswer::Yes};
         QTest::mouseClick(Control<QPushButton>(page, "cmdOnline_1"), Qt::LeftButton);
         QCOMPARE(m_boxes.TakeTexts(), {sure});
         QCOMPARE(station.dock.Logged("CmdEraseMemory"), 0);
         QVERIFY(status.isEmpty());
         QTest::mouseClick(Control<QPushButton>(page, "cmdOnline_1"), Qt::LeftButton);
-        QCOMPARE(m_boxes.TakeTexts(),
-                 (QStringList{sure, "Reader Erase Failed.  Try again?", "Reader Erased"}));
+        // Nobody knows which reader it was at first, so the second try asks for this one.
+        QCOMPARE(m_boxes.TakeTexts(), (QStringList{sure, "Reader Erase Failed.  Try again?",
+                                                   sure + "4B5831A7", "Reader Erased"}));
         QCOMPARE(status, (QList<QVariantList>{{""}, {"Reader Erased"}}));
         QCOMPARE(station.dock.Erasures(), 1);
+    }
+
+    // A wait that would last for ever does not keep its window open.
+    void ClosesAcrossMidnight() {
+        {
+            Station station(TwoTouches + "silent erase", 4, BeforeMidnight);
+            frmMdiDownload page(station.link, nullptr);
+            page.show();
+            int refused = 0;
+            const Watcher impatient([&] {
+                refused += page.Busy() && !page.close();
+                return false;
+            });
+            m_boxes.Answers = {MessageAnswer::Yes};
+            QTest::mouseClick(Control<QPushButton>(page, "cmdOnline_1"), Qt::LeftButton);
+            QTRY_VERIFY(!page.isVisible());
+            QCOMPARE(m_boxes.TakeTexts(), {"Are you sure you want to clear the reader? "});
+            QVERIFY(refused > 0 && !gWaitCancelled && !gCommActive);
+        }
+        Station station("silent", 4, BeforeMidnight);
+        frmGoOnline dialog(station.link, nullptr);
+        const Watcher impatient([&] {
+            dialog.close();
+            return false;
+        });
+        dialog.exec();
+        QVERIFY(dialog.OK && !dialog.DockingDetected && !gWaitCancelled && !gCommActive);
+        QVERIFY(Now() > BeforeMidnight + DateTime::FromMilliseconds(1900));
     }
 
     void Connecting_data() {

@@ -193,6 +193,19 @@ private slots:
         QVERIFY(!saved.buzzer && !saved.led && !saved.vibration && saved.longBuzzer);
     }
 
+    // The dialog shows the date of the machine, and refuses to send one that no reader can take.
+    void ClockBeyondItsDates() {
+        Station station("reader 4B5831A7", Station::Speed, DateTime::FromQt(QDate(1999, 12, 31)));
+        frmSetTime dialog(station.link, nullptr);
+        Operator guard("frmSetTime");
+        guard.Click("cmdSendRealTime");
+        guard.Wait([&] { return !m_boxes.Messages.isEmpty() && dialog.isVisible(); });
+        guard.Click("cmdCancel");
+        QVERIFY(guard.Run(dialog));
+        QVERIFY(m_boxes.TakeTexts().join(u'|').startsWith("The reader's clock can only be set to"));
+        QCOMPARE(station.dock.Logged("RX FF FF FF 55"), 0);
+    }
+
     // A cancelled sending ends with the try in hand, and says nothing.
     void CancelWhileSending() {
         Station station("reader 4B5831A7\nsilent clock\nsilent options");
