@@ -56,7 +56,7 @@
         <translation>Der Leser wurde seit dem Auslesen benutzt. Er wurde nicht gelöscht.</translation>
     </message>
     <message>
-        <source>The reader&apos;s memory goes on after its end mark. What was read is stored, but the reader was not erased.</source>
+        <source>The reader's memory goes on after its end mark. What was read is stored, but the reader was not erased.</source>
         <translation>Im Speicher des Lesers stehen nach der Endmarke weitere Daten. Das Gelesene ist gespeichert, der Leser wurde aber nicht gelöscht.</translation>
     </message>
     <message>
@@ -64,7 +64,7 @@
         <translation>Der Leser enthält eine andere Anzahl von Datensätzen, als er angibt. Das Gelesene ist gespeichert, der Leser wurde aber nicht gelöscht.</translation>
     </message>
     <message>
-        <source>The reader&apos;s clock can only be set to a date from 1 January 2000 to 6 June 2179. It was not set.</source>
+        <source>The reader's clock can only be set to a date from 1 January 2000 to 6 June 2179. It was not set.</source>
         <translation>Die Uhr des Lesers kann nur auf ein Datum vom 1. Januar 2000 bis zum 6. Juni 2179 gestellt werden. Sie wurde nicht gestellt.</translation>
     </message>
     <message>
