@@ -13,6 +13,10 @@ const QByteArray FrameStart = QByteArrayLiteral("\xFF\xFF\xFF\x55");
 /// damaged length byte must not swallow what follows.
 constexpr int TooLong = 245;
 
+bool IsOfMemory(int length) {
+    return length + Wire::Overhead > Wire::LeastMemoryIndex && length < TooLong;
+}
+
 bool ChecksumHolds(const QByteArray& frame) {
     std::uint32_t sum = 0;
     for (qsizetype i = PreambleLength + 1; i < frame.size() - 1; ++i)
@@ -87,14 +91,9 @@ QByteArray cInBuffer::Parse() {
     }
     if (ChecksumHolds(frame))
         return frame;
-    NoteLostFrame(frame.size(), frame.size());
+    m_lost += frame.size();
+    m_lostMemoryFrames += IsOfMemory(length);
     return {};
-}
-
-void cInBuffer::NoteLostFrame(qsizetype length, qsizetype bytes) {
-    m_lost += bytes;
-    if (length > Wire::LeastMemoryIndex)
-        ++m_lostMemoryFrames;
 }
 
 void cInBuffer::DropBrokenFrame() {
@@ -102,18 +101,18 @@ void cInBuffer::DropBrokenFrame() {
     const qsizetype next = start < 0 ? -1 : m_bytes.indexOf(FrameStart, start + FrameStart.size());
     if (next < 0 || m_bytes.size() <= start + Wire::LengthOffset)
         return;
-    const qsizetype length =
-        ByteAt(m_bytes, static_cast<int>(start) + Wire::LengthOffset) + Wire::Overhead;
-    const bool whole = m_bytes.size() >= start + length;
-    if (!whole || next >= start + length || ChecksumHolds(m_bytes.mid(start, length)))
+    const int length = ByteAt(m_bytes, static_cast<int>(start) + Wire::LengthOffset);
+    const QByteArray frame = m_bytes.mid(start, length + Wire::Overhead);
+    const bool arriving = frame.size() < length + Wire::Overhead && length < TooLong;
+    if (next >= start + frame.size() || arriving || ChecksumHolds(frame))
         return;
-    NoteLostFrame(length, next);
     Cut(next);
+    m_lost += next;
+    m_lostMemoryFrames += IsOfMemory(length);
 }
 
 bool cInBuffer::AwaitsMemoryFrame() const {
     const qsizetype start = m_bytes.indexOf(FrameStart);
     return start >= 0 && m_bytes.size() > start + Wire::LengthOffset &&
-           ByteAt(m_bytes, static_cast<int>(start) + Wire::LengthOffset) + Wire::Overhead >
-               Wire::LeastMemoryIndex;
+           IsOfMemory(ByteAt(m_bytes, static_cast<int>(start) + Wire::LengthOffset));
 }

@@ -40,7 +40,6 @@ public:
 private:
     QByteArray Parse();
     void Cut(qsizetype bytes);
-    void NoteLostFrame(qsizetype length, qsizetype bytes);
 
     QByteArray m_bytes;
     std::int64_t m_lost = 0;

@@ -131,7 +131,7 @@ private slots:
         row("2 frames, untaught", 118, Untaught, 1, {}, stored);
         row("5 frames", 270, Taught, 1, {}, stored);
         const QByteArray noise = Hex("FF00FFFF1755FFFFFF0055AA");
-        const QByteArray half = FrameOf(Hex("2400C2401A")).left(9);
+        const QByteArray button = FrameOf(Hex("2400C2401A"));
         for (const QByteArray& identifier : {Taught, Untaught}) {
             const auto rows = [&](const char* name, const QByteArray& bytes) {
                 for (int place = 1; place <= 3; ++place)
@@ -141,8 +141,9 @@ private slots:
             };
             rows("noise", noise);
             rows("CR LF", "\r\n");
-            rows("half a button frame", half);
-            rows("less of one", half.left(5));
+            for (const int part : {4, 5, 6, 8, 9, 10, 15})
+                rows(qPrintable(QStringLiteral("%1 bytes of a button frame").arg(part)),
+                     button.left(part));
             rows("most noise", QByteArray(125, 'x'));
         }
         row("too much noise, untaught", 100, Untaught, 1, QByteArray(126, 'x'), error);

@@ -191,6 +191,32 @@ private slots:
         QCOMPARE(station.dock.Logged("CmdSetClock") + station.dock.Logged("CmdEraseMemory"), 0);
     }
 
+    // Where the first frame must do, and is of an untaught reader.
+    void FirstFrameAlone_data() {
+        QTest::addColumn<QByteArray>("scenario");
+        QTest::addColumn<bool>("believed");
+        const QByteArray many = Touches(150);
+        QTest::newRow("three frames") << many << true;
+        QTest::newRow("noise") << Touches(20) + "noise 5" << true;
+        QTest::newRow("three frames, noise") << many + "noise 5" << false;
+        QTest::newRow("no marker") << QByteArray("record EF CD AB 3C\n") << true;
+        QTest::newRow("no marker, noise") << QByteArray("record EF CD AB 3C\nnoise 5") << false;
+        QTest::newRow("first frame lost") << many + "drop-bytes 0 252" << false;
+        QTest::newRow("invalid memory, noise") << many + "count -1\nnoise 5" << false;
+    }
+    void FirstFrameAlone() {
+        QFETCH(QByteArray, scenario);
+        QFETCH(bool, believed);
+        Station station(Untaught + scenario);
+        for (const auto purpose : {TransferPurpose::Identifier, TransferPurpose::Firmware}) {
+            const TransferResult result = station.view.RunTransfer(purpose);
+            QCOMPARE(result.OK, believed);
+            QCOMPARE(result.PipeID + result.tFirmware, believed ? "0BADCAFEV06" : "");
+            QCOMPARE(m_boxes.TakeTexts(), believed ? QStringList() : QStringList{Error});
+            station.link.AwaitQuietLine();
+        }
+    }
+
     // While the operator is asked whether to try again, the reader may go its own ways.
     void ReaderExchanged_data() {
         QTest::addColumn<QByteArray>("reader"); // a scenario, or a line to the dock
