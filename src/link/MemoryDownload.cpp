@@ -114,6 +114,7 @@ void MemoryDownload::EraseReader(bool silent, bool& succeeded) {
         m_view.ShowStatus({}); // what stands there is of an earlier one
     // The conversation handles events: nothing else may be begun meanwhile, nor the page left.
     SetBusy(true);
+    m_link.InBuffer().Clear();
     m_link.WatchForRemoval();
     EraseUntilDone(succeeded);
     SetBusy(false);

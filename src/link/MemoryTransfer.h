@@ -47,21 +47,21 @@ struct TransferResult {
 ///
 /// The frames of a memory image carry no number, so a second frame whose first was lost could pass
 /// for it: a made-up reader with made-up touches, and an erase that loses the real ones. So an
-/// image is believed only if everything in it agrees:
+/// image is believed only if everything in it agrees.
 ///
-/// - That of a reader that has been taught: the first frame names that reader, and there are as
-/// many
-///   frames as its count asks for.
-/// - That of any other reader: it also begins with a marker, as a reader writes one before its
-/// first
-///   touch (or it is empty), and it holds exactly as many records as its count says. In front of it
-///   came less than half a memory frame of bytes that belong to no frame: more could be the rest of
-///   a first frame.
-/// - Of neither does a further memory frame follow, whole, damaged or only begun.
+/// That of a reader that has been taught: the first frame names that reader, and as many frames
+/// come as its count asks for.
 ///
-/// Noise before the first frame, between frames and after the last is otherwise no reason to doubt.
+/// That of any other reader: besides, it begins with a marker, as a reader writes one before its
+/// first touch (or it is empty), and it holds exactly as many records as its count says. And the
+/// bytes before it that belong to no frame are fewer than half a memory frame: more could be what
+/// is left of the real first one.
+///
+/// Of neither may a further memory frame follow, whole, damaged or only begun. All other noise,
+/// before the first frame, between frames and after the last, is no reason to doubt.
+///
 /// For the identifier or the firmware alone the first frame must do. If it cannot show all records,
-/// or has no marker, then no stray byte at all may come in front of it.
+/// or has no marker, then no stray byte at all may come before it.
 ///
 /// The watchdog runs from the first byte on, so that only complete silence waits for the operator.
 class MemoryTransfer : public QObject {

@@ -206,7 +206,7 @@ private slots:
         QCOMPARE(station.dock.Logged("RX FF FF FF 55"), 0);
     }
 
-    // A cancelled sending ends with the try in hand, and says nothing.
+    // A cancelled sending ends, and says nothing.
     void CancelWhileSending() {
         Station station("reader 4B5831A7\nsilent clock\nsilent options");
         frmSetTime dialog(station.link, nullptr);
