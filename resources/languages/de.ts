@@ -4,6 +4,54 @@
 <context>
     <name>Wardlock</name>
     <message>
+        <source>The database is damaged. Some of its events can no longer be read.</source>
+        <translation>Die Datenbank ist beschädigt. Ein Teil ihrer Ereignisse ist nicht mehr lesbar.</translation>
+    </message>
+    <message>
+        <source>Please restore a backup. Until then, no reader is erased.</source>
+        <translation>Bitte eine Sicherung zurückspielen. Bis dahin wird kein Leser gelöscht.</translation>
+    </message>
+    <message>
+        <source>Another program is using it.</source>
+        <translation>Ein anderes Programm benutzt sie.</translation>
+    </message>
+    <message>
+        <source>It is in use by %0:s (process %1:s).</source>
+        <translation>Sie wird von %0:s benutzt (Prozess %1:s).</translation>
+    </message>
+    <message>
+        <source>It is in use on the computer %2:s, by %0:s (process %1:s).</source>
+        <translation>Sie wird auf dem Computer %2:s benutzt, von %0:s (Prozess %1:s).</translation>
+    </message>
+    <message>
+        <source>The file is not there.</source>
+        <translation>Die Datei ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>Der Datenträger ist voll.</translation>
+    </message>
+    <message>
+        <source>You are not permitted to write to this file or its folder.</source>
+        <translation>Für diese Datei oder ihren Ordner fehlt das Schreibrecht.</translation>
+    </message>
+    <message>
+        <source>It has another password, or it is damaged. If it is damaged, please restore a backup.</source>
+        <translation>Sie hat ein anderes Kennwort, oder sie ist beschädigt. Wenn sie beschädigt ist, bitte eine Sicherung zurückspielen.</translation>
+    </message>
+    <message>
+        <source>It is damaged. Please restore a backup.</source>
+        <translation>Sie ist beschädigt. Bitte eine Sicherung zurückspielen.</translation>
+    </message>
+    <message>
+        <source>Beside the database lay a journal that did not belong to it. The database was opened without it.</source>
+        <translation>Neben der Datenbank lag ein Journal, das nicht zu ihr gehörte. Die Datenbank wurde ohne es geöffnet.</translation>
+    </message>
+    <message>
+        <source>It was renamed to:</source>
+        <translation>Es wurde umbenannt in:</translation>
+    </message>
+    <message>
         <source>The User Name / Password are incorrect. Please try again.</source>
         <translation>Benutzer oder Kennwort ist falsch. Bitte noch einmal versuchen.</translation>
     </message>

@@ -3,36 +3,12 @@
 //
 // Overwrites nothing. Exit status: 0 made, 1 not made, 2 wrong usage.
 
-#include "Connection.h"
-#include "DemoStore.h"
+#include "DeliveredStore.h"
 #include "RunTimeError.h"
-#include "Schema.h"
-#include "StorePassword.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
 
 #include <cstdio>
-
-namespace {
-
-void MakeStore(const QString& path, bool demo) {
-    CreateStoreFile(path, StorePassword);
-    try {
-        Connection store;
-        store.Properties(QStringLiteral("Jet OLEDB:Database Password")) = StorePassword;
-        store.Open(QStringLiteral("Data Source=") + ConnectionValue(path));
-        CreateTables(store);
-        if (demo)
-            DemoStore::Fill(store);
-    } catch (...) {
-        QFile::remove(path); // never leave half a store
-        throw;
-    }
-}
-
-} // namespace
 
 int main(int argc, char* argv[]) {
     const QCoreApplication app(argc, argv);
@@ -43,7 +19,7 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     try {
-        MakeStore(arguments[0], demo);
+        MakeDeliveredStore(arguments[0], demo ? StoreContent::Demo : StoreContent::Empty);
     } catch (const RunTimeError& error) {
         std::fprintf(stderr, "mkstore: %s\n", error.what());
         return 1;

@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include <QMap>
+#include <QRegularExpression>
 
 namespace {
 
@@ -134,6 +135,14 @@ int ParseKey(const QString& text) {
     return key;
 }
 
+QString ParseReader(const QString& text) {
+    static const QRegularExpression identifier(QStringLiteral("\\A[0-9A-Fa-f]{8}\\z"));
+    if (!identifier.match(text).hasMatch())
+        throw UsageError(
+            QStringLiteral("--reader %1: eight hexadecimal digits are wanted").arg(text));
+    return text.toUpper();
+}
+
 } // namespace
 
 CommandLine ParseCommandLine(const QStringList& arguments) {
@@ -183,7 +192,7 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
         throw UsageError(QStringLiteral("--yes is missing: what the reader holds will be lost"));
     if (line.command == ConsoleCommand::ReportTour) {
         line.tour = ParseKey(raw.Required("tour"));
-        line.reader = raw.Required("reader");
+        line.reader = ParseReader(raw.Required("reader"));
         line.date = ParseDate(raw.Required("date"));
         line.format =
             raw.Choice<ReportFormat>("format", {{QStringLiteral("text"), ReportFormat::Text},

@@ -111,6 +111,12 @@ bool IsMastersOnly(ConsoleCommand command) {
            command != ConsoleCommand::ReportTour;
 }
 
+/// A store that is damaged must be known before a reader is erased on the strength of it.
+bool ErasesReader(const CommandLine& line) {
+    return (line.command == ConsoleCommand::Download && !line.keep) ||
+           line.command == ConsoleCommand::ReaderErase;
+}
+
 /// The commands that speak with the docking station, once that has answered.
 bool RunAtDock(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes) {
     switch (line.command) {
@@ -148,6 +154,10 @@ bool RunCommand(const CommandLine& line) {
     if (line.login != MasterOperator && IsMastersOnly(line.command)) {
         Complain(Translate("Only the master may do this."));
         return false;
+    }
+    if (ErasesReader(line)) {
+        CheckStore();
+        TellOfDamage();
     }
     switch (line.command) {
     case ConsoleCommand::ReportTour:

@@ -65,6 +65,8 @@ void Engine::Prepare(const QString& password) {
     // EXTRA also syncs the folder after the journal is deleted. With FULL, a power cut after the
     // commit could bring the journal back, and with it the state before the commit.
     Run(*this, "PRAGMA synchronous = EXTRA");
+    // Temporary tables are for when the disk is full.
+    Run(*this, "PRAGMA temp_store = MEMORY");
     // The engine reads the first page, and so tries the password, only when it is asked something.
     Run(*this, "SELECT count(*) FROM sqlite_master");
     auto collator = std::make_unique<QCollator>(QLocale());

@@ -19,7 +19,10 @@ namespace {
 
 /// Process, program and machine, a line each.
 QByteArray Introduction() {
-    const QString program = QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName();
+    const QString program =
+        QCoreApplication::instance()
+            ? QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName()
+            : QString();
     return QStringLiteral("%1\n%2\n%3\n")
         .arg(QString::number(QCoreApplication::applicationPid()), program,
              QSysInfo::machineHostName())

@@ -39,8 +39,9 @@ OutputFile::OutputFile(const QString& path) {
 }
 
 OutputFile::~OutputFile() {
+    // By its name: a QFile whose last write failed does not remove itself.
     if (m_replaces)
-        m_device->remove();
+        QFile::remove(m_device->fileName());
 }
 
 void OutputFile::Write(const QByteArray& bytes) {

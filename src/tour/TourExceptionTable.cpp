@@ -1,10 +1,12 @@
 #include "TourExceptionTable.h"
 
+#include "ScratchTable.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 
 namespace {
 
+const QString Table = QStringLiteral("tblXXXException");
 const QString Rule(255, u'_');
 
 } // namespace
@@ -27,18 +29,18 @@ const QStringList& TourExceptionTable::ColumnNames() {
 TourExceptionTable::~TourExceptionTable() { Close(); }
 
 bool TourExceptionTable::ResetTempTourTable() {
-    return Guarded("ResetTempTourTable of Form frmRptTour", [] {
-        Drop();
-        gConn->Execute(QStringLiteral("CREATE TABLE tblXXXException (") +
-                       ColumnNames().join(QStringLiteral(" VARCHAR NULL, ")) +
-                       QStringLiteral(" VARCHAR NULL)"));
+    const auto make = [] {
+        MakeScratchTable(Table, ColumnNames());
         return true;
+    };
+    return Trapped(make, [](const RunTimeError& error) {
+        PassOnIfMemoryHelps(error);
+        ReportError(QStringLiteral("ResetTempTourTable of Form frmRptTour"), error,
+                    ErrorShow::LogOnly);
     });
 }
 
-void TourExceptionTable::Drop() {
-    IgnoringErrors([] { gConn->Execute(QStringLiteral("DROP TABLE tblXXXException ;")); });
-}
+void TourExceptionTable::Drop() { DropScratchTable(Table); }
 
 void TourExceptionTable::Open() {
     m_rows.CursorLocation = adUseClient;

@@ -1,6 +1,7 @@
 #include "TourReportBuilder.h"
 
 #include "Format.h"
+#include "ScratchTable.h"
 #include "TourExceptionTable.h"
 #include "TourMatching.h"
 #include "darTourException.h"
@@ -198,10 +199,11 @@ void BuildTourReport(const TourReportRequest& request, ReportViewer& viewer) {
         table.Close();
         TourExceptionTable::Drop();
     };
-    Trapped(build, [](const RunTimeError& error) {
-        ReportError(QStringLiteral("BuildTourReport of Form frmRptTour"), error,
-                    ErrorShow::LogOnly);
-        TourExceptionTable::Drop();
-        ShowFailure("<ERROR #9999>");
-    });
+    Trapped([&] { WithScratchTables(build); },
+            [](const RunTimeError& error) {
+                ReportError(QStringLiteral("BuildTourReport of Form frmRptTour"), error,
+                            ErrorShow::LogOnly);
+                TourExceptionTable::Drop();
+                ShowFailure("<ERROR #9999>");
+            });
 }

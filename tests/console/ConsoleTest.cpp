@@ -77,26 +77,30 @@ class ConsoleTest : public QObject {
 private slots:
     void RefusesWrongUsage_data() {
         QTest::addColumn<QString>("words");
-        for (const char* words : {"",
-                                  "detect",
-                                  "detect --device",
-                                  "frobnicate --device /dev/null",
-                                  "download --device x --tour 1",
-                                  "detect --device x --device y",
-                                  "report tour",
-                                  "report tour --tour x --reader 1 --date 2026-11-21 --format text",
-                                  "report tour --tour 1 --reader 1 --date 21.11.2026 --format text",
-                                  "report tour --tour 1 --reader 1 --date 2026-02-30 --format text",
-                                  "report tour --tour 1 --reader 1 --date 2026-11-21 --format html",
-                                  "reader identify",
-                                  "reader erase --device x",
-                                  "reader frob --device x",
-                                  "reader set-clock --device x --time 2026-02-29T10:00",
-                                  "reader set-clock --device x --time 1999-12-31T23:59",
-                                  "reader set-options --device x --led --no-led",
-                                  "reader firmware --device x --yes",
-                                  "detect --device x --operator guest",
-                                  "download --device x --keep=yes"})
+        for (const char* words :
+             {"",
+              "detect",
+              "detect --device",
+              "frobnicate --device /dev/null",
+              "download --device x --tour 1",
+              "detect --device x --device y",
+              "report tour",
+              "report tour --tour x --reader 4B5831A7 --date 2026-11-21 --format text",
+              "report tour --tour 1 --reader 4B5831A7 --date 21.11.2026 --format text",
+              "report tour --tour 1 --reader 4B5831A7 --date 2026-02-30 --format text",
+              "report tour --tour 1 --reader 4B5831A7 --date 2026-11-21 --format html",
+              "report tour --tour 1 --reader 4B5831A --date 2026-11-21 --format text",
+              "report tour --tour 1 --reader x')UNION/**/SELECT(Password)FROM/**/"
+              "tblOperators-- --date 2026-11-21 --format text",
+              "reader identify",
+              "reader erase --device x",
+              "reader frob --device x",
+              "reader set-clock --device x --time 2026-02-29T10:00",
+              "reader set-clock --device x --time 1999-12-31T23:59",
+              "reader set-options --device x --led --no-led",
+              "reader firmware --device x --yes",
+              "detect --device x --operator guest",
+              "download --device x --keep=yes"})
             QTest::newRow(words) << QString::fromLatin1(words);
     }
     void RefusesWrongUsage() {

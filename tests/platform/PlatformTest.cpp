@@ -16,7 +16,9 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+#include <csignal>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -277,7 +279,7 @@ private slots:
         const int end = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK);
         {
             OutputFile file(path);
-            file.Device().write("report");
+            file.Write("report");
             file.Commit();
         }
         char bytes[8] = {};
@@ -286,6 +288,52 @@ private slots:
         QVERIFY(!QFileInfo(path).isFile());
         QVERIFY(ErrorOf([&] { OutputFile(home.File("none/report")); }) != 0);
         QVERIFY(ErrorOf([&] { OutputFile(home.File("")); }) != 0); // a folder
+    }
+
+    // The disk takes the first thousand bytes, or a folder takes no new file.
+    void OutputIsWholeOrNotThere() {
+        const TestHome home(TestHome::NoStore);
+        const QString older = home.File("older"), link = home.File("link");
+        const auto write = [](const QString& path, const QByteArray& bytes) {
+            OutputFile file(path);
+            file.Write(bytes);
+            file.Commit();
+        };
+        const auto content = [](const QString& path) {
+            QFile file(path);
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+        };
+        write(older, "old");
+        QVERIFY(QFile::setPermissions(older, QFile::ReadOwner | QFile::WriteOwner));
+        QVERIFY(QFile::link(older, link));
+        rlimit before{};
+        getrlimit(RLIMIT_FSIZE, &before);
+        const auto handler = signal(SIGXFSZ, SIG_IGN);
+        for (const qsizetype size : {1001, 100'000}) {
+            const rlimit small{1000, before.rlim_max};
+            setrlimit(RLIMIT_FSIZE, &small);
+            const int error = ErrorOf([&] { write(link, QByteArray(size, 'x')); });
+            const int newError = ErrorOf([&] { write(home.File("new"), QByteArray(size, 'x')); });
+            setrlimit(RLIMIT_FSIZE, &before);
+            QVERIFY(error != 0 && newError != 0);
+            QCOMPARE(content(older), "old");
+            QCOMPARE(
+                QDir(home.File({})).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot),
+                (QStringList{"link", "older"}));
+        }
+        signal(SIGXFSZ, handler);
+        write(link, "new");
+        QCOMPARE(content(older), "new");
+        QVERIFY(QFileInfo(link).isSymLink());
+        QVERIFY(!QFileInfo(older).permission(QFile::ReadGroup));
+        // Root may write everywhere.
+        QVERIFY(QDir().mkdir(home.File("closed")));
+        write(home.File("closed/file"), "old");
+        QFile::setPermissions(home.File("closed"), QFile::ReadOwner | QFile::ExeOwner);
+        QCOMPARE(ErrorOf([&] { write(home.File("closed/file"), "new"); }), 0);
+        QCOMPARE(content(home.File("closed/file")), "new");
+        QFile::setPermissions(home.File("closed"),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
     void German() {

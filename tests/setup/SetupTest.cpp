@@ -2,11 +2,15 @@
 // definitions.
 
 #include "Definitions.h"
+#include "MemoryImage.h"
+#include "ScriptedBoxes.h"
 #include "SetupFile.h"
 #include "TestHome.h"
 #include "TourDraft.h"
 #include "cTourReport.h"
+#include "mOperators.h"
 
+#include <QElapsedTimer>
 #include <QTest>
 
 namespace {
@@ -289,6 +293,71 @@ private slots:
         const QString told = FaultOf(document);
         QVERIFY2(fault.isEmpty() ? told.isEmpty() : told.contains(fault), qPrintable(told));
         QCOMPARE(ContentOfStore() == before, !fault.isEmpty());
+    }
+
+    // Whatever an operator, a file or a caller hands over is a value and never a statement.
+    void HostileText() {
+        for (const QString& hostile :
+             {QString("'; DELETE FROM tblOperators; --"), QString("' OR '1'='1"),
+              QString("\"\x23?;"),
+              QString("x') UNION SELECT 1, 2, Password, 4, 5, 6, 7, 1 FROM tblOperators --")}) {
+            const TestHome home(TestHome::DemoSite);
+            const QStringList before = ContentOfStore();
+            const int site = AddGroup(SiteGroup, hostile);
+            UpdateGroup({site, hostile, hostile});
+            AddButton(site, {0, hostile, hostile, hostile});
+            QCOMPARE(ButtonsOf(site).value(0).code, hostile);
+            DeleteGroup(site);
+            AddReader({hostile, hostile});
+            UpdateReader({hostile, hostile + '2'});
+            QCOMPARE(Readers().last().description, hostile + '2');
+            QVERIFY(IsKnownReader(hostile));
+            DeleteReader(hostile);
+            const int tour = AddTour(hostile);
+            UpdateTour({tour, hostile, hostile, 5, {}});
+            QCOMPARE(Tours().last().name, hostile);
+            DeleteTour(tour);
+            QCOMPARE(CheckOperator(MasterOperator, hostile, RememberLogin::No), NoOperator);
+            ButtonDirectory directory;
+            QCOMPARE(directory.LookUpButtonData(hostile).Name, "Unknown");
+            ScriptedBoxes boxes;
+            cTourReport report;
+            report.TourID = 2;
+            report.ReaderId = hostile;
+            QVERIFY(report.LoadTourHeader() && report.LoadTourPoints());
+            QVERIFY(!report.LoadReaderEvents() && report.Buttons().empty());
+            QCOMPARE(home.TakeLog(), QString());
+            const QByteArray quoted = QString(hostile).replace('"', "\\\"").toUtf8();
+            const QByteArray button = "{\"code\":\"00FFAA\",\"name\":\"" + quoted + "\"}";
+            const QByteArray group = "{\"type\":\"site\",\"name\":\"" + quoted + "\",\"buttons\":[";
+            QCOMPARE(FaultOf("{\"groups\":[" + group + button + "]}]}"), "");
+            QCOMPARE(GroupsOf(SiteGroup).last().name, hostile);
+            DeleteGroup(GroupsOf(SiteGroup).last().id);
+            const auto rows = [](const QStringList& content) { // without the last IDs given
+                return content.mid(0, content.indexOf("sqlite_sequence"));
+            };
+            QCOMPARE(rows(ContentOfStore()), rows(before));
+        }
+    }
+
+    // Twice as many may take somewhat more than twice as long, but not four times.
+    void ImportTakesTimeInProportion() {
+        const auto seconds = [](int count) {
+            const TestHome home(TestHome::EmptyStore);
+            QByteArray groups, tours;
+            for (int i = 0; i < count; ++i) {
+                const QByteArray comma = i == 0 ? "" : ",", name = QByteArray::number(i);
+                groups += comma + "{\"type\":\"site\",\"name\":\"" + name + "\"}";
+                tours += comma + "{\"name\":\"" + name + "\",\"start\":\"06:00\",\"tolerance\":0}";
+            }
+            QElapsedTimer timer;
+            timer.start();
+            ImportSetup("{\"groups\":[" + groups + "],\"tours\":[" + tours + "]}");
+            return static_cast<double>(timer.nsecsElapsed()) / 1e9;
+        };
+        seconds(500);
+        const double once = seconds(1500), fourTimes = seconds(6000);
+        QVERIFY2(fourTimes < 10 * once, qPrintable(QString("%1 %2").arg(once).arg(fourTimes)));
     }
 
     // What the store holds already counts too.

@@ -316,6 +316,20 @@ private slots:
         QVERIFY(!TableExists("tblXXXException"));
     }
 
+    // The engine is not allowed to let the store grow, as if not a byte were free on the disk.
+    void AReportOnAFullDisk() {
+        const int tour = AddTour(Round, 5);
+        AddTouches("08:06 A, 08:07 A, 08:31 B");
+        const QString before = Report(tour);
+        gConn->Execute("VACUUM");
+        gConn->Execute("PRAGMA max_page_count = 1");
+        QVERIFY(ErrorOf([] { gConn->Execute("CREATE TABLE tblMore (a TEXT)"); }) != 0);
+        QCOMPARE(Report(tour), before);
+        QVERIFY(before.contains("LATE") && !TableExists("tblXXXException"));
+        gConn->Execute("PRAGMA max_page_count = 1000000");
+        QCOMPARE(Report(tour), before);
+    }
+
     // However many touches the store holds, a tour reads only those of its reader and its window.
     void OtherTouchesCostNothing() {
         const int tour = AddTour(Round, 5);

@@ -1,0 +1,45 @@
+#include "ScratchTable.h"
+
+#include "mDeclareGlobals.h"
+#include "mErrorHandler.h"
+
+namespace {
+
+bool g_inMemory = false;
+
+bool MemoryHelps(const RunTimeError& error) {
+    constexpr int inputOutput = 10, full = 13, cannotOpen = 14; // the engine's codes
+    const int code = error.Number() - RunTimeErrorNumber::StoreEngine;
+    return !g_inMemory && (code == inputOutput || code == full || code == cannotOpen);
+}
+
+} // namespace
+
+void MakeScratchTable(const QString& name, const QStringList& columns) {
+    DropScratchTable(name);
+    gConn->Execute(
+        (g_inMemory ? QStringLiteral("CREATE TEMP TABLE ") : QStringLiteral("CREATE TABLE ")) +
+        name + QStringLiteral(" (") + columns.join(QStringLiteral(" VARCHAR NULL, ")) +
+        QStringLiteral(" VARCHAR NULL)"));
+}
+
+void DropScratchTable(const QString& name) {
+    IgnoringErrors([&] { gConn->Execute(QStringLiteral("DROP TABLE %1 ;").arg(name)); });
+}
+
+void WithScratchTables(const std::function<void()>& build) {
+    g_inMemory = false;
+    try {
+        build();
+    } catch (const RunTimeError& error) {
+        if (!MemoryHelps(error))
+            throw;
+        g_inMemory = true;
+        build();
+    }
+}
+
+void PassOnIfMemoryHelps(const RunTimeError& error) {
+    if (MemoryHelps(error))
+        throw error;
+}
