@@ -109,6 +109,7 @@ private slots:
         kept("count below the records", three + "count 60", 117, disagrees);
         good("count of 0", Taught + Touches(30) + "count 0", 30);
         bad("count of 0, untaught", Untaught + Touches(30) + "count 0");
+        bad("count beyond the records, untaught", Untaught + Touches(150) + "count 160");
         bad("no marker in front, untaught", Untaught + "record EF CD AB 3C");
         // The rest reads as an image of 11 records, but not all that its count says.
         bad("second frame like a first one", Untaught + Touches(57) +
