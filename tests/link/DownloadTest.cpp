@@ -243,11 +243,11 @@ private slots:
     }
     void ReaderExchanged() {
         QFETCH(QByteArray, reader);
-        Station station(Taught + Touches(150) + "refuse erase 1\npace 96000");
+        Station station(Taught + Touches(150) + "refuse erase 1\npace 28800");
         m_boxes.Answers = {MessageAnswer::Yes};
         m_boxes.Meanwhile = [&] {
             if (reader.contains('\n'))
-                station.dock.Load(reader + "pace 96000");
+                station.dock.Load(reader + "pace 28800");
             else
                 station.dock.Say(reader);
         };
