@@ -1000,6 +1000,14 @@
         <translation>Bitte einen Namen eingeben</translation>
     </message>
     <message>
+        <source>The tour could not be saved. Nothing was changed.</source>
+        <translation>Die Runde konnte nicht gespeichert werden. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Your changes have not been saved. Discard them?</source>
+        <translation>Die Änderungen sind nicht gespeichert. Verwerfen?</translation>
+    </message>
+    <message>
         <source>Are you sure you want to delete it?</source>
         <translation>Soll diese Gruppe wirklich gelöscht werden?</translation>
     </message>

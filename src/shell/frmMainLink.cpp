@@ -26,7 +26,7 @@ void frmMain::GoConnect() {
         dialog.MyCommPort = QString::number(m_portNumber);
         dialog.MyCommSettings = DockingLink::CommSettings;
         dialog.exec();
-        if (!dialog.OK) {
+        if (!dialog.OK()) {
             m_online = false;
             m_dockingDetected = false;
             gDockingDetected = false; // else Download would stay open without a port
@@ -67,7 +67,7 @@ void frmMain::GoOptions() {
     dialog.comPort = m_portNumber;
     dialog.Populate();
     dialog.exec();
-    if (!dialog.OK)
+    if (!dialog.OK())
         return;
     m_portNumber = dialog.comPort;
     SavePortNumber(m_portNumber);

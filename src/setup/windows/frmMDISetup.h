@@ -73,6 +73,8 @@ private:
     void EditTour();
     void DeleteTour();
     void CopyTour();
+    /// True if the tour was written. If not, nothing was, and the operator was told.
+    bool Saved(const Tour& tour, const TourDraft& points) const;
     QString FreshTourName() const;
 
     std::unique_ptr<Ui::frmMDISetup> m_ui;

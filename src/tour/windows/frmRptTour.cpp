@@ -41,7 +41,7 @@ frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
     connect(m_ui->imgcboReader, &QComboBox::currentIndexChanged, this,
             &frmRptTour::ReadSelectedReader);
     connect(m_ui->cmdPrintPreview, &QPushButton::clicked, this, &frmRptTour::cmdPrintPreview_Click);
-    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmRptTour::cmdCancel_Click);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     Guarded("Form_Load of Form frmRptTour", [this] {
         FillTours();
         FillReaders();
@@ -95,11 +95,6 @@ void frmRptTour::cmdPrintPreview_Click() {
     BuildTourReport({TourID, StartDate, ReaderId, m_ui->imgcboReader->currentText(), IncludeEvents,
                      m_ui->optShowAll_1->isChecked()},
                     m_viewer);
-}
-
-void frmRptTour::cmdCancel_Click() {
-    OK = false;
-    reject();
 }
 
 void frmRptTour::done(int result) {
