@@ -3,10 +3,10 @@
 #include "Clock.h"
 #include "Format.h"
 #include "RunTimeError.h"
-#include "Settings.h"
 #include "Trace.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
+#include "mSettings.h"
 #include "mWardlock.h"
 
 namespace {
@@ -205,11 +205,7 @@ void DockingLink::EraseRequest(bool& succeeded) {
 }
 
 int SavedPortNumber() {
-    int number = 0;
-    IgnoringErrors([&] {
-        number = ToInteger(GetSetting(SettingsApplication, SettingsSection::ComPort, PortKey,
-                                      QStringLiteral("1")));
-    });
+    int number = SavedNumber(SettingsSection::ComPort, PortKey, 1);
     if (number < 1 || number > 8)
         number = 1;
     SavePortNumber(number);

@@ -209,7 +209,7 @@ private slots:
         const QString allPoints = "SELECT lIndex, dtTime, tButtonCode FROM tblTourPoints";
         {
             const TestHome home(TestHome::DemoSite);
-            UpdateGroup({AddGroup(UserGroup, "Guards \"A\""), "Guards \"A\"", "line\nline ü"});
+            UpdateGroup({AddGroup(UserGroup, "Guards \"A\""), "Guards \"A\"", "a \"line\", ü"});
             AddButton(4, {0, "00FF00", "'quoted' \\", {}});
             AddReader({"00000001", " blank "});
             DeleteButton(ButtonsOf(1).first().id); // the night tour visits it twice
@@ -242,6 +242,11 @@ private slots:
         row("bad type", R"({"groups":[{"type":"Site","name":"x"}]})", "group 1 \"x\": \"type\"");
         row("no name", R"({"groups":[{"type":"site","name":"  "}]})",
             "You must enter a name for this group");
+        row("line in a name", R"({"readers":[{"id":"00000001","description":"a\nb"}]})",
+            "control characters");
+        row("tab in a description", R"({"groups":[{"type":"site","name":"x","description":"\t"}]})",
+            "control characters");
+        row("separator", R"({"groups":[{"type":"site","name":"x\u2028y"}]})", "control characters");
         row("name is a number", R"({"groups":[{"type":"site","name":7}]})", "\"name\" must be");
         row("same name", R"({"groups":[{"type":"site","name":"A"},{"type":"site","name":"A"}]})",
             "group 2 \"A\": That name is already used.");

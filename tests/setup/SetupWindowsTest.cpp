@@ -489,7 +489,7 @@ private slots:
                 const auto editor = editorOn(kind);
                 editor->show();
                 if (changed)
-                    In<QLineEdit>(*editor, fields[kind])->setText("17");
+                    In<QLineEdit>(*editor, fields[kind])->setText("17\t");
                 QTest::keyClick(editor.get(), Qt::Key_Escape);
                 QCOMPARE(editor->isVisible(), changed); // the answer was No
                 if (changed)
@@ -568,6 +568,9 @@ private slots:
         row("name of another", "Day round ", "60", 4,
             "That name is already used.  Please enter another name.", "txtName");
         row("no name", "  ", "60", -1, "You must enter a name for this group", "txtName");
+        row("line break", "Night\nround", "60", -1,
+            "A name or description cannot contain line breaks or other control characters.",
+            "txtName");
         row("neighbours", "Night round", "x", 4,
             "Cannot assign two sequential tour points with the same location", "lvwSelected");
         row("tolerance", "Night round", "60", -1,

@@ -78,7 +78,8 @@ void frmAddButton::cmdManual_Click() {
 }
 
 void frmAddButton::cmdOK_Click() {
-    if (!AcceptName(Named::Item, *m_ui->txtName, ExistingNames))
+    if (!AcceptName(Named::Item, *m_ui->txtName, ExistingNames) ||
+        !AcceptDescription(*m_ui->txtDesc))
         return;
     ButtonName = m_ui->txtName->text();
     Desc = m_ui->txtDesc->text();

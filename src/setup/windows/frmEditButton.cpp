@@ -29,7 +29,8 @@ int frmEditButton::exec() {
 }
 
 void frmEditButton::cmdOK_Click() {
-    if (!AcceptName(Named::Item, *m_ui->txtName, ExistingNames, EditName))
+    if (!AcceptName(Named::Item, *m_ui->txtName, ExistingNames, EditName) ||
+        !AcceptDescription(*m_ui->txtDesc))
         return;
     EditName = m_ui->txtName->text().trimmed();
     Desc = m_ui->txtDesc->text();

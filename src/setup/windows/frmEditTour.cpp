@@ -5,11 +5,11 @@
 #include "NameField.h"
 #include "Number.h"
 #include "Recordset.h"
-#include "Settings.h"
 #include "TourListDrag.h"
 #include "WindowTools.h"
 #include "frmEditTime.h"
 #include "mErrorHandler.h"
+#include "mSettings.h"
 #include "mTranslations.h"
 #include "ui_frmEditTour.h"
 
@@ -22,14 +22,9 @@ const QString IntervalKey = QStringLiteral("LastTourInterval");
 constexpr int Right = 600, Below = 720;
 
 int SavedInterval() {
-    int minutes = 10;
-    IgnoringErrors([&] {
-        const int saved = ToInteger(GetSetting(SettingsApplication, SettingsSection::Settings,
-                                               IntervalKey, QString::number(minutes)));
-        if (saved >= 0 && saved < MinutesOfDay)
-            minutes = saved;
-    });
-    return minutes;
+    constexpr int Default = 10;
+    const int saved = SavedNumber(SettingsSection::Settings, IntervalKey, Default);
+    return saved >= 0 && saved < MinutesOfDay ? saved : Default;
 }
 
 } // namespace
@@ -253,7 +248,8 @@ bool frmEditTour::TourTimeIsValid() {
 void frmEditTour::cmdOK_Click() {
     Guarded("cmdOK_Click of Form frmEditTour", [this] {
         if (!AcceptName(Named::Group, *m_ui->txtName, ExistingNames, m_receivedName) ||
-            !PointsAreValid() || !ToleranceIsValid() || !TourTimeIsValid())
+            !AcceptDescription(*m_ui->txtDesc) || !PointsAreValid() || !ToleranceIsValid() ||
+            !TourTimeIsValid())
             return;
         ListName = m_ui->txtName->text().trimmed();
         ListDesc = m_ui->txtDesc->text().trimmed();

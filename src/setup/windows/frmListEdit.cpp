@@ -151,7 +151,8 @@ bool frmListEdit::EditedNameOK() const {
 }
 
 void frmListEdit::cmdOK_Click() {
-    if (!AcceptName(Named::Group, *m_ui->txtName, ExistingNames, m_receivedName))
+    if (!AcceptName(Named::Group, *m_ui->txtName, ExistingNames, m_receivedName) ||
+        !AcceptDescription(*m_ui->txtDesc))
         return;
     ListName = m_ui->txtName->text().trimmed();
     ListDesc = m_ui->txtDesc->text();

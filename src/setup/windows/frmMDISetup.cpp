@@ -118,11 +118,15 @@ void frmMDISetup::ShowTab() {
 void frmMDISetup::FillList() {
     m_rows.SetRows((this->*Present().rows)());
     m_ui->cmdTourCopy->setVisible(ShowsTours());
-    const bool teachesReaders = Present().add == &frmMDISetup::AddReader;
-    m_ui->cmdSetup_1->setEnabled(!teachesReaders || gDockingDetected);
+    ShowLink();
     const bool any = m_rows.rowCount() > 0;
     m_ui->cmdSetup_0->setEnabled(any);
     m_ui->cmdSetup_2->setEnabled(any);
+}
+
+void frmMDISetup::ShowLink() {
+    const bool teachesReaders = Present().add == &frmMDISetup::AddReader;
+    m_ui->cmdSetup_1->setEnabled(!teachesReaders || gDockingDetected);
 }
 
 void frmMDISetup::FillListAndSelect(const QVariant& tag) {

@@ -21,6 +21,8 @@ public:
 
     /// Shows the first tab.
     void Start();
+    /// Opens or closes what needs a docking station, as it comes or goes.
+    void ShowLink();
     /// Translates the page's controls.
     void Translate();
     /// True if a row of the list has this name in the second column.

@@ -3,11 +3,11 @@
 #include "Clock.h"
 #include "Format.h"
 #include "Recordset.h"
-#include "Settings.h"
 #include "TourReportBuilder.h"
 #include "WindowTools.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
+#include "mSettings.h"
 #include "mTranslations.h"
 #include "ui_frmRptTour.h"
 
@@ -16,10 +16,7 @@ namespace {
 const QString ShowAllKey = QStringLiteral("ShowAllStatus");
 const QString ShowEventsKey = QStringLiteral("ShowEventsStatus");
 
-bool SavedOption(const QString& key) {
-    return ToBoolean(
-        GetSetting(SettingsApplication, SettingsSection::Settings, key, BooleanText(false)));
-}
+bool SavedOption(const QString& key) { return SavedBoolean(SettingsSection::Settings, key, false); }
 
 void SaveOption(const QString& key, bool value) {
     SaveSetting(SettingsApplication, SettingsSection::Settings, key, BooleanText(value));
