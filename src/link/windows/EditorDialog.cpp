@@ -3,10 +3,15 @@
 #include "mTranslations.h"
 
 void EditorDialog::reject() {
-    if (m_unchanged.value_or(Entered()) == Entered() ||
-        IvMessageBox(Translate("Your changes have not been saved. Discard them?"),
-                     MessageKind::Question, MessageButtons::YesNo) == MessageAnswer::Yes)
+    if (m_unchanged.value_or(Entered()) == Entered()) {
         QDialog::reject();
+    } else if (IvMessageBox(Translate("Your changes have not been saved. Discard them?"),
+                            MessageKind::Question, MessageButtons::YesNo) == MessageAnswer::Yes) {
+        QDialog::reject();
+        // Two windows close at once, and some window managers then lose the keyboard.
+        if (parentWidget())
+            parentWidget()->activateWindow();
+    }
 }
 
 void EditorDialog::showEvent(QShowEvent* event) {
