@@ -9,7 +9,7 @@ BIN=$BUILD/bin
 build_packages=(build-essential cmake ninja-build pkg-config ccache qt6-base-dev
     qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-serialport-dev
     qt6-svg-dev libgl-dev libsqlcipher-dev)
-run_packages=(libqt6svg6 qt6-qpa-plugins fonts-dejavu-core)
+run_packages=(libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core)
 # Tests look at PDF texts and open the store with the stock shell.
 test_packages=(poppler-utils sqlcipher)
 
@@ -28,9 +28,24 @@ install_missing() {
         as_root=(sudo)
     fi
     say "Installing ${missing[*]}"
-    quietly install.log "${as_root[@]}" apt-get update
-    quietly install.log "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y --no-install-recommends "${missing[@]}"
+    apt_get update
+    apt_get install -y --no-install-recommends "${missing[@]}"
+}
+
+# apt_get ARGUMENT...: waits up to ten minutes for the package manager's locks, which a fresh system
+# often holds. (apt-get's own option waits for one of them only.)
+apt_get() {
+    local log=$BUILD/install.log deadline=$((SECONDS + 600)) waiting=
+    mkdir -p "$BUILD"
+    until "${as_root[@]}" env LC_ALL=C DEBIAN_FRONTEND=noninteractive apt-get "$@" >"$log" 2>&1; do
+        if [ $SECONDS -ge $deadline ] || ! grep -q 'Could not get lock' "$log"; then
+            tail -n 60 "$log" >&2
+            exit 1
+        fi
+        [ -n "$waiting" ] || say "Waiting for another package manager to finish"
+        waiting=1
+        sleep 2
+    done
 }
 
 # quietly LOG COMMAND...: what it prints goes into a log in the build folder, and is shown only if it

@@ -360,6 +360,10 @@
         <translation>Fehler beim Anlegen des Rundgangs</translation>
     </message>
     <message>
+        <source>The settings cannot be saved. What you choose now is forgotten when the program ends.</source>
+        <translation>Die Einstellungen können nicht gespeichert werden. Was jetzt gewählt wird, ist nach dem Beenden vergessen.</translation>
+    </message>
+    <message>
         <source>EARLY</source>
         <translation>ZU FRÜH</translation>
     </message>
@@ -1074,6 +1078,18 @@
     <message>
         <source>You must enter a name for this group</source>
         <translation>Bitte einen Namen eingeben</translation>
+    </message>
+    <message>
+        <source>A name or description cannot contain line breaks or other control characters.</source>
+        <translation>Namen und Beschreibungen dürfen keine Zeilenumbrüche oder andere Steuerzeichen enthalten.</translation>
+    </message>
+    <message>
+        <source>The tour could not be saved. Nothing was changed.</source>
+        <translation>Der Rundgang konnte nicht gespeichert werden. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Your changes have not been saved. Discard them?</source>
+        <translation>Die Änderungen sind nicht gespeichert. Verwerfen?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete it?</source>

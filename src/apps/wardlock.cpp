@@ -1,15 +1,51 @@
-#include "MessageBox.h"
 #include "RunTimeError.h"
 #include "StationApplication.h"
 #include "mMain.h"
+#include "mTranslations.h"
 
+#include <cstdio>
 #include <cstdlib>
+#include <cstring>
+
+namespace {
+
+constexpr char Usage[] =
+    "usage: wardlock [-debug] [-demo]\n"
+    "       wardlock --help | --version\n"
+    "\n"
+    "The office station of a guard-tour installation. It works on the store in its own folder, or "
+    "in\n"
+    "the one that the environment variable WARDLOCK_HOME names. wardlockctl does the same work\n"
+    "without windows.\n"
+    "\n"
+    "-debug logs the start of the program in error.log. -demo changes nothing.\n"
+    "\n"
+    "exit status: 0 ended by the operator, 1 could not start\n";
+
+/// Answers what can be answered without a display. True if something was asked.
+bool Answered(int argc, char* argv[]) {
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--help") == 0)
+            std::fputs(Usage, stdout);
+        else if (std::strcmp(argv[i], "--version") == 0)
+            std::printf("wardlock %s\n", qPrintable(GetVersionString()));
+        else
+            continue;
+        return true;
+    }
+    return false;
+}
+
+} // namespace
 
 int main(int argc, char* argv[]) {
+    if (Answered(argc, argv))
+        return EXIT_SUCCESS;
     StationApplication app(argc, argv);
     return app.RunGuarded([&] {
-        if (!Main(StationApplication::CommandLine()))
-            return EXIT_SUCCESS; // it has said what there was to say
+        const StartOutcome outcome = Main(StationApplication::CommandLine());
+        if (outcome != StartOutcome::Running)
+            return outcome == StartOutcome::Cancelled ? EXIT_SUCCESS : EXIT_FAILURE;
         const int status = StationApplication::exec();
         ReleaseMainWindow();
         return status;

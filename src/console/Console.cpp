@@ -29,6 +29,7 @@ struct StoreCloser {
 
 /// Opens dictionary and store and checks the login; false once it has said why not.
 bool OpenStation(const CommandLine& line) {
+    ReportLostSettings();
     ReadLanguageSetting();
     // A missing dictionary is the station's matter; here the English texts do as well.
     gDictionary = std::make_unique<Dictionary>();

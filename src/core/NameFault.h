@@ -9,8 +9,12 @@ enum class Named {
     Group ///< a group or a tour
 };
 
+/// Why a text cannot be a name or a description, as the message to show; empty where it can. Line
+/// breaks and other control characters would tear lists and reports apart.
+QString TextFault(const QString& text);
+
 /// Why a name cannot be given, as the message to show; empty where it can. `name` is trimmed
 /// already. A name that stays what it was, `received`, is not looked for among `existingNames`,
-/// which are compared exactly.
+/// which are compared exactly. TextFault's rule holds for a name too.
 QString NameFault(Named what, const QString& name, const QStringList& existingNames,
                   const QString& received = {});

@@ -1,39 +1,57 @@
 #include "mSettings.h"
 
-#include "RunTimeError.h"
-#include "Settings.h"
 #include "mDeclareGlobals.h"
+#include "mErrorHandler.h"
+#include "mTranslations.h"
 
 namespace {
 
 constexpr int CompanyLineLength = 50;
 
-QString Saved(const QString& key, const QString& fallback) {
-    return GetSetting(SettingsApplication, SettingsSection::Properties, key, fallback);
-}
-
-/// Whoever has to mend a setting wants to know which.
-template <typename Convert>
-auto Converted(const QString& key, const QString& fallback, Convert convert) {
-    const QString text = Saved(key, fallback);
-    try {
-        return convert(text);
-    } catch (const RunTimeError& error) {
-        throw RunTimeError(error.Number(),
-                           error.Description() +
-                               QStringLiteral(" (setting %1 = \"%2\")").arg(key, text));
-    }
+template <typename T>
+T SavedOption(const QString& section, const QString& key, T fallback, const QString& fallbackText,
+              T (*convert)(const QString&)) {
+    const QString text = GetSetting(SettingsApplication, section, key, fallbackText);
+    T value = fallback;
+    Trapped([&] { value = convert(text); },
+            [&](const RunTimeError& error) {
+                const QString setting = QStringLiteral(" (setting %1 = \"%2\")").arg(key, text);
+                ReportError(QStringLiteral("SavedOption of Module mSettings"),
+                            RunTimeError(error.Number(), error.Description() + setting),
+                            ErrorShow::LogOnly);
+            });
+    return value;
 }
 
 } // namespace
 
+int SavedNumber(const QString& section, const QString& key, int fallback,
+                int (*convert)(const QString&)) {
+    return SavedOption(section, key, fallback, QString::number(fallback), convert);
+}
+
+bool SavedBoolean(const QString& section, const QString& key, bool fallback) {
+    return SavedOption(section, key, fallback, BooleanText(fallback), ToBoolean);
+}
+
 void ReadLanguageSetting() {
-    gLanguage = Converted(QStringLiteral("Language"), QStringLiteral("-1"), ToInteger);
+    gLanguage = SavedNumber(SettingsSection::Properties, QStringLiteral("Language"), -1);
 }
 
 void ReadRemainingSettings() {
-    gAutoSetTime = Converted(QStringLiteral("AutoSetTime"), BooleanText(true), ToBoolean);
+    gAutoSetTime = SavedBoolean(SettingsSection::Properties, QStringLiteral("AutoSetTime"), true);
     for (std::size_t line = 0; line < gCompanyInfo.size(); ++line)
-        gCompanyInfo[line] =
-            Saved(QStringLiteral("CompanyInfo%1").arg(line + 1), {}).left(CompanyLineLength);
+        gCompanyInfo[line] = GetSetting(SettingsApplication, SettingsSection::Properties,
+                                        QStringLiteral("CompanyInfo%1").arg(line + 1))
+                                 .left(CompanyLineLength);
+}
+
+void ReportLostSettings() {
+    InstallSettingsLost([](const QString& path) {
+        WriteLog(QStringLiteral("The settings cannot be saved: ") + path);
+        IvMessageBox(
+            Translate("The settings cannot be saved. What you choose now is forgotten when "
+                      "the program ends.") +
+            u'\n' + path);
+    });
 }

@@ -3,10 +3,10 @@
 #include "Clock.h"
 #include "Format.h"
 #include "RunTimeError.h"
-#include "Settings.h"
 #include "Trace.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
+#include "mSettings.h"
 #include "mTranslations.h"
 #include "mWardlock.h"
 
@@ -263,11 +263,7 @@ bool ClockDateIsUsable(DateTime moment) {
 }
 
 int SavedPortNumber() {
-    int number = 0;
-    IgnoringErrors([&] {
-        number = ToInteger(GetSetting(SettingsApplication, SettingsSection::ComPort, PortKey,
-                                      QStringLiteral("1")));
-    });
+    int number = SavedNumber(SettingsSection::ComPort, PortKey, 1);
     if (number < 1 || number > 8)
         number = 1;
     SavePortNumber(number);

@@ -1,8 +1,7 @@
 #include "ReaderSignals.h"
 
-#include "Settings.h"
 #include "mDeclareGlobals.h"
-#include "mErrorHandler.h"
+#include "mSettings.h"
 #include "mTranslations.h"
 #include "mWardlock.h"
 
@@ -11,14 +10,8 @@ namespace {
 /// 1 is a checked box, and the short buzzer.
 constexpr int Chosen = 1, NotChosen = 0, LongDuration = 2;
 
-/// A saved text that is no number costs that value alone.
 int Saved(const char* key) {
-    int value = Chosen;
-    IgnoringErrors([&] {
-        value = ToInteger(GetSetting(SettingsApplication, SettingsSection::ReaderSetting,
-                                     QString::fromLatin1(key), QString::number(Chosen)));
-    });
-    return value;
+    return SavedNumber(SettingsSection::ReaderSetting, QString::fromLatin1(key), Chosen);
 }
 
 void Save(const char* key, int value) {

@@ -3,9 +3,8 @@
 #include "Clock.h"
 #include "ReaderSignals.h"
 #include "RunTimeError.h"
-#include "Settings.h"
 #include "mDeclareGlobals.h"
-#include "mErrorHandler.h"
+#include "mSettings.h"
 #include "mWardlock.h"
 
 std::unique_ptr<cReaderOptions> gReaderOptions;
@@ -17,13 +16,20 @@ std::uint16_t Yesterday() { return static_cast<std::uint16_t>(DateCodeOf(Now()) 
 QString Text(std::uint8_t value) { return QString::number(value); }
 QString Text(bool value) { return BooleanText(value); }
 
-void Convert(const QString& text, std::uint8_t& value) {
+int ToByte(const QString& text) {
     const int number = ToInteger(text);
     if (number < 0 || number > 255)
         throw RunTimeError(RunTimeErrorNumber::Overflow, QStringLiteral("Overflow"));
-    value = static_cast<std::uint8_t>(number);
+    return number;
 }
-void Convert(const QString& text, bool& value) { value = ToBoolean(text); }
+
+void Read(const char* key, std::uint8_t& value) {
+    value = static_cast<std::uint8_t>(
+        SavedNumber(SettingsSection::Reader, QString::fromLatin1(key), value, ToByte));
+}
+void Read(const char* key, bool& value) {
+    value = SavedBoolean(SettingsSection::Reader, QString::fromLatin1(key), value);
+}
 
 /// Every property with its setting's name.
 template <typename Options, typename Visit>
@@ -40,14 +46,7 @@ void ForEachSetting(Options& options, Visit visit) {
 } // namespace
 
 cReaderOptions::cReaderOptions() {
-    ForEachSetting(*this, [](const char* key, auto& value) {
-        // A saved text that is no such value costs that value alone; the default is written back.
-        Guarded("Class_Initialize of Class Module cReaderOptions", [&] {
-            Convert(GetSetting(SettingsApplication, SettingsSection::Reader,
-                               QString::fromLatin1(key), Text(value)),
-                    value);
-        });
-    });
+    ForEachSetting(*this, [](const char* key, auto& value) { Read(key, value); });
 }
 
 cReaderOptions::~cReaderOptions() {

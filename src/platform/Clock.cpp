@@ -56,6 +56,8 @@ void Sleep(int milliseconds) {
 
 void DoEvents() { QCoreApplication::processEvents(); }
 
+void DoEventsWithoutInput() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
+
 Timer::Timer(int intervalMilliseconds, QObject* parent)
     : QObject(parent), m_interval(intervalMilliseconds) {
     m_timer.setTimerType(Qt::PreciseTimer);

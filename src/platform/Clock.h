@@ -23,6 +23,8 @@ std::int64_t MillisecondsRunning();
 void Sleep(int milliseconds);
 /// Handles all events that are waiting.
 void DoEvents();
+/// The same, but keys and clicks go on waiting.
+void DoEventsWithoutInput();
 
 /// A repeating timer on the interface thread, stopped at first. Starting it again begins a new
 /// interval. A tick that is still being handled is not entered again from its own DoEvents.

@@ -2,11 +2,13 @@
 
 #include "RunTimeError.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QRegularExpression>
 #include <QResource>
@@ -31,6 +33,7 @@ Dictionary::~Dictionary() { Unload(); }
 
 void Dictionary::Unload() {
     m_translator.reset();
+    m_libraryTexts.reset(); // which also takes it from the application
     m_languages.clear();
     if (!m_registered.isEmpty())
         QResource::unregisterResource(m_registered, Root);
@@ -58,6 +61,17 @@ void Dictionary::Open() {
     if (!translator->load(u':' + Root + u'/' + locale + QStringLiteral(".qm")))
         ThrowUnreadable(m_languages[number].englishName);
     m_translator = std::move(translator);
+    LoadLibraryTexts(locale);
+}
+
+/// A missing catalogue costs only the translation of Qt's own texts.
+void Dictionary::LoadLibraryTexts(const QString& locale) {
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(QStringLiteral("qtbase_") + locale,
+                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        return;
+    QCoreApplication::installTranslator(translator.get());
+    m_libraryTexts = std::move(translator);
 }
 
 int Dictionary::SystemLanguage() const {

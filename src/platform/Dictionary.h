@@ -34,8 +34,8 @@ public:
     /// Number of the language to open; -1 is the system's own.
     int language = -1;
 
-    /// Opens the file and the language. Throws RunTimeError where the file is missing or damaged
-    /// or holds no such language; every text is then its own translation.
+    /// Opens the file and the language; Qt's own dialogs follow. Throws RunTimeError where the file
+    /// is missing or damaged or holds no such language; every text is then its own translation.
     void Open();
 
     /// A language by its number. For -1, or where no file is open, what can be told without it.
@@ -59,10 +59,12 @@ public:
 
 private:
     void Unload();
+    void LoadLibraryTexts(const QString& locale);
     int SystemLanguage() const;
 
     QString m_registered;
     QList<Language> m_languages;
     std::unique_ptr<QTranslator> m_translator;
+    std::unique_ptr<QTranslator> m_libraryTexts; ///< for Qt's own dialogs and menus
     Chooser m_chooser = nullptr;
 };

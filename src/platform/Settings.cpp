@@ -3,11 +3,16 @@
 #include "Number.h"
 #include "RunTimeError.h"
 
+#include <QDir>
 #include <QSettings>
 
 #include <limits>
+#include <utility>
 
 namespace {
+
+SettingsLost g_settingsLost = nullptr;
+bool g_lost = false;
 
 QSettings Open(const QString& application) {
     return {QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Wardlock"), application};
@@ -37,7 +42,18 @@ QString GetSetting(const QString& application, const QString& section, const QSt
 
 void SaveSetting(const QString& application, const QString& section, const QString& key,
                  const QString& value) {
-    Open(application).setValue(section + u'/' + key, value);
+    QSettings settings = Open(application);
+    settings.setValue(section + u'/' + key, value);
+    settings.sync();
+    const bool lost = settings.status() == QSettings::AccessError;
+    if (lost && !std::exchange(g_lost, lost) && g_settingsLost)
+        g_settingsLost(QDir::toNativeSeparators(settings.fileName()));
+    g_lost = lost;
+}
+
+void InstallSettingsLost(SettingsLost handler) {
+    g_settingsLost = handler;
+    g_lost = false;
 }
 
 int ToInteger(const QString& text) { return ToWholeNumber<std::int16_t>(text); }

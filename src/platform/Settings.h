@@ -10,8 +10,14 @@ inline const QString SettingsApplication = QStringLiteral("Wardlock Lite");
 /// The saved text, or `fallback` where there is none.
 QString GetSetting(const QString& application, const QString& section, const QString& key,
                    const QString& fallback = {});
+/// Never throws; InstallSettingsLost says what happens if the value cannot be written.
 void SaveSetting(const QString& application, const QString& section, const QString& key,
                  const QString& value);
+
+/// Takes the file that cannot be written.
+using SettingsLost = void (*)(const QString& path);
+/// Called at the first write that fails, and again only once a later one has succeeded.
+void InstallSettingsLost(SettingsLost handler);
 
 /// Conversions of saved text. Each throws RunTimeError: TypeMismatch for text that is no such
 /// value, Overflow for a number out of range. Fractions are rounded half to even.

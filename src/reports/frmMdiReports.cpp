@@ -93,7 +93,7 @@ bool frmMdiReports::eventFilter(QObject* watched, QEvent* event) {
 
 void frmMdiReports::OpenSelected() {
     Guarded("lvwReports_DblClick of Form frmMdiReports", [this] {
-        if (const QTreeWidgetItem* row = m_ui->lvwReports->currentItem())
+        if (const QTreeWidgetItem* row = m_ui->lvwReports->selectedItems().value(0))
             ReportParamShow(row->data(0, KeyRole).toString(), row->text(0));
     });
 }

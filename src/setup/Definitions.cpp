@@ -1,6 +1,7 @@
 #include "Definitions.h"
 
 #include "Recordset.h"
+#include "TourDraft.h"
 #include "mTranslations.h"
 
 namespace {
@@ -165,6 +166,13 @@ void UpdateTour(const Tour& tour) {
     rows.Set(u"tName", tour.name);
     rows.Set(u"tDesc", tour.description);
     rows.Update();
+}
+
+void SaveTour(const Tour& tour, const TourDraft& points) {
+    Transaction transaction(*gConn);
+    UpdateTour(tour);
+    points.Write(tour.id);
+    transaction.Commit();
 }
 
 bool TourHasPoints(int id) { return Rows(PointsOfTour, {id}).Any(); }

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+class TourDraft;
+
 /// What an operator defines, as rows of the store: groups with their buttons, readers, tours. All
 /// of it works on gConn, and every failure throws RunTimeError. Events are never touched: they keep
 /// what was true when they were downloaded.
@@ -60,6 +62,8 @@ QList<Tour> Tours();
 /// Adds a tour without points, that starts at midnight, and gives its ID.
 int AddTour(const QString& name);
 void UpdateTour(const Tour& tour);
+/// The tour with its points: both or nothing. No other tour is touched.
+void SaveTour(const Tour& tour, const TourDraft& points);
 bool TourHasPoints(int id);
 /// The tour with its points.
 void DeleteTour(int id);

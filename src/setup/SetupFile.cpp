@@ -111,8 +111,11 @@ public:
             Fail(QStringLiteral("\"%1\" must be a text").arg(QLatin1String(key)));
         return value.toString();
     }
-    QString TextIfAny(const char* key) const {
-        return m_fields.contains(QLatin1String(key)) ? Text(key) : QString();
+    QString Description() const {
+        const char* key = "description";
+        QString text = m_fields.contains(QLatin1String(key)) ? Text(key) : QString();
+        FailIf(TextFault(text));
+        return text;
     }
     /// A whole number from 0 to `most`.
     int Number(const char* key, int most, const QString& fault) const {
@@ -209,7 +212,7 @@ private:
         const GroupType type = TypeOf(entry);
         const QString name = TakeName(entry, "name", Named::Group, m_groupNames[type]);
         const int id = AddGroup(type, name);
-        UpdateGroup({id, name, entry.TextIfAny("description")});
+        UpdateGroup({id, name, entry.Description()});
         Names names;
         for (const Entry& button : entry.List("buttons", "button", "name"))
             TakeButton(button, type, id, names);
@@ -226,7 +229,7 @@ private:
         if (type == SiteGroup)
             m_locations += code;
         const QString name = TakeName(entry, "name", Named::Item, names);
-        AddButton(groupId, {0, code, name, entry.TextIfAny("description")});
+        AddButton(groupId, {0, code, name, entry.Description()});
     }
 
     void TakeReader(const Entry& entry) {
@@ -245,7 +248,7 @@ private:
         entry.AllowOnly({"name", "description", "start", "tolerance", "points"});
         Tour tour;
         tour.name = TakeName(entry, "name", Named::Group, m_tourNames);
-        tour.description = entry.TextIfAny("description");
+        tour.description = entry.Description();
         const QTime start = QTime::fromString(entry.Text("start"), QStringLiteral("HH:mm"));
         if (!start.isValid())
             entry.Fail(QStringLiteral("\"start\" must be a time as HH:MM"));

@@ -32,12 +32,6 @@ void TourDraft::Load(int tourId) {
                             rows.Text(u"tSiteName"), rows.Text(u"tButtonName")});
 }
 
-void TourDraft::Save(int tourId) const {
-    Transaction transaction(*gConn);
-    Write(tourId);
-    transaction.Commit();
-}
-
 void TourDraft::Write(int tourId) const {
     gConn->Execute(QStringLiteral("DELETE * FROM tblTourPoints WHERE lParentID = ? ;"), {tourId});
     Recordset rows;

@@ -9,7 +9,7 @@
 #include <vector>
 
 /// A tour's points while they are being edited, and the rules that they must keep. Nothing reaches
-/// the store before Save.
+/// the store before Write.
 class TourDraft {
 public:
     struct Point {
@@ -21,10 +21,7 @@ public:
 
     /// Reads the points of a tour. Throws RunTimeError.
     void Load(int tourId);
-    /// Replaces the points of a tour, in one transaction: at every moment the store holds all old
-    /// points or all new ones. Throws RunTimeError.
-    void Save(int tourId) const;
-    /// The same within a transaction of the caller's.
+    /// Replaces the points of a tour, within a transaction of the caller's. Throws RunTimeError.
     void Write(int tourId) const;
 
     const std::vector<Point>& Points() const { return m_points; }

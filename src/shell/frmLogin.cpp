@@ -1,10 +1,10 @@
 #include "frmLogin.h"
 
 #include "Application.h"
-#include "Settings.h"
 #include "WindowTools.h"
 #include "mErrorHandler.h"
 #include "mOperators.h"
+#include "mSettings.h"
 #include "mTranslations.h"
 #include "ui_frmLogin.h"
 
@@ -12,13 +12,9 @@ namespace {
 
 constexpr int LastTry = 4;
 
-/// A saved number that is none must not keep anybody from logging in.
 OperatorType LastLogin() {
-    int saved = MasterOperator;
-    IgnoringErrors([&] {
-        saved = ToInteger(GetSetting(SettingsApplication, SettingsSection::Info,
-                                     QStringLiteral("LastLogin"), QStringLiteral("1")));
-    });
+    const int saved =
+        SavedNumber(SettingsSection::Info, QStringLiteral("LastLogin"), MasterOperator);
     return saved == MasterOperator ? MasterOperator : UserOperator;
 }
 
@@ -39,6 +35,8 @@ frmLogin::frmLogin(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui:
 }
 
 frmLogin::~frmLogin() = default;
+
+bool frmLogin::Refused() const { return m_failures >= LastTry; }
 
 void frmLogin::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);

@@ -18,6 +18,8 @@ public:
     ~frmLogin() override;
 
     OperatorType LoginResult() const { return m_result; }
+    /// True if the window closed itself after the last wrong password.
+    bool Refused() const;
 
 protected:
     void showEvent(QShowEvent* event) override;

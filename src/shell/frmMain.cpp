@@ -2,7 +2,6 @@
 
 #include "Clock.h"
 #include "RunTimeError.h"
-#include "Settings.h"
 #include "WindowTools.h"
 #include "cReaderOptions.h"
 #include "deMain.h"
@@ -14,6 +13,7 @@
 #include "frmUserMaintenance.h"
 #include "mErrorHandler.h"
 #include "mHelp.h"
+#include "mSettings.h"
 #include "mTranslations.h"
 #include "ui_frmMain.h"
 
@@ -30,15 +30,16 @@ struct ToolbarRow {
     const char* key; ///< and the name of the icon
     const char* caption;
     void (frmMain::*action)();
-    Qt::Key shortcut; ///< with Ctrl
+    Qt::Key shortcut;  ///< with Ctrl
+    const char* marks; ///< what NavigateToolbarButtons is told while the button's page is shown
 };
 
-/// The page buttons in their order.
+/// The page buttons in their order, which is that of frmMain::Page.
 constexpr std::array<ToolbarRow, 4> Toolbar = {{
-    {"home", "Home", &frmMain::GoHome, Qt::Key_1},
-    {"download", "Download", &frmMain::GoOnline, Qt::Key_2},
-    {"reports", "Reports", &frmMain::GoReports, Qt::Key_3},
-    {"setup", "Setup", &frmMain::GoSetup, Qt::Key_4},
+    {"home", "Home", &frmMain::GoHome, Qt::Key_1, "0111"},
+    {"download", "Download", &frmMain::GoOnline, Qt::Key_2, "1011"},
+    {"reports", "Reports", &frmMain::GoReports, Qt::Key_3, "1101"},
+    {"setup", "Setup", &frmMain::GoSetup, Qt::Key_4, "1110"},
 }};
 
 // Twips.
@@ -63,7 +64,9 @@ frmMain::frmMain()
     MDIForm_Load();
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain() {
+    delete takeCentralWidget(); // the pages, which refer to the link and the viewer
+}
 
 void frmMain::MDIForm_Load() {
     Guarded("MDIForm_Load of Form frmMain", [this] {
@@ -78,7 +81,7 @@ void frmMain::MDIForm_Load() {
         m_ui->tbrMain->setMinimumHeight(PixelsOf(ToolbarHeight));
         m_ui->pctMenu->setMinimumHeight(PixelsOf(StripHeight));
         setMinimumSize(PixelsOf(LeastWidth), PixelsOf(LeastHeight));
-        RestoreSavedPosition(); // last: a saved number that is none costs the place alone
+        RestoreSavedPosition();
     });
 }
 
@@ -143,11 +146,14 @@ void frmMain::NavigateToolbarButtons(const QString& state) {
     m_ui->mnuTools->menuAction()->setVisible(master);
     for (QAction* action : {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore})
         action->setEnabled(master);
-    m_ui->mnuToolsPipeOptions->setEnabled(master && gDockingDetected);
-    m_ui->mnuToolsClearPipe->setEnabled(master && gDockingDetected);
+    for (QAction* action :
+         {m_ui->mnuToolsPipeOptions, m_ui->mnuToolsClearPipe, m_ui->mnuToolsReaderFW})
+        action->setEnabled(master && gDockingDetected);
     if (!gDockingDetected)
         ToolbarButton(QStringLiteral("download"))->setEnabled(false);
 }
+
+void frmMain::MarkPage() { NavigateToolbarButtons(QString::fromLatin1(Toolbar[m_shown].marks)); }
 
 void frmMain::SetTitle(const QString& text) {
     m_ui->lblTitle->setText(QStringLiteral("  ") + text);
@@ -166,7 +172,8 @@ bool frmMain::UnloadPage() {
     return true;
 }
 
-void frmMain::ShowPage(QWidget* page) {
+void frmMain::ShowPage(Page kind, QWidget* page) {
+    m_shown = kind;
     m_page = page;
     m_ui->layPage->addWidget(page);
     page->show();
@@ -177,10 +184,10 @@ void frmMain::GoHome() {
     if (!UnloadPage())
         return;
     auto* page = new frmMdiMenu(m_ui->pageArea);
-    ShowPage(page);
+    ShowPage(HomePage, page);
     page->Translate();
     SetTitle(Translate("Home"));
-    IgnoringErrors([this] { NavigateToolbarButtons(QStringLiteral("0111")); });
+    IgnoringErrors([this] { MarkPage(); });
     m_portNumber = SavedPortNumber();
     if (!m_online)
         IgnoringErrors([this] { GoConnect(); });
@@ -194,8 +201,9 @@ void frmMain::GoOnline() {
         m_downloadPage = new frmMdiDownload(m_link, m_ui->pageArea);
         connect(m_downloadPage, &frmMdiDownload::BusyChanged, this, &frmMain::ShowBusy);
         connect(m_downloadPage, &frmMdiDownload::StatusChanged, m_panel2, &QLabel::setText);
-        ShowPage(m_downloadPage);
-        NavigateToolbarButtons(QStringLiteral("1011"));
+        connect(this, &frmMain::LinkChanged, m_downloadPage, &frmMdiDownload::ShowLink);
+        ShowPage(DownloadPage, m_downloadPage);
+        MarkPage();
     });
 }
 
@@ -203,9 +211,9 @@ void frmMain::GoReports() {
     Guarded("GoReports of Form frmMain", [this] {
         if (!UnloadPage())
             return;
-        ShowPage(new frmMdiReports(*m_viewer, m_ui->pageArea));
+        ShowPage(ReportsPage, new frmMdiReports(*m_viewer, m_ui->pageArea));
         SetTitle(Translate("Reports"));
-        NavigateToolbarButtons(QStringLiteral("1101"));
+        MarkPage();
     });
 }
 
@@ -215,17 +223,11 @@ void frmMain::GoSetup() {
             return;
         auto* page = new frmMDISetup(m_link, m_ui->pageArea);
         connect(page, &frmMDISetup::TitleChanged, this, &frmMain::SetTitle);
-        ShowPage(page);
+        connect(this, &frmMain::LinkChanged, page, &frmMDISetup::ShowLink);
+        ShowPage(SetupPage, page);
         page->Start();
-        NavigateToolbarButtons(QStringLiteral("1110"));
+        MarkPage();
     });
-}
-
-/// Handles what waits, but lets no click through to pages and menus.
-void frmMain::DoEventsWithoutMenu() {
-    ShowBusy(true);
-    DoEvents();
-    ShowBusy(false);
 }
 
 void frmMain::ShowBusy(bool busy) {
@@ -234,21 +236,17 @@ void frmMain::ShowBusy(bool busy) {
 }
 
 void frmMain::RestoreSavedPosition() {
-    const auto saved = [](const char* key, const QString& fallback) {
-        return GetSetting(SettingsApplication, SettingsSection::Settings, QString::fromLatin1(key),
-                          fallback);
+    const auto saved = [](const char* key, int fallback) {
+        return PixelsOf(
+            SavedNumber(SettingsSection::Settings, QString::fromLatin1(key), fallback, ToLong));
     };
-    if (ToBoolean(saved("Maximized", BooleanText(false)))) {
+    if (SavedBoolean(SettingsSection::Settings, QStringLiteral("Maximized"), false)) {
         setWindowState(Qt::WindowMaximized);
         return;
     }
     setWindowState(Qt::WindowNoState);
-    const int left = ToLong(saved("MainLeft", QStringLiteral("0")));
-    const int top = ToLong(saved("MainTop", QStringLiteral("0")));
-    const int width = ToLong(saved("MainWidth", QStringLiteral("9615")));
-    const int height = ToLong(saved("MainHeight", QStringLiteral("6690")));
-    move(PixelsOf(left), PixelsOf(top));
-    resize(PixelsOf(width), PixelsOf(height));
+    move(saved("MainLeft", 0), saved("MainTop", 0));
+    resize(saved("MainWidth", 9615), saved("MainHeight", 6690));
 }
 
 void frmMain::MDIForm_Unload() {

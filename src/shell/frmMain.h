@@ -39,6 +39,10 @@ public:
     OperatorType UserType() const { return m_userType; }
     void SetUserType(OperatorType type) { m_userType = type; }
 
+signals:
+    /// Whether there is a docking station to talk to.
+    void LinkChanged(bool detected);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -50,12 +54,16 @@ private:
     void InitToolbar();
     void RestoreSavedPosition();
 
+    enum Page { HomePage, DownloadPage, ReportsPage, SetupPage };
     bool UnloadPage();
-    void ShowPage(QWidget* page);
-    void DoEventsWithoutMenu();
+    void ShowPage(Page kind, QWidget* page);
+    void MarkPage();
     void ShowBusy(bool busy);
     void ShowStatus(const QString& text, const QString& icon);
 
+    /// The one place that changes the state of the link. What needs a docking station is open or
+    /// closed afterwards, on whatever page.
+    void SetLink(bool online, bool detected);
     void GoConnect();
     void GoOffline();
     void mnuToolsPipeOptions_Click();
@@ -75,11 +83,11 @@ private:
     QLabel* m_panelPicture;
     QLabel* m_panel1;
     QLabel* m_panel2;
+    Page m_shown = HomePage;
     QWidget* m_page = nullptr;
     frmMdiDownload* m_downloadPage = nullptr;
     OperatorType m_userType = NoOperator;
     int m_portNumber = 1;
     bool m_open = true; ///< ExitApp has not run yet
     bool m_online = false;
-    bool m_dockingDetected = false;
 };

@@ -1,6 +1,7 @@
 // The main window's part in the link: connecting, the port choice, showing the state, and what the
 // Tools menu does to a docked reader.
 
+#include "Clock.h"
 #include "MemoryImage.h"
 #include "WindowTools.h"
 #include "frmDownload.h"
@@ -16,9 +17,16 @@
 #include <QAction>
 #include <QLabel>
 
+void frmMain::SetLink(bool online, bool detected) {
+    m_online = online;
+    gDockingDetected = detected;
+    MarkPage();
+    emit LinkChanged(detected);
+}
+
 void frmMain::GoConnect() {
     m_link.ClosePort();
-    DoEventsWithoutMenu();
+    DoEventsWithoutInput();
     for (bool done = false; !done;) {
         done = true;
         frmGoOnline dialog(m_link, this);
@@ -26,48 +34,41 @@ void frmMain::GoConnect() {
         dialog.MyCommPort = QString::number(m_portNumber);
         dialog.MyCommSettings = DockingLink::CommSettings;
         dialog.exec();
-        if (!dialog.OK) {
-            m_online = false;
-            m_dockingDetected = false;
-            gDockingDetected = false; // else Download would stay open without a port
+        if (!dialog.OK()) {
+            SetLink(false, false);
             IvMessageBox(Translate("Could not open the com port.") + u'\n' +
                              Translate("Check settings and try again.") + u'\n' +
                              Translate("Working in Offline Mode"),
                          MessageKind::Information);
-            NavigateToolbarButtons(QStringLiteral("0111"));
         } else {
-            m_online = dialog.Online;
-            m_dockingDetected = dialog.DockingDetected;
-            gDockingDetected = m_dockingDetected;
-            if (!m_dockingDetected) {
+            SetLink(dialog.Online, dialog.DockingDetected);
+            if (!gDockingDetected) {
                 const auto answer =
                     IvMessageBox(Translate("Could not connect to the docking station.") + u'\n' +
                                      Translate("Check hardware and settings and try again."),
                                  MessageKind::Information, MessageButtons::RetryIgnore);
                 done = answer == MessageAnswer::Ignore;
             }
-            NavigateToolbarButtons(QStringLiteral("0111"));
         }
         ShowOnlineMode(m_online);
-        ShowDockingDetect(m_dockingDetected);
+        ShowDockingDetect(gDockingDetected);
     }
 }
 
 void frmMain::GoOffline() {
     m_link.ClosePort();
-    m_online = false;
-    m_dockingDetected = false;
+    SetLink(false, false);
 }
 
 void frmMain::GoOptions() {
     GoOffline();
-    DoEventsWithoutMenu();
+    DoEventsWithoutInput();
     ShowOnlineMode(m_online);
     frmPrpComms dialog(this);
     dialog.comPort = m_portNumber;
     dialog.Populate();
     dialog.exec();
-    if (!dialog.OK)
+    if (!dialog.OK())
         return;
     m_portNumber = dialog.comPort;
     SavePortNumber(m_portNumber);

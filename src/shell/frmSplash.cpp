@@ -1,8 +1,10 @@
 #include "frmSplash.h"
 
+#include "Clock.h"
 #include "WindowTools.h"
 #include "ui_frmSplash.h"
 
+#include <QDeadlineTimer>
 #include <QEvent>
 #include <QScreen>
 
@@ -19,6 +21,16 @@ frmSplash::frmSplash()
 }
 
 frmSplash::~frmSplash() = default;
+
+void frmSplash::ShowPainted() {
+    show();
+    // The window system asks for the first painting, in its own time.
+    const QDeadlineTimer limit(2000);
+    for (DoEvents(); isVisible() && !m_painted && !limit.hasExpired(); DoEvents())
+        Sleep(10);
+}
+
+void frmSplash::paintEvent(QPaintEvent*) { m_painted = true; }
 
 void frmSplash::ShowVersion(const QString& text) {
     m_ui->lblVersion->setText(text);

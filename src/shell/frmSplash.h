@@ -15,13 +15,18 @@ public:
     frmSplash();
     ~frmSplash() override;
 
+    /// Shows the window and returns once it is painted, so that work which handles no events can
+    /// follow. Gives up after two seconds.
+    void ShowPainted();
     void ShowVersion(const QString& text);
     void ShowMessage(const QString& text);
     void ClearMessage();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     std::unique_ptr<Ui::frmSplash> m_ui;
+    bool m_painted = false;
 };

@@ -7,16 +7,20 @@
 #include "ui_frmUserMaintenance.h"
 
 frmUserMaintenance::frmUserMaintenance(QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::frmUserMaintenance>()) {
+    : EditorDialog(parent), m_ui(std::make_unique<Ui::frmUserMaintenance>()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     SelectAllOnFocus(*m_ui->txtPassword);
     SelectAllOnFocus(*m_ui->txtRetypePassword);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmUserMaintenance::cmdOK_Click);
-    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmUserMaintenance::Cancel);
 }
 
 frmUserMaintenance::~frmUserMaintenance() = default;
+
+QStringList frmUserMaintenance::Entered() const {
+    return {m_ui->txtPassword->text(), m_ui->txtRetypePassword->text()};
+}
 
 void frmUserMaintenance::FormStart(OperatorType type) {
     m_type = type;

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "EditorDialog.h"
 #include "Recordset.h"
 #include "mDeclareGlobals.h"
-
-#include <QDialog>
 
 #include <memory>
 
@@ -12,7 +11,7 @@ class frmUserMaintenance;
 }
 
 /// Changes the password of one operator.
-class frmUserMaintenance : public QDialog {
+class frmUserMaintenance : public EditorDialog {
     Q_OBJECT
 public:
     explicit frmUserMaintenance(QWidget* parent);
@@ -22,6 +21,7 @@ public:
     void FormStart(OperatorType type);
 
 private:
+    QStringList Entered() const override;
     void ReadOperatorRecord();
     bool Update();
     void cmdOK_Click();

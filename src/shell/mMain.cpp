@@ -38,14 +38,16 @@ void ReadCommandLine(const QString& commandLine) {
     gEdition = 0;
 }
 
-bool ReadLanguage() {
-    const auto read = [] {
+bool OpenLanguage() {
+    const auto open = [] {
         ReadLanguageSetting();
         if (gDebugMode)
             WriteLog(QStringLiteral("Setting Dictionary Object, Language = %1").arg(gLanguage));
+        OpenDictionary();
+        gDictionary->InstallChooser(&frmLanguage::Choose);
         return true;
     };
-    return Trapped(read, [](const RunTimeError& error) {
+    return Trapped(open, [](const RunTimeError& error) {
         WriteLog(QStringLiteral("Error in mMain, error handler and exit."));
         ReportError(QStringLiteral("Main of Module mMain"), error, ErrorShow::LogOnly);
     });
@@ -77,8 +79,7 @@ bool OpenBehindSplash() {
     frmSplash splash;
     splash.ShowVersion(TitleWithVersion());
     splash.ShowMessage(Translate("Loading Application..."));
-    splash.show();
-    DoEvents();
+    splash.ShowPainted();
     splash.ShowMessage(Translate("Initializing Online Help..."));
     SetHelpFile(AppFile(Translate("WK3_ENG.HLP")));
     if (!TestCompactAndOpen(splash))
@@ -99,31 +100,32 @@ void CloseAfterFailedLogin() {
 
 } // namespace
 
-bool Main(const QString& commandLine) {
+StartOutcome Main(const QString& commandLine) {
+    ReportLostSettings();
     ReadCommandLine(commandLine);
-    if (!ReadLanguage())
-        return false;
-    OpenDictionary();
-    gDictionary->InstallChooser(&frmLanguage::Choose);
+    if (!OpenLanguage())
+        return StartOutcome::Failed;
     g_instance = TakeInstanceLock();
     if (!g_instance) {
         MsgBox(QStringLiteral("The program is already running!"), ShortTitle,
                MessageKind::Critical);
-        return false;
+        return StartOutcome::Failed;
     }
     std::optional<Hourglass> hourglass(std::in_place);
     if (!OpenBehindSplash())
-        return false;
+        return StartOutcome::Failed;
     OperatorType login;
+    bool refused;
     {
         frmLogin window;
         hourglass.reset();
         window.exec();
         login = window.LoginResult();
+        refused = window.Refused();
     }
     if (login == NoOperator) {
         CloseAfterFailedLogin();
-        return false;
+        return refused ? StartOutcome::Failed : StartOutcome::Cancelled;
     }
     WriteLog(QStringLiteral("Logged in as user type = %1").arg(login));
     g_frmMain = std::make_unique<frmMain>();
@@ -131,7 +133,7 @@ bool Main(const QString& commandLine) {
     g_frmMain->GoHome();
     g_frmMain->show();
     ReadRemainingSettings();
-    return true;
+    return StartOutcome::Running;
 }
 
 void ReleaseMainWindow() {

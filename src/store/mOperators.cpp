@@ -2,6 +2,7 @@
 
 #include "Recordset.h"
 #include "Settings.h"
+#include "mErrorHandler.h"
 
 QString LoginNameOf(OperatorType type) {
     return type == MasterOperator ? QStringLiteral("KEEPER") : QStringLiteral("CREW");
@@ -25,5 +26,7 @@ OperatorType CheckOperator(OperatorType type, const QString& entered, RememberLo
                     QString::number(type));
     operators.MoveFirst();
     const bool equal = operators.Text(u"Password").toUpper() == entered.trimmed().toUpper();
+    if (!equal)
+        WriteLog(QStringLiteral("Wrong password for user type = %1").arg(type));
     return equal ? type : NoOperator;
 }

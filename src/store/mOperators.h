@@ -16,6 +16,7 @@ enum class RememberLogin { Yes, No };
 /// regard to case, and blanks around what was entered do not count. Remembers the type in the
 /// setting LastLogin, if asked, before the password is even looked at. An operator who has no row
 /// yet gets one, with his login name for a password; that try has failed, the next may succeed.
+/// A wrong password is logged, but not what was entered.
 /// Throws RunTimeError.
 OperatorType CheckOperator(OperatorType type, const QString& entered,
                            RememberLogin remember = RememberLogin::Yes);

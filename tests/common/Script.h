@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
@@ -86,7 +87,10 @@ private:
             m_timer.stop();
             QTimer::singleShot(0, [] {
                 while (QWidget* modal = QApplication::activeModalWidget())
-                    modal->close();
+                    if (auto* dialog = qobject_cast<QDialog*>(modal))
+                        dialog->done(QDialog::Rejected); // an editor would ask if it was closed
+                    else
+                        modal->close();
                 QApplication::quit();
             });
         }

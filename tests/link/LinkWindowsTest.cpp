@@ -336,7 +336,7 @@ private slots:
             return false;
         });
         dialog.exec();
-        QCOMPARE(dialog.OK, ok);
+        QCOMPARE(dialog.OK(), ok);
         QCOMPARE(link.comPort().PortOpen(), ok);
         QCOMPARE(dialog.Online, ok); // handed back, or cleared
         QTEST(dialog.DockingDetected, "detected");
@@ -354,7 +354,7 @@ private slots:
             QCOMPARE(ports->count(), 8);
             QCOMPARE(ports->currentText(), QStringLiteral("COM%1:").arg(port.value()));
             Control<QPushButton>(dialog, "cmdSetupOK")->click();
-            QVERIFY(dialog.OK);
+            QVERIFY(dialog.OK());
             QCOMPARE(dialog.comPort, port.value());
         }
         QVERIFY(ChosenDevice(3).isEmpty());
@@ -375,7 +375,7 @@ private slots:
             QCOMPARE(ChosenDevice(3), "");
             const bool ok = qstrcmp(button, "cmdSetupOK") == 0;
             Control<QPushButton>(dialog, button)->click();
-            QCOMPARE(dialog.OK, ok);
+            QCOMPARE(dialog.OK(), ok);
             QCOMPARE(dialog.comPort, ok ? 3 : 1);
             QCOMPARE(ChosenDevice(3), ok ? "/dev/three" : "");
             QCOMPARE(ChosenDevice(4), ok ? "/dev/four" : "");

@@ -266,7 +266,7 @@ private slots:
         }
         guard.Type("txtDesc", " Day reader ");
         guard.Click("cmdOK");
-        QVERIFY(guard.Run(dialog) && dialog.OK);
+        QVERIFY(guard.Run(dialog) && dialog.OK());
         QCOMPARE(m_boxes.TakeTexts(),
                  (QStringList{"That name is already used.  Please enter another name",
                               "You must enter a name for this item"}));
@@ -321,7 +321,7 @@ private slots:
                      readerId.isEmpty() ? "" : "This Reader ID already exists!");
         });
         guard.Click("cmdCancel");
-        QVERIFY(guard.Run(dialog) && !dialog.OK);
+        QVERIFY(guard.Run(dialog) && !dialog.OK());
         QCOMPARE(m_boxes.TakeTexts(), messages);
     }
 
@@ -339,7 +339,7 @@ private slots:
         guard.Click("cmdOK");
         guard.Wait([&] { return m_boxes.Messages.size() == 3 && dialog.isVisible(); });
         guard.Click("cmdCancel");
-        QVERIFY(guard.Run(dialog) && !dialog.OK);
+        QVERIFY(guard.Run(dialog) && !dialog.OK());
     }
 
     void AddButton() {
@@ -374,7 +374,7 @@ private slots:
         guard.Type("txtName", "Yard ");
         guard.Type("txtDesc", "behind the fence");
         guard.Click("cmdOK");
-        QVERIFY(guard.Run(dialog) && dialog.OK);
+        QVERIFY(guard.Run(dialog) && dialog.OK());
         QCOMPARE(dialog.DallasID() + u'|' + dialog.ButtonName + u'|' + dialog.Desc,
                  "00000A|Yard |behind the fence");
     }
@@ -445,7 +445,7 @@ private slots:
         guard.Do([&] { station.dock.Say("quit"); }); // unplugged
         guard.Wait([&] { return !station.link.comPort().PortOpen(); });
         guard.Click("cmdOK");
-        QVERIFY(guard.Run(dialog) && dialog.OK);
+        QVERIFY(guard.Run(dialog) && dialog.OK());
         QCOMPARE(m_boxes.TakeTexts(), QStringList(5, "Illegal Value"));
         QCOMPARE(dialog.DallasID(), "AB12CD");
     }

@@ -5,8 +5,8 @@
 #include "Format.h"
 #include "OutputFile.h"
 #include "ScriptedBoxes.h"
-#include "Settings.h"
 #include "TestHome.h"
+#include "mSettings.h"
 #include "mTranslations.h"
 
 #include <QDir>
@@ -237,6 +237,29 @@ private slots:
         QCOMPARE(GetSetting("Other", "Info", "Line", "fallback"), "fallback");
     }
 
+    // Told once, not at every write; and anew after it went well in between.
+    void SettingsThatCannotBeWritten() {
+        const TestHome home(TestHome::NoStore);
+        ScriptedBoxes boxes;
+        ReportLostSettings();
+        QFile inTheWay(home.File("config"));
+        QStringList told;
+        for (int round = 0; round < 2; ++round) {
+            QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+            for (int write = 0; write < 3; ++write)
+                SaveSetting("Wardlock Lite", "Info", "Line", QString::number(write));
+            told += boxes.TakeTexts();
+            QVERIFY(inTheWay.remove());
+            SaveSetting("Wardlock Lite", "Info", "Line", "x");
+            QCOMPARE(boxes.TakeTexts(), QStringList());
+            QVERIFY(QDir(home.File("config")).removeRecursively());
+        }
+        InstallSettingsLost(nullptr);
+        QCOMPARE(told.size(), 2);
+        QVERIFY(told[1].startsWith("The settings cannot be saved. "));
+        QCOMPARE(home.TakeLog().count("The settings cannot be saved: "), 2);
+    }
+
     void Patterns() {
         QCOMPARE(FormatStr("%0:s - Version %1:s", {"A", "1.00"}), "A - Version 1.00");
         QCOMPARE(FormatStr("%1:s%0:s%1:s 100%", {"%1:s", "x"}), "x%1:sx 100%");
@@ -346,6 +369,8 @@ private slots:
         OpenDictionary();
         QCOMPARE(boxes.TakeTexts(), QStringList());
         QCOMPARE(gDictionary->Languages(2).nativeName, "Deutsch");
+        const auto ofQt = [] { return QCoreApplication::translate("QWidgetTextControl", "&Copy"); };
+        QCOMPARE(ofQt(), "&Kopieren");
         QVERIFY(Translate("MISSING") != "MISSING");
         QCOMPARE(Translate("no such entry %0:s"), "no such entry %0:s");
         IvMessageBox("x", MessageKind::Question, MessageButtons::YesNo);
@@ -353,7 +378,7 @@ private slots:
         gLanguage = 3;
         OpenDictionary();
         QCOMPARE(boxes.Messages.size(), 2);
-        QCOMPARE(Translate("MISSING"), "MISSING");
+        QCOMPARE(Translate("MISSING") + ofQt(), "MISSING&Copy");
         gDictionary.reset();
         gLanguage = -1;
     }

@@ -100,7 +100,7 @@ private slots:
         TourDraft draft;
         for (int minutes = 0; minutes < MinutesOfDay; ++minutes)
             draft.Insert(minutes, {minutes, "A00001", {}, {}});
-        draft.Save(tour.id);
+        SaveTour(tour, draft);
         TourDraft loaded;
         loaded.Load(tour.id);
         for (int minutes = 0; minutes < MinutesOfDay; ++minutes)
@@ -153,22 +153,26 @@ private slots:
         QVERIFY(!fits(many, 0));
     }
 
-    // A tour has all old points or all new ones.
+    // A tour is all old or all new, its points and its row alike, whichever of them fails.
     void SavingIsAllOrNothing() {
         const TestHome home(TestHome::EmptyStore);
-        AddTour("Round");
-        DraftOf({{0, "A00001"}, {5, "A00002"}, {5, "A00003"}}).Save(1);
-        const QStringList before = RowsOf(Points);
-        gConn->Execute(QStringLiteral(
-            "CREATE TRIGGER refuse BEFORE INSERT ON tblTourPoints WHEN NEW.tButtonCode = 'B00002' "
-            "BEGIN SELECT RAISE(ABORT, 'no room'); END"));
+        const Tour tour{AddTour("Round"), "Round", "old", 5, {}}, renamed{1, "Walk", "new", 9, {}};
+        SaveTour(tour, DraftOf({{0, "A00001"}, {5, "A00002"}, {5, "A00003"}}));
+        const QStringList before = ContentOfStore();
         const TourDraft other = DraftOf({{0, "B00001"}, {5, "B00002"}, {5, "B00003"}});
-        QVERIFY(ErrorOf([&] { other.Save(1); }) != 0);
-        QCOMPARE(RowsOf(Points), before);
-        gConn->Execute("DROP TRIGGER refuse");
-        other.Save(1);
+        for (const char* refused : {"INSERT ON tblTourPoints WHEN NEW.tButtonCode = 'B00002'",
+                                    "UPDATE ON tblTours WHEN NEW.tName = 'Walk'"}) {
+            gConn->Execute(QStringLiteral("CREATE TRIGGER refuse BEFORE ") +
+                           QString::fromLatin1(refused) +
+                           QStringLiteral(" BEGIN SELECT RAISE(ABORT, 'no room'); END"));
+            QVERIFY(ErrorOf([&] { SaveTour(renamed, other); }) != 0);
+            gConn->Execute("DROP TRIGGER refuse");
+            QCOMPARE(ContentOfStore(), before);
+        }
+        SaveTour(renamed, other);
         QCOMPARE(RowsOf(Points), (QStringList{"1|B00001", "2|B00002", "3|B00003"}));
-        DraftOf({}).Save(1);
+        QCOMPARE(Tours().first().name, "Walk");
+        SaveTour(renamed, {});
         QVERIFY(!TourHasPoints(1));
     }
 
@@ -209,7 +213,7 @@ private slots:
         const QString allPoints = "SELECT lIndex, dtTime, tButtonCode FROM tblTourPoints";
         {
             const TestHome home(TestHome::DemoSite);
-            UpdateGroup({AddGroup(UserGroup, "Guards \"A\""), "Guards \"A\"", "line\nline ü"});
+            UpdateGroup({AddGroup(UserGroup, "Guards \"A\""), "Guards \"A\"", "a \"line\", ü"});
             AddButton(4, {0, "00FF00", "'quoted' \\", {}});
             AddReader({"00000001", " blank "});
             DeleteButton(ButtonsOf(1).first().id); // the night tour visits it twice
@@ -242,6 +246,11 @@ private slots:
         row("bad type", R"({"groups":[{"type":"Site","name":"x"}]})", "group 1 \"x\": \"type\"");
         row("no name", R"({"groups":[{"type":"site","name":"  "}]})",
             "You must enter a name for this group");
+        row("line in a name", R"({"readers":[{"id":"00000001","description":"a\nb"}]})",
+            "control characters");
+        row("tab in a description", R"({"groups":[{"type":"site","name":"x","description":"\t"}]})",
+            "control characters");
+        row("separator", R"({"groups":[{"type":"site","name":"x\u2028y"}]})", "control characters");
         row("name is a number", R"({"groups":[{"type":"site","name":7}]})", "\"name\" must be");
         row("same name", R"({"groups":[{"type":"site","name":"A"},{"type":"site","name":"A"}]})",
             "group 2 \"A\": That name is already used.");

@@ -9,8 +9,12 @@
 #include "ScriptedBoxes.h"
 #include "Settings.h"
 #include "TestHome.h"
+#include "frmAddButton.h"
 #include "frmCopyTour.h"
+#include "frmEditButton.h"
+#include "frmEditTime.h"
 #include "frmEditTour.h"
+#include "frmListEdit.h"
 #include "frmMDISetup.h"
 
 #include <QComboBox>
@@ -463,6 +467,89 @@ private slots:
         QVERIFY(RowsIn(*In<QTreeView>(*editor, "lvwSelected")).last().startsWith("90|"));
     }
 
+    // Escape and the window's frame ask about a change; Cancel, and what is unchanged, do not.
+    void UnsavedChanges() {
+        const auto editorOn = [&](int kind) -> std::unique_ptr<EditorDialog> {
+            switch (kind) {
+            case 0:
+                return std::make_unique<frmEditButton>(nullptr);
+            case 1:
+                return std::make_unique<frmEditTime>(nullptr);
+            case 2:
+                return std::make_unique<frmListEdit>(m_link, nullptr);
+            case 3:
+                return std::make_unique<frmAddButton>(m_link, nullptr);
+            default:
+                return Editor();
+            }
+        };
+        const QList<const char*> fields{"txtDesc", "txtTime", "txtName", "txtDesc", "txtTolerance"};
+        for (int kind = 0; kind < fields.size(); ++kind) {
+            for (const bool changed : {false, true}) {
+                const auto editor = editorOn(kind);
+                editor->show();
+                if (changed)
+                    In<QLineEdit>(*editor, fields[kind])->setText("17\t");
+                QTest::keyClick(editor.get(), Qt::Key_Escape);
+                QCOMPARE(editor->isVisible(), changed); // the answer was No
+                if (changed)
+                    editor->close();
+                QCOMPARE(m_boxes.TakeTexts(),
+                         QStringList(changed ? 2 : 0,
+                                     "Your changes have not been saved. Discard them?"));
+                m_boxes.Answers = {MessageAnswer::Yes};
+                editor->close();
+                QVERIFY(!editor->isVisible() && !editor->OK());
+                m_boxes.TakeTexts();
+                m_boxes.Answers.clear();
+            }
+        }
+        const auto editor = Editor();
+        In<QPushButton>(*editor, "cmdMove_3")->click(); // a moved point is a change too
+        editor->close();
+        QVERIFY(editor->isVisible());
+        m_boxes.TakeTexts();
+        In<QPushButton>(*editor, "cmdCancel")->click();
+        QVERIFY(!editor->isVisible() && m_boxes.TakeTexts().isEmpty());
+    }
+
+    // What cannot be saved stays in the editor.
+    void UnsavedTourComesBack() {
+        const auto page = Page(TourTab);
+        const QStringList before = ContentOfStore();
+        gConn->Execute("CREATE TRIGGER refuse BEFORE UPDATE ON tblTours BEGIN SELECT RAISE(ABORT, "
+                       "'no room'); END");
+        const QString editor = QStringLiteral("frmEditTour");
+        Script script;
+        script.Then([=] {
+            auto* name = Script::Find<QLineEdit>(editor, "txtName");
+            if (name)
+                name->setText("Walk");
+            return name != nullptr;
+        });
+        script.Click(editor, "cmdMove_1");
+        script.Click(editor, "cmdOK");
+        script.Then([&] {
+            auto* name = Script::Find<QLineEdit>(editor, "txtName");
+            if (m_boxes.Messages.isEmpty() || !name || name->text() != u"Walk")
+                return false;
+            gConn->Execute("DROP TRIGGER refuse");
+            if (ContentOfStore() != before)
+                return false;
+            name->setText("Day round"); // its old name is free for it
+            return true;
+        });
+        script.Click(editor, "cmdOK");
+        script.Start();
+        In<QPushButton>(*page, "cmdSetup_0")->click();
+        QVERIFY(script.Finish());
+        QVERIFY(m_boxes.TakeTexts().join(u'|').startsWith(
+            "The tour could not be saved. Nothing was changed.\n"));
+        QCOMPARE(RowsIn(*In<QTreeView>(*page, "lvwProgram")).first().section(u'|', 0, 0),
+                 "Day round");
+        QCOMPARE(RowsOf("SELECT * FROM tblTourPoints WHERE lParentID = 1").size(), 3);
+    }
+
     void TourEditorChecks_data() {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("tolerance");
@@ -481,6 +568,9 @@ private slots:
         row("name of another", "Day round ", "60", 4,
             "That name is already used.  Please enter another name.", "txtName");
         row("no name", "  ", "60", -1, "You must enter a name for this group", "txtName");
+        row("line break", "Night\nround", "60", -1,
+            "A name or description cannot contain line breaks or other control characters.",
+            "txtName");
         row("neighbours", "Night round", "x", 4,
             "Cannot assign two sequential tour points with the same location", "lvwSelected");
         row("tolerance", "Night round", "60", -1,
@@ -503,12 +593,12 @@ private slots:
         }
         In<QPushButton>(*editor, "cmdOK")->click();
         QCOMPARE(m_boxes.TakeTexts().join(u'|'), message);
-        QCOMPARE(editor->OK, message.isEmpty());
+        QCOMPARE(editor->OK(), message.isEmpty());
         if (message.startsWith(u"Cannot"))
             QCOMPARE(In<QTreeView>(*editor, "lvwSelected")->currentIndex().row(), 1);
         QCOMPARE(editor->isVisible(), !message.isEmpty());
         QCOMPARE(In<QLineEdit>(*editor, "txtName")->text(), name);
-        if (editor->OK) {
+        if (editor->OK()) {
             QCOMPARE(editor->ListName, name.trimmed());
             QCOMPARE(editor->Tolerance, tolerance == u"5.5" ? 6 : tolerance.toInt());
         } else {

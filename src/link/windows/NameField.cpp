@@ -5,15 +5,25 @@
 
 #include <QLineEdit>
 
-bool AcceptName(Named what, QLineEdit& field, const QStringList& existingNames,
-                const QString& received) {
-    QString fault = NameFault(what, field.text().trimmed(), existingNames, received);
-    // Where blanks around a name are kept, the name with its blanks may be there too.
-    if (fault.isEmpty() && field.text() != received)
-        fault = NameFault(what, field.text(), existingNames, received);
+namespace {
+
+bool Accept(QLineEdit& field, const QString& fault) {
     if (fault.isEmpty())
         return true;
     IvMessageBox(fault);
     FocusAndSelect(field);
     return false;
 }
+
+} // namespace
+
+bool AcceptName(Named what, QLineEdit& field, const QStringList& existingNames,
+                const QString& received) {
+    QString fault = NameFault(what, field.text().trimmed(), existingNames, received);
+    // Where blanks around a name are kept, the name with its blanks may be there too.
+    if (fault.isEmpty() && field.text() != received)
+        fault = NameFault(what, field.text(), existingNames, received);
+    return Accept(field, fault);
+}
+
+bool AcceptDescription(QLineEdit& field) { return Accept(field, TextFault(field.text())); }

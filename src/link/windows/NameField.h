@@ -8,3 +8,6 @@ class QLineEdit;
 /// focus on the field with its text selected.
 bool AcceptName(Named what, QLineEdit& field, const QStringList& existingNames,
                 const QString& received = {});
+
+/// The same for a description, which may be empty.
+bool AcceptDescription(QLineEdit& field);

@@ -16,7 +16,7 @@ constexpr int FlashPause = 100;
 } // namespace
 
 frmAddButton::frmAddButton(DockingLink& link, QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::frmAddButton>()), m_capture(link),
+    : EditorDialog(parent), m_ui(std::make_unique<Ui::frmAddButton>()), m_capture(link),
       m_tmrGetID(CaptureInterval) {
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
@@ -24,12 +24,16 @@ frmAddButton::frmAddButton(DockingLink& link, QWidget* parent)
     SelectAllOnFocus(*m_ui->txtName);
     connect(m_ui->cmdManual, &QPushButton::clicked, this, &frmAddButton::cmdManual_Click);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmAddButton::cmdOK_Click);
-    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmAddButton::Cancel);
     connect(&m_tmrGetID, &Timer::Tick, this, &frmAddButton::tmrGetID_Timer);
     m_tmrGetID.SetEnabled(true);
 }
 
 frmAddButton::~frmAddButton() = default;
+
+QStringList frmAddButton::Entered() const {
+    return {m_ui->lblID->text(), m_ui->txtName->text(), m_ui->txtDesc->text()};
+}
 
 void frmAddButton::SetIcon(const QString& name) { setWindowIcon(ProgramIcon(name)); }
 
@@ -37,7 +41,7 @@ int frmAddButton::exec() {
     m_ui->txtName->setText(ButtonName);
     m_ui->txtDesc->setText(Desc);
     m_ui->txtName->setFocus();
-    return QDialog::exec();
+    return EditorDialog::exec();
 }
 
 // No event is handled from here: a click that opened the manual entry from within a tick would keep
@@ -68,16 +72,16 @@ void frmAddButton::ShowCode(const QString& code) {
 void frmAddButton::cmdManual_Click() {
     frmManualID dialog(this);
     dialog.exec();
-    if (dialog.OK)
+    if (dialog.OK())
         ShowCode(dialog.ID);
     m_ui->txtName->setFocus();
 }
 
 void frmAddButton::cmdOK_Click() {
-    if (!AcceptName(Named::Item, *m_ui->txtName, ExistingNames))
+    if (!AcceptName(Named::Item, *m_ui->txtName, ExistingNames) ||
+        !AcceptDescription(*m_ui->txtDesc))
         return;
     ButtonName = m_ui->txtName->text();
     Desc = m_ui->txtDesc->text();
-    OK = true;
     accept();
 }

@@ -2,8 +2,8 @@
 
 #include "ButtonCapture.h"
 #include "Clock.h"
+#include "EditorDialog.h"
 
-#include <QDialog>
 #include <QStringList>
 
 #include <cstdint>
@@ -15,13 +15,12 @@ class frmAddButton;
 
 /// Captures a new button: waits for it to be presented to the docked reader, or takes its code by
 /// hand, and asks for its name.
-class frmAddButton : public QDialog {
+class frmAddButton : public EditorDialog {
     Q_OBJECT
 public:
     frmAddButton(DockingLink& link, QWidget* parent);
     ~frmAddButton() override;
 
-    bool OK = false;
     std::uint8_t ButtonType = 0; ///< the group's type, for the caller's own use
     QString ButtonName;          ///< the preset name, then the one entered, as typed
     QString Desc;                ///< likewise
@@ -34,6 +33,7 @@ public:
     int exec() override;
 
 private:
+    QStringList Entered() const override;
     void tmrGetID_Timer();
     void ShowCode(const QString& code);
     void cmdManual_Click();

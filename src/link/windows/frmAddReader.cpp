@@ -13,23 +13,25 @@
 #include "ui_frmAddReader.h"
 
 frmAddReader::frmAddReader(DockingLink& link, QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::frmAddReader>()), m_link(link) {
+    : EditorDialog(parent), m_ui(std::make_unique<Ui::frmAddReader>()), m_link(link) {
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ShowNone();
     SelectAllOnFocus(*m_ui->txtDesc);
     connect(m_ui->cmdRead, &QPushButton::clicked, this, &frmAddReader::cmdRead_Click);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmAddReader::cmdOK_Click);
-    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmAddReader::Cancel);
     gCommActive = true;
     m_link.InBuffer().Clear();
 }
 
 frmAddReader::~frmAddReader() { gCommActive = false; }
 
+QStringList frmAddReader::Entered() const { return {m_ui->lblID->text(), m_ui->txtDesc->text()}; }
+
 int frmAddReader::exec() {
     m_ui->txtDesc->setText(Desc);
-    return QDialog::exec();
+    return EditorDialog::exec();
 }
 
 void frmAddReader::cmdRead_Click() {
@@ -78,6 +80,5 @@ void frmAddReader::cmdOK_Click() {
     }
     ReaderId = m_ui->lblID->text();
     Desc = m_ui->txtDesc->text();
-    OK = true;
     accept();
 }

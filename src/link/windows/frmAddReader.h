@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDialog>
+#include "EditorDialog.h"
+
 #include <QStringList>
 
 #include <memory>
@@ -11,13 +12,12 @@ class frmAddReader;
 }
 
 /// Teaches a reader: reads the docked reader's identifier and asks for its description.
-class frmAddReader : public QDialog {
+class frmAddReader : public EditorDialog {
     Q_OBJECT
 public:
     frmAddReader(DockingLink& link, QWidget* parent);
     ~frmAddReader() override;
 
-    bool OK = false;
     QString ReaderId;
     QString Desc;              ///< the preset description, then the one entered, as typed
     QStringList ExistingNames; ///< descriptions that may not be used
@@ -25,6 +25,7 @@ public:
     int exec() override;
 
 private:
+    QStringList Entered() const override;
     void cmdRead_Click();
     void CheckReaderID(bool& ok);
     void ShowReader(const QString& readerId);

@@ -37,17 +37,15 @@ void frmGoOnline::Connect() {
         AppendMessage(Translate("Could Not Open Com ") + MyCommPort + u'\n' +
                       Translate("Please try another COM port or check that the COM port is not in "
                                 "use by another program."));
-        OK = false;
         m_link.ClosePort();
         Online = false;
-        accept();
+        done(Rejected);
         return;
     }
     AppendMessage(Translate("OK"));
     DoEvents();
     m_link.InBuffer().Clear();
     Sleep(300);
-    OK = true;
     message(Translate("Checking Docking Station...") + QStringLiteral("\n\n"));
     DockingDetected = m_link.DetectStation();
     if (std::exchange(m_calledOff, false))

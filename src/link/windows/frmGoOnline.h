@@ -23,10 +23,10 @@ public:
     void message(const QString& text);
     void AppendMessage(const QString& text);
 
-    QString MyCommPort;           ///< number of the port, as text
-    QString MyCommSettings;       ///< as CommPort::Settings wants them
-    bool OK = false;              ///< the port is open
-    bool DockingDetected = false; ///< a docking station answered
+    QString MyCommPort;                              ///< number of the port, as text
+    QString MyCommSettings;                          ///< as CommPort::Settings wants them
+    bool OK() const { return result() == Accepted; } ///< the port is open
+    bool DockingDetected = false;                    ///< a docking station answered
     /// Handed back as it was given, or cleared. Nothing sets it, so every visit to the home page
     /// connects anew.
     bool Online = false;

@@ -26,6 +26,5 @@ void frmManualID::cmdOK_Click() {
         return;
     }
     ID = code;
-    OK = true;
     accept();
 }

@@ -15,7 +15,8 @@ public:
     explicit frmManualID(QWidget* parent);
     ~frmManualID() override;
 
-    bool OK = false;
+    /// True once the dialog was closed by OK.
+    bool OK() const { return result() == Accepted; }
     QString ID; ///< six upper-case hexadecimal digits
 
 private:

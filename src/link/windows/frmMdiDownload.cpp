@@ -48,6 +48,11 @@ void frmMdiDownload::Translate() {
     TranslateWindow(*this, [](const QString& text) { return ::Translate(text); });
 }
 
+void frmMdiDownload::ShowLink(bool detected) {
+    m_ui->cmdOnline_0->setEnabled(detected);
+    m_ui->cmdOnline_1->setEnabled(detected);
+}
+
 void frmMdiDownload::cmdOnline_Click(int index) {
     if (index == 0) {
         m_download.Run();

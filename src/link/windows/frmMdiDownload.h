@@ -22,6 +22,8 @@ public:
     void Translate();
     /// Erases the reader, with or without questions.
     void EraseReader(bool silent, bool& succeeded);
+    /// Opens or closes the page's buttons, as a docking station comes or goes.
+    void ShowLink(bool detected);
     /// While a download runs the page may not be left. (If it waits for the dock longer than it
     /// should, closing it ends the wait, and closes its window after that.)
     bool Busy() const { return m_download.Busy(); }

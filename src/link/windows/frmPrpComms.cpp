@@ -20,13 +20,16 @@ frmPrpComms::frmPrpComms(QWidget* parent)
     connect(m_ui->cboLocalPort, &QComboBox::currentIndexChanged, this, &frmPrpComms::ShowDevice);
     connect(m_ui->cboDevice, &QComboBox::editTextChanged, this, &frmPrpComms::KeepDevice);
     connect(m_ui->cmdSetupOK, &QPushButton::clicked, this, &frmPrpComms::cmdSetupOK_Click);
-    connect(m_ui->cmdSetupCancel, &QPushButton::clicked, this, &frmPrpComms::cmdSetupCancel_Click);
+    connect(m_ui->cmdSetupCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 frmPrpComms::~frmPrpComms() = default;
 
 void frmPrpComms::Populate() {
-    m_ui->cboDevice->addItems(SerialDevices());
+    {
+        const QSignalBlocker blocker(m_ui->cboDevice); // the first device of the list is no choice
+        m_ui->cboDevice->addItems(SerialDevices());
+    }
     for (int number = 1; number <= LastPort; ++number)
         m_ui->cboLocalPort->addItem(QStringLiteral("COM%1:").arg(number), number);
     m_ui->cboLocalPort->setCurrentIndex(comPort >= 1 && comPort <= LastPort ? comPort - 1 : 1);
@@ -53,11 +56,5 @@ void frmPrpComms::cmdSetupOK_Click() {
     for (auto device = m_devices.cbegin(); device != m_devices.cend(); ++device)
         ChooseDevice(device.key(), device.value());
     comPort = SelectedPort();
-    OK = true;
     accept();
-}
-
-void frmPrpComms::cmdSetupCancel_Click() {
-    OK = false;
-    reject();
 }

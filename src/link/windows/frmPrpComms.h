@@ -20,13 +20,13 @@ public:
     void Populate();
 
     int comPort = 1;
-    bool OK = false;
+    /// True once the dialog was closed by OK.
+    bool OK() const { return result() == Accepted; }
 
 private:
     void ShowDevice();
     void KeepDevice();
     void cmdSetupOK_Click();
-    void cmdSetupCancel_Click();
     int SelectedPort() const;
 
     std::unique_ptr<Ui::frmPrpComms> m_ui;

@@ -22,10 +22,7 @@ frmCopyTour::frmCopyTour(QWidget* parent)
                                         tours.Text(u"tDesc"),
                                     static_cast<int>(tours.Number(u"ID")));
     });
-    connect(m_ui->cmdOK, &QPushButton::clicked, this, [this] {
-        OK = true;
-        accept();
-    });
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, [this] { accept(); });
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 

@@ -15,7 +15,8 @@ public:
     explicit frmCopyTour(QWidget* parent);
     ~frmCopyTour() override;
 
-    bool OK = false;
+    /// True once the dialog was closed by OK.
+    bool OK() const { return result() == Accepted; }
     /// The ID of the tour that is selected; 0 where there is none.
     int TourID() const;
 

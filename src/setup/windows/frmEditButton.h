@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDialog>
+#include "EditorDialog.h"
+
 #include <QStringList>
 
 #include <memory>
@@ -10,13 +11,12 @@ class frmEditButton;
 }
 
 /// Renames one button.
-class frmEditButton : public QDialog {
+class frmEditButton : public EditorDialog {
     Q_OBJECT
 public:
     explicit frmEditButton(QWidget* parent);
     ~frmEditButton() override;
 
-    bool OK = false;
     void SetCaption(const QString& caption) { setWindowTitle(caption); }
     /// The dialog's picture, by its name.
     void SetIcon(const QString& name);
@@ -27,6 +27,7 @@ public:
     int exec() override;
 
 private:
+    QStringList Entered() const override;
     void cmdOK_Click();
 
     std::unique_ptr<Ui::frmEditButton> m_ui;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDialog>
+#include "EditorDialog.h"
+
 #include <QStringList>
 
 #include <memory>
@@ -10,13 +11,12 @@ class frmEditReader;
 }
 
 /// Renames one reader.
-class frmEditReader : public QDialog {
+class frmEditReader : public EditorDialog {
     Q_OBJECT
 public:
     explicit frmEditReader(QWidget* parent);
     ~frmEditReader() override;
 
-    bool OK = false;
     void SetCaption(const QString& caption) { setWindowTitle(caption); }
     QString Desc; ///< as it is, then as entered, trimmed
     QString ReaderId;
@@ -25,6 +25,7 @@ public:
     int exec() override;
 
 private:
+    QStringList Entered() const override;
     void cmdOK_Click();
 
     std::unique_ptr<Ui::frmEditReader> m_ui;

@@ -6,15 +6,17 @@
 #include "ui_frmEditTime.h"
 
 frmEditTime::frmEditTime(QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::frmEditTime>()) {
+    : EditorDialog(parent), m_ui(std::make_unique<Ui::frmEditTime>()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     SelectAllOnFocus(*m_ui->txtTime);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmEditTime::cmdOK_Click);
-    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmEditTime::Cancel);
 }
 
 frmEditTime::~frmEditTime() = default;
+
+QStringList frmEditTime::Entered() const { return {m_ui->txtTime->text()}; }
 
 void frmEditTime::SetIntervalTime(int minutes) {
     m_interval = minutes;
@@ -29,6 +31,5 @@ void frmEditTime::cmdOK_Click() {
         return;
     }
     m_interval = *minutes;
-    OK = true;
     accept();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "EditorDialog.h"
 
 #include <memory>
 
@@ -9,17 +9,17 @@ class frmEditTime;
 }
 
 /// Asks for one interval, in minutes.
-class frmEditTime : public QDialog {
+class frmEditTime : public EditorDialog {
     Q_OBJECT
 public:
     explicit frmEditTime(QWidget* parent);
     ~frmEditTime() override;
 
-    bool OK = false;
     int IntervalTime() const { return m_interval; }
     void SetIntervalTime(int minutes);
 
 private:
+    QStringList Entered() const override;
     void cmdOK_Click();
 
     std::unique_ptr<Ui::frmEditTime> m_ui;

@@ -5,11 +5,11 @@
 #include "NameField.h"
 #include "Number.h"
 #include "Recordset.h"
-#include "Settings.h"
 #include "TourListDrag.h"
 #include "WindowTools.h"
 #include "frmEditTime.h"
 #include "mErrorHandler.h"
+#include "mSettings.h"
 #include "mTranslations.h"
 #include "ui_frmEditTour.h"
 
@@ -22,20 +22,16 @@ const QString IntervalKey = QStringLiteral("LastTourInterval");
 constexpr int Right = 600, Below = 720;
 
 int SavedInterval() {
-    int minutes = 10;
-    IgnoringErrors([&] {
-        const int saved = ToInteger(GetSetting(SettingsApplication, SettingsSection::Settings,
-                                               IntervalKey, QString::number(minutes)));
-        if (saved >= 0 && saved < MinutesOfDay)
-            minutes = saved;
-    });
-    return minutes;
+    constexpr int Default = 10;
+    const int saved = SavedNumber(SettingsSection::Settings, IntervalKey, Default);
+    return saved >= 0 && saved < MinutesOfDay ? saved : Default;
 }
 
 } // namespace
 
 frmEditTour::frmEditTour(QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::frmEditTour>()), m_newInterval(SavedInterval()) {
+    : EditorDialog(parent), m_ui(std::make_unique<Ui::frmEditTour>()),
+      m_newInterval(SavedInterval()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     if (parent)
@@ -62,10 +58,18 @@ frmEditTour::frmEditTour(QWidget* parent)
     });
     connect(m_ui->cmdEditTime, &QPushButton::clicked, this, &frmEditTour::EditTime);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmEditTour::cmdOK_Click);
-    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmEditTour::Cancel);
 }
 
 frmEditTour::~frmEditTour() = default;
+
+QStringList frmEditTour::Entered() const {
+    QStringList entered{m_ui->txtName->text(), m_ui->txtDesc->text(), m_ui->txtTolerance->text(),
+                        m_ui->dtpStartTime->time().toString()};
+    for (const TourDraft::Point& point : m_draft.Points())
+        entered += {QString::number(point.minutes), point.buttonCode};
+    return entered;
+}
 
 bool frmEditTour::EditedNameOK(const QString& name) const {
     return m_locations.TextsOf(1).contains(name);
@@ -74,6 +78,7 @@ bool frmEditTour::EditedNameOK(const QString& name) const {
 void frmEditTour::Populate() {
     m_ui->cmdOK->setEnabled(false); // a tour that could not be read must not be written
     Guarded("Populate of Form frmEditTour", [this] {
+        m_receivedName = ListName;
         m_ui->txtName->setText(ListName);
         m_ui->txtDesc->setText(ListDesc);
         m_ui->txtTolerance->setText(QString::number(Tolerance));
@@ -203,7 +208,7 @@ void frmEditTour::EditTime() {
     frmEditTime dialog(this);
     dialog.SetIntervalTime(m_draft.Points()[static_cast<std::size_t>(place)].minutes);
     dialog.exec();
-    if (!dialog.OK)
+    if (!dialog.OK())
         return;
     m_newInterval = dialog.IntervalTime();
     SaveSetting(SettingsApplication, SettingsSection::Settings, IntervalKey,
@@ -242,14 +247,13 @@ bool frmEditTour::TourTimeIsValid() {
 
 void frmEditTour::cmdOK_Click() {
     Guarded("cmdOK_Click of Form frmEditTour", [this] {
-        if (!AcceptName(Named::Group, *m_ui->txtName, ExistingNames, ListName) ||
-            !PointsAreValid() || !ToleranceIsValid() || !TourTimeIsValid())
+        if (!AcceptName(Named::Group, *m_ui->txtName, ExistingNames, m_receivedName) ||
+            !AcceptDescription(*m_ui->txtDesc) || !PointsAreValid() || !ToleranceIsValid() ||
+            !TourTimeIsValid())
             return;
-        m_draft.Save(GroupID);
         ListName = m_ui->txtName->text().trimmed();
         ListDesc = m_ui->txtDesc->text().trimmed();
         StartTime = ChosenStart();
-        OK = true;
         accept();
     });
 }

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "EditorDialog.h"
 #include "RowListModel.h"
 #include "TourDraft.h"
-
-#include <QDialog>
 
 #include <cstdint>
 #include <memory>
@@ -14,15 +13,14 @@ namespace Ui {
 class frmEditTour;
 }
 
-/// Edits one tour: its name, start and tolerance, which it hands back, and its points, which it
-/// writes.
-class frmEditTour : public QDialog {
+/// Edits one tour: its name, start, tolerance and points. It writes nothing; the caller takes what
+/// it hands back.
+class frmEditTour : public EditorDialog {
     Q_OBJECT
 public:
     explicit frmEditTour(QWidget* parent);
     ~frmEditTour() override;
 
-    bool OK = false;
     int GroupID = 0; ///< the tour's ID
     QString ListName;
     QString ListDesc;
@@ -32,6 +30,8 @@ public:
     std::uint8_t ItemType = 0;
     bool AddMode = false;
 
+    /// The points, as Populate read them and the operator changed them.
+    const TourDraft& Points() const { return m_draft; }
     /// Fills the window from the above and from the store.
     void Populate();
     /// True if a location's description is this text.
@@ -41,6 +41,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QStringList Entered() const override;
     void FillSites();
     void FillLocations();
     void ShowPoints(int selected);
@@ -64,6 +65,7 @@ private:
     std::unique_ptr<Ui::frmEditTour> m_ui;
     TourListDrag* m_drag;
     TourDraft m_draft;
+    QString m_receivedName;
     RowListModel m_locations;
     RowListModel m_selected;
     QStringList m_times; ///< as the list shows them

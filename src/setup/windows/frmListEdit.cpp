@@ -30,7 +30,7 @@ const TypeWords& WordsOf(GroupType type) {
 } // namespace
 
 frmListEdit::frmListEdit(DockingLink& link, QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::frmListEdit>()), m_link(link) {
+    : EditorDialog(parent), m_ui(std::make_unique<Ui::frmListEdit>()), m_link(link) {
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     m_buttons.SetColumns({Translate("Button ID"), Translate("Name"), Translate("Description")});
@@ -49,6 +49,8 @@ frmListEdit::frmListEdit(DockingLink& link, QWidget* parent)
 
 frmListEdit::~frmListEdit() = default;
 
+QStringList frmListEdit::Entered() const { return {m_ui->txtName->text(), m_ui->txtDesc->text()}; }
+
 int frmListEdit::exec() {
     m_receivedName = ListName;
     Update();
@@ -57,7 +59,7 @@ int frmListEdit::exec() {
         m_ui->txtName->setFocus();
     else
         m_ui->lvwItems->setFocus();
-    return QDialog::exec();
+    return EditorDialog::exec();
 }
 
 void frmListEdit::Update() {
@@ -101,7 +103,7 @@ void frmListEdit::EditButtonItem() {
         dialog.EditName = row.texts[NameColumn];
         dialog.Desc = row.texts[DescColumn];
         dialog.exec();
-        if (!dialog.OK)
+        if (!dialog.OK())
             return;
         UpdateButton({row.tag.toInt(), {}, dialog.EditName, dialog.Desc});
         KeepTyped();
@@ -118,7 +120,7 @@ void frmListEdit::AddButtonItem() {
         dialog.ButtonType = static_cast<std::uint8_t>(ItemType);
         dialog.ExistingNames = m_buttons.TextsOf(NameColumn);
         dialog.exec();
-        if (!dialog.OK)
+        if (!dialog.OK())
             return;
         AddButton(ID, {0, dialog.DallasID(), dialog.ButtonName, dialog.Desc});
         KeepTyped();
@@ -149,11 +151,11 @@ bool frmListEdit::EditedNameOK() const {
 }
 
 void frmListEdit::cmdOK_Click() {
-    if (!AcceptName(Named::Group, *m_ui->txtName, ExistingNames, m_receivedName))
+    if (!AcceptName(Named::Group, *m_ui->txtName, ExistingNames, m_receivedName) ||
+        !AcceptDescription(*m_ui->txtDesc))
         return;
     ListName = m_ui->txtName->text().trimmed();
     ListDesc = m_ui->txtDesc->text();
-    OK = true;
     accept();
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "Definitions.h"
+#include "EditorDialog.h"
 #include "RowListModel.h"
-
-#include <QDialog>
 
 #include <memory>
 
@@ -14,13 +13,12 @@ class frmListEdit;
 
 /// Edits one group: its name, its description, and its buttons. The buttons are written at once;
 /// the name is the caller's to take.
-class frmListEdit : public QDialog {
+class frmListEdit : public EditorDialog {
     Q_OBJECT
 public:
     frmListEdit(DockingLink& link, QWidget* parent);
     ~frmListEdit() override;
 
-    bool OK = false;
     int ID = 0; ///< the group's
     QString ListName;
     QString ListDesc;
@@ -39,6 +37,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QStringList Entered() const override;
     void KeepTyped();
     void EditButtonItem();
     void AddButtonItem();

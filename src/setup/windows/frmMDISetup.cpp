@@ -118,11 +118,15 @@ void frmMDISetup::ShowTab() {
 void frmMDISetup::FillList() {
     m_rows.SetRows((this->*Present().rows)());
     m_ui->cmdTourCopy->setVisible(ShowsTours());
-    const bool teachesReaders = Present().add == &frmMDISetup::AddReader;
-    m_ui->cmdSetup_1->setEnabled(!teachesReaders || gDockingDetected);
+    ShowLink();
     const bool any = m_rows.rowCount() > 0;
     m_ui->cmdSetup_0->setEnabled(any);
     m_ui->cmdSetup_2->setEnabled(any);
+}
+
+void frmMDISetup::ShowLink() {
+    const bool teachesReaders = Present().add == &frmMDISetup::AddReader;
+    m_ui->cmdSetup_1->setEnabled(!teachesReaders || gDockingDetected);
 }
 
 void frmMDISetup::FillListAndSelect(const QVariant& tag) {
@@ -193,7 +197,7 @@ void frmMDISetup::EditGroup() {
         dialog.ItemType = Present().type;
         dialog.ExistingNames = m_rows.TextsOf(0);
         dialog.exec();
-        if (!dialog.OK)
+        if (!dialog.OK())
             return;
         UpdateGroup({dialog.ID, dialog.ListName, dialog.ListDesc});
         FillListAndSelect(row.tag);
@@ -224,7 +228,7 @@ void frmMDISetup::AddReader() {
         dialog.ExistingNames = m_rows.TextsOf(1);
         dialog.Desc = FreshReaderName(dialog.ExistingNames);
         dialog.exec();
-        if (!dialog.OK)
+        if (!dialog.OK())
             return;
         ::AddReader({dialog.ReaderId, dialog.Desc});
         FillListAndSelect(dialog.ReaderId);
@@ -241,7 +245,7 @@ void frmMDISetup::EditReader() {
         dialog.Desc = row.texts[1];
         dialog.ExistingNames = m_rows.TextsOf(1);
         dialog.exec();
-        if (!dialog.OK)
+        if (!dialog.OK())
             return;
         UpdateReader({row.texts[0], dialog.Desc});
         FillListAndSelect(row.tag);
@@ -304,13 +308,27 @@ void frmMDISetup::EditTour() {
             dialog.StartTime = tour.startTime;
             dialog.ExistingNames = m_rows.TextsOf(0);
             dialog.Populate();
-            dialog.exec();
-            if (!dialog.OK)
-                return;
-            UpdateTour(
-                {tour.id, dialog.ListName, dialog.ListDesc, dialog.Tolerance, dialog.StartTime});
+            do { // again, with all that was entered, while it cannot be saved
+                dialog.exec();
+                if (!dialog.OK())
+                    return;
+                tour = {tour.id, dialog.ListName, dialog.ListDesc, dialog.Tolerance,
+                        dialog.StartTime};
+            } while (!Saved(tour, dialog.Points()));
             FillListAndSelect(tag);
         }
+    });
+}
+
+bool frmMDISetup::Saved(const Tour& tour, const TourDraft& points) const {
+    const auto save = [&] {
+        SaveTour(tour, points);
+        return true;
+    };
+    return Trapped(save, [](const RunTimeError& error) {
+        ReportError(QStringLiteral("EditTour of Form frmMDISetup"), error, ErrorShow::LogOnly);
+        IvMessageBox(::Translate("The tour could not be saved. Nothing was changed.") + u'\n' +
+                     error.Description());
     });
 }
 
@@ -324,7 +342,7 @@ void frmMDISetup::DeleteTour() {
 void frmMDISetup::CopyTour() {
     frmCopyTour dialog(window());
     dialog.exec();
-    if (!dialog.OK)
+    if (!dialog.OK())
         return;
     const auto copy = [&] {
         if (!TourHasPoints(dialog.TourID())) {

@@ -21,6 +21,8 @@ public:
 
     /// Shows the first tab.
     void Start();
+    /// Opens or closes what needs a docking station, as it comes or goes.
+    void ShowLink();
     /// Translates the page's controls.
     void Translate();
     /// True if a row of the list has this name in the second column.
@@ -73,6 +75,8 @@ private:
     void EditTour();
     void DeleteTour();
     void CopyTour();
+    /// True if the tour was written. If not, nothing was, and the operator was told.
+    bool Saved(const Tour& tour, const TourDraft& points) const;
     QString FreshTourName() const;
 
     std::unique_ptr<Ui::frmMDISetup> m_ui;

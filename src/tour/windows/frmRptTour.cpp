@@ -3,11 +3,11 @@
 #include "Clock.h"
 #include "Format.h"
 #include "Recordset.h"
-#include "Settings.h"
 #include "TourReportBuilder.h"
 #include "WindowTools.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
+#include "mSettings.h"
 #include "mTranslations.h"
 #include "ui_frmRptTour.h"
 
@@ -16,10 +16,7 @@ namespace {
 const QString ShowAllKey = QStringLiteral("ShowAllStatus");
 const QString ShowEventsKey = QStringLiteral("ShowEventsStatus");
 
-bool SavedOption(const QString& key) {
-    return ToBoolean(
-        GetSetting(SettingsApplication, SettingsSection::Settings, key, BooleanText(false)));
-}
+bool SavedOption(const QString& key) { return SavedBoolean(SettingsSection::Settings, key, false); }
 
 void SaveOption(const QString& key, bool value) {
     SaveSetting(SettingsApplication, SettingsSection::Settings, key, BooleanText(value));
@@ -41,7 +38,7 @@ frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
     connect(m_ui->imgcboReader, &QComboBox::currentIndexChanged, this,
             &frmRptTour::ReadSelectedReader);
     connect(m_ui->cmdPrintPreview, &QPushButton::clicked, this, &frmRptTour::cmdPrintPreview_Click);
-    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmRptTour::cmdCancel_Click);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     Guarded("Form_Load of Form frmRptTour", [this] {
         FillTours();
         FillReaders();
@@ -95,11 +92,6 @@ void frmRptTour::cmdPrintPreview_Click() {
     BuildTourReport({TourID, StartDate, ReaderId, m_ui->imgcboReader->currentText(), IncludeEvents,
                      m_ui->optShowAll_1->isChecked()},
                     m_viewer);
-}
-
-void frmRptTour::cmdCancel_Click() {
-    OK = false;
-    reject();
 }
 
 void frmRptTour::done(int result) {

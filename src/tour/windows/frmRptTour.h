@@ -22,7 +22,7 @@ public:
     int TourID = 0;
     DateTime StartDate;
     bool IncludeEvents = false;
-    bool OK = false;
+    bool OK() const { return result() == Accepted; }
     QString ReaderId;
     /// Sets the caption.
     void Title(const QString& text) { setWindowTitle(text); }
@@ -36,7 +36,6 @@ private:
     void ReadSelectedReader();
     void ReadOptions();
     void cmdPrintPreview_Click();
-    void cmdCancel_Click();
 
     std::unique_ptr<Ui::frmRptTour> m_ui;
     ReportViewer& m_viewer;
