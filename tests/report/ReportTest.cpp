@@ -151,8 +151,6 @@ private slots:
             << QByteArray("\"width\": 60") << QByteArray("\"width\": 101") << QByteArray("lblHead");
         QTest::newRow("negative") << QByteArray("\"top\": 0") << QByteArray("\"top\": -1")
                                   << QByteArray("lblHead");
-        QTest::newRow("unknown overflow")
-            << QByteArray("\"ellipsis\"") << QByteArray("\"spill\"") << QByteArray("txtName");
         QTest::newRow("two of a name")
             << QByteArray("\"Top\"") << QByteArray("\"head\"") << QByteArray("head");
         QTest::newRow("two of a kind")

@@ -1,7 +1,6 @@
 #include "DataReport.h"
 
 #include "Format.h"
-#include "PagePainter.h"
 #include "RowSource.h"
 #include "RunTimeError.h"
 
@@ -51,7 +50,7 @@ void DataReport::PaintPage(QPainter& painter, int page, DateTime printedAt) cons
         throw RunTimeError(RunTimeErrorNumber::SubscriptOutOfRange,
                            QStringLiteral("The report has no page %1.").arg(page + 1));
 
-    PagePainter canvas(painter, m_fonts,
+    PagePainter canvas(painter, m_fonts, m_fitted,
                        {QString::number(page + 1), QString::number(pages.PageCount()),
                         Format(printedAt, QStringLiteral("Short Date")),
                         Format(printedAt, QStringLiteral("Short Time"))});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DateTime.h"
+#include "PagePainter.h"
 #include "Pagination.h"
 #include "ReportFont.h"
 #include "ReportLayout.h"
@@ -60,6 +61,7 @@ private:
 
     ReportLayout m_layout;
     std::vector<ReportFont> m_fonts;
+    mutable FittedTexts m_fitted{500};
     QString m_caption;
     const RowSource* m_rows = nullptr;
     std::vector<int> m_columns; ///< of the detail's controls; -1 for what is no text box
