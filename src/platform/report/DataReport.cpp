@@ -4,6 +4,8 @@
 #include "RowSource.h"
 #include "RunTimeError.h"
 
+#include <QPagedPaintDevice>
+
 DataReport::DataReport(ReportLayout layout) : m_layout(std::move(layout)) {
     m_fonts.reserve(m_layout.fonts.size());
     for (const FontFace& face : m_layout.fonts)
@@ -78,4 +80,18 @@ void DataReport::PaintPage(QPainter& painter, int page, DateTime printedAt) cons
     at.setY(m_layout.page.height() - m_layout.marginBottom -
             m_layout.HeightOf(SectionKind::PageFooter));
     paintSection(SectionKind::PageFooter);
+}
+
+bool DataReport::PaintSheets(QPainter& painter, QPagedPaintDevice& device,
+                             const std::vector<int>& pages, DateTime printedAt,
+                             const PageProgress& progress) const {
+    const auto all = static_cast<int>(pages.size());
+    for (int done = 0; done < all; ++done) {
+        if (progress && !progress(done, all))
+            return false;
+        if (done > 0 && !device.newPage())
+            return false;
+        PaintPage(painter, pages[static_cast<std::size_t>(done)], printedAt);
+    }
+    return true;
 }

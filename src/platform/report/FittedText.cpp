@@ -38,7 +38,7 @@ qreal Largest(qreal fitting, qreal tooLarge, Fits&& fits) {
 
 FittedText::FittedText(const ReportFont& font, const QStringList& lines, QSizeF box,
                        Qt::Alignment alignment)
-    : m_font(font), m_box(box), m_alignment(alignment), m_margin(font.Height() * 0.06) {
+    : m_font(font), m_box(box), m_alignment(alignment) {
     const qreal smallest = std::min(1.0, SmallestPoints / font.Points());
     // Beyond so many letters nothing can be seen, and measuring them would take its time.
     const qreal smallLetter = font.Height() * smallest / 4;
@@ -51,10 +51,14 @@ FittedText::FittedText(const ReportFont& font, const QStringList& lines, QSizeF 
         QString text = WithoutControls(line.left(most));
         if (line.size() > most)
             text += Ellipsis;
+        for (const QChar letter : text) {
+            m_left = std::max(m_left, font.LeftOverhang(letter));
+            m_right = std::max(m_right, font.RightOverhang(letter));
+        }
         m_texts.push_back(std::make_unique<QTextLayout>(text, font.Font()));
         m_texts.back()->setTextOption(option);
     }
-    m_box.rwidth() = std::max(1.0, m_box.width() - 2 * m_margin);
+    m_box.rwidth() = std::max(1.0, m_box.width() - m_left - m_right);
     LayOut(1, m_box.width() / Endless);
     for (const auto& text : m_texts)
         m_natural = std::max(m_natural, text->lineAt(0).naturalTextWidth());
@@ -139,8 +143,8 @@ qreal FittedText::Top() const {
 
 void FittedText::Paint(QPainter& painter, QPointF topLeft) const {
     painter.save();
-    painter.setClipRect(QRectF(topLeft, m_box + QSizeF(2 * m_margin, 0)), Qt::IntersectClip);
-    painter.translate(topLeft + QPointF(m_margin, Top()));
+    painter.setClipRect(QRectF(topLeft, m_box + QSizeF(m_left + m_right, 0)), Qt::IntersectClip);
+    painter.translate(topLeft + QPointF(m_left, Top()));
     painter.scale(m_across, m_down);
     for (const auto& text : m_texts)
         text->draw(&painter, QPointF());

@@ -37,7 +37,8 @@ private:
     QSizeF m_box;
     Qt::Alignment m_alignment;
     std::vector<std::unique_ptr<QTextLayout>> m_texts;
-    qreal m_margin;      ///< at both sides, for letters that reach out of their place
+    qreal m_left = 0; ///< kept free, for letters that reach out of their place
+    qreal m_right = 0;
     qreal m_natural = 0; ///< width of the longest line at full size
     qreal m_across = 1;  ///< scale of the letters' width
     qreal m_down = 1;    ///< and of their height

@@ -9,6 +9,7 @@ namespace {
 constexpr double HundredthsPerPoint = 2540.0 / 72.0;
 /// Pairs of letters may stand a little further apart than their widths tell.
 constexpr qreal KerningReserve = 1.01;
+constexpr qreal UsualOverhang = 0.06;
 
 QFont MakeFont(const QStringList& families, const FontFace& face) {
     QFont font;
@@ -49,6 +50,14 @@ const ReportFont::Letter& ReportFont::LetterOf(char16_t letter) const {
         known.right = static_cast<float>(std::max(0.0, ink.right() - advance));
     }
     return known;
+}
+
+qreal ReportFont::LeftOverhang(QChar letter) const {
+    return IsPlain(letter.unicode()) ? LetterOf(letter.unicode()).left : m_height * UsualOverhang;
+}
+
+qreal ReportFont::RightOverhang(QChar letter) const {
+    return IsPlain(letter.unicode()) ? LetterOf(letter.unicode()).right : m_height * UsualOverhang;
 }
 
 bool ReportFont::SurelyFits(QStringView line, qreal width) const {

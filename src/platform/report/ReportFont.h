@@ -28,10 +28,10 @@ public:
     /// Whether a line's ink surely stays within a width and within the font's height. Most texts do
     /// by far; they are not measured but estimated from their letters. False means nothing.
     bool SurelyFits(QStringView line, qreal width) const;
-    /// How far a letter's ink reaches out to the left or to the right of its place; for letters of
-    /// lines that surely fit.
-    qreal LeftOverhang(QChar letter) const { return LetterOf(letter.unicode()).left; }
-    qreal RightOverhang(QChar letter) const { return LetterOf(letter.unicode()).right; }
+    /// How far a letter's ink reaches out to the left or to the right of its place. For letters
+    /// whose shape depends on their neighbours, as far as any should.
+    qreal LeftOverhang(QChar letter) const;
+    qreal RightOverhang(QChar letter) const;
 
 private:
     /// Letters whose width does not depend on their neighbours: Latin, Greek, Cyrillic.
