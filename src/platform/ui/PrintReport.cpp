@@ -14,7 +14,7 @@
 #include <algorithm>
 #include <functional>
 
-#ifdef WARDLOCK_CUPS
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
 #include <cups/cups.h>
 #endif
 #include <vector>
@@ -124,7 +124,7 @@ QByteArray JobOf(const QPrinter& printer, const QString& path) {
     return job;
 }
 
-#ifdef WARDLOCK_CUPS
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
 constexpr bool PrintsFiles = true;
 
 void SendToPrinter(const QPrinter& printer, const QString& path) {
