@@ -284,7 +284,8 @@ private slots:
             const Ink ink = InkWithin(Painted(*report, 0), 118, 11);
             return ink.bottom - ink.top;
         };
-        const double part = inkOf(letters) / inkOf(1);
+        const double plain = inkOf(1);
+        const double part = inkOf(letters) / plain;
         QVERIFY2(std::abs(part - height) < 0.12, qPrintable(QString::number(part)));
         if (HasPdfTool())
             QCOMPARE(PdfText(*report).contains(u'\u2026'), shortened);
