@@ -213,6 +213,8 @@ private slots:
         QTest::newRow("long beyond sense") << QString(1'000'000, u'W') << left << 55.0;
         QTest::newRow("one letter, much marked")
             << (u'A' + QString(60, QChar(0x0301)) + QString(60, QChar(0x0323))) << left << 1.0;
+        QTest::newRow("letter higher than its line")
+            << QString(QChar(0x01fa)) << QByteArray("\"left\", \"size\": 12") << 1.0;
         QTest::newRow("letters with tails, slanted")
             << QStringLiteral("jf") << QByteArray("\"left\", \"italic\": true") << 1.0;
         QTest::newRow("letters with tails at the right")
@@ -236,6 +238,18 @@ private slots:
         QVERIFY(ink.right - ink.left >= reaches);
         QVERIFY2(ink.top >= 128.4 && ink.bottom <= 133.6,
                  qPrintable(QStringLiteral("%1 to %2").arg(ink.top).arg(ink.bottom)));
+    }
+
+    void ControlsAreBlanks() {
+        CountedRows source(1);
+        const auto report = SmallReport();
+        report->SetDataSource(&source);
+        const auto painted = [&](const QString& controls) {
+            source.Text = [=](qsizetype) { return QChar(0x05d0) + controls + u'x'; };
+            return Painted(*report, 0);
+        };
+        QVERIFY(painted(QStringLiteral("\r\n\t\x07")) == painted(QString(4, u' ')));
+        QVERIFY(painted(QChar(0x85) + QString(QChar(0x2028))) == painted(QString(2, u' ')));
     }
 
     /// What must be readable: company lines of 50 of the widest letters, tour, site and location
