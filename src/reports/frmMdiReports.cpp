@@ -80,7 +80,7 @@ void frmMdiReports::resizeEvent(QResizeEvent* event) {
 bool frmMdiReports::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        const QTreeWidgetItem* row = m_ui->lvwReports->currentItem();
+        const QTreeWidgetItem* row = SelectedRow();
         if (row && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
             // Caption and key change places here, so Enter finds no report and only the icon
             // blinks. Operators know it so; Open Report (Ctrl+O) is the key that opens.
@@ -91,16 +91,21 @@ bool frmMdiReports::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+/// The current row need not be selected: a click with Ctrl takes the selection off it.
+QTreeWidgetItem* frmMdiReports::SelectedRow() const {
+    return m_ui->lvwReports->selectedItems().value(0);
+}
+
 void frmMdiReports::OpenSelected() {
     Guarded("lvwReports_DblClick of Form frmMdiReports", [this] {
-        if (const QTreeWidgetItem* row = m_ui->lvwReports->selectedItems().value(0))
+        if (const QTreeWidgetItem* row = SelectedRow())
             ReportParamShow(row->data(0, KeyRole).toString(), row->text(0));
     });
 }
 
 void frmMdiReports::ReportParamShow(const QString& key, const QString& text) {
     Guarded("ReportParamShow of Form frmMdiReports", [&] {
-        QTreeWidgetItem* row = m_ui->lvwReports->currentItem();
+        QTreeWidgetItem* row = SelectedRow();
         if (!row)
             return;
         row->setIcon(0, ProgramIcon(QStringLiteral("arrow")));

@@ -41,6 +41,8 @@ private:
     void LoadReportList();
     void AddReportItem(const QString& key, const QString& name, const QString& description);
     void SizeColumns();
+    /// Null if none is.
+    QTreeWidgetItem* SelectedRow() const;
     void OpenSelected();
     void LoadTourReport(const QString& caption);
 

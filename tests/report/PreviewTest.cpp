@@ -12,6 +12,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPrinter>
+#include <QProgressDialog>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -183,24 +185,23 @@ private slots:
 
     void PrintsThePagesAskedFor_data() {
         QTest::addColumn<QPrinter::PrintRange>("range");
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
+        QTest::addColumn<QString>("ranges");
         QTest::addColumn<bool>("lastFirst");
         QTest::addColumn<int>("copies");
         QTest::addColumn<QString>("pages");
-        QTest::newRow("all") << QPrinter::AllPages << 0 << 0 << false << 1 << "1 2 3 4";
-        QTest::newRow("some") << QPrinter::PageRange << 2 << 3 << false << 1 << "2 3";
-        QTest::newRow("beyond the end") << QPrinter::PageRange << 3 << 9 << false << 1 << "3 4";
-        QTest::newRow("the one shown") << QPrinter::CurrentPage << 0 << 0 << false << 1 << "3";
-        QTest::newRow("last first") << QPrinter::PageRange << 2 << 4 << true << 1 << "4 3 2";
-        QTest::newRow("twice") << QPrinter::PageRange << 1 << 2 << false << 2 << "1 2 1 2";
+        QTest::newRow("all") << QPrinter::AllPages << "" << false << 1 << "1 2 3 4";
+        QTest::newRow("some") << QPrinter::PageRange << "2-3" << false << 1 << "2 3";
+        QTest::newRow("single ones") << QPrinter::PageRange << "2,4" << false << 1 << "2 4";
+        QTest::newRow("beyond the end") << QPrinter::PageRange << "3-9" << false << 1 << "3 4";
+        QTest::newRow("the one shown") << QPrinter::CurrentPage << "" << false << 1 << "3";
+        QTest::newRow("last first") << QPrinter::PageRange << "1,3-4" << true << 1 << "4 3 1";
+        QTest::newRow("twice") << QPrinter::PageRange << "1-2" << false << 2 << "1 2 1 2";
     }
     void PrintsThePagesAskedFor() {
         if (!HasPdfTool())
             QSKIP("pdftotext is not there");
         QFETCH(QPrinter::PrintRange, range);
-        QFETCH(int, from);
-        QFETCH(int, to);
+        QFETCH(QString, ranges);
         QFETCH(bool, lastFirst);
         QFETCH(int, copies);
         QFETCH(QString, pages);
@@ -209,7 +210,7 @@ private slots:
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(folder.filePath("print.pdf"));
         printer.setPrintRange(range);
-        printer.setFromTo(from, to);
+        printer.setPageRanges(QPageRanges::fromString(ranges));
         printer.setPageOrder(lastFirst ? QPrinter::LastPageFirst : QPrinter::FirstPageFirst);
         printer.setCopyCount(copies);
         printer.setCollateCopies(true);
@@ -226,11 +227,70 @@ private slots:
         QCOMPARE(printed.join(u' '), pages);
     }
 
-    void PrintingFailsAloud() {
+    void PrintsAllOrNothing() {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("print.pdf");
+        const auto write = [&](const CountedRows& rows, const PageProgress& progress = {}) {
+            QPrinter printer;
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(path);
+            const auto report = SmallReport();
+            report->SetDataSource(&rows);
+            return PrintReport(*report, printer, 0, progress);
+        };
+        const auto written = [&] { return QFileInfo(path).size(); };
+        CountedRows rows(100);
+        QVERIFY(write(rows));
+        const qint64 whole = written();
+        QVERIFY(whole > 0);
+        QVERIFY(!write(rows, [](int done, int all) { return done < all / 2; }));
+        QCOMPARE(written(), whole);
+        rows.Text = [](qsizetype row) {
+            if (row > 50)
+                throw RunTimeError(RunTimeErrorNumber::ObjectClosed, "is closed");
+            return QString();
+        };
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, write(rows));
+        QCOMPARE(written(), whole);
+
         QPrinter printer;
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName("/none/print.pdf");
         QVERIFY_THROWS_EXCEPTION(RunTimeError, PrintReport(*SmallReport(), printer, 0));
+        printer.setPrintRange(QPrinter::PageRange);
+        printer.setFromTo(7, 9);
+        printer.setOutputFileName(folder.filePath("no such page.pdf"));
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, PrintReport(*SmallReport(), printer, 0));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("print.pdf"));
+    }
+
+    void LongExportIsCancelled() {
+        CountedRows rows(2'000);
+        const Shown preview(rows);
+        rows.Text = [](qsizetype) {
+            QThread::msleep(2);
+            return QString();
+        };
+        const QTemporaryDir folder;
+        KeptMessages messages;
+        bool othersBlocked = false;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, [&] {
+            auto* progress = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+            if (!progress)
+                return;
+            preview.Key(Qt::Key_End);
+            othersBlocked = preview.window->Page() == 0;
+            progress->findChild<QPushButton*>()->click();
+        });
+        watch.start(50);
+        QElapsedTimer elapsed;
+        elapsed.start();
+        Export(preview, folder.filePath("report"));
+        QVERIFY(elapsed.elapsed() < 4'000); // all of it would take longer
+        QVERIFY(othersBlocked);
+        QCOMPARE(messages.texts, QStringList());
+        QVERIFY(QDir(folder.path()).isEmpty());
     }
 };
 

@@ -50,7 +50,7 @@ inline QByteArray SmallLayout(int footerHeight = 10) {
               "caption": "%p / %P" } ] },
           { "name": "Row", "kind": "detail", "height": 10, "controls": [
             { "name": "txtName", "type": "textBox", "field": "tName", "left": 0, "top": 0,
-              "width": 60, "height": 5, "overflow": "ellipsis", "align": "left" } ] },
+              "width": 60, "height": 5, "align": "left" } ] },
           { "name": "End", "kind": "reportFooter", "height": %1, "controls": [] } ] })")
         .arg(footerHeight)
         .toUtf8();

@@ -167,7 +167,6 @@ private slots:
             return true;
         });
         report.Click(dialog, "cmdCancel");
-        report.Start();
         auto* reports = Script::Find<QAbstractItemView>("frmMdiReports", "lvwReports");
         DoEvents();                               // lays the page out
         QTest::keyClick(reports, Qt::Key_Return); // opens nothing
@@ -175,6 +174,17 @@ private slots:
         reports->actions().first()->trigger(); // nothing is selected, so nothing opens
         QVERIFY(!QApplication::activeModalWidget());
         const QPoint row = reports->visualRect(reports->model()->index(0, 0)).center();
+        bool looked = false, opened = false;
+        QTimer::singleShot(100, [&] {
+            looked = true;
+            if (QWidget* window = QApplication::activeModalWidget())
+                opened = window->close();
+        });
+        QTest::mouseClick(reports->viewport(), Qt::LeftButton, Qt::ControlModifier, row);
+        reports->actions().first()->trigger(); // Ctrl+O; the row is no longer selected
+        QTRY_VERIFY(looked);
+        QVERIFY(!opened);
+        report.Start();
         QTest::mouseClick(reports->viewport(), Qt::LeftButton, {}, row);
         QTest::mouseDClick(reports->viewport(), Qt::LeftButton, {}, row);
         QVERIFY(report.Finish());

@@ -1,9 +1,10 @@
 #include "DataReport.h"
 
 #include "Format.h"
-#include "PagePainter.h"
 #include "RowSource.h"
 #include "RunTimeError.h"
+
+#include <QPagedPaintDevice>
 
 DataReport::DataReport(ReportLayout layout) : m_layout(std::move(layout)) {
     m_fonts.reserve(m_layout.fonts.size());
@@ -51,7 +52,7 @@ void DataReport::PaintPage(QPainter& painter, int page, DateTime printedAt) cons
         throw RunTimeError(RunTimeErrorNumber::SubscriptOutOfRange,
                            QStringLiteral("The report has no page %1.").arg(page + 1));
 
-    PagePainter canvas(painter, m_fonts,
+    PagePainter canvas(painter, m_fonts, m_fitted,
                        {QString::number(page + 1), QString::number(pages.PageCount()),
                         Format(printedAt, QStringLiteral("Short Date")),
                         Format(printedAt, QStringLiteral("Short Time"))});
@@ -79,4 +80,18 @@ void DataReport::PaintPage(QPainter& painter, int page, DateTime printedAt) cons
     at.setY(m_layout.page.height() - m_layout.marginBottom -
             m_layout.HeightOf(SectionKind::PageFooter));
     paintSection(SectionKind::PageFooter);
+}
+
+bool DataReport::PaintSheets(QPainter& painter, QPagedPaintDevice& device,
+                             const std::vector<int>& pages, DateTime printedAt,
+                             const PageProgress& progress) const {
+    const auto all = static_cast<int>(pages.size());
+    for (int done = 0; done < all; ++done) {
+        if (progress && !progress(done, all))
+            return false;
+        if (done > 0 && !device.newPage())
+            return false;
+        PaintPage(painter, pages[static_cast<std::size_t>(done)], printedAt);
+    }
+    return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DateTime.h"
+#include "PagePainter.h"
 #include "Pagination.h"
 #include "ReportFont.h"
 #include "ReportLayout.h"
@@ -8,8 +9,14 @@
 #include <QPageSize>
 #include <QString>
 
+#include <functional>
+
+class QPagedPaintDevice;
 class QPainter;
 class RowSource;
+
+/// Asked before each page of a job: `done` of its `all` pages are painted. False ends the job.
+using PageProgress = std::function<bool(int done, int all)>;
 
 /// A banded report: a layout whose detail is repeated for each row of a source. It holds no page;
 /// any page is painted from the rows when asked for, alike for the screen, a printer and a PDF.
@@ -54,12 +61,18 @@ public:
     /// page shows. Throws RunTimeError (SubscriptOutOfRange) for a page that does not exist, and
     /// whatever the rows throw; the painter's state is then as before.
     void PaintPage(QPainter& painter, int page, DateTime printedAt) const;
+    /// Paints pages, in this order, each on a sheet of its own; the painter has begun on the
+    /// device's first sheet. False if that was ended before the last one, by `progress` or because
+    /// the device gives no further sheet.
+    bool PaintSheets(QPainter& painter, QPagedPaintDevice& device, const std::vector<int>& pages,
+                     DateTime printedAt, const PageProgress& progress) const;
 
 private:
     Pagination Pages() const;
 
     ReportLayout m_layout;
     std::vector<ReportFont> m_fonts;
+    mutable FittedTexts m_fitted{500};
     QString m_caption;
     const RowSource* m_rows = nullptr;
     std::vector<int> m_columns; ///< of the detail's controls; -1 for what is no text box

@@ -239,8 +239,6 @@ private:
         style.alignment |= node.Choice<Qt::Alignment>(
             "verticalAlign",
             {{"top", Qt::AlignTop}, {"centre", Qt::AlignVCenter}, {"bottom", Qt::AlignBottom}});
-        style.overflow = node.Choice<Overflow>(
-            "overflow", {{"ellipsis", Overflow::Ellipsis}, {"clip", Overflow::Clip}});
     }
 
     static QColor Colour(Node& node) {

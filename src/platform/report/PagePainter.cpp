@@ -8,7 +8,12 @@
 namespace {
 
 bool IsRule(const QString& text) {
-    return std::all_of(text.begin(), text.end(), [](QChar letter) { return letter == u'_'; });
+    return !text.isEmpty() &&
+           std::all_of(text.begin(), text.end(), [](QChar letter) { return letter == u'_'; });
+}
+
+qreal HeightOf(const ReportFont& font, std::size_t lines) {
+    return font.Height() + static_cast<qreal>(lines - 1) * font.LineSpacing();
 }
 
 } // namespace
@@ -41,8 +46,9 @@ QString PageWords::Expanded(const QString& pattern) const {
     return text;
 }
 
-PagePainter::PagePainter(QPainter& painter, const std::vector<ReportFont>& fonts, PageWords words)
-    : m_painter(painter), m_fonts(fonts), m_words(std::move(words)) {
+PagePainter::PagePainter(QPainter& painter, const std::vector<ReportFont>& fonts,
+                         FittedTexts& fitted, PageWords words)
+    : m_painter(painter), m_fonts(fonts), m_fitted(fitted), m_words(std::move(words)) {
     m_painter.save();
     m_painter.setRenderHint(QPainter::TextAntialiasing);
     // A rule is to be one sharp line, not two grey ones.
@@ -62,26 +68,21 @@ void PagePainter::PaintRow(const ReportSection& section, QPoint origin, const Ro
                            qsizetype row, const std::vector<int>& columns) {
     const std::vector<ReportControl>& controls = section.AllControls();
     for (std::size_t i = 0; i < controls.size(); ++i) {
-        if (columns[i] < 0) {
+        if (columns[i] < 0)
             PaintFixed(controls[i], origin);
-            continue;
-        }
-        const QString text = rows.TextAt(row, columns[i]);
-        if (text.isEmpty())
-            continue;
-        const ControlStyle& style = controls[i].Style();
-        const QRectF box = style.box.translated(origin);
-        PaintText(style, box, FirstBaseline(style, box, 1), text);
+        else
+            PaintText(controls[i].Style(), origin, rows.TextAt(row, columns[i]));
     }
 }
 
 void PagePainter::PaintFixed(const ReportControl& control, QPoint origin) {
     switch (control.Kind()) {
     case ControlKind::Label:
-        PaintLabel(control.Style(), origin,
-                   control.KindOfCaption() == CaptionKind::Pattern
-                       ? m_words.Expanded(control.Caption())
-                       : control.Caption());
+        PaintText(control.Style(), origin,
+                  control.KindOfCaption() == CaptionKind::Pattern
+                      ? m_words.Expanded(control.Caption())
+                      : control.Caption(),
+                  true);
         break;
     case ControlKind::Line:
         PaintLine(control.Style(), origin);
@@ -107,56 +108,84 @@ void PagePainter::DrawLine(QPointF from, QPointF to, const QColor& colour, qreal
     m_colour = QColor();
 }
 
-void PagePainter::PaintLabel(const ControlStyle& style, QPoint origin, const QString& caption) {
-    if (caption.isEmpty())
+/// Most texts fit their box and are drawn as they are, which is fast.
+void PagePainter::PaintText(const ControlStyle& style, QPoint origin, const QString& text,
+                            bool mayHaveLines) {
+    if (text.isEmpty())
         return;
-    QStringList lines = caption.split(u'\n');
     const QRectF box = style.box.translated(origin);
-    qreal baseline = FirstBaseline(style, box, lines.size());
-    for (QString& line : lines) {
+    if (IsRule(text)) {
+        PaintRule(style, box, text.size());
+        return;
+    }
+    Use(style);
+    if (!mayHaveLines || !text.contains(u'\n')) {
+        PaintLines(style, box, std::span(&text, 1));
+        return;
+    }
+    QStringList lines = text.split(u'\n');
+    for (QString& line : lines)
         if (line.endsWith(u'\r'))
             line.chop(1);
-        PaintText(style, box, baseline, line);
-        baseline += m_fonts[static_cast<std::size_t>(style.font)].LineSpacing();
-    }
+    PaintLines(style, box, lines);
+}
+
+void PagePainter::PaintLines(const ControlStyle& style, const QRectF& box,
+                             std::span<const QString> lines) {
+    if (!PaintPlainly(style, box, lines))
+        PaintFitted(style, box, QStringList(lines.begin(), lines.end()));
 }
 
 /// A text of underscores alone is a rule. Letter by letter its joints would show.
-void PagePainter::PaintRule(const ControlStyle& style, const QRectF& box, qreal baseline,
-                            qsizetype letters) {
-    const ReportFont& font = m_fonts[static_cast<std::size_t>(style.font)];
+void PagePainter::PaintRule(const ControlStyle& style, const QRectF& box, qsizetype letters) {
+    const ReportFont& font = FontOf(style);
     const qreal width = font.Width(QStringLiteral("_")) * static_cast<qreal>(letters);
-    const QPointF from(box.left(), baseline + font.UnderlinePosition());
+    const qreal down = FirstBaseline(style, box, 1) + font.UnderlinePosition();
+    const QPointF from(box.left(), std::min(down, box.bottom() - font.UnderlineThickness()));
     DrawLine(from, from + QPointF(std::min(width, box.width()), 0), style.colour,
              font.UnderlineThickness());
 }
 
-void PagePainter::PaintText(const ControlStyle& style, const QRectF& box, qreal baseline,
-                            const QString& text) {
-    const bool clip = style.overflow == Overflow::Clip;
-    if (clip && IsRule(text)) {
-        PaintRule(style, box, baseline, text.size());
-        return;
+bool PagePainter::PaintPlainly(const ControlStyle& style, const QRectF& box,
+                               std::span<const QString> lines) {
+    const ReportFont& font = FontOf(style);
+    const qreal height = HeightOf(font, lines.size());
+    if (height > box.height() || !std::all_of(lines.begin(), lines.end(), [&](const QString& line) {
+            return font.SurelyFits(line, box.width());
+        }))
+        return false;
+    qreal baseline = FirstBaseline(style, box, lines.size());
+    for (const QString& line : lines) {
+        if (!line.isEmpty()) {
+            qreal left = box.left() + font.LeftOverhang(line.front());
+            if (style.alignment & Qt::AlignRight)
+                left = box.right() - font.Width(line) - font.RightOverhang(line.back());
+            else if (style.alignment & Qt::AlignHCenter)
+                left = box.left() + (box.width() - font.Width(line)) / 2;
+            m_painter.drawText(QPointF(left, baseline), line);
+        }
+        baseline += font.LineSpacing();
     }
-    const ReportFont& font = Use(style);
-    const QString shown = clip ? font.Reaching(text, box.width()) : font.Fitted(text, box.width());
-    qreal left = box.left();
-    if (style.alignment & Qt::AlignRight)
-        left = box.right() - font.Width(shown);
-    else if (style.alignment & Qt::AlignHCenter)
-        left += (box.width() - font.Width(shown)) / 2;
+    return true;
+}
 
-    if (clip) {
-        m_painter.save();
-        m_painter.setClipRect(box, Qt::IntersectClip);
+void PagePainter::PaintFitted(const ControlStyle& style, const QRectF& box,
+                              const QStringList& lines) {
+    const std::pair key(&style, lines.join(u'\n'));
+    FittedText* text = m_fitted.object(key);
+    if (!text) {
+        text = new FittedText(FontOf(style), lines, box.size(), style.alignment);
+        m_fitted.insert(key, text);
     }
-    m_painter.drawText(QPointF(left, baseline), shown);
-    if (clip)
-        m_painter.restore();
+    text->Paint(m_painter, box.topLeft());
+}
+
+const ReportFont& PagePainter::FontOf(const ControlStyle& style) const {
+    return m_fonts[static_cast<std::size_t>(style.font)];
 }
 
 const ReportFont& PagePainter::Use(const ControlStyle& style) {
-    const ReportFont& font = m_fonts[static_cast<std::size_t>(style.font)];
+    const ReportFont& font = FontOf(style);
     if (m_font != style.font)
         m_painter.setFont(font.Font());
     if (m_colour != style.colour)
@@ -167,10 +196,9 @@ const ReportFont& PagePainter::Use(const ControlStyle& style) {
 }
 
 qreal PagePainter::FirstBaseline(const ControlStyle& style, const QRectF& box,
-                                 qsizetype lines) const {
-    const ReportFont& font = m_fonts[static_cast<std::size_t>(style.font)];
-    const qreal height = font.Height() + static_cast<qreal>(lines - 1) * font.LineSpacing();
-    const qreal spare = box.height() - height;
+                                 std::size_t lines) const {
+    const ReportFont& font = FontOf(style);
+    const qreal spare = box.height() - HeightOf(font, lines);
     if (style.alignment & Qt::AlignBottom)
         return box.top() + spare + font.Ascent();
     if (style.alignment & Qt::AlignVCenter)

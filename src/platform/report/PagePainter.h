@@ -1,10 +1,13 @@
 #pragma once
 
+#include "FittedText.h"
 #include "ReportFont.h"
 #include "ReportSection.h"
 
+#include <QCache>
 #include <QPainter>
 
+#include <span>
 #include <vector>
 
 class RowSource;
@@ -19,11 +22,16 @@ struct PageWords {
     QString Expanded(const QString& pattern) const;
 };
 
+/// Texts that had to be fitted, kept from page to page: what every page's head says, and names that
+/// come again and again.
+using FittedTexts = QCache<std::pair<const ControlStyle*, QString>, FittedText>;
+
 /// Paints the sections of one page. The painter's unit is a hundredth of a millimetre; its state is
 /// as before when the painter of the page is gone.
 class PagePainter {
 public:
-    PagePainter(QPainter& painter, const std::vector<ReportFont>& fonts, PageWords words);
+    PagePainter(QPainter& painter, const std::vector<ReportFont>& fonts, FittedTexts& fitted,
+                PageWords words);
     ~PagePainter();
     PagePainter(const PagePainter&) = delete;
     PagePainter& operator=(const PagePainter&) = delete;
@@ -37,16 +45,20 @@ public:
 private:
     void PaintFixed(const ReportControl& control, QPoint origin);
     void PaintLine(const ControlStyle& style, QPoint origin);
-    void PaintLabel(const ControlStyle& style, QPoint origin, const QString& caption);
     void DrawLine(QPointF from, QPointF to, const QColor& colour, qreal thickness);
-    void PaintRule(const ControlStyle& style, const QRectF& box, qreal baseline, qsizetype letters);
-    void PaintText(const ControlStyle& style, const QRectF& box, qreal baseline,
-                   const QString& text);
+    void PaintText(const ControlStyle& style, QPoint origin, const QString& text,
+                   bool mayHaveLines = false);
+    void PaintRule(const ControlStyle& style, const QRectF& box, qsizetype letters);
+    void PaintLines(const ControlStyle& style, const QRectF& box, std::span<const QString> lines);
+    bool PaintPlainly(const ControlStyle& style, const QRectF& box, std::span<const QString> lines);
+    void PaintFitted(const ControlStyle& style, const QRectF& box, const QStringList& lines);
+    const ReportFont& FontOf(const ControlStyle& style) const;
     const ReportFont& Use(const ControlStyle& style);
-    qreal FirstBaseline(const ControlStyle& style, const QRectF& box, qsizetype lines) const;
+    qreal FirstBaseline(const ControlStyle& style, const QRectF& box, std::size_t lines) const;
 
     QPainter& m_painter;
     const std::vector<ReportFont>& m_fonts;
+    FittedTexts& m_fitted;
     PageWords m_words;
     int m_font = -1; ///< what the painter is set to
     QColor m_colour;

@@ -44,8 +44,8 @@ struct ReportLayout {
 /// pageHeader, detail, pageFooter, reportFooter; those left out have no height. Control types:
 /// label ("caption"), textBox ("field", the column; in the detail only), line ("thickness"; one of
 /// width and height is 0). For texts also "size", "bold", "italic", "colour" ("#rrggbb"), "align"
-/// (left, centre, right), "verticalAlign" (top, centre, bottom), "overflow" (ellipsis, clip; a
-/// text of underscores alone that is clipped is drawn as one rule).
+/// (left, centre, right), "verticalAlign" (top, centre, bottom). A text that is too large for its
+/// box is made to fit it (FittedText.h); a text of underscores alone is drawn as one rule.
 ReportLayout LoadReportLayout(const QString& name);
 
 /// The same from bytes; `file` is what messages call them.

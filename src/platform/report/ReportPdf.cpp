@@ -1,13 +1,14 @@
 #include "ReportPdf.h"
 
 #include "Clock.h"
-#include "DataReport.h"
 #include "OutputFile.h"
 #include "RunTimeError.h"
 
 #include <QFileDevice>
 #include <QPainter>
 #include <QPdfWriter>
+
+#include <numeric>
 
 namespace {
 
@@ -61,7 +62,8 @@ private:
 
 } // namespace
 
-void ExportPdf(const DataReport& report, QIODevice& device, const QString& title) {
+bool ExportPdf(const DataReport& report, QIODevice& device, const QString& title,
+               const PageProgress& progress) {
     const DateTime printedAt = Now();
     PdfStream stream(device, printedAt);
     QPdfWriter writer(&stream);
@@ -73,19 +75,23 @@ void ExportPdf(const DataReport& report, QIODevice& device, const QString& title
     QPainter painter;
     if (!painter.begin(&writer))
         Fail(device.errorString());
-    const int pages = report.PageCount();
-    for (int page = 0; page < pages && stream.Failure().isNull(); ++page) {
-        if (page > 0)
-            writer.newPage();
-        report.PaintPage(painter, page, printedAt);
-    }
+    std::vector<int> pages(static_cast<std::size_t>(report.PageCount()));
+    std::iota(pages.begin(), pages.end(), 0);
+    const bool all =
+        report.PaintSheets(painter, writer, pages, printedAt, [&](int done, int count) {
+            return stream.Failure().isNull() && (!progress || progress(done, count));
+        });
     painter.end();
     if (!stream.Failure().isNull())
         Fail(stream.Failure());
+    return all;
 }
 
-void ExportPdf(const DataReport& report, const QString& path, const QString& title) {
+bool ExportPdf(const DataReport& report, const QString& path, const QString& title,
+               const PageProgress& progress) {
     OutputFile file(path);
-    ExportPdf(report, file.Device(), title);
+    if (!ExportPdf(report, file.Device(), title, progress))
+        return false;
     file.Commit();
+    return true;
 }

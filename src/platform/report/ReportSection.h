@@ -16,12 +16,6 @@ enum class SectionKind { ReportHeader, PageHeader, Detail, PageFooter, ReportFoo
 
 enum class ControlKind { Label, TextBox, Line };
 
-/// What happens to a text that is wider than its box.
-enum class Overflow {
-    Ellipsis, ///< shortened, and its end shows that
-    Clip,     ///< cut at the edge of the box, without a mark
-};
-
 /// Whether "%p", "%P", "%d" and "%t" in a caption stand for the page, the number of pages, the date
 /// and the time of printing, or for themselves.
 enum class CaptionKind { Pattern, Literal };
@@ -39,8 +33,7 @@ struct ControlStyle {
     int font = 0;              ///< position in ReportLayout::fonts
     QColor colour = Qt::black; ///< of text or line
     Qt::Alignment alignment;   ///< absolute: left is left in every language
-    Overflow overflow = Overflow::Ellipsis;
-    int thickness = 0; ///< of a line, which is centred on its box's top or left edge
+    int thickness = 0;         ///< of a line, which is centred on its box's top or left edge
 };
 
 /// A label, a text box bound to a column, or a line.

@@ -3,6 +3,7 @@
 #include "DataReport.h"
 #include "PreviewCanvas.h"
 #include "PrintReport.h"
+#include "ProgressWindow.h"
 #include "ReportPdf.h"
 #include "RunTimeError.h"
 
@@ -29,6 +30,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 
 namespace {
 
@@ -321,8 +323,8 @@ void frmPreview::Print() {
     if (dialog.exec() != QDialog::Accepted)
         return;
     try {
-        const Hourglass hourglass;
-        PrintReport(m_report, printer, m_page);
+        ProgressWindow progress("Print", m_translate, this);
+        PrintReport(m_report, printer, m_page, std::ref(progress));
     } catch (const RunTimeError& error) {
         Tell("The report could not be printed.", error.Description());
     }
@@ -338,8 +340,9 @@ void frmPreview::Export() {
     if (dialog.exec() != QDialog::Accepted)
         return;
     try {
-        const Hourglass hourglass;
-        ExportPdf(m_report, dialog.selectedFiles().value(0), m_report.Caption());
+        ProgressWindow progress("Export to PDF", m_translate, this);
+        ExportPdf(m_report, dialog.selectedFiles().value(0), m_report.Caption(),
+                  std::ref(progress));
     } catch (const RunTimeError& error) {
         Tell("The report could not be exported.", error.Description());
     }

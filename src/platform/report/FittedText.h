@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QStringList>
+#include <QTextLayout>
+
+#include <memory>
+#include <vector>
+
+class QPainter;
+class ReportFont;
+
+/// A text that is too large for its box, made to fit: its letters are condensed, then made smaller
+/// and wrapped, and only what is then still too long is shortened with an ellipsis. Nothing of it
+/// is painted outside the box, whatever it holds.
+class FittedText {
+public:
+    /// Letters are never narrower than this part of their width,
+    static constexpr qreal Narrowest = 2.0 / 3.0;
+    /// nor smaller than this many points; a smaller font of a layout stays as it is.
+    static constexpr qreal SmallestPoints = 5;
+
+    /// `lines` begin on lines of their own. The box is in the font's unit.
+    FittedText(const ReportFont& font, const QStringList& lines, QSizeF box,
+               Qt::Alignment alignment);
+
+    /// Paints in the painter's colour into a box that begins at `topLeft`.
+    void Paint(QPainter& painter, QPointF topLeft) const;
+
+private:
+    bool LayOut(qreal down, qreal across);
+    bool LayOutCondensed(qreal size);
+    void FindSize(qreal smallest);
+    void Shorten();
+    qreal Top() const;
+
+    const ReportFont& m_font;
+    QSizeF m_box;
+    Qt::Alignment m_alignment;
+    std::vector<std::unique_ptr<QTextLayout>> m_texts;
+    qreal m_left = 0; ///< kept free, for letters that reach out of their place
+    qreal m_right = 0;
+    qreal m_natural = 0; ///< width of the longest line at full size
+    qreal m_across = 1;  ///< scale of the letters' width
+    qreal m_down = 1;    ///< and of their height
+    qreal m_height = 0;  ///< of all lines at full size
+};

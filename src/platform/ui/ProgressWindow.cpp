@@ -1,0 +1,26 @@
+#include "ProgressWindow.h"
+
+namespace {
+
+constexpr int AppearsAfter = 1000; // milliseconds
+
+} // namespace
+
+ProgressWindow::ProgressWindow(const char* title, TranslateText translate, QWidget* parent)
+    : m_translate(std::move(translate)), m_window(parent) {
+    m_window.setWindowTitle(m_translate(QString::fromUtf8(title)));
+    m_window.setCancelButtonText(m_translate(QStringLiteral("Cancel")));
+    m_window.setWindowModality(Qt::ApplicationModal);
+    m_window.setMinimumDuration(AppearsAfter);
+    m_window.setAutoReset(false);
+}
+
+bool ProgressWindow::operator()(int done, int all) {
+    m_window.setMaximum(all);
+    m_window.setLabelText(m_translate(QStringLiteral("Page")) + u' ' + QString::number(done + 1) +
+                          u' ' + m_translate(QStringLiteral("of")) + u' ' + QString::number(all));
+    m_window.setValue(done); // handles events once the window is there
+    if (m_window.isVisible())
+        m_hourglass.reset();
+    return !m_window.wasCanceled();
+}
