@@ -8,24 +8,33 @@ goes on failing.
 
 import re
 from collections import Counter
+from functools import cache, partial
 
-from common import Download, Import, Start, run_all
+from common import Download, Import, Start
 
 CALLS = (
     "write,writev,pwrite64,pwritev,fsync,fdatasync,sync_file_range,"
     "rename,renameat,renameat2,unlink,unlinkat"
 )
-CAMPAIGNS = {
-    "a kill at each call": ["signal=SIGKILL:when={}"],
-    "each call failing": ["error=EIO:when={}", "error=ENOSPC:when={}+"],
-}
+
+
+def make_jobs(faults, setting):
+    jobs = [
+        (job, partial(strike, setting, job, names, call, fault.format(number)))
+        for job in (Download, Start, Import)
+        for names, counts in [calls_of(setting, job)]
+        for call, count in sorted(counts.items())
+        for number in range(1, count + 1)
+        for fault in faults
+    ]
+    return setting.rng(faults).sample(jobs, setting.runs(len(jobs)))
 
 
 def strace(log, *options):
     return ["strace", "-f", "-y", "-qq", "-o", str(log), "-e", f"trace={CALLS}", *options]
 
 
-def paths_of(run, names):
+def narrowed(run, names):
     """The options that narrow strace to these files of the job, its folder and its line."""
     paths = [run.station.home, *(run.station.home / name for name in sorted(names))]
     if isinstance(run, Download):
@@ -33,8 +42,10 @@ def paths_of(run, names):
     return [option for path in paths for option in ("-P", str(path))]
 
 
+@cache
 def calls_of(setting, job):
-    """The files of the folder that the job touches, and how often it makes each call on them."""
+    """The names of the files that the job touches in its folder, and how often it makes each call
+    on them."""
     with job(setting, f"traced {job.__name__}") as run:
         log = run.folder / "trace"
         run.begin(strace(log))
@@ -42,7 +53,7 @@ def calls_of(setting, job):
         names = set(re.findall(re.escape(f"{run.station.home}/") + r'([^/<>" ]+)', log.read_text()))
     with job(setting, f"counted {job.__name__}") as run:
         log = run.folder / "trace"
-        run.begin(strace(log, *paths_of(run, names)))
+        run.begin(strace(log, *narrowed(run, names)))
         run.end()
         # strace counts the calls of each thread apart.
         made = Counter(re.findall(r"^(\d+) +(\w+)\(", log.read_text(), re.MULTILINE))
@@ -53,29 +64,15 @@ def calls_of(setting, job):
 
 
 def strike(setting, job, names, call, fault):
-    name = f"{job.__name__} {call} {fault}"
-    with job(setting, name) as run:
+    with job(setting, f"{job.__name__} {call} {fault}") as run:
         log = run.folder / "trace"
-        run.begin(strace(log, *paths_of(run, names), "-e", f"inject={call}:{fault}"))
+        run.begin(strace(log, *narrowed(run, names), "-e", f"inject={call}:{fault}"))
         run.end()
         killed = run.program.killed() and not run.program.struck
         return run.judge(killed or "(INJECTED)" in log.read_text())
 
 
-def run(setting):
-    passed = True
-    traced = {job: calls_of(setting, job) for job in (Download, Start, Import)}
-    for title, faults in CAMPAIGNS.items():
-        jobs = []
-        for job, (names, counts) in traced.items():
-            struck = [
-                (call, fault.format(number))
-                for call, count in sorted(counts.items())
-                for number in range(1, count + 1)
-                for fault in faults
-            ]
-            if setting.few:
-                struck = setting.rng(title).sample(struck, len(struck) // 10)
-            jobs += [(job, lambda job=job, names=names, at=at: strike(setting, job, names, *at)) for at in struck]
-        passed = run_all(setting, title, jobs) and passed
-    return passed
+CAMPAIGNS = {
+    "a kill at each call": partial(make_jobs, ("signal=SIGKILL:when={}",)),
+    "each call failing": partial(make_jobs, ("error=EIO:when={}", "error=ENOSPC:when={}+")),
+}

@@ -32,7 +32,7 @@ class Skipped(Exception):
     """The campaign cannot be run here."""
 
 
-@dataclass
+@dataclass(eq=False)
 class Setting:
     """Where the programs are, where the campaigns work, and what makes a run repeatable."""
 
@@ -47,7 +47,7 @@ class Setting:
         return random.Random(f"{self.seed} {name}")
 
     def runs(self, number):
-        return max(3, number // 10) if self.few else number
+        return -(-number // 10) if self.few else number
 
 
 @dataclass
@@ -87,12 +87,17 @@ def run_all(setting, title, jobs):
     """Runs (job class, function) pairs side by side, prints the campaign's line, and returns
     whether it passed."""
     begin = time.monotonic()
+    outcomes = []
     with ThreadPoolExecutor(SLEEPERS) as sleepers, ThreadPoolExecutor(WORKERS) as workers:
         running = [(sleepers if job.sleeps else workers).submit(run) for job, run in jobs]
-        outcomes = []
-        for future in running:
-            result = future.result()
-            outcomes += result if isinstance(result, list) else [result]
+        try:
+            for future in running:
+                result = future.result()
+                outcomes += result if isinstance(result, list) else [result]
+        except BaseException:  # the campaign itself failed, or was broken off
+            for future in running:
+                future.cancel()
+            raise
     hits = sum(outcome.hit for outcome in outcomes)
     sums = {
         name: sum(getattr(outcome, name) for outcome in outcomes)
@@ -246,15 +251,17 @@ class Program:
         return self.status() == -signal.SIGKILL
 
     def settle(self):
-        """Waits until it ends or does nothing any more: it waits for the operator."""
+        """Waits until it ends or does nothing any more: it waits for the operator. Returns the
+        moment when it last did something."""
         ticks, since, begin = None, time.monotonic(), time.monotonic()
         while self.runs() and time.monotonic() - begin < PATIENCE:
             now = self._ticks()
             if now != ticks or now is None:
                 ticks, since = now, time.monotonic()
             elif time.monotonic() - since > 1:
-                return
+                break
             time.sleep(0.05)
+        return since
 
     def _ticks(self):
         """The processor time of the program; under strace that is its child."""
@@ -504,7 +511,9 @@ class Job:
         """Gives up what `prepare` made."""
 
     def end(self):
+        """Returns the moment when it was over."""
         self.program.wait()
+        return time.monotonic()
 
     def failed(self):
         return self.program.status() != 0
@@ -549,8 +558,9 @@ class Start(Job):
         self.program = self.station.start(prefix)
 
     def end(self):
-        self.program.settle()
+        over = self.program.settle()
         self.program.kill()
+        return over
 
     def failed(self):
         return self.station.store.stat().st_ino == self.file_before  # not compacted
@@ -647,7 +657,7 @@ class Download(Job):
             outcome.broken += faults
             new = rows - self.old.rows
         outcome.lost += sum(new[touch] == 0 for touch in touches if touch not in unread)
-        outcome.doubled = sum((new - allowed).values())
+        outcome.doubled = sum(max(0, new[touch] - allowed[touch]) for touch in allowed)
 
     @staticmethod
     def announced(program, touches):

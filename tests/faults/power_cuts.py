@@ -8,31 +8,20 @@ there: else the cut took nothing away and shows nothing.
 """
 
 import time
-from collections import Counter
+from functools import partial
 
-from common import Disk, Download, Outcome, Skipped, Station, run_all
+from common import Disk, Download, Outcome, Station
 
-DOWNLOADS = {"ext4": 10, "xfs": 6}
 CUTS = 4  # of each download
 LONGEST = 4  # seconds after the erase
 
 
-def run(setting):
-    passed = True
-    for kind, downloads in DOWNLOADS.items():
-        title = f"power cuts on {kind}"
-        try:
-            Disk.require(setting, kind)
-        except Skipped as reason:
-            print(f"{title}: skipped: {reason}", flush=True)
-            passed = None if passed else passed
-            continue
-        jobs = [
-            (Download, lambda number=number: cut(setting, kind, number))
-            for number in range(setting.runs(downloads))
-        ]
-        passed = run_all(setting, title, jobs) and passed
-    return passed
+def make_jobs(kind, downloads, setting):
+    Disk.require(setting, kind)
+    return [
+        (Download, partial(cut, setting, kind, number))
+        for number in range(setting.runs(downloads))
+    ]
 
 
 def cut(setting, kind, number):
@@ -69,5 +58,11 @@ def judge(run, kind, copy, label):
         new = run.check_store(outcome, run.reader.touches, station)
     outcome.stored = sum(new.values())
     outcome.lost += sum(new[touch] == 0 for touch in run.reader.touches)
-    outcome.doubled = sum((new - Counter(run.reader.touches)).values())
+    outcome.doubled = sum(new[touch] > 1 for touch in run.reader.touches)
     return outcome
+
+
+CAMPAIGNS = {
+    "power cuts on ext4": partial(make_jobs, "ext4", 10),
+    "power cuts on xfs": partial(make_jobs, "xfs", 6),
+}
