@@ -8,6 +8,7 @@ and no code stands twice in one reader.
 import json
 import os
 import random
+import re
 import shutil
 import signal
 import subprocess
@@ -111,12 +112,16 @@ def run_all(setting, title, jobs):
         flush=True,
     )
     faulty = [outcome for outcome in outcomes if outcome.at_fault()]
-    for outcome in faulty[:20]:
-        told = [f"{outcome.lost} lost"] * bool(outcome.lost)
-        told += [f"{outcome.doubled} doubled"] * bool(outcome.doubled)
-        print(f"    {outcome.label}: {', '.join(told + outcome.broken)}", flush=True)
-    if len(faulty) > 20:
-        print(f"    and {len(faulty) - 20} more", flush=True)
+    shown = Counter()
+    for outcome in faulty:
+        kind = re.sub(r"[\d.]+", "", outcome.label)
+        shown[kind] += 1
+        if shown[kind] <= 4:
+            told = [f"{outcome.lost} lost"] * bool(outcome.lost)
+            told += [f"{outcome.doubled} doubled"] * bool(outcome.doubled)
+            print(f"    {outcome.label}: {', '.join(told + outcome.broken)}", flush=True)
+    if faulty:
+        print(f"    {len(faulty)} runs at fault, of each kind at most 4 are shown", flush=True)
     if hits == 0:
         print("    no fault took effect, so nothing was shown", flush=True)
     return hits > 0 and not faulty
