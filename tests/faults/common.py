@@ -256,17 +256,15 @@ class Program:
         return self.status() == -signal.SIGKILL
 
     def settle(self):
-        """Waits until it ends or does nothing any more: it waits for the operator. Returns the
-        moment when it last did something."""
+        """Waits until it ends or does nothing any more: it waits for the operator."""
         ticks, since, begin = None, time.monotonic(), time.monotonic()
         while self.runs() and time.monotonic() - begin < PATIENCE:
             now = self._ticks()
             if now != ticks or now is None:
                 ticks, since = now, time.monotonic()
             elif time.monotonic() - since > 1:
-                break
+                return
             time.sleep(0.05)
-        return since
 
     def _ticks(self):
         """The processor time of the program; under strace that is its child."""
@@ -516,9 +514,7 @@ class Job:
         """Gives up what `prepare` made."""
 
     def end(self):
-        """Returns the moment when it was over."""
         self.program.wait()
-        return time.monotonic()
 
     def failed(self):
         return self.program.status() != 0
@@ -563,9 +559,8 @@ class Start(Job):
         self.program = self.station.start(prefix)
 
     def end(self):
-        over = self.program.settle()
+        self.program.settle()
         self.program.kill()
-        return over
 
     def failed(self):
         return self.station.store.stat().st_ino == self.file_before  # not compacted

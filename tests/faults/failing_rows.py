@@ -18,9 +18,8 @@ class RefusedRow(Download):
         super().begin(prefix)
 
     def end(self):
-        over = super().end()
+        super().end()
         ask_store(self.station.store, "DROP TRIGGER refuse;")
-        return over
 
 
 def make_jobs(setting):

@@ -22,17 +22,19 @@ def make_jobs(setting):
 
 
 def undisturbed(setting, job):
-    """How long the job takes, and how many changes are seen in its folder."""
+    """When the last change in its folder comes, and how many there are."""
     with job(setting, f"undisturbed {job.__name__}") as run:
-        begin = time.monotonic()
         run.begin()
-        changes = await_changes(run, None, 12)
-        return run.end() - begin, changes
+        measured = await_changes(run, None, 12)
+        run.end()
+        return measured
 
 
 def await_changes(run, wanted, longest):
-    """Waits for so many changes in the folder, `longest` seconds at most; returns how many came."""
-    seen, changes, begin = None, -1, time.monotonic()
+    """Waits for so many changes in the folder, `longest` seconds at most. Returns after how many
+    seconds the last one came, and how many came."""
+    begin = time.monotonic()
+    seen, changes, last = None, -1, 0
     while run.program.runs() and changes != wanted and time.monotonic() - begin < longest:
         time.sleep(0.001)
         try:
@@ -41,8 +43,8 @@ def await_changes(run, wanted, longest):
         except FileNotFoundError:  # it went while it was looked at
             now = None
         if now != seen:
-            seen, changes = now, changes + 1
-    return changes
+            seen, changes, last = now, changes + 1, time.monotonic() - begin
+    return last, changes
 
 
 def kill(setting, job, number, longest, changes):
