@@ -10,7 +10,7 @@ import re
 from collections import Counter
 from functools import cache, partial
 
-from common import Download, Import, Start
+from common import Download, Import, MakeStore, Start
 
 CALLS = (
     "write,writev,pwrite64,pwritev,fsync,fdatasync,sync_file_range,"
@@ -21,7 +21,7 @@ CALLS = (
 def make_jobs(faults, setting):
     jobs = [
         (job, partial(strike, setting, job, names, call, fault.format(number)))
-        for job in (Download, Start, Import)
+        for job in (Download, Start, Import, MakeStore)
         for names, counts in [calls_of(setting, job)]
         for call, count in sorted(counts.items())
         for number in range(1, count + 1)

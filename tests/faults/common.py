@@ -88,25 +88,26 @@ def run_all(setting, title, jobs):
     """Runs (job class, function) pairs side by side, prints the campaign's line, and returns
     whether it passed."""
     begin = time.monotonic()
-    outcomes = []
+    outcomes, hits = [], Counter()
     with ThreadPoolExecutor(SLEEPERS) as sleepers, ThreadPoolExecutor(WORKERS) as workers:
         running = [(sleepers if job.sleeps else workers).submit(run) for job, run in jobs]
         try:
-            for future in running:
+            for (job, _), future in zip(jobs, running):
                 result = future.result()
-                outcomes += result if isinstance(result, list) else [result]
+                results = result if isinstance(result, list) else [result]
+                outcomes += results
+                hits[job.__name__] += sum(outcome.hit for outcome in results)
         except BaseException:  # the campaign itself failed, or was broken off
             for future in running:
                 future.cancel()
             raise
-    hits = sum(outcome.hit for outcome in outcomes)
     sums = {
         name: sum(getattr(outcome, name) for outcome in outcomes)
         for name in ("stored", "kept", "lost", "doubled")
     }
     broken = sum(bool(outcome.broken) for outcome in outcomes)
     print(
-        f"{title}: {len(outcomes)} runs, {hits} hit, touches: {sums['stored']} stored, "
+        f"{title}: {len(outcomes)} runs, {hits.total()} hit, touches: {sums['stored']} stored, "
         f"{sums['kept']} kept in the reader, {sums['lost']} lost, {sums['doubled']} doubled; "
         f"{broken} otherwise at fault (seed {setting.seed}, {time.monotonic() - begin:.0f} s)",
         flush=True,
@@ -122,9 +123,10 @@ def run_all(setting, title, jobs):
             print(f"    {outcome.label}: {', '.join(told + outcome.broken)}", flush=True)
     if faulty:
         print(f"    {len(faulty)} runs at fault, of each kind at most 4 are shown", flush=True)
-    if hits == 0:
-        print("    no fault took effect, so nothing was shown", flush=True)
-    return hits > 0 and not faulty
+    missed = [name for name, number in hits.items() if number == 0]
+    if missed:
+        print(f"    no fault took effect on {', '.join(missed)}: nothing was shown", flush=True)
+    return not missed and not faulty
 
 
 class Reader:
@@ -308,6 +310,10 @@ class Station:
     def control(self, *arguments, prefix=()):
         return Program([*prefix, self.programs / "wardlockctl", *arguments], self.environment)
 
+    def make_store(self, prefix=()):
+        command = [*prefix, self.programs / "mkstore", "--demo", self.store]
+        return Program(command, self.environment)
+
     def download(self, device, prefix=()):
         return self.control("download", "--device", device, prefix=prefix)
 
@@ -356,13 +362,13 @@ def stored_rows(store):
 
 def make_templates(setting):
     """The stores that the jobs begin with, and the documents that they import."""
-    for name, old_rows in (("small", 60), ("big", 20000)):
+    for name, old_rows in (("new", 0), ("small", 60), ("big", 20000)):
         path = setting.work / f"{name}.mdb"
         subprocess.run([setting.programs / "mkstore", "--demo", path], check=True)
         ask_store(
             path,
             "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
-            f"WHERE i < {old_rows}) INSERT INTO tblEvents (dtDLDateTime, tPipeID, dtDateTime, "
+            f"LIMIT {old_rows}) INSERT INTO tblEvents (dtDLDateTime, tPipeID, dtDateTime, "
             "tButtonCode, tButtonName, tButtonDesc, wGroupType, tGroupName, tGroupDesc) SELECT "
             "45300, '0D0D0D0D', 45000 + i / 1440.0, printf('%06X', i), 'Unknown', '', 0, '', '' "
             "FROM n;",
@@ -612,8 +618,40 @@ class BigStart(Start):
     template = "big"  # so that many moments fall into the compaction
 
 
+class LinkedStart(BigStart):
+    """The store is a symbolic link, and must stay one."""
+
+    def prepare(self):
+        target = self.station.home / "elsewhere.mdb"
+        self.station.store.rename(target)
+        self.station.store.symlink_to(target)
+
+    def judge_store(self, outcome):
+        if not self.station.store.is_symlink():
+            outcome.broken.append("the link was replaced")
+        super().judge_store(outcome)
+
+
 class BigImport(Import):
     document = "big"
+
+
+class MakeStore(Job):
+    """The making of a store: a whole one, or none."""
+
+    template = "new"
+
+    def prepare(self):
+        self.station.store.unlink()
+
+    def begin(self, prefix=()):
+        self.program = self.station.make_store(prefix)
+
+    def judge_store(self, outcome):
+        if self.station.store.exists():
+            self.check_store(outcome)
+        elif not self.failed():
+            outcome.broken.append("success without a store")
 
 
 class Download(Job):
@@ -671,7 +709,7 @@ class Download(Job):
         try:
             for _ in range(3):  # a busy machine may be late
                 program = self.station.download(dock.device).wait()
-                allowed += self.announced(program, reader.touches)
+                allowed.update(self.announced(program, reader.touches))
                 if not dock.keeps():
                     return []
                 if not reader.erasable:

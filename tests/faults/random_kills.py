@@ -6,9 +6,9 @@ import os
 import time
 from functools import partial
 
-from common import BigImport, BigStart, Download
+from common import BigImport, BigStart, Download, LinkedStart
 
-RUNS = {Download: 60, BigStart: 60, BigImport: 60}
+RUNS = {Download: 60, BigStart: 60, LinkedStart: 20, BigImport: 60}
 SOON = 0.01  # seconds
 
 
@@ -25,7 +25,7 @@ def undisturbed(setting, job):
     """When the last change in its folder comes, and how many there are."""
     with job(setting, f"undisturbed {job.__name__}") as run:
         run.begin()
-        measured = await_changes(run, None, 12)
+        measured = await_changes(run, None, 9)
         run.end()
         return measured
 

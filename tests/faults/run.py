@@ -10,7 +10,7 @@ what came of the touches. What must hold, whatever happens:
 
 | campaign     | what strikes                                                                    |
 |--------------|---------------------------------------------------------------------------------|
-| random_kills | SIGKILL at a random moment of a download, a start, an import                    |
+| random_kills | SIGKILL at a random moment of a download, a start, an import                   |
 | calls        | a kill at each write, sync, rename and unlink of these; each of them failing    |
 | failing_rows | a row that the store refuses                                                    |
 | full_disks   | a disk with little or no room under these and under an export (needs root)      |
