@@ -1,0 +1,78 @@
+"""Faults of single calls: a kill at each write, sync, rename and unlink, and each of them failing.
+
+A first run under strace says which of these calls the job makes on its files, its folder and its
+serial line. Then each of them is struck in a run of its own: strace kills the program as it enters
+the call, or lets the call fail. A bad place of the disk (EIO) fails one call; a full disk (ENOSPC)
+goes on failing.
+"""
+
+import re
+from collections import Counter
+from functools import cache, partial
+
+from common import Download, Import, MakeStore, Start
+
+CALLS = (
+    "write,writev,pwrite64,pwritev,fsync,fdatasync,sync_file_range,"
+    "rename,renameat,renameat2,unlink,unlinkat"
+)
+
+
+def make_jobs(faults, setting):
+    jobs = [
+        (job, partial(strike, setting, job, names, call, fault.format(number)))
+        for job in (Download, Start, Import, MakeStore)
+        for names, counts in [calls_of(setting, job)]
+        for call, count in sorted(counts.items())
+        for number in range(1, count + 1)
+        for fault in faults
+    ]
+    return setting.rng(faults).sample(jobs, setting.runs(len(jobs)))
+
+
+def strace(log, *options):
+    return ["strace", "-f", "-y", "-qq", "-o", str(log), "-e", f"trace={CALLS}", *options]
+
+
+def narrowed(run, names):
+    """The options that narrow strace to these files of the job, its folder and its line."""
+    paths = [run.station.home, *(run.station.home / name for name in sorted(names))]
+    if isinstance(run, Download):
+        paths.append(run.dock.device)
+    return [option for path in paths for option in ("-P", str(path))]
+
+
+@cache
+def calls_of(setting, job):
+    """The names of the files that the job touches in its folder, and how often it makes each call
+    on them."""
+    with job(setting, f"traced {job.__name__}") as run:
+        log = run.folder / "trace"
+        run.begin(strace(log))
+        run.end()
+        names = set(re.findall(re.escape(f"{run.station.home}/") + r'([^/<>" ]+)', log.read_text()))
+    with job(setting, f"counted {job.__name__}") as run:
+        log = run.folder / "trace"
+        run.begin(strace(log, *narrowed(run, names)))
+        run.end()
+        # strace counts the calls of each thread apart.
+        made = Counter(re.findall(r"^(\d+) +(\w+)\(", log.read_text(), re.MULTILINE))
+    counts = Counter()
+    for (_, call), number in made.items():
+        counts[call] = max(counts[call], number)
+    return names, counts
+
+
+def strike(setting, job, names, call, fault):
+    with job(setting, f"{job.__name__} {call} {fault}") as run:
+        log = run.folder / "trace"
+        run.begin(strace(log, *narrowed(run, names), "-e", f"inject={call}:{fault}"))
+        run.end()
+        killed = run.program.killed() and not run.program.struck
+        return run.judge(killed or "(INJECTED)" in log.read_text())
+
+
+CAMPAIGNS = {
+    "a kill at each call": partial(make_jobs, ("signal=SIGKILL:when={}",)),
+    "each call failing": partial(make_jobs, ("error=EIO:when={}", "error=ENOSPC:when={}+")),
+}

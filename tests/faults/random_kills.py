@@ -1,0 +1,61 @@
+"""Kills at random moments: the program is gone between any two of its instructions. Every other kill
+follows soon on a change in the application folder, as a store is at work for few of the milliseconds
+that a job takes."""
+
+import os
+import time
+from functools import partial
+
+from common import BigImport, BigStart, Download, LinkedStart
+
+RUNS = {Download: 60, BigStart: 60, LinkedStart: 20, BigImport: 60}
+SOON = 0.01  # seconds
+
+
+def make_jobs(setting):
+    return [
+        (job, partial(kill, setting, job, number, *measured))
+        for job, runs in RUNS.items()
+        for measured in [undisturbed(setting, job)]
+        for number in range(setting.runs(runs))
+    ]
+
+
+def undisturbed(setting, job):
+    """When the last change in its folder comes, and how many there are."""
+    with job(setting, f"undisturbed {job.__name__}") as run:
+        run.begin()
+        measured = await_changes(run, None, 9)
+        run.end()
+        return measured
+
+
+def await_changes(run, wanted, longest):
+    """Waits for so many changes in the folder, `longest` seconds at most. Returns after how many
+    seconds the last one came, and how many came."""
+    begin = time.monotonic()
+    seen, changes, last = None, -1, 0
+    while run.program.runs() and changes != wanted and time.monotonic() - begin < longest:
+        time.sleep(0.001)
+        try:
+            files = os.scandir(run.station.home)
+            now = sorted((file.name, file.stat().st_mtime_ns) for file in files)
+        except FileNotFoundError:  # it went while it was looked at
+            now = None
+        if now != seen:
+            seen, changes, last = now, changes + 1, time.monotonic() - begin
+    return last, changes
+
+
+def kill(setting, job, number, longest, changes):
+    with job(setting, f"random kill of {job.__name__} {number}") as run:
+        run.begin()
+        if number % 2:
+            await_changes(run, run.rng.randrange(changes + 1), longest)
+            time.sleep(run.rng.uniform(0, SOON))
+        else:
+            time.sleep(run.rng.uniform(0, longest))
+        return run.judge(run.program.kill())
+
+
+CAMPAIGNS = {"random kills": make_jobs}
