@@ -297,7 +297,7 @@ private slots:
             return false;
         });
         dialog.exec();
-        QVERIFY(dialog.OK && !dialog.DockingDetected && !gWaitCancelled && !gCommActive);
+        QVERIFY(dialog.OK() && !dialog.DockingDetected && !gWaitCancelled && !gCommActive);
         QVERIFY(Now() > BeforeMidnight + DateTime::FromMilliseconds(1900));
     }
 
