@@ -176,9 +176,12 @@ bool MemoryDownload::RightReaderIsDocked() {
             m_confirmedId = docked.PipeID;
         return docked.PipeID == m_confirmedId;
     }
-    if (TellTheSame(m_readFrame, docked.FirstFrame))
+    // An erase whose reply was lost leaves the reader empty: then it does no harm to repeat it.
+    const bool sameReader = docked.PipeID == m_outcome.readerId;
+    if (TellTheSame(m_readFrame, docked.FirstFrame) ||
+        (sameReader && IsEmptyImage(docked.FirstFrame)))
         return true;
-    SayWhyNotErased(Translate(docked.PipeID == m_outcome.readerId
+    SayWhyNotErased(Translate(sameReader
                                   ? "The reader has been used since it was read. It was not erased."
                                   : "Another reader is in the station. It was not erased."));
     return false;

@@ -124,6 +124,12 @@ ImageEnd EndOf(const colPackets& packets, int recordCount) {
     return agrees ? ImageEnd::Sound : ImageEnd::CountDisagrees;
 }
 
+bool IsEmptyImage(const QByteArray& firstFrame) {
+    colPackets alone;
+    alone.Add(firstFrame).Tag = 1;
+    return RecordCountOf(firstFrame) == 0 && RecordsIn(alone) == 0;
+}
+
 bool TellTheSame(const QByteArray& firstFrame, const QByteArray& other) {
     const auto countAndReader = [](const QByteArray& frame) {
         return frame.mid(Wire::CountOffset, Wire::FirmwareOffset - Wire::CountOffset);

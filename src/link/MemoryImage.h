@@ -37,6 +37,8 @@ enum class ImageEnd {
 };
 ImageEnd EndOf(const colPackets& packets, int recordCount);
 
+/// True if the first frame says that there are no records, and holds none.
+bool IsEmptyImage(const QByteArray& firstFrame);
 /// True if two first frames tell of the same reader with the same count and records.
 bool TellTheSame(const QByteArray& firstFrame, const QByteArray& other);
 

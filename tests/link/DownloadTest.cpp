@@ -239,11 +239,13 @@ private slots:
             << QStringList{"Reader not detected. Check reader and try again.", EraseFailed,
                            ClockFailed}
             << 150;
+        QTest::newRow("erased, but nobody heard") << QByteArray("fault none") << QStringList{} << 0;
         QTest::newRow("put in again") << Taught + Touches(150) << QStringList{} << 0;
     }
     void ReaderExchanged() {
         QFETCH(QByteArray, reader);
-        Station station(Taught + Touches(150) + "refuse erase 1\npace 28800");
+        const QByteArray fault = reader == "fault none" ? "checksum erase\n" : "refuse erase 1\n";
+        Station station(Taught + Touches(150) + fault + "pace 28800");
         m_boxes.Answers = {MessageAnswer::Yes};
         m_boxes.Meanwhile = [&] {
             if (reader.contains('\n'))
