@@ -177,6 +177,8 @@ bool PrintReport(const DataReport& report, QPrinter& printer, int currentPage,
 
     const QString target = printer.outputFileName();
     const QTemporaryDir folder;
+    if (!folder.isValid())
+        PrintingFailed(printer, folder.errorString());
     const QString spool =
         folder.filePath(toFile ? QStringLiteral("job.pdf") : QStringLiteral("job"));
     printer.setOutputFileName(spool);
