@@ -46,9 +46,9 @@ void SaveSetting(const QString& application, const QString& section, const QStri
     settings.setValue(section + u'/' + key, value);
     settings.sync();
     const bool lost = settings.status() == QSettings::AccessError;
-    if (lost && !std::exchange(g_lost, lost) && g_settingsLost)
+    const bool wasLost = std::exchange(g_lost, lost);
+    if (lost && !wasLost && g_settingsLost)
         g_settingsLost(QDir::toNativeSeparators(settings.fileName()));
-    g_lost = lost;
 }
 
 void InstallSettingsLost(SettingsLost handler) {
