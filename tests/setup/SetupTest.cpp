@@ -335,7 +335,7 @@ private slots:
             report.ReaderId = hostile;
             QVERIFY(report.LoadTourHeader() && report.LoadTourPoints());
             QVERIFY(!report.LoadReaderEvents() && report.Buttons().empty());
-            QCOMPARE(home.TakeLog(), QString());
+            QCOMPARE(home.TakeLog(), "Wrong password for user type = 1");
             const QByteArray quoted = QString(hostile).replace('"', "\\\"").toUtf8();
             const QByteArray button = "{\"code\":\"00FFAA\",\"name\":\"" + quoted + "\"}";
             const QByteArray group = "{\"type\":\"site\",\"name\":\"" + quoted + "\",\"buttons\":[";
