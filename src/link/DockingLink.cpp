@@ -18,6 +18,8 @@ constexpr int AnswerPause = 500; ///< ms that the reader side is given after eac
 constexpr int LookAgainPause = 300;
 /// In this time a memory stream brings several frames.
 constexpr int QuietPause = 1000;
+/// The largest memory takes 150 seconds on the line. A line that never rests is not waited for.
+constexpr int MostQuietPauses = 160;
 
 /// The status byte tells success; a reply without one does not.
 bool Succeeded(const QByteArray& reply, bool received) {
@@ -185,13 +187,14 @@ bool DockingLink::ReaderWasRemoved() {
 }
 
 void DockingLink::AwaitQuietLine() {
-    std::int64_t seen = 0;
-    do {
+    for (int pause = 0; pause < MostQuietPauses; ++pause) {
         DoEvents();
-        seen = m_bytesSeen;
+        const std::int64_t seen = m_bytesSeen;
         Sleep(QuietPause);
         DoEvents();
-    } while (m_bytesSeen - seen > Wire::MostNoise);
+        if (m_bytesSeen - seen <= Wire::MostNoise || gWaitCancelled)
+            return;
+    }
 }
 
 bool DockingLink::DetectStation() {
