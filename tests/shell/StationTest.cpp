@@ -375,45 +375,42 @@ private slots:
         frmMain* main = MainWindow();
         const auto open = [main] {
             QStringList names;
-            for (const char* name : {"home", "download", "reports", "setup", "mnuToolsPipeOptions",
-                                     "mnuToolsClearPipe", "mnuToolsReaderFW", "mnuViewOptions"})
-                if (main->findChild<QAction*>(QString::fromLatin1(name))->isEnabled())
-                    names += QString::fromLatin1(name);
-            for (const auto& [page, button] : {std::pair("frmMDISetup", "cmdSetup_1"),
-                                               std::pair("frmMdiDownload", "cmdOnline_0"),
-                                               std::pair("frmMdiDownload", "cmdOnline_1")}) {
-                auto* found = Script::Find<QAbstractButton>(QString::fromLatin1(page),
-                                                            QString::fromLatin1(button));
-                if (found && found->isEnabled())
-                    names += QString::fromLatin1(button);
-            }
+            for (const QString name :
+                 {"home", "download", "reports", "setup", "mnuToolsPipeOptions",
+                  "mnuToolsClearPipe", "mnuToolsReaderFW", "mnuViewOptions"})
+                if (main->findChild<QAction*>(name)->isEnabled())
+                    names += name;
+            for (const QString name : {"cmdSetup_1", "cmdOnline_0", "cmdOnline_1"})
+                if (auto* button = main->findChild<QAbstractButton*>(name);
+                    button && button->isVisible() && button->isEnabled())
+                    names += name;
             return names.join(u' ');
         };
-        const auto choosePort = [&](const char* button, const QString& device) {
-            OverrideDevice(device);
+        const auto choosePort = [&](const char* button, bool docked) {
+            OverrideDevice(docked ? dock.Device() : QStringLiteral("/dev/no-such-dock"));
             Script script;
             script.Click("frmPrpComms", QString::fromLatin1(button));
-            if (button == QLatin1String("cmdSetupOK") && device != dock.Device())
+            if (!docked)
                 script.Answer("OK");
             script.Start();
             main->GoOptions();
             return open();
         };
         const QString tools = "mnuToolsPipeOptions mnuToolsClearPipe mnuToolsReaderFW ",
-                      options = "mnuViewOptions";
+                      options = "mnuViewOptions",
+                      download =
+                          "home reports setup " + tools + options + " cmdOnline_0 cmdOnline_1",
+                      setup = "home download reports " + tools + options + " cmdSetup_1";
         main->GoOnline();
-        const QString onDownload =
-            "home reports setup " + tools + options + " cmdOnline_0 cmdOnline_1";
-        QCOMPARE(open(), onDownload);
-        QCOMPARE(choosePort("cmdSetupCancel", dock.Device()), "home reports setup " + options);
+        QCOMPARE(open(), download);
+        QCOMPARE(choosePort("cmdSetupCancel", true), "home reports setup " + options);
         QCOMPARE(main->findChild<QLabel*>("panel1")->text(), "Status: Offline");
-        QCOMPARE(choosePort("cmdSetupOK", dock.Device()), onDownload);
+        QCOMPARE(choosePort("cmdSetupOK", true), download);
         main->GoSetup();
         Script::Find<QTabBar>("frmMDISetup", "tabSetup")->setCurrentIndex(3);
-        QCOMPARE(open(), "home download reports " + tools + options + " cmdSetup_1");
-        QCOMPARE(choosePort("cmdSetupOK", "/dev/no-such-dock"), "home reports " + options);
-        QCOMPARE(choosePort("cmdSetupOK", dock.Device()),
-                 "home download reports " + tools + options + " cmdSetup_1");
+        QCOMPARE(open(), setup);
+        QCOMPARE(choosePort("cmdSetupOK", false), "home reports " + options);
+        QCOMPARE(choosePort("cmdSetupOK", true), setup);
     }
 
     // Everything that the Tools menu does to the docked reader; the conversation is usable behind
