@@ -656,9 +656,8 @@ class MakeStore(Job):
 
 class Download(Job):
     """A download. A reader that still holds its touches after the fault is downloaded again: in the
-    end every touch must be stored. It may be there twice only if a program said that it had stored
-    it and not erased the reader (it lists the touches and ends with 1), or was killed when all of
-    them were stored and had no time to say so."""
+    end every touch must be stored. It may be there twice only if the program ended with 1 and said
+    that it was stored, or was killed when all were stored and had no time to say so."""
 
     sleeps = True
 
@@ -682,9 +681,9 @@ class Download(Job):
         touches = [touch for reader, _ in readers for touch in reader.touches]
         new = self.check_store(outcome, touches)
         outcome.stored = sum(new.values())
-        allowed = Counter(touches) + self.announced(self.program, touches)
-        unread = set()
+        allowed, unread = Counter(touches), set()
         for reader, keeps in readers:
+            allowed.update(self.announced(self.program, reader, new))
             if self.program.killed() and all(new[touch] for touch in reader.touches):
                 allowed.update(reader.touches)
             if keeps:
@@ -698,10 +697,16 @@ class Download(Job):
         outcome.doubled = sum(max(0, new[touch] - allowed[touch]) for touch in allowed)
 
     @staticmethod
-    def announced(program, touches):
+    def announced(program, reader, new):
+        """The touches of which a program that failed said that they are stored: those that it
+        listed, or those in the store if it complained with their number and that of the reader."""
         if program.status() == 0:
-            return Counter()
-        return Counter(touch for touch in touches if touch[2] in program.output)
+            return []
+        stored = [touch for touch in reader.touches if new[touch]]
+        numbers = re.findall(r"\d+", program.complaint)
+        if stored and (str(len(stored)), str(len(reader.touches))) in zip(numbers, numbers[1:]):
+            return stored
+        return [touch for touch in reader.touches if touch[2] in program.output]
 
     def download_again(self, reader, allowed, outcome):
         """Downloads the reader at a sound dock. Returns the touches that it holds after that."""
@@ -709,7 +714,7 @@ class Download(Job):
         try:
             for _ in range(3):  # a busy machine may be late
                 program = self.station.download(dock.device).wait()
-                allowed.update(self.announced(program, reader.touches))
+                allowed.update(self.announced(program, reader, Counter()))
                 if not dock.keeps():
                     return []
                 if not reader.erasable:

@@ -29,7 +29,9 @@ SCENARIOS = {
     "single bytes": lambda rng, frames: [f"single-byte {rng.randrange(500)}"],
     "no reader": lambda rng, frames: [f"no-reader {rng.randrange(frames)}"],
     "a transfer fault": lambda rng, frames: [f"transfer-fault {rng.randrange(frames)}"],
-    "a dock that vanishes": lambda rng, frames: [f"vanish-after-bytes {rng.randrange(FRAME * frames)}"],
+    "a dock that vanishes": lambda rng, frames: [
+        f"vanish-after-bytes {rng.randrange(FRAME * frames)}"
+    ],
     "noise before a frame": lambda rng, frames: [
         f"noise {rng.randrange(1, 400)} {rng.randrange(1, frames + 1)}"
     ],

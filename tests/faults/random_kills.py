@@ -1,6 +1,8 @@
-"""Kills at random moments: the program is gone between any two of its instructions. Every other kill
-follows soon on a change in the application folder, as a store is at work for few of the milliseconds
-that a job takes."""
+"""Kills at random moments: the program is gone between any two of its instructions.
+
+A store is at work for few of the milliseconds that a job takes. So every other kill follows soon
+on a change in the application folder.
+"""
 
 import os
 import time

@@ -7,24 +7,25 @@ what came of the touches. What must hold, whatever happens:
 - No touch is lost: it is in the store, or still in the reader.
 - None is doubled, unless a program said that it was stored and its reader not erased.
 - The store opens, the stock shell finds it sound, and old rows and definitions are still there.
+- What a program says it has imported, exported or made is there, and whole.
 
-| campaign     | what strikes                                                                    |
-|--------------|---------------------------------------------------------------------------------|
-| random_kills | SIGKILL at a random moment of a download, a start, an import                   |
-| calls        | a kill at each write, sync, rename and unlink of these; each of them failing    |
-| failing_rows | a row that the store refuses                                                    |
-| full_disks   | a disk with little or no room under these and under an export (needs root)      |
-| power_cuts   | what is on the disk at a moment after the confirmed erase, and no more (needs root) |
-| faulty_docks | 500 downloads at docks and lines that fail, with readers pulled and exchanged    |
+| campaign     | what strikes                                                                 |
+|--------------|------------------------------------------------------------------------------|
+| random_kills | SIGKILL at a random moment of a download, a start, an import                 |
+| calls        | a kill at each write, sync, rename and unlink of these and of the making of  |
+|              | a store; each of these calls failing                                         |
+| failing_rows | a row that the store refuses                                                 |
+| full_disks   | little or no room under a download, a start, an import, an export (as root)  |
+| power_cuts   | the power going just after the confirmed erase (as root)                     |
+| faulty_docks | 500 downloads at docks and lines that fail, with readers pulled or exchanged |
 
-Each prints a line: how many runs there were and in how many the fault took effect ("hit"), how many
-touches were stored and how many still in the reader just after the fault, how many were lost or
-doubled in the end (a reader that still holds its touches is downloaded again), and how many runs
-were otherwise at fault. The runs at fault follow, with what was found.
+Each prints a line: the runs, and those in which the fault took effect ("hit"); the touches that
+were stored and those still in the reader just after the fault; and what was lost or doubled in the
+end, after a reader that still held its touches was downloaded again. The runs at fault follow.
 
-The exit status is 1 if a campaign found a fault of the programs, or if its own faults took no effect.
-What cannot be run here is skipped, and counts neither way. The same seed gives the same faults; their
-moments are as exact as the machine. --few runs a tenth.
+The exit status is 1 if a campaign found a fault of the programs, or if it could not strike. What
+cannot be run here is skipped, and does not count as passed. The same seed gives the same faults;
+their moments are as exact as the machine. --few runs a tenth.
 """
 
 import argparse
@@ -56,8 +57,12 @@ def parse_arguments():
     parser.add_argument("--programs", type=Path, required=True, help=argparse.SUPPRESS)
     parser.add_argument("--seed", type=int, help="repeats the faults of an earlier run")
     parser.add_argument("--few", action="store_true", help="a tenth of the runs")
-    parser.add_argument("campaign", nargs="*", choices=[[], *MODULES])
-    return parser.parse_args()
+    parser.add_argument("campaigns", nargs="*", metavar="CAMPAIGN", help=", ".join(MODULES))
+    arguments = parser.parse_args()
+    for name in arguments.campaigns:
+        if name not in MODULES:
+            parser.error(f"there is no campaign {name}")
+    return arguments
 
 
 def clean_up(work):
@@ -78,7 +83,7 @@ def main():
     try:
         setting = Setting(arguments.programs.resolve(), work, seed, arguments.few)
         make_templates(setting)
-        for name in arguments.campaign or MODULES:
+        for name in arguments.campaigns or MODULES:
             for title, make_jobs in MODULES[name].CAMPAIGNS.items():
                 try:
                     passed = run_all(setting, title, make_jobs(setting))
