@@ -9,15 +9,6 @@
 
 namespace {
 
-/// The file's first bytes, from which with the password its key is made. Each compaction gives the
-/// store others.
-constexpr qint64 SaltBytes = 16;
-
-QByteArray SaltOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(SaltBytes) : QByteArray();
-}
-
 /// A copy of the store beside it, while it lives.
 class Trial {
 public:
@@ -34,12 +25,11 @@ public:
         return QFile::copy(m_storePath, m_path) &&
                (!withJournal || QFile::copy(JournalOf(m_storePath), JournalOf(m_path)));
     }
-    /// A sound copy with the salt of the store: a journal may bring a whole other file with it.
     bool IsSound(const QString& password) const {
         try {
             const auto copy =
                 std::make_shared<Engine>(m_path, password, Engine::Creation::MustExist);
-            return FirstFault(copy, Check::Full).isEmpty() && SaltOf(m_path) == SaltOf(m_storePath);
+            return FirstFault(copy, Check::Full).isEmpty();
         } catch (const RunTimeError&) {
             return false;
         }

@@ -318,6 +318,10 @@ private slots:
         });
         row("no such table", 10001, [=](auto& r) { open(r, "SELECT * FROM tblNone"); });
         row("no SQL", 10001, [](auto&) { gConn->Execute("DELETE everything"); });
+        row("a second statement", 10001,
+            [](auto&) { gConn->Execute("SELECT 1; DELETE FROM tblOperators"); });
+        row("a value too few", 10025, [](auto& r) { r.Open("SELECT ?, ?", {1}, *gConn); });
+        row("a value too many", 10025, [](auto&) { gConn->Execute("SELECT ?", {1, 2}); });
     }
     void WrongUse() {
         QFETCH(std::function<void(Recordset&)>, use);

@@ -3,6 +3,8 @@
 
 #include "Application.h"
 #include "Connection.h"
+#include "DeliveredStore.h"
+#include "FileReplacement.h"
 #include "ForkedChild.h"
 #include "InstanceLock.h"
 #include "Recordset.h"
@@ -16,8 +18,10 @@
 #include <QStandardPaths>
 #include <QTest>
 
+#include <csignal>
 #include <random>
 #include <sqlcipher/sqlite3.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -242,6 +246,31 @@ private slots:
         QVERIFY(!QFile::exists(folder + "/temp.mdb"));
     }
 
+    // The disk has no room for all of it; or somebody else makes a file of that name meanwhile.
+    void AStoreIsMadeWholeOrNotAtAll() {
+        const TestHome home(TestHome::NoStore);
+        QVERIFY(QDir().mkdir(home.File("made")));
+        const QString path = home.File("made/main.mdb");
+        rlimit before{};
+        getrlimit(RLIMIT_FSIZE, &before);
+        const auto handler = signal(SIGXFSZ, SIG_IGN);
+        const rlimit small{2500, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        const int error = ErrorOf([&] { MakeDeliveredStore(path, StoreContent::Demo); });
+        const int bare = ErrorOf([&] { CreateStoreFile(path, StorePassword); });
+        setrlimit(RLIMIT_FSIZE, &before);
+        signal(SIGXFSZ, handler);
+        QVERIFY(error != 0 && bare != 0);
+        QCOMPARE(QDir(home.File("made")).entryList(QDir::Files), QStringList());
+        MakeDeliveredStore(path, StoreContent::Demo);
+        QVERIFY(ErrorOf([&] { MakeDeliveredStore(path, StoreContent::Empty); }) != 0);
+        const QByteArray whole = BytesOf(path);
+        Write(home.File("made/other"), "other");
+        QVERIFY(ErrorOf([&] { PlaceNewFile(home.File("made/other"), path); }) != 0);
+        QVERIFY(BytesOf(path) == whole && BytesOf(home.File("made/other")) == "other");
+        QCOMPARE(QDir(home.File("made")).entryList(QDir::Files).size(), 2);
+    }
+
     // A program is killed in mid-transaction; then somebody puts a backup in the store's place.
     void JournalOfAnotherFile_data() {
         QTest::addColumn<bool>("sameSession");
@@ -392,6 +421,7 @@ private slots:
     // Every download that was reported done is whole; one that was not is whole or not there.
     void DownloadMayBeKilled() {
         const TestHome home(TestHome::DemoSite);
+        QCOMPARE(RowsOf("PRAGMA synchronous"), QStringList("3")); // the folder, too
         TestHome::Close();
         constexpr int rowsEach = 500;
         int stored = 0, halfDone = 0;
