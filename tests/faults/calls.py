@@ -10,7 +10,7 @@ import re
 from collections import Counter
 from functools import cache, partial
 
-from common import Download, Import, MakeStore, Start
+from jobs import Download, Import, MakeStore, Start
 
 CALLS = (
     "write,writev,pwrite64,pwritev,fsync,fdatasync,sync_file_range,"

@@ -2,7 +2,8 @@
 
 from functools import partial
 
-from common import Download, ask_store
+from jobs import Download
+from store import ask_store
 
 RUNS = 16
 

@@ -6,7 +6,8 @@ import time
 from datetime import datetime, timedelta
 from functools import partial
 
-from common import FRAME, Dock, Download, Reader
+from dock import FRAME, Dock, Reader
+from jobs import Download
 
 DOWNLOADS = 500
 LONGEST = 8  # seconds that a download takes

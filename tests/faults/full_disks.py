@@ -2,7 +2,8 @@
 
 from functools import partial
 
-from common import Disk, Download, Export, Import, Start
+from disk import Disk
+from jobs import Download, Export, Import, Start
 
 # How often, and with how many bytes free at most.
 RUNS = {

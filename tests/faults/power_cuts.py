@@ -10,7 +10,10 @@ there: else the cut took nothing away and shows nothing.
 import time
 from functools import partial
 
-from common import Disk, Download, Outcome, Station
+from campaign import Outcome
+from disk import Disk
+from jobs import Download
+from station import Station
 
 CUTS = 4  # of each download
 LONGEST = 4  # seconds after the erase

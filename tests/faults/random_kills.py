@@ -8,7 +8,7 @@ import os
 import time
 from functools import partial
 
-from common import BigImport, BigStart, Download, LinkedStart
+from jobs import BigImport, BigStart, Download, LinkedStart
 
 RUNS = {Download: 60, BigStart: 60, LinkedStart: 20, BigImport: 60}
 SOON = 0.01  # seconds

@@ -44,7 +44,8 @@ import faulty_docks
 import full_disks
 import power_cuts
 import random_kills
-from common import Setting, Skipped, make_templates, run_all
+from campaign import Setting, Skipped, run_all
+from templates import make_templates
 
 MODULES = {
     module.__name__: module

@@ -1,0 +1,98 @@
+"""A campaign: its setting, its runs side by side, and the line that it prints.
+
+A touch is (reader, minute, code): the minute counts from 30 December 1899, as the store's dates do,
+and no code stands twice in one reader.
+"""
+
+import random
+import re
+import time
+from collections import Counter
+from concurrent.futures import ThreadPoolExecutor
+from dataclasses import dataclass, field
+from pathlib import Path
+
+SLEEPERS, WORKERS = 36, 3  # a download mostly waits for the dock; the other jobs are at work
+
+
+class Skipped(Exception):
+    """The campaign cannot be run here."""
+
+
+@dataclass(eq=False)
+class Setting:
+    """Where the programs are, where the campaigns work, and what makes a run repeatable."""
+
+    programs: Path
+    work: Path
+    seed: int
+    few: bool = False  # a tenth of the runs
+    templates: dict = field(default_factory=dict)
+    documents: dict = field(default_factory=dict)
+
+    def rng(self, *name):
+        return random.Random(f"{self.seed} {name}")
+
+    def runs(self, number):
+        return -(-number // 10) if self.few else number
+
+
+@dataclass
+class Outcome:
+    """What one run came to. `broken` says what else no fault may do."""
+
+    label: str
+    hit: bool = False
+    stored: int = 0
+    kept: int = 0
+    lost: int = 0
+    doubled: int = 0
+    broken: list = field(default_factory=list)
+
+    def at_fault(self):
+        return self.lost or self.doubled or self.broken
+
+
+def run_all(setting, title, jobs):
+    """Runs (job class, function) pairs side by side, prints the campaign's line, and returns
+    whether it passed."""
+    begin = time.monotonic()
+    outcomes, hits = [], Counter()
+    with ThreadPoolExecutor(SLEEPERS) as sleepers, ThreadPoolExecutor(WORKERS) as workers:
+        running = [(sleepers if job.sleeps else workers).submit(run) for job, run in jobs]
+        try:
+            for (job, _), future in zip(jobs, running):
+                result = future.result()
+                results = result if isinstance(result, list) else [result]
+                outcomes += results
+                hits[job.__name__] += sum(outcome.hit for outcome in results)
+        except BaseException:  # the campaign itself failed, or was broken off
+            for future in running:
+                future.cancel()
+            raise
+    sums = {
+        name: sum(getattr(outcome, name) for outcome in outcomes)
+        for name in ("stored", "kept", "lost", "doubled")
+    }
+    broken = sum(bool(outcome.broken) for outcome in outcomes)
+    print(
+        f"{title}: {len(outcomes)} runs, {hits.total()} hit, touches: {sums['stored']} stored, "
+        f"{sums['kept']} kept in the reader, {sums['lost']} lost, {sums['doubled']} doubled; "
+        f"{broken} otherwise at fault (seed {setting.seed}, {time.monotonic() - begin:.0f} s)",
+        flush=True,
+    )
+    faulty = [outcome for outcome in outcomes if outcome.at_fault()]
+    shown = Counter()
+    for outcome in faulty:
+        kind = re.sub(r"[\d.]+", "", outcome.label)
+        shown[kind] += 1
+        if shown[kind] <= 4:
+            told = [f"{outcome.lost} lost"] * bool(outcome.lost)
+            told += [f"{outcome.doubled} doubled"] * bool(outcome.doubled)
+            print(f"    {outcome.label}: {', '.join(told + outcome.broken)}", flush=True)
+    if faulty:
+        print(f"    {len(faulty)} runs at fault, of each kind at most 4 are shown", flush=True)
+    missed = [name for name, number in hits.items() if number == 0]
+    if missed:
+        print(f"    no fault took effect on {', '.join(missed)}: nothing was shown", flush=True)
+    return not missed and not faulty

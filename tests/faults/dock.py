@@ -1,0 +1,93 @@
+"""Readers, and docks with a reader in them."""
+
+import json
+import subprocess
+from contextlib import suppress
+from datetime import datetime, timedelta
+
+TAUGHT_READER = "4B5831A7"  # the demonstration store knows it
+EPOCH = datetime(1899, 12, 30)
+FRAME = 252  # bytes of a memory frame
+
+
+class Reader:
+    """A guard's reader and what it holds."""
+
+    erasable = True  # a memory that cannot be read to its end must not be erased
+
+    def __init__(self, rng, touches, identifier=None):
+        self.identifier = identifier or rng.choice(
+            [TAUGHT_READER, f"{rng.randrange(1, 1 << 32):08X}"]
+        )
+        moment = datetime(2026, 1, rng.randrange(1, 28), rng.randrange(24), rng.randrange(60))
+        self.touches, self.records = [], []
+        for code in rng.sample(range(1 << 16, 1 << 24), touches):
+            self.touch(moment, f"{code:06X}")
+            moment += timedelta(minutes=rng.randrange(1, 15))
+
+    def touch(self, moment, code):
+        minute = round((moment - EPOCH).total_seconds() / 60)
+        self.touches.append((self.identifier, minute, code))
+        self.records.append(f"touch {moment:%Y-%m-%d %H:%M} {code}")
+
+    def scenario(self, faults=()):
+        return "\n".join([f"reader {self.identifier}", *self.records, *faults, ""])
+
+
+class Dock:
+    """docksim with a reader in it."""
+
+    def __init__(self, setting, folder, reader, faults=()):
+        folder.mkdir(parents=True, exist_ok=True)
+        scenario = folder / "scenario.txt"
+        scenario.write_text(reader.scenario(faults))
+        self.reader, self.folder = reader, folder
+        self.complaints = folder / "docksim.err"
+        with self.complaints.open("w") as complaints:
+            self.process = subprocess.Popen(
+                [setting.programs / "docksim", "--scenario", scenario],
+                stdin=subprocess.PIPE,
+                stdout=subprocess.PIPE,
+                stderr=complaints,
+                text=True,
+            )
+        self.device = self.process.stdout.readline().strip()
+        if not self.device:
+            raise RuntimeError(f"docksim: {self.complaints.read_text()}")
+
+    def tell(self, *lines):
+        with suppress(BrokenPipeError):  # the device may have vanished, as it was told to
+            self.process.stdin.write("".join(line + "\n" for line in lines))
+            self.process.stdin.flush()
+
+    def state(self, *then):
+        """The state, and `then` obeyed right after it; None if the device has vanished."""
+        self.tell("state", *then)
+        line = self.process.stdout.readline()
+        return json.loads(line) if line else None
+
+    def keeps(self, *then):
+        """Whether the reader still holds its touches: it is erased whole or not at all, and
+        never after its device has vanished in the middle of the reading."""
+        state = self.state(*then)
+        return state is None or state["records"] > 0
+
+    def exchange(self, reader):
+        """Puts another reader in; returns whether the one taken out still holds its touches."""
+        scenario = self.folder / "other.txt"
+        scenario.write_text(reader.scenario())
+        self.reader = reader
+        return self.keeps("remove", f"load {scenario}")
+
+    def close(self):
+        self.tell("quit")
+        try:
+            self.process.wait(10)
+        except subprocess.TimeoutExpired:
+            self.process.kill()
+            self.process.wait()
+        with suppress(BrokenPipeError):
+            self.process.stdin.close()
+        self.process.stdout.close()
+        if self.complaints.read_text():  # a fault that was refused would show nothing
+            raise RuntimeError(f"docksim: {self.complaints.read_text()}")
