@@ -24,6 +24,10 @@
         <translation>Sie wird auf dem Computer %2:s benutzt, von %0:s (Prozess %1:s).</translation>
     </message>
     <message>
+        <source>The touches are stored, but the disk reported a failure. The reader was not erased.</source>
+        <translation>Die Kontakte sind gespeichert, aber der Datenträger meldete einen Fehler. Der Leser wurde nicht gelöscht.</translation>
+    </message>
+    <message>
         <source>The file is not there.</source>
         <translation>Die Datei ist nicht vorhanden.</translation>
     </message>

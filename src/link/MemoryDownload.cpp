@@ -83,8 +83,11 @@ bool MemoryDownload::Store() {
     });
     if (m_outcome.stored)
         return true;
-    ShowText(Translate("The touches could not be stored. The reader was not erased.") + u'\n' +
-             Translate("Touches stored: ") +
+    const bool all = m_outcome.rowsStored == static_cast<int>(m_outcome.touches.size());
+    ShowText(Translate(all ? "The touches are stored, but the disk reported a failure. The reader "
+                             "was not erased."
+                           : "The touches could not be stored. The reader was not erased.") +
+             u'\n' + Translate("Touches stored: ") +
              QStringLiteral("%1 / %2").arg(m_outcome.rowsStored).arg(m_outcome.touches.size()));
     SayWhyNotErased(m_text);
     return false;
