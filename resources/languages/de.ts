@@ -28,6 +28,14 @@
         <translation>Die Kontakte sind gespeichert, aber der Datenträger meldete einen Fehler. Der Leser wurde nicht gelöscht.</translation>
     </message>
     <message>
+        <source>The disk or the network reported a failure. Please check it, and try again.</source>
+        <translation>Der Datenträger oder das Netz meldete einen Fehler. Bitte prüfen und noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The database is damaged. The reader was not erased.</source>
+        <translation>Die Datenbank ist beschädigt. Der Leser wurde nicht gelöscht.</translation>
+    </message>
+    <message>
         <source>The file is not there.</source>
         <translation>Die Datei ist nicht vorhanden.</translation>
     </message>

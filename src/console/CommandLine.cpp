@@ -240,7 +240,11 @@ QString UsageText() {
         "store; else the environment variable WARDLOCK_HOME or the program's own folder. The\n"
         "operator's password is taken from the environment variable WARDLOCK_PASSWORD. The reader\n"
         "and setup commands are the master's.\n"
-        "Options may stand before or behind the command.\n"
+        "Options may stand before or after the command.\n"
+        "\n"
+        "A docking station that does not answer is given up after 3 seconds; one that falls "
+        "silent\n"
+        "later, after at most 15.\n"
         "\n"
         "exit status: 0 all done, 1 not or not all done, 2 wrong usage\n");
 }

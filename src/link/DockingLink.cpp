@@ -10,6 +10,8 @@
 #include "mTranslations.h"
 #include "mWardlock.h"
 
+#include <QScopeGuard>
+
 namespace {
 
 const QString PortKey = QStringLiteral("ComPort");
@@ -187,6 +189,8 @@ bool DockingLink::ReaderWasRemoved() {
 }
 
 void DockingLink::AwaitQuietLine() {
+    m_waitEnd = MillisecondsRunning(); // so that a window can be closed meanwhile
+    const auto ended = qScopeGuard([this] { m_waitEnd.reset(); });
     for (int pause = 0; pause < MostQuietPauses; ++pause) {
         DoEvents();
         const std::int64_t seen = m_bytesSeen;

@@ -144,8 +144,7 @@ void MemoryDownload::EraseUntilDone(bool& succeeded) {
 
 bool MemoryDownload::MayErase() {
     if (gStoreDamaged) {
-        m_saidWhyNotErased = true;
-        TellOfDamage();
+        SayWhyNotErased(Translate("The database is damaged. The reader was not erased."));
         return false;
     }
     switch (m_imageEnd) {

@@ -147,15 +147,18 @@ bool MemoryTransfer::MayBeFirst(const QByteArray& frame) const {
     const int count = RecordCountOf(frame);
     if (count < 0)
         return count == NoValidMemory && noise == 0;
+    const bool marker = count == 0 || BeginsWithMarker(frame);
+    // To name a reader stores and erases nothing.
+    if (FirstFrameMustDo() && noise == 0 && marker)
+        return true;
     colPackets alone;
     alone.Add(frame).Tag = 1;
     const bool tellsAll = count <= Wire::FirstFrameRecords;
     if (RecordsIn(alone) != std::min(count, Wire::FirstFrameRecords) &&
         (tellsAll || FirstFrameMustDo()))
         return false;
-    const bool marker = count == 0 || BeginsWithMarker(frame);
     if (FirstFrameMustDo())
-        return noise == 0 ? marker || tellsAll : marker && tellsAll;
+        return noise == 0 ? tellsAll : marker && tellsAll;
     return marker;
 }
 
@@ -171,10 +174,12 @@ MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray&
     m_firstFrame = frame;
     m_lostMemoryFrames = m_link.InBuffer().LostMemoryFrames();
     m_recordCount = RecordCountOf(frame);
-    if (m_recordCount < 0)
+    if (m_recordCount == NoValidMemory)
         return Failed;
     if (GetIDMode)
         return Complete;
+    if (m_recordCount < 0) // no such memory can be read to an end
+        return Failed;
     m_view.ShowReaderId(m_pipeId);
     m_frameTotal = FramesFor(m_recordCount);
     return Running;

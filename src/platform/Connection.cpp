@@ -175,6 +175,15 @@ void CreateStoreFile(const QString& path, const QString& password) {
 }
 
 void CompactDatabase(const QString& source, const QString& destination) {
+    Connection connection;
+    connection.Open(source);
+    const auto& engine = connection.OpenEngine();
+    // The check reads what the copying reads again. A page that is still there need not be
+    // decrypted a second time.
+    RunOn(engine, CacheForTwoPasses);
+    const QString fault = connection.QuickCheck();
+    if (!fault.isEmpty())
+        throw RunTimeError(RunTimeErrorNumber::StoreEngine + SQLITE_CORRUPT, fault);
     const auto target = PartsOf(destination);
     // The engine attaches only a file that is there; an empty one is a new store to it.
     QFile file(target.value(SourceProperty));
@@ -182,15 +191,6 @@ void CompactDatabase(const QString& source, const QString& destination) {
         throw RunTimeError(RunTimeErrorNumber::FileNotFound,
                            file.fileName() + QStringLiteral(": ") + file.errorString());
     file.close();
-    Connection connection;
-    connection.Open(source);
-    const auto& engine = connection.OpenEngine();
-    // The check reads what the copying reads again. A page that is still there need not be decrypted
-    // a second time.
-    RunOn(engine, CacheForTwoPasses);
-    const QString fault = connection.QuickCheck();
-    if (!fault.isEmpty())
-        throw RunTimeError(RunTimeErrorNumber::StoreEngine + SQLITE_CORRUPT, fault);
     RunOn(engine, "ATTACH DATABASE ? AS compacted KEY ?",
           {target.value(SourceProperty), target.value(PasswordProperty)});
     // The copy is worthless until it is complete, so it needs neither a journal nor a sync a step;

@@ -6,8 +6,22 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QtEndian>
 
 namespace {
+
+/// A page of the store's format.
+constexpr qint64 PageBytes = 1024;
+
+/// How many pages the store had when the transaction of a journal began, as its head says after its
+/// magic number, the count of records and a random number; 0 where there is no head.
+qint64 PagesBefore(const QString& journalPath) {
+    QFile file(journalPath);
+    const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(20) : QByteArray();
+    if (head.size() < 20 || !head.startsWith("\xd9\xd5\x05\xf9\x20\xa1\x63\xd7"))
+        return 0;
+    return qFromBigEndian<quint32>(head.constData() + 16);
+}
 
 /// A copy of the store beside it, while it lives.
 class Trial {
@@ -52,11 +66,11 @@ QString JournalOf(const QString& storePath) { return storePath + QStringLiteral(
 QString SetForeignJournalAside(const QString& storePath, const QString& password) {
     const QFileInfo store(storePath);
     const QString path = store.canonicalFilePath();
-    if (QFileInfo(JournalOf(path)).size() == 0)
-        return {};
     Trial trial(path);
-    if (!trial.Copy(true) || trial.IsSound(password) || !trial.Copy(false) ||
-        !trial.IsSound(password))
+    if (QFileInfo(JournalOf(path)).size() == 0 || !trial.Copy(true))
+        return {};
+    const bool tooShort = store.size() < PagesBefore(JournalOf(path)) * PageBytes;
+    if ((!tooShort && trial.IsSound(password)) || !trial.Copy(false) || !trial.IsSound(password))
         return {};
     const QString aside = JournalOf(path) + u'.' +
                           QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QRandomGenerator>
 
+#include <cerrno>
+
 namespace {
 
 /// Beside the target, for only within a folder can one file take another's place at once.
@@ -17,19 +19,28 @@ QString PartPath(const QFileInfo& target) {
             .arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0')));
 }
 
+/// Through a symbolic link, to the file that it means, which need not be there.
+QFileInfo FileMeantBy(const QString& path) {
+    const QFileInfo given(path);
+    if (given.exists())
+        return QFileInfo(given.canonicalFilePath());
+    return given.isSymLink() ? QFileInfo(given.symLinkTarget()) : given;
+}
+
+bool IsRefusal(int error) { return error == EACCES || error == EPERM; }
+
 } // namespace
 
 OutputFile::OutputFile(const QString& path) {
-    const QFileInfo given(path);
-    // Through a symbolic link to the file that it means.
-    const QFileInfo target(given.exists() ? given.canonicalFilePath() : path);
+    const QFileInfo target = FileMeantBy(path);
     m_target = target.filePath();
     m_replaces = !target.exists() || target.isFile();
     if (m_replaces) {
         m_device = std::make_unique<QFile>(PartPath(target));
         if (m_device->open(QIODevice::WriteOnly | QIODevice::NewOnly))
             return;
-        if (!target.isWritable())
+        // Only where no new file may be made is the older one written over.
+        if (!IsRefusal(errno) || !target.isWritable())
             Fail();
         m_replaces = false;
     }
@@ -52,18 +63,30 @@ void OutputFile::Write(const QByteArray& bytes) {
 void OutputFile::Commit() {
     if (!m_device->flush() || m_device->error() != QFileDevice::NoError)
         Fail();
-    if (!m_replaces)
-        return;
-    const QString part = m_device->fileName();
-    if (QFileInfo::exists(m_target))
-        KeepOwnerAndMode(m_target, part);
+    const bool isFile = !m_device->isSequential();
     m_device->close();
-    ReplaceFile(part, m_target);
-    m_replaces = false;
+    if (m_replaces) {
+        const QString part = m_device->fileName();
+        if (QFileInfo::exists(m_target))
+            KeepOwnerAndMode(m_target, part);
+        ReplaceFile(part, m_target);
+        m_replaces = false;
+    } else if (isFile) {
+        SyncFile(m_target);
+    }
+}
+
+QString OutputFile::CauseOfFailure(QIODevice& device) {
+    // A write that was only cut short has no cause yet. The next one has.
+    if (auto* file = qobject_cast<QFileDevice*>(&device)) {
+        file->putChar('\n');
+        file->flush();
+    }
+    return device.errorString();
 }
 
 void OutputFile::Fail() const {
     throw RunTimeError(RunTimeErrorNumber::FileNotFound,
                        QStringLiteral("The file \"%1\" cannot be written: %2")
-                           .arg(QDir::toNativeSeparators(m_target), m_device->errorString()));
+                           .arg(QDir::toNativeSeparators(m_target), CauseOfFailure(*m_device)));
 }

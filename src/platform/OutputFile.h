@@ -5,8 +5,9 @@
 #include <memory>
 
 /// A file that is being written. It takes the place of an older one only when it is complete and on
-/// the disk; a device or a pipe is written as it stands, and so is a file whose folder cannot be
-/// written. Every failure throws RunTimeError, with the file's name and the cause in its text.
+/// the disk; a device or a pipe is written as it stands, and so is a file in a folder in which the
+/// user may not make a new one. Every failure throws RunTimeError, with the file's name and the
+/// cause in its text.
 class OutputFile {
 public:
     explicit OutputFile(const QString& path);
@@ -19,6 +20,9 @@ public:
     /// For a writer of its own, which must look at the result of every write.
     QFile& Device() { return *m_device; }
     void Commit();
+
+    /// Why a write to a device failed or was cut short.
+    static QString CauseOfFailure(QIODevice& device);
 
 private:
     [[noreturn]] void Fail() const;

@@ -38,6 +38,7 @@ void MakeDeliveredStore(const QString& path, StoreContent content) {
         PlaceNewFile(part, path);
     } catch (...) {
         QFile::remove(part);
+        QFile::remove(part + QStringLiteral("-journal"));
         throw;
     }
 }

@@ -13,10 +13,18 @@ bool MemoryHelps(const RunTimeError& error) {
     return !g_inMemory && (code == inputOutput || code == full || code == cannotOpen);
 }
 
+/// In memory a table of the store's may bear the same name. It does no harm there.
+void Drop(const QString& name) {
+    gConn->Execute(
+        (g_inMemory ? QStringLiteral("DROP TABLE temp.%1 ;") : QStringLiteral("DROP TABLE %1 ;"))
+            .arg(name));
+}
+
 } // namespace
 
 void MakeScratchTable(const QString& name, const QStringList& columns) {
-    DropScratchTable(name);
+    // If a full disk keeps one that was left over, a new one cannot be made beside it.
+    Trapped([&] { Drop(name); }, PassOnIfMemoryHelps);
     gConn->Execute(
         (g_inMemory ? QStringLiteral("CREATE TEMP TABLE ") : QStringLiteral("CREATE TABLE ")) +
         name + QStringLiteral(" (") + columns.join(QStringLiteral(" VARCHAR NULL, ")) +
@@ -24,7 +32,7 @@ void MakeScratchTable(const QString& name, const QStringList& columns) {
 }
 
 void DropScratchTable(const QString& name) {
-    IgnoringErrors([&] { gConn->Execute(QStringLiteral("DROP TABLE %1 ;").arg(name)); });
+    IgnoringErrors([&] { Drop(name); });
 }
 
 void WithScratchTables(const std::function<void()>& build) {

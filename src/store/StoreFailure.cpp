@@ -16,6 +16,7 @@ constexpr int NoDatabase = RunTimeErrorNumber::StoreEngine + 26;
 constexpr int ReadOnly = RunTimeErrorNumber::StoreEngine + 8;
 constexpr int CannotOpen = RunTimeErrorNumber::StoreEngine + 14;
 constexpr int InputOutput = RunTimeErrorNumber::StoreEngine + 10;
+constexpr int Busy = RunTimeErrorNumber::StoreEngine + 5;
 
 QString InUse(const LockFile::Holder& holder) {
     if (holder.process == 0)
@@ -32,6 +33,7 @@ QString InUse(const LockFile::Holder& holder) {
 QString CauseOf(const RunTimeError& error, const QString& storePath) {
     switch (error.Number()) {
     case RunTimeErrorNumber::FileInUse:
+    case Busy:
         return InUse(StoreLock::HolderOf(storePath));
     case RunTimeErrorNumber::FileNotFound:
         return Translate("The file is not there.");
@@ -45,8 +47,11 @@ QString CauseOf(const RunTimeError& error, const QString& storePath) {
     case NoDatabase:
         return Translate("It has another password, or it is damaged. If it is damaged, please "
                          "restore a backup.");
+    case InputOutput:
+        return Translate("The disk or the network reported a failure. Please check it, and try "
+                         "again.");
     default:
-        if (IsDamage(error.Number()) || error.Number() == InputOutput)
+        if (IsDamage(error.Number()))
             return Translate("It is damaged. Please restore a backup.");
         return error.Description();
     }

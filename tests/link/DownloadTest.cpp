@@ -270,8 +270,8 @@ private slots:
         gStoreDamaged = false;
         QVERIFY(!erased && station.download.HasSaidWhyNotErased());
         const QStringList messages = m_boxes.TakeTexts();
-        QVERIFY(messages.size() == 2 && messages[0].contains("no reader is erased") &&
-                messages[1] == messages[0]);
+        const QString said = "The database is damaged. The reader was not erased.";
+        QCOMPARE(messages, (QStringList{said, said}));
         QCOMPARE(station.view.MessageText, Successful(3, "\nReader Memory NOT erased!"));
         QCOMPARE(StoredTouches().size(), 3);
         QCOMPARE(station.dock.Logged("CmdEraseMemory"), 0);

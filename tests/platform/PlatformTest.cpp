@@ -317,10 +317,16 @@ private slots:
     void OutputIsWholeOrNotThere() {
         const TestHome home(TestHome::NoStore);
         const QString older = home.File("older"), link = home.File("link");
-        const auto write = [](const QString& path, const QByteArray& bytes) {
-            OutputFile file(path);
-            file.Write(bytes);
-            file.Commit();
+        QString cause;
+        const auto write = [&](const QString& path, const QByteArray& bytes) {
+            try {
+                OutputFile file(path);
+                file.Write(bytes);
+                file.Commit();
+            } catch (const RunTimeError& error) {
+                cause = error.Description();
+                throw;
+            }
         };
         const auto content = [](const QString& path) {
             QFile file(path);
@@ -339,12 +345,21 @@ private slots:
             const int newError = ErrorOf([&] { write(home.File("new"), QByteArray(size, 'x')); });
             setrlimit(RLIMIT_FSIZE, &before);
             QVERIFY(error != 0 && newError != 0);
+            QVERIFY2(cause.endsWith(": File too large"), qPrintable(cause));
             QCOMPARE(content(older), "old");
             QCOMPARE(
                 QDir(home.File({})).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot),
                 (QStringList{"link", "older"}));
         }
         signal(SIGXFSZ, handler);
+        rlimit files{};
+        getrlimit(RLIMIT_NOFILE, &files);
+        const rlimit noMore{0, files.rlim_max}; // no file can be made, but for another reason
+        setrlimit(RLIMIT_NOFILE, &noMore);
+        const int error = ErrorOf([&] { write(link, "new"); });
+        setrlimit(RLIMIT_NOFILE, &files);
+        QVERIFY(error != 0);
+        QCOMPARE(content(older), "old");
         write(link, "new");
         QCOMPARE(content(older), "new");
         QVERIFY(QFileInfo(link).isSymLink());

@@ -373,8 +373,10 @@ private slots:
         CheckStore(); // as the command line does, which does not compact
         QVERIFY(gStoreDamaged);
         TestHome::Close();
-        Write(home.Store(), whole);
         QVERIFY(QDir().mkdir(home.Temp())); // no room for the copy
+        home.Compact();
+        QVERIFY(gStoreDamaged);
+        Write(home.Store(), whole);
         home.Compact();
         QVERIFY(BytesOf(home.Store()) == whole && !gStoreDamaged);
         QVERIFY(home.Open());

@@ -85,11 +85,9 @@ void frmSetTime::cmdSendRealTime_Click() {
 
 void frmSetTime::Send() {
     const DateTime moment = ChosenMoment();
-    if (!ClockDateIsUsable(moment))
-        return;
     std::optional<Hourglass> hourglass(std::in_place);
     SetSending(true);
-    const bool clockSet = m_link.SetClock(moment);
+    const bool clockSet = ClockDateIsUsable(moment) && m_link.SetClock(moment);
     // Sent even where the clock failed.
     const bool optionsSet = m_link.TxOptions(ChosenSignals().OptionByte());
     SetSending(false);

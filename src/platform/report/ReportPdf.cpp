@@ -34,7 +34,7 @@ protected:
             return -1;
         const qint64 written = m_target.write(Stamped(QByteArray::fromRawData(data, size)));
         if (written != size)
-            m_failure = m_target.errorString();
+            m_failure = OutputFile::CauseOfFailure(m_target);
         return written;
     }
 

@@ -191,8 +191,7 @@ bool PrintReport(const DataReport& report, QPrinter& printer, int currentPage,
         return true;
     }
     OutputFile file(target);
-    if (file.Device().write(job) != job.size())
-        PrintingFailed(printer, file.Device().errorString());
+    file.Write(job);
     file.Commit();
     return true;
 }
