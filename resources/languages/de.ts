@@ -36,6 +36,10 @@
         <translation>Die Datenbank ist beschädigt. Der Leser wurde nicht gelöscht.</translation>
     </message>
     <message>
+        <source>A name or description can have at most 100 characters.</source>
+        <translation>Ein Name oder eine Beschreibung darf höchstens 100 Zeichen haben.</translation>
+    </message>
+    <message>
         <source>The file is not there.</source>
         <translation>Die Datei ist nicht vorhanden.</translation>
     </message>

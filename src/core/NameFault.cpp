@@ -4,16 +4,28 @@
 
 #include <algorithm>
 
+namespace {
+
+/// Would end a line, or turn the rest of one round.
+bool IsControl(QChar character) {
+    const QChar::Category category = character.category();
+    const QChar::Direction direction = character.direction();
+    return category == QChar::Other_Control || category == QChar::Separator_Line ||
+           category == QChar::Separator_Paragraph ||
+           (direction >= QChar::DirLRE && direction <= QChar::DirPDF &&
+            direction != QChar::DirAL) ||
+           (direction >= QChar::DirLRI && direction <= QChar::DirPDI);
+}
+
+} // namespace
+
 QString TextFault(const QString& text) {
-    const auto isControl = [](QChar character) {
-        const QChar::Category category = character.category();
-        return category == QChar::Other_Control || category == QChar::Separator_Line ||
-               category == QChar::Separator_Paragraph;
-    };
-    if (std::none_of(text.begin(), text.end(), isControl))
-        return {};
-    return Translate("A name or description cannot contain line breaks or other control "
-                     "characters.");
+    if (std::any_of(text.begin(), text.end(), IsControl))
+        return Translate("A name or description cannot contain line breaks or other control "
+                         "characters.");
+    if (text.size() > MostNameLetters)
+        return Translate("A name or description can have at most 100 characters.");
+    return {};
 }
 
 QString NameFault(Named what, const QString& name, const QStringList& existingNames,

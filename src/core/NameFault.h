@@ -9,8 +9,12 @@ enum class Named {
     Group ///< a group or a tour
 };
 
+/// What a report can show of a name in full, two of them in one line.
+constexpr int MostNameLetters = 100;
+
 /// Why a text cannot be a name or a description, as the message to show; empty where it can. Line
-/// breaks and other control characters would tear lists and reports apart.
+/// breaks and other control characters would tear lists and reports apart, and what is longer than
+/// MostNameLetters would be cut there.
 QString TextFault(const QString& text);
 
 /// Why a name cannot be given, as the message to show; empty where it can. `name` is trimmed

@@ -82,7 +82,7 @@ void RunOn(const std::shared_ptr<Engine>& engine, const char* engineSql,
 } // namespace
 
 QString ConnectionValue(const QString& value) {
-    const bool plain = !value.contains(u';') && !value.startsWith(u'"') && value == value.trimmed();
+    const bool plain = !value.contains(u';') && !value.contains(u'"') && value == value.trimmed();
     if (plain)
         return value;
     return u'"' + QString(value).replace(u'"', QStringLiteral("\"\"")) + u'"';

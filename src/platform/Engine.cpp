@@ -71,10 +71,10 @@ void Engine::Prepare(const QString& password) {
     Run(*this, "SELECT count(*) FROM sqlite_master");
     auto collator = std::make_unique<QCollator>(QLocale());
     collator->setCaseSensitivity(Qt::CaseInsensitive);
-    // From here on the engine deletes the collator, also if the call fails.
     Require(*this, sqlite3_create_collation_v2(m_database, PeopleCollation, SQLITE_UTF8,
-                                               collator.release(), ComparePeople,
+                                               collator.get(), ComparePeople,
                                                [](void* p) { delete static_cast<QCollator*>(p); }));
+    (void)collator.release(); // the engine's own from here on
 }
 
 Engine::~Engine() { sqlite3_close(m_database); }

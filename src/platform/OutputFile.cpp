@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QTemporaryFile>
 
 #include <cerrno>
 
@@ -34,24 +35,26 @@ bool IsRefusal(int error) { return error == EACCES || error == EPERM; }
 OutputFile::OutputFile(const QString& path) {
     const QFileInfo target = FileMeantBy(path);
     m_target = target.filePath();
-    m_replaces = !target.exists() || target.isFile();
-    if (m_replaces) {
+    if (target.exists() && !target.isFile()) {
+        m_device = std::make_unique<QFile>(m_target);
+    } else {
         m_device = std::make_unique<QFile>(PartPath(target));
-        if (m_device->open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        if (m_device->open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+            m_way = Way::Replace;
             return;
-        // Only where no new file may be made is the older one written over.
+        }
         if (!IsRefusal(errno) || !target.isWritable())
             Fail();
-        m_replaces = false;
+        m_device = std::make_unique<QTemporaryFile>();
+        m_way = Way::Copy;
     }
-    m_device = std::make_unique<QFile>(m_target);
-    if (!m_device->open(QIODevice::WriteOnly | QIODevice::Truncate))
+    if (!m_device->open(m_way == Way::Copy ? QIODevice::ReadWrite : QIODevice::WriteOnly))
         Fail();
 }
 
 OutputFile::~OutputFile() {
     // By its name: a QFile whose last write failed does not remove itself.
-    if (m_replaces)
+    if (m_way == Way::Replace)
         QFile::remove(m_device->fileName());
 }
 
@@ -63,17 +66,29 @@ void OutputFile::Write(const QByteArray& bytes) {
 void OutputFile::Commit() {
     if (!m_device->flush() || m_device->error() != QFileDevice::NoError)
         Fail();
-    const bool isFile = !m_device->isSequential();
-    m_device->close();
-    if (m_replaces) {
+    if (m_way == Way::Copy) {
+        CopyOver();
+    } else if (m_way == Way::Replace) {
         const QString part = m_device->fileName();
         if (QFileInfo::exists(m_target))
             KeepOwnerAndMode(m_target, part);
+        m_device->close();
         ReplaceFile(part, m_target);
-        m_replaces = false;
-    } else if (isFile) {
-        SyncFile(m_target);
+        m_way = Way::Straight;
     }
+}
+
+void OutputFile::CopyOver() {
+    m_device->seek(0);
+    const QByteArray bytes = m_device->readAll();
+    m_device = std::make_unique<QFile>(m_target);
+    if (!m_device->open(QIODevice::WriteOnly | QIODevice::Truncate))
+        Fail();
+    Write(bytes);
+    if (!m_device->flush())
+        Fail();
+    m_device->close();
+    SyncFile(m_target);
 }
 
 QString OutputFile::CauseOfFailure(QIODevice& device) {

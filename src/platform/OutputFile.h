@@ -5,9 +5,9 @@
 #include <memory>
 
 /// A file that is being written. It takes the place of an older one only when it is complete and on
-/// the disk; a device or a pipe is written as it stands, and so is a file in a folder in which the
-/// user may not make a new one. Every failure throws RunTimeError, with the file's name and the
-/// cause in its text.
+/// the disk; a device or a pipe is written as it stands. Where the user may write to the older file
+/// but not make a new one in its folder, it is written over by Commit, from a complete file
+/// elsewhere. Every failure throws RunTimeError, with the file's name and the cause in its text.
 class OutputFile {
 public:
     explicit OutputFile(const QString& path);
@@ -25,9 +25,16 @@ public:
     static QString CauseOfFailure(QIODevice& device);
 
 private:
+    enum class Way {
+        Replace,  ///< a file beside the target, which takes its place
+        Copy,     ///< a temporary file elsewhere, copied over the target
+        Straight, ///< the target itself: a device or a pipe
+    };
+
     [[noreturn]] void Fail() const;
+    void CopyOver();
 
     QString m_target;
     std::unique_ptr<QFile> m_device;
-    bool m_replaces = false;
+    Way m_way = Way::Straight;
 };

@@ -37,7 +37,11 @@ int ToWholeNumber(const QString& text) {
 
 QString GetSetting(const QString& application, const QString& section, const QString& key,
                    const QString& fallback) {
-    return Open(application).value(section + u'/' + key, fallback).toString();
+    const QVariant value = Open(application).value(section + u'/' + key, fallback);
+    // A text with a comma that was written into the file by hand reads as a list.
+    return value.typeId() == QMetaType::QStringList
+               ? value.toStringList().join(QStringLiteral(", "))
+               : value.toString();
 }
 
 void SaveSetting(const QString& application, const QString& section, const QString& key,

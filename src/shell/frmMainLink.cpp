@@ -25,10 +25,10 @@ void frmMain::SetLink(bool online, bool detected) {
 }
 
 void frmMain::GoConnect() {
-    m_link.ClosePort();
-    DoEventsWithoutInput();
     for (bool done = false; !done;) {
         done = true;
+        m_link.ClosePort();
+        DoEventsWithoutInput();
         frmGoOnline dialog(m_link, this);
         dialog.Online = m_online;
         dialog.MyCommPort = QString::number(m_portNumber);

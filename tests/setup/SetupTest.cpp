@@ -251,6 +251,11 @@ private slots:
         row("tab in a description", R"({"groups":[{"type":"site","name":"x","description":"\t"}]})",
             "control characters");
         row("separator", R"({"groups":[{"type":"site","name":"x\u2028y"}]})", "control characters");
+        row("turning mark", "{\"groups\":[{\"type\":\"site\",\"name\":\"x\\u202ey\"}]}",
+            "control characters");
+        row("too long",
+            "{\"groups\":[{\"type\":\"site\",\"name\":\"" + QByteArray(101, 'x') + "\"}]}",
+            "at most 100");
         row("name is a number", R"({"groups":[{"type":"site","name":7}]})", "\"name\" must be");
         row("same name", R"({"groups":[{"type":"site","name":"A"},{"type":"site","name":"A"}]})",
             "group 2 \"A\": That name is already used.");

@@ -221,7 +221,7 @@ private slots:
     void CompactsTheTargetOfALink() {
         const TestHome home(TestHome::DemoSite);
         TestHome::Close();
-        const QString folder = home.File("a; b = \"c\"");
+        const QString folder = home.File("a; b = \"c\" \"");
         QVERIFY(QDir().mkdir(folder));
         const QString target = folder + "/night.mdb";
         QVERIFY(QFile::rename(home.Store(), target) && QFile::link(target, home.Store()));

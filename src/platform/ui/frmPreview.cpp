@@ -1,5 +1,6 @@
 #include "frmPreview.h"
 
+#include "Application.h"
 #include "DataReport.h"
 #include "PreviewCanvas.h"
 #include "PrintReport.h"
@@ -19,7 +20,6 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStandardPaths>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -331,8 +331,7 @@ void frmPreview::Print() {
 }
 
 void frmPreview::Export() {
-    QFileDialog dialog(this, m_translate(QStringLiteral("Export to PDF")),
-                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+    QFileDialog dialog(this, m_translate(QStringLiteral("Export to PDF")), GetMyDocumentsPath(),
                        QStringLiteral("PDF (*.pdf)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("pdf"));

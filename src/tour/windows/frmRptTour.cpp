@@ -40,10 +40,10 @@ frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
     connect(m_ui->cmdPrintPreview, &QPushButton::clicked, this, &frmRptTour::cmdPrintPreview_Click);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     Guarded("Form_Load of Form frmRptTour", [this] {
+        ReadOptions(); // first: whatever fails, they are saved again
         FillTours();
         FillReaders();
         ReadSelectedReader();
-        ReadOptions();
     });
 }
 
