@@ -40,6 +40,14 @@
         <translation>Ein Name oder eine Beschreibung darf höchstens 100 Zeichen haben.</translation>
     </message>
     <message>
+        <source>A password cannot contain line breaks or other control characters.</source>
+        <translation>Ein Kennwort darf keine Zeilenumbrüche oder andere Steuerzeichen enthalten.</translation>
+    </message>
+    <message>
+        <source>The report could not be made. The file error.log says why.</source>
+        <translation>Der Bericht konnte nicht erstellt werden. Der Grund steht in der Datei error.log.</translation>
+    </message>
+    <message>
         <source>The file is not there.</source>
         <translation>Die Datei ist nicht vorhanden.</translation>
     </message>
@@ -397,7 +405,7 @@
     </message>
     <message>
         <source>NOT ON TOUR</source>
-        <translation>NICHT AUF TOUR</translation>
+        <translation>NICHT IM RUNDGANG</translation>
     </message>
     <message>
         <source>NO EXCEPTIONS</source>
@@ -493,7 +501,7 @@
     </message>
     <message>
         <source>&amp;Download Data</source>
-        <translation>&amp;Daten auslesen</translation>
+        <translation>Daten &amp;auslesen</translation>
     </message>
     <message>
         <source>&amp;Erase Reader</source>

@@ -89,6 +89,8 @@ bool ReportTour(const CommandLine& line, const ConsoleBoxes& boxes) {
         WriteOut(report.Bytes(), line.output);
     else if (line.format == ReportFormat::Json)
         WriteOut(JsonMessage(boxes.Last()), line.output);
+    if (!report.HasReport() && boxes.Last().isEmpty())
+        Complain(Translate("The report could not be made. The file error.log says why."));
     return report.HasReport();
 }
 

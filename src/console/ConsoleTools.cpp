@@ -11,10 +11,16 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cstdio>
 
 void Complain(const QString& text) {
-    const QByteArray line = (text.simplified() + u'\n').toUtf8();
+    QString plain = text.simplified();
+    // A terminal would obey an escape sequence.
+    std::replace_if(
+        plain.begin(), plain.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
+        u'?');
+    const QByteArray line = (plain + u'\n').toUtf8();
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
 

@@ -19,8 +19,10 @@ bool IsControl(QChar character) {
 
 } // namespace
 
+bool HasControls(const QString& text) { return std::any_of(text.begin(), text.end(), IsControl); }
+
 QString TextFault(const QString& text) {
-    if (std::any_of(text.begin(), text.end(), IsControl))
+    if (HasControls(text))
         return Translate("A name or description cannot contain line breaks or other control "
                          "characters.");
     if (text.size() > MostNameLetters)

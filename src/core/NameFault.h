@@ -12,6 +12,10 @@ enum class Named {
 /// What a report can show of a name in full, two of them in one line.
 constexpr int MostNameLetters = 100;
 
+/// True for a text with line breaks, other control characters, or marks that turn the direction of
+/// writing round.
+bool HasControls(const QString& text);
+
 /// Why a text cannot be a name or a description, as the message to show; empty where it can. Line
 /// breaks and other control characters would tear lists and reports apart, and what is longer than
 /// MostNameLetters would be cut there.

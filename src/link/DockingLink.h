@@ -84,7 +84,7 @@ private:
     bool m_readerRemoved = false;
 };
 
-/// False, once it has told the operator, for a date that no reader's clock can be set to: before
+/// False, after a message to the operator, for a date that no reader's clock can be set to: before
 /// the year 2000, or after 6 June 2179.
 bool ClockDateIsUsable(DateTime moment);
 

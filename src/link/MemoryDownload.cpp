@@ -3,6 +3,7 @@
 #include "Clock.h"
 #include "DockingLink.h"
 #include "MemoryTransfer.h"
+#include "StoreFailure.h"
 #include "StoreTouches.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
@@ -77,9 +78,15 @@ bool MemoryDownload::Store() {
     m_outcome.stored = m_outcome.touches.empty();
     if (m_outcome.stored)
         return true;
-    Guarded("cmdOnline_Click of Form frmMdiDownload", [this] {
+    QString cause;
+    const auto store = [this] {
         StoreTouches(m_outcome.touches, m_outcome.readerId, m_outcome.rowsStored);
         m_outcome.stored = true;
+    };
+    Trapped(store, [&](const RunTimeError& error) {
+        ReportError(QStringLiteral("cmdOnline_Click of Form frmMdiDownload"), error,
+                    ErrorShow::LogOnly);
+        cause = CauseOf(error, gDatabasePath);
     });
     if (m_outcome.stored)
         return true;
@@ -89,7 +96,7 @@ bool MemoryDownload::Store() {
                            : "The touches could not be stored. The reader was not erased.") +
              u'\n' + Translate("Touches stored: ") +
              QStringLiteral("%1 / %2").arg(m_outcome.rowsStored).arg(m_outcome.touches.size()));
-    SayWhyNotErased(m_text);
+    SayWhyNotErased(m_text + u'\n' + cause);
     return false;
 }
 
@@ -123,6 +130,7 @@ void MemoryDownload::EraseReader(bool silent, bool& succeeded) {
     SetBusy(false);
     if (succeeded && !silent) {
         m_view.ClearList();
+        m_view.ShowMessageText({}); // of the download before
         m_view.ShowStatus(Translate("Reader Erased"));
         IvMessageBox(Translate("Reader Erased"), MessageKind::Information);
     }

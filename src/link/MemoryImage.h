@@ -39,7 +39,7 @@ ImageEnd EndOf(const colPackets& packets, int recordCount);
 
 /// True if the first frame says that there are no records, and holds none.
 bool IsEmptyImage(const QByteArray& firstFrame);
-/// True if two first frames tell of the same reader with the same count and records.
+/// True if two first frames name the same reader and hold the same count and records.
 bool TellTheSame(const QByteArray& firstFrame, const QByteArray& other);
 
 /// What is known of buttons, looked up in the store once a code.

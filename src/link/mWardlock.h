@@ -84,7 +84,7 @@ void SetBit(std::uint8_t& target, int index);
 
 /// Days since 30 December 1899 of a date code.
 int DecodeDateCode(int high, int low);
-/// False for a day that no date code tells: before 1 January 2000, or after 6 June 2179.
+/// False for a day that no date code can hold: before 1 January 2000, or after 6 June 2179.
 bool HasDateCode(DateTime date);
 /// The date code of a day, 16 bits; the time of day is dropped.
 std::uint16_t DateCodeOf(DateTime date);

@@ -2,6 +2,7 @@
 
 #include "FileReplacement.h"
 #include "RunTimeError.h"
+#include "StoreLock.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -35,6 +36,10 @@ bool IsRefusal(int error) { return error == EACCES || error == EPERM; }
 OutputFile::OutputFile(const QString& path) {
     const QFileInfo target = FileMeantBy(path);
     m_target = target.filePath();
+    if (StoreLock::IsHeldHere(m_target))
+        throw RunTimeError(RunTimeErrorNumber::FileInUse,
+                           QStringLiteral("The file \"%1\" is the open database.")
+                               .arg(QDir::toNativeSeparators(m_target)));
     if (target.exists() && !target.isFile()) {
         m_device = std::make_unique<QFile>(m_target);
     } else {

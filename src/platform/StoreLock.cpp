@@ -8,6 +8,15 @@
 
 namespace {
 
+using Holds = QHash<QString, std::weak_ptr<LockFile>>;
+
+/// By the path of the lock file, and by that of the store.
+Holds& Held() {
+    static Holds held;
+    return held;
+}
+Holds g_stores;
+
 QString LockPathOf(const QString& storePath) {
     const QFileInfo given(storePath);
     const QFileInfo store(given.exists() ? given.canonicalFilePath() : given.absoluteFilePath());
@@ -17,9 +26,8 @@ QString LockPathOf(const QString& storePath) {
 } // namespace
 
 StoreLock::StoreLock(const QString& storePath) {
-    static QHash<QString, std::weak_ptr<LockFile>> held;
     const QString path = LockPathOf(storePath);
-    m_file = held.value(path).lock();
+    m_file = Held().value(path).lock();
     if (m_file)
         return;
     auto file = std::make_shared<LockFile>(path);
@@ -40,7 +48,13 @@ StoreLock::StoreLock(const QString& storePath) {
         break;
     }
     m_file = file;
-    held.insert(path, file);
+    Held().insert(path, file);
+    g_stores.insert(QFileInfo(storePath).canonicalFilePath(), file);
+}
+
+bool StoreLock::IsHeldHere(const QString& path) {
+    const QString file = QFileInfo(path).canonicalFilePath();
+    return !Held().value(file).expired() || !g_stores.value(file).expired();
 }
 
 LockFile::Holder StoreLock::HolderOf(const QString& storePath) {

@@ -14,6 +14,9 @@ public:
     /// PermissionDenied when the lock file cannot be made.
     explicit StoreLock(const QString& storePath);
 
+    /// True for a store that this process holds, and for its lock file, by whatever name.
+    static bool IsHeldHere(const QString& path);
+
     /// Who holds a store, as far as its lock file says.
     static LockFile::Holder HolderOf(const QString& storePath);
 

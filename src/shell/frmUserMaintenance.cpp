@@ -1,5 +1,6 @@
 #include "frmUserMaintenance.h"
 
+#include "NameFault.h"
 #include "WindowTools.h"
 #include "mErrorHandler.h"
 #include "mOperators.h"
@@ -56,6 +57,12 @@ void frmUserMaintenance::cmdOK_Click() {
     if (m_ui->txtPassword->text() != m_ui->txtRetypePassword->text()) {
         IvMessageBox(Translate("The passwords do not match, please re-enter"));
         m_ui->txtPassword->setFocus();
+        return;
+    }
+    if (HasControls(m_ui->txtPassword->text())) { // the login could never be given it again
+        IvMessageBox(
+            Translate("A password cannot contain line breaks or other control characters."));
+        FocusAndSelect(*m_ui->txtPassword);
         return;
     }
     if (Update())

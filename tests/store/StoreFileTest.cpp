@@ -7,6 +7,7 @@
 #include "FileReplacement.h"
 #include "ForkedChild.h"
 #include "InstanceLock.h"
+#include "OutputFile.h"
 #include "Recordset.h"
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
@@ -238,6 +239,9 @@ private slots:
                      std::pair(12345U, 54321U));
         QVERIFY(home.Open());
         QVERIFY(QFile::exists(folder + "/night.ldb") && !QFile::exists(home.File("main.ldb")));
+        for (const QString& open : {home.Store(), target, folder + "/night.ldb"})
+            QCOMPARE(ErrorOf([&] { OutputFile file(open); }), 3045); // never written over
+        OutputFile(folder + "/night.pdf");
         Connection byText;
         byText.Open(ConnectionText(target, StorePassword));
         Write(folder + "/temp.mdb", "left over");

@@ -42,6 +42,9 @@ frmEditTour::frmEditTour(QWidget* parent)
     SelectAllOnFocus(*m_ui->txtTolerance);
     m_drag = new TourListDrag(*m_ui->lvwLocations, *m_ui->lvwSelected);
     connect(m_drag, &TourListDrag::Dropped, this, &frmEditTour::DropOn);
+    // As wide as its place, not as its longest name.
+    m_ui->imgCboSites->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_ui->imgCboSites->setMinimumContentsLength(20);
     connect(m_ui->imgCboSites, &QComboBox::currentIndexChanged, this, &frmEditTour::FillLocations);
     connect(m_ui->dtpStartTime, &QTimeEdit::timeChanged, this, &frmEditTour::UpdateTimes);
     connect(m_ui->txtTolerance, &QLineEdit::textChanged, this, &frmEditTour::UpdateTimes);
