@@ -59,7 +59,7 @@ public:
         bool clockSet = false; ///< or was not to be set
     };
     const Outcome& LastOutcome() const { return m_outcome; }
-    /// The operator has been told why the reader was not erased.
+    /// A message has said why the reader was not erased.
     bool HasSaidWhyNotErased() const { return m_saidWhyNotErased; }
 
 private:

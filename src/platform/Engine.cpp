@@ -59,7 +59,7 @@ void Engine::Prepare(const QString& password) {
     const QByteArray key = password.toUtf8();
     Require(*this, sqlite3_key(m_database, key.constData(), static_cast<int>(key.size())));
     // The format is that of the third major version, which older engines have as their only one. A
-    // newer engine reads and writes it if it is told to.
+    // newer engine needs to be asked for it.
     Run(*this, "PRAGMA cipher_default_compatibility = 3");
     Run(*this, "PRAGMA cipher_compatibility = 3");
     // EXTRA also syncs the folder after the journal is deleted. With FULL, a power cut after the

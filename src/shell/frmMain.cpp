@@ -31,7 +31,7 @@ struct ToolbarRow {
     const char* caption;
     void (frmMain::*action)();
     Qt::Key shortcut;  ///< with Ctrl
-    const char* marks; ///< what NavigateToolbarButtons is told while the button's page is shown
+    const char* marks; ///< the state string while the button's page is shown
 };
 
 /// The page buttons in their order, which is that of frmMain::Page.

@@ -289,7 +289,7 @@ private slots:
         }
     }
 
-    // What is told of the store holds after a restart too, and nothing is there twice in the end.
+    // The message is still true after a restart, and in the end nothing is stored twice.
     void StoringFails_data() {
         QTest::addColumn<QString>("trouble");
         QTest::addColumn<QString>("remedy");

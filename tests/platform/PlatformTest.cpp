@@ -237,7 +237,7 @@ private slots:
         QCOMPARE(GetSetting("Other", "Info", "Line", "fallback"), "fallback");
     }
 
-    // Told once, not at every write; and anew after it went well in between.
+    // One message, not one at every write; another after a write succeeded in between.
     void SettingsThatCannotBeWritten() {
         const TestHome home(TestHome::NoStore);
         ScriptedBoxes boxes;

@@ -75,7 +75,7 @@ private:
     void EditTour();
     void DeleteTour();
     void CopyTour();
-    /// True if the tour was written. If not, nothing was, and the operator was told.
+    /// True if the tour was written. If not, nothing was, and a message said so.
     bool Saved(const Tour& tour, const TourDraft& points) const;
     QString FreshTourName() const;
 
