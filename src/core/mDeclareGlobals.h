@@ -30,11 +30,11 @@ extern bool gDemoMode;
 extern int gEdition;  ///< branding variant, always 0
 extern int gLanguage; ///< number of the dictionary's language, -1 the system's
 extern std::unique_ptr<Dictionary> gDictionary;
-extern QString gDatabasePath;               ///< path of "main.mdb"
-extern QString gConnectionString;           ///< the same store as a connection text
-extern std::unique_ptr<Connection> gConn;   ///< the shared store connection
+extern QString gDatabasePath;             ///< path of "main.mdb"
+extern QString gConnectionString;         ///< the same store as a connection text
+extern std::unique_ptr<Connection> gConn; ///< the shared store connection
 extern bool gStoreDamaged; ///< the open store failed its check: no reader may be erased on it
-extern bool gAutoSetTime;                   ///< set the reader's clock when a download runs
+extern bool gAutoSetTime;  ///< set the reader's clock when a download runs
 extern std::array<QString, 4> gCompanyInfo; ///< the company lines printed on reports
 extern bool gDockingDetected;               ///< the docking station answered at the last connect
 extern bool gCommActive;                    ///< incoming serial bytes are to be collected
