@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Number</source>
-        <translation>Nummer</translation>
+        <translation>Nr.</translation>
     </message>
     <message>
         <source>Date</source>
@@ -521,7 +521,7 @@
     </message>
     <message>
         <source>&amp;Port:</source>
-        <translation>&amp;Anschluss:</translation>
+        <translation>An&amp;schluss:</translation>
     </message>
     <message>
         <source>&amp;Device:</source>

@@ -1,0 +1,320 @@
+#include "DataReport.h"
+#include "DockingLink.h"
+#include "ReportViewer.h"
+#include "TestHome.h"
+#include "cReaderOptions.h"
+#include "frmAddButton.h"
+#include "frmAddReader.h"
+#include "frmCopyTour.h"
+#include "frmDownload.h"
+#include "frmEditButton.h"
+#include "frmEditReader.h"
+#include "frmEditTime.h"
+#include "frmEditTour.h"
+#include "frmFirmwareVersion.h"
+#include "frmGoOnline.h"
+#include "frmLanguage.h"
+#include "frmListEdit.h"
+#include "frmLogin.h"
+#include "frmMDISetup.h"
+#include "frmMain.h"
+#include "frmManualID.h"
+#include "frmMdiDownload.h"
+#include "frmMdiMenu.h"
+#include "frmMdiReports.h"
+#include "frmPreview.h"
+#include "frmPrpComms.h"
+#include "frmRptTour.h"
+#include "frmSetTime.h"
+#include "frmSplash.h"
+#include "frmUserMaintenance.h"
+#include "mHelp.h"
+#include "mTranslations.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <map>
+
+namespace {
+
+class NoViewer : public ReportViewer {
+    void Show(DataReport&) override {}
+};
+
+/// How each window is made. The windows of the forms are named after them.
+using Maker = std::function<std::unique_ptr<QWidget>(DockingLink&, ReportViewer&)>;
+
+template <typename Form>
+Maker Plain() {
+    return [](DockingLink&, ReportViewer&) { return std::make_unique<Form>(nullptr); };
+}
+template <typename Form>
+Maker WithLink() {
+    return [](DockingLink& link, ReportViewer&) { return std::make_unique<Form>(link, nullptr); };
+}
+template <typename Form>
+Maker WithViewer() {
+    return
+        [](DockingLink&, ReportViewer& viewer) { return std::make_unique<Form>(viewer, nullptr); };
+}
+
+const std::map<QString, Maker>& Makers() {
+    static const std::map<QString, Maker> makers = {
+        {"frmAddButton", WithLink<frmAddButton>()},
+        {"frmAddReader", WithLink<frmAddReader>()},
+        {"frmCopyTour", Plain<frmCopyTour>()},
+        {"frmDownload", WithLink<frmDownload>()},
+        {"frmEditButton", Plain<frmEditButton>()},
+        {"frmEditReader", Plain<frmEditReader>()},
+        {"frmEditTime", Plain<frmEditTime>()},
+        {"frmEditTour",
+         [](DockingLink&, ReportViewer&) {
+             auto form = std::make_unique<frmEditTour>(nullptr);
+             form->GroupID = 1;
+             form->Populate();
+             return form;
+         }},
+        {"frmFirmwareVersion",
+         [](DockingLink&, ReportViewer&) {
+             return std::make_unique<frmFirmwareVersion>("3.04", nullptr);
+         }},
+        {"frmGoOnline", WithLink<frmGoOnline>()},
+        {"frmLanguage",
+         [](DockingLink&, ReportViewer&) {
+             return std::make_unique<frmLanguage>(*gDictionary, gLanguage, nullptr);
+         }},
+        {"frmListEdit",
+         [](DockingLink& link, ReportViewer&) {
+             auto form = std::make_unique<frmListEdit>(link, nullptr);
+             form->ItemType = SiteGroup;
+             form->Update();
+             return form;
+         }},
+        {"frmLogin", Plain<frmLogin>()},
+        {"frmMDISetup", WithLink<frmMDISetup>()},
+        {"frmMain", [](DockingLink&, ReportViewer&) { return std::make_unique<frmMain>(); }},
+        {"frmManualID", Plain<frmManualID>()},
+        {"frmMdiDownload", WithLink<frmMdiDownload>()},
+        {"frmMdiMenu", Plain<frmMdiMenu>()},
+        {"frmMdiReports", WithViewer<frmMdiReports>()},
+        {"frmPrpComms", Plain<frmPrpComms>()},
+        {"frmRptTour", WithViewer<frmRptTour>()},
+        {"frmSetTime", WithLink<frmSetTime>()},
+        {"frmSplash", [](DockingLink&, ReportViewer&) { return std::make_unique<frmSplash>(); }},
+        {"frmUserMaintenance", Plain<frmUserMaintenance>()},
+    };
+    return makers;
+}
+
+QString Called(const QWidget& widget, const QString& text = {}) {
+    return QStringLiteral("%1 %2 \"%3\"")
+        .arg(QString::fromLatin1(widget.metaObject()->className()), widget.objectName(), text);
+}
+
+/// What a screen reader says of a widget.
+QString AccessibleName(QWidget& widget) {
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&widget);
+    return interface ? interface->text(QAccessible::Name) : QString();
+}
+
+/// Widgets that Qt makes inside its own are named by the one around them.
+bool IsInner(const QWidget& widget) {
+    const QWidget* parent = widget.parentWidget();
+    return widget.objectName().startsWith("qt_") || widget.inherits("QHeaderView") ||
+           widget.inherits("QScrollBar") || widget.inherits("QComboBoxListView") ||
+           parent->inherits("QAbstractSpinBox") || parent->inherits("QComboBox") ||
+           parent->inherits("QTabBar");
+}
+
+QStringList NamelessWidgets(QWidget& window) {
+    QStringList faults;
+    for (QWidget* widget : window.findChildren<QWidget*>())
+        if (widget->focusPolicy() != Qt::NoFocus && !IsInner(*widget) &&
+            AccessibleName(*widget).isEmpty())
+            faults += "no name: " + Called(*widget);
+    return faults;
+}
+
+/// The texts whose mnemonics the keyboard reaches at the same time.
+QStringList RepeatedMnemonics(const QStringList& texts) {
+    QStringList faults;
+    QMap<QString, QString> taken;
+    for (const QString& text : texts) {
+        const QString key = QKeySequence::mnemonic(text).toString();
+        if (!key.isEmpty() && taken.contains(key))
+            faults += QStringLiteral("%1: \"%2\" and \"%3\"").arg(key, taken[key], text);
+        taken[key] = text;
+    }
+    return faults;
+}
+
+QStringList TextsOf(const QList<QAction*>& actions) {
+    QStringList texts;
+    for (const QAction* action : actions)
+        if (action->isVisible())
+            texts += action->text();
+    return texts;
+}
+
+QStringList RepeatedMnemonics(QWidget& window) {
+    QStringList texts, faults;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (const auto* button = qobject_cast<QAbstractButton*>(widget))
+            texts += button->text();
+        else if (const auto* label = qobject_cast<QLabel*>(widget); label && label->buddy())
+            texts += label->text();
+        else if (const auto* group = qobject_cast<QGroupBox*>(widget))
+            texts += group->title();
+        else if (const auto* tabs = qobject_cast<QTabBar*>(widget))
+            for (int i = 0; i < tabs->count(); ++i)
+                texts += tabs->tabText(i);
+        else if (const auto* bar = qobject_cast<QMenuBar*>(widget))
+            texts += TextsOf(bar->actions());
+        else if (const auto* menu = qobject_cast<QMenu*>(widget))
+            faults += RepeatedMnemonics(TextsOf(menu->actions()));
+    }
+    return faults + RepeatedMnemonics(texts);
+}
+
+bool IsClipped(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        if (label->text().isEmpty())
+            return false;
+        return label->wordWrap() ? label->heightForWidth(label->width()) > label->height()
+                                 : label->sizeHint().width() > label->width() ||
+                                       label->sizeHint().height() > label->height();
+    }
+    if (const auto* tabs = qobject_cast<const QTabBar*>(&widget))
+        return tabs->sizeHint().width() > tabs->parentWidget()->width();
+    if (qobject_cast<const QAbstractButton*>(&widget))
+        return widget.sizeHint().width() > widget.width() ||
+               widget.sizeHint().height() > widget.height();
+    if (qobject_cast<const QGroupBox*>(&widget))
+        return widget.minimumSizeHint().width() > widget.width();
+    return false;
+}
+
+QStringList ClippedTexts(QWidget& window, const QString& size) {
+    QStringList faults;
+    for (QWidget* widget : window.findChildren<QWidget*>())
+        if (widget->isVisible() && !IsInner(*widget) && IsClipped(*widget))
+            faults +=
+                "clipped at its " + size + Called(*widget, widget->property("text").toString());
+    return faults;
+}
+
+QStringList ClippedHeadings(QWidget& window) {
+    QStringList faults;
+    for (const QHeaderView* header : window.findChildren<QHeaderView*>())
+        for (int i = 0; header->isVisible() && i < header->count(); ++i)
+            if (!header->isSectionHidden(i) && header->sectionSizeHint(i) > header->sectionSize(i))
+                faults +=
+                    QStringLiteral("clipped heading %1: ").arg(i) + Called(*header->parentWidget());
+    return faults;
+}
+
+/// A page of the main window; anything else is a window of its own.
+bool IsPage(const QWidget& window) {
+    return !qobject_cast<const QDialog*>(&window) && !qobject_cast<const QMainWindow*>(&window) &&
+           !qobject_cast<const frmSplash*>(&window);
+}
+
+/// The narrowest that the operator can make a window, and as high as its texts then need.
+QSize SmallestSize(const QWidget& window) {
+    if (IsPage(window))
+        return {530, 300}; // what the main window leaves for a page
+    QSize size = window.minimumSize().expandedTo(window.minimumSizeHint());
+    if (window.hasHeightForWidth())
+        size.setHeight(window.heightForWidth(size.width()));
+    return size;
+}
+
+/// All faults of a window that is shown, at its usual size and at its smallest. The headings of
+/// lists may be clipped at the smallest size: their columns can be dragged.
+QStringList FaultsOf(QWidget& window) {
+    if (IsPage(window))
+        window.resize(800, 500);
+    QCoreApplication::processEvents();
+    QStringList faults = NamelessWidgets(window) + RepeatedMnemonics(window) +
+                         ClippedTexts(window, "usual size: ") + ClippedHeadings(window);
+    window.resize(SmallestSize(window));
+    QCoreApplication::processEvents();
+    return faults + ClippedTexts(window, "smallest size: ");
+}
+
+} // namespace
+
+class FormsTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TestHome> m_home;
+
+private slots:
+    void initTestCase() {
+        m_home = std::make_unique<TestHome>(TestHome::DemoSite);
+        for (const char* name : {"WK3.MLD", "login.bmp", "contact.bmp", "WK3_ENG.HLP"})
+            QVERIFY(QFile::copy(QStringLiteral(BESIDE "/") + QString::fromLatin1(name),
+                                m_home->File(QString::fromLatin1(name))));
+    }
+    void cleanupTestCase() {
+        gReaderOptions.reset();
+        gDictionary.reset();
+        m_home.reset();
+    }
+
+    void NoFormIsForgotten() {
+        for (const QString& form : QString(FORMS).split(u','))
+            QVERIFY2(form == "frmHelp" || Makers().contains(form), qPrintable(form));
+    }
+
+    void Shows_data() {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("form");
+        gLanguage = 0;
+        OpenDictionary();
+        for (int language = 0; language < gDictionary->LanguageCount(); ++language)
+            for (const auto& [form, maker] : Makers())
+                QTest::addRow("%s in %s", qPrintable(form),
+                              qPrintable(gDictionary->Languages(language).englishName))
+                    << language << form;
+    }
+    void Shows() {
+        QFETCH(const int, language);
+        QFETCH(const QString, form);
+        gLanguage = language;
+        OpenDictionary();
+        DockingLink link;
+        NoViewer viewer;
+        const std::unique_ptr<QWidget> window = Makers().at(form)(link, viewer);
+        window->show();
+        const QStringList faults = FaultsOf(*window);
+        QVERIFY2(faults.isEmpty(), qPrintable(u'\n' + faults.join(u'\n')));
+    }
+
+    // The help window runs its own loop.
+    void ShowsTheHelp() {
+        UpdateLanguage();
+        QStringList faults{"not shown"};
+        QTimer::singleShot(0, [&] {
+            if (QWidget* window = QApplication::activeModalWidget()) {
+                faults = FaultsOf(*window);
+                window->close();
+            }
+        });
+        ShowHelpContents(nullptr);
+        QVERIFY2(faults.isEmpty(), qPrintable(u'\n' + faults.join(u'\n')));
+    }
+};
+
+QTEST_MAIN(FormsTest)
+#include "FormsTest.moc"
