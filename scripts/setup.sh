@@ -12,6 +12,7 @@ build_packages=(build-essential cmake ninja-build pkg-config ccache qt6-base-dev
 run_packages=(libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core)
 # Tests look at PDF texts and open the store with the stock shell.
 test_packages=(poppler-utils sqlcipher)
+lint_packages=(clang-format clang-tidy python3)
 # The fault campaigns kill by strace, and pull the power from small file systems.
 fault_packages=(python3 sqlcipher strace e2fsprogs xfsprogs)
 
