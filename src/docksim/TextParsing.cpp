@@ -58,6 +58,13 @@ std::string HexText(const std::vector<uint8_t>& bytes) {
     return text;
 }
 
+std::string LocalTimeText(const char* format, std::time_t time) {
+    std::tm local{};
+    localtime_r(&time, &local);
+    char text[64];
+    return {text, std::strftime(text, sizeof text, format, &local)};
+}
+
 void NeedWords(const Words& words, size_t least, size_t most) {
     if (words.size() < least)
         throw ParseError("'" + words.front() + "' needs more arguments");
