@@ -1,6 +1,7 @@
 #include "DockingStation.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace docksim {
 
