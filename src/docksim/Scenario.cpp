@@ -85,11 +85,11 @@ void ObeyTouch(Reader& reader, const Words& line) {
                              : line[i].find(':') != std::string::npos ? time
                                                                       : code;
         if (!place.empty())
-            throw ParseError("'" + line[i] + "' is one too many");
+            throw ParseError("'" + line[i] + "' is one argument too many");
         place = line[i];
     }
     if (date.empty() != time.empty())
-        throw ParseError("a touch needs both date and time, or none");
+        throw ParseError("a touch needs both date and time, or neither");
     reader.AddTouch(code, date.empty() ? MomentNow() : ParseMoment(date, time));
 }
 
