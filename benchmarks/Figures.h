@@ -7,11 +7,11 @@
 #include <functional>
 #include <vector>
 
-/// Measured figures, each beside its baseline from the same run. Machines are noisy, so only the
-/// ratio counts.
+/// Measured figures, each with a baseline from the same run. Machines are noisy, so only the ratio
+/// counts.
 class Figures {
 public:
-    /// Runs both in turn, several times, and prints a line with the medians.
+    /// Runs both alternately, several times, and prints a line with the medians.
     void Compare(const char* name, double limit, const std::function<void()>& ours,
                  const std::function<void()>& baseline, int rounds = 5) {
         std::vector<double> oursTimes, baselineTimes;

@@ -1,4 +1,4 @@
-// How fast reports become PDF, and how fast a preview shows its first page.
+// Measures the PDF export of a report, and the time until a preview shows its first page.
 
 #include "DataReport.h"
 #include "Figures.h"
@@ -18,7 +18,7 @@ namespace {
 constexpr qsizetype ManyRows = 100'000;
 constexpr qsizetype FewRows = 100;
 
-/// Lines as a long tour report has them: a rule, a tour line, three detail lines.
+/// The lines of a long tour report: a rule, a tour line, three detail lines, and again.
 class TourRows : public RowSource {
 public:
     explicit TourRows(qsizetype count) : m_count(count) {}
@@ -69,8 +69,8 @@ void SetTexts(darTourException& report) {
                           QStringLiteral("Yes"));
 }
 
-/// The same texts and rules in the same places and fonts, drawn straight onto the PDF, as one would
-/// by hand for this one report.
+/// Draws the same texts and rules in the same places and fonts directly onto the PDF, as code
+/// written for this one report would.
 class HandDrawn {
 public:
     explicit HandDrawn(DataReport& report)
@@ -180,7 +180,7 @@ int main(int argc, char* argv[]) {
     figures.Compare(
         "PDF of 100,000 report rows", 1.5, [&] { Pdf(report); }, [&] { byHand.Write(); }, 3);
 
-    OpenPreview(few); // fonts and icons are loaded once a process
+    OpenPreview(few); // so that fonts and icons are loaded
     figures.Compare(
         "first page of a preview of 100,000 rows", 1.5, [&] { OpenPreview(many); },
         [&] { OpenPreview(few); }, 11);

@@ -1,4 +1,4 @@
-// What the store's floors cost above the bare engine: a download, a walk over many rows, the tour
+// Compares the store's code with the bare engine: storing a download, reading many rows, the tour
 // report in a large store, compaction.
 
 #include "Connection.h"
@@ -37,13 +37,13 @@ struct Side {
     Step run;
 };
 
-/// Rounds in turn, and in turn the other way round.
+/// Measures both in each round, and changes their order from round to round.
 void Compare(Figures& figures, const char* name, int rounds, double limit, const Side& ours,
              const Side& baseline) {
     std::vector<double> oursTimes, baselineTimes;
     const auto time = [](const Side& side, std::vector<double>& times) {
         side.prepare();
-        ::sync(); // nobody is to pay for what the one before left to be written
+        ::sync(); // do not measure writes left over from the previous step
         QElapsedTimer timer;
         timer.start();
         side.run();
@@ -63,7 +63,7 @@ void Compare(Figures& figures, const char* name, int rounds, double limit, const
     figures.Report(name, "ms", median(oursTimes), median(baselineTimes), limit);
 }
 
-/// The engine without any of our code around it, with the same settings.
+/// The engine with the same settings, without our code around it.
 class Bare {
 public:
     explicit Bare(const QString& path) {
@@ -136,8 +136,8 @@ std::string CodeOf(int number) {
     return QString::number(0x1A4000 + number * 7, 16).toUpper().toStdString();
 }
 
-/// A store with 500 buttons in ten sites, a tour, the touches of that tour on its day, and as many
-/// other touches as make up `events`, over three years and ten readers.
+/// Makes a store with 500 buttons in ten sites, a tour and its touches on one day. Other touches,
+/// over three years and ten readers, bring the number of events to `events`.
 void MakeStore(const QString& path, int events) {
     CreateStoreFile(path, StorePassword);
     {
@@ -179,7 +179,8 @@ void MakeStore(const QString& path, int events) {
     bare.Run("COMMIT");
 }
 
-/// A memory image with so many touches, a new hour every 40 of them; every 50th code is unknown.
+/// A memory image with this many touches. A new hour begins every 40 touches; every 50th code is
+/// unknown.
 colPackets MakeImage(int touches) {
     QByteArray records;
     const auto add = [&](int b0, int b1, int b2, int b3) {
@@ -335,7 +336,7 @@ qint64 ResidentBytes() {
     return file.readAll().split(' ').value(1).toLongLong() * ::sysconf(_SC_PAGESIZE);
 }
 
-/// In a process of its own, so that memory which others gave back does not hide what is taken.
+/// Runs in a child process, so that memory freed by earlier benchmarks does not hide what is used.
 void BenchMemory(Figures& figures, const QString& path) {
     int ends[2];
     if (::pipe(ends) != 0)
@@ -352,7 +353,7 @@ void BenchMemory(Figures& figures, const QString& path) {
         const auto counted = static_cast<double>(rows.MemoryBytes());
         if (counted < result[0] * 0.9 || counted > result[0] * 1.1)
             qFatal("%.0f bytes counted, %.0f taken", counted, result[0]);
-        // Dates take eight bytes, the key four, the type one, texts what they are.
+        // The baseline: dates take eight bytes, the key four, the type one, a text its length.
         for (; !rows.Eof(); rows.MoveNext()) {
             result[1] += 8 + 8 + 4 + 1;
             for (const auto* name : {u"tPipeID", u"tButtonCode", u"tButtonName", u"tButtonDesc",
@@ -415,7 +416,7 @@ void BenchCompaction(Figures& figures, const QTemporaryDir& folder, const QStrin
                             bare.Run("DETACH DATABASE hand");
                         }};
     Compare(figures, "compaction of 1,000,000 events", 5, 1.3, ours, baseline);
-    QFile file(path); // a fresh file begins with a fresh salt
+    QFile file(path); // a new file starts with a new salt
     if (!file.open(QIODevice::ReadOnly) || file.read(16) == before)
         qFatal("nothing was compacted");
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what building, running and testing need and this machine lacks (Debian and its kin), and
-# builds. Sourced by run, test and bench; sets BUILD and BIN. Quick when there is nothing to do.
+# Installs the missing packages (on Debian and its derivatives) and builds. Sourced by run, test and
+# bench. Sets BUILD and BIN. Quick if there is nothing to do.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 BUILD=${WARDLOCK_BUILD:-$root/build}
@@ -10,10 +10,10 @@ build_packages=(build-essential cmake ninja-build pkg-config ccache qt6-base-dev
     qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-serialport-dev
     qt6-svg-dev libgl-dev libsqlcipher-dev libcups2-dev)
 run_packages=(libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core)
-# Tests look at PDF texts and open the store with the stock shell.
+# Tests read the text of PDFs and open the store with the stock shell.
 test_packages=(poppler-utils sqlcipher)
 lint_packages=(clang-format clang-tidy python3)
-# The fault campaigns kill by strace, and pull the power from small file systems.
+# The fault campaigns kill programs with strace and cut the power of small file systems.
 fault_packages=(python3 sqlcipher strace e2fsprogs xfsprogs)
 
 say() { printf '%s\n' "$*" >&2; }
@@ -35,8 +35,8 @@ install_missing() {
     apt_get install -y --no-install-recommends "${missing[@]}"
 }
 
-# apt_get ARGUMENT...: waits up to ten minutes for the package manager's locks, which a fresh system
-# often holds. (apt-get's own option waits for one of them only.)
+# apt_get ARGUMENT...: waits up to ten minutes for the package manager's locks, which are often held
+# on a fresh system. (apt-get's own option waits for only one of them.)
 apt_get() {
     local log=$BUILD/install.log deadline=$((SECONDS + 600)) waiting=
     mkdir -p "$BUILD"
@@ -51,15 +51,15 @@ apt_get() {
     done
 }
 
-# quietly LOG COMMAND...: what it prints goes into a log in the build folder, and is shown only if it
-# fails, which ends everything.
+# quietly LOG COMMAND...: writes the command's output to a log in the build folder. If the command
+# fails, shows the end of the log and exits.
 quietly() {
     local log=$BUILD/$1
     mkdir -p "$BUILD"
     "${@:2}" >"$log" 2>&1 || { tail -n 60 "$log" >&2; exit 1; }
 }
 
-# build TARGET...: all targets if none is named.
+# build [TARGET...]: builds these targets, or all.
 build() {
     say "Building in $BUILD"
     [ -f "$BUILD/build.ninja" ] ||
@@ -68,5 +68,5 @@ build() {
     quietly build.log cmake --build "$BUILD" ${1:+--target "$@"}
 }
 cmake_options=()
-# Precompiled headers and the place of the checkout are no reason to compile anew.
+# Precompiled headers or a moved checkout do not force a recompilation.
 export CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1

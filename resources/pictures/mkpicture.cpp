@@ -1,5 +1,5 @@
-// mkpicture DRAWING.svg PICTURE.bmp: draws at twice the drawing's own size, so that the picture is
-// sharp on a dense screen too (it is shown at half its pixels).
+// mkpicture DRAWING.svg PICTURE.bmp: draws at twice the drawing's own size. The picture is shown at
+// half its pixel size, so it is sharp on a dense screen too.
 
 #include <QImage>
 #include <QPainter>

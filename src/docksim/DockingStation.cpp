@@ -1,32 +1,18 @@
 #include "DockingStation.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace docksim {
 
 namespace {
 
 constexpr uint8_t kStatusDone = 0x00;
-constexpr uint8_t kStatusOutOfRange = 0x02; // no such time of day, or no such option
+constexpr uint8_t kStatusOutOfRange = 0x02; // not a time of day, or not an option
 constexpr uint8_t kStatusNoReader = 0xFF;
 
-// Where the arguments stand in a command frame, behind command code and PC code.
+// In a command frame, the arguments come after the command code and the PC code.
 constexpr size_t kArgumentsAt = 13;
-
-uint8_t ReplyCode(Command command) {
-    switch (command) {
-    case Command::Detect:
-        return kReplyDetect;
-    case Command::Clock:
-        return kReplyClock;
-    case Command::Options:
-        return kReplyOptions;
-    case Command::Erase:
-    case Command::Read:
-        break;
-    }
-    return kReplyMemory;
-}
 
 } // namespace
 
@@ -65,11 +51,11 @@ void DockingStation::Obey(Command command, const Bytes& frame) {
     std::vector<SendItem> items;
     AddWrongCode(command, items);
     if (command == Command::Read)
-        AddMemory(items);
+        std::ranges::move(BuildMemoryStream(m_scenario, m_noise), std::back_inserter(items));
     else if (command == Command::Detect)
-        AddReply(command, {kReplyDetect}, items);
+        AddReply(command, {ReplyCode(command)}, items);
     else
-        AddReply(command, {ReplyCode(command), Carry(command, frame)}, items);
+        AddReply(command, {ReplyCode(command), CarryOut(command, frame)}, items);
     Deliver(std::move(items));
 }
 
@@ -83,8 +69,7 @@ bool DockingStation::IsSilent(Command command) {
     return true;
 }
 
-// Does what a command with a status asks for, and returns the status.
-uint8_t DockingStation::Carry(Command command, const Bytes& frame) {
+uint8_t DockingStation::CarryOut(Command command, const Bytes& frame) {
     auto& refusals = m_scenario.faults.refusals;
     if (const auto it = refusals.find(command); it != refusals.end()) {
         const uint8_t status = it->second.status;
@@ -118,20 +103,17 @@ void DockingStation::AddWrongCode(Command command, std::vector<SendItem>& items)
     const Faults& faults = m_scenario.faults;
     if (!faults.wrongCode || faults.wrongCodeOnlyFor.value_or(command) != command)
         return;
-    SendItem item;
-    item.bytes = BuildFrame(m_scenario.header, {*faults.wrongCode, kStatusDone});
-    item.name = "wrong code " + HexText({*faults.wrongCode});
-    item.ofStream = command == Command::Read;
-    items.push_back(std::move(item));
+    items.push_back({.bytes = BuildFrame(m_scenario.header, {*faults.wrongCode, kStatusDone}),
+                     .name = "wrong code " + HexText({*faults.wrongCode}),
+                     .ofStream = command == Command::Read});
 }
 
 void DockingStation::AddReply(Command command, const Bytes& payload, std::vector<SendItem>& items) {
     const Faults& faults = m_scenario.faults;
     if (const auto it = faults.noise.replies.find(command); it != faults.noise.replies.end())
         items.push_back(NoiseItem(m_noise, it->second));
-    SendItem item;
-    item.bytes = BuildFrame(m_scenario.header, payload);
-    item.name = "reply " + HexText({payload[0]});
+    SendItem item{.bytes = BuildFrame(m_scenario.header, payload),
+                  .name = "reply " + HexText({payload[0]})};
     if (payload.size() > 1)
         item.name += " status " + HexText({payload[1]});
     if (faults.badChecksum.replies.contains(command)) {
@@ -139,15 +121,6 @@ void DockingStation::AddReply(Command command, const Bytes& payload, std::vector
         item.name += ", damaged";
     }
     items.push_back(std::move(item));
-}
-
-void DockingStation::AddMemory(std::vector<SendItem>& items) {
-    if (!m_scenario.inserted) {
-        items.push_back(NoReaderFrame(m_scenario));
-        return;
-    }
-    for (SendItem& item : BuildMemoryStream(m_scenario, m_noise))
-        items.push_back(std::move(item));
 }
 
 void DockingStation::Deliver(std::vector<SendItem> items) {
@@ -160,7 +133,7 @@ void DockingStation::Deliver(std::vector<SendItem> items) {
             item.byteTime = 10 * Micros{1'000'000} / *faults.bitsPerSecond;
         if (faults.singleByte)
             item.byteTime += faults.singleByteGapUs;
-        // Noise belongs to the frame behind it: the gap stands before both.
+        // Noise belongs to the frame after it: the gap comes before both.
         if (frameBefore && !noiseBefore)
             item.pauseBefore = faults.gapMs * 1000;
         if (faults.cut && item.isFrame && item.bytes.size() > 1) {
@@ -191,13 +164,9 @@ void DockingStation::PresentButton(const std::string& code) {
     const auto button = ParseButtonCode(code);
     if (!m_scenario.inserted)
         throw ParseError("no reader is in the station");
-    SendItem item;
-    item.bytes =
-        BuildFrame(m_scenario.header, {kCodeButton, 0x00, button[0], button[1], button[2]});
-    item.name = "button " + code;
-    std::vector<SendItem> items;
-    items.push_back(std::move(item));
-    Deliver(std::move(items));
+    Deliver({{.bytes = BuildFrame(m_scenario.header,
+                                  {kCodeButton, 0x00, button[0], button[1], button[2]}),
+              .name = "button " + code}});
 }
 
 void DockingStation::SetInserted(bool inserted) {
@@ -205,11 +174,7 @@ void DockingStation::SetInserted(bool inserted) {
     m_log.Remark(inserted ? "reader inserted" : "reader removed");
 }
 
-void DockingStation::SendNoise(long count) {
-    std::vector<SendItem> items;
-    items.push_back(NoiseItem(m_noise, count));
-    Deliver(std::move(items));
-}
+void DockingStation::SendNoise(long count) { Deliver({NoiseItem(m_noise, count)}); }
 
 std::string DockingStation::StateLine() const {
     const Reader& reader = m_scenario.reader;

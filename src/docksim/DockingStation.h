@@ -5,34 +5,34 @@
 #include "SendQueue.h"
 #include "WireLog.h"
 
-#include <map>
 #include <optional>
 #include <string>
 
 namespace docksim {
 
-// The docking station with its reader: obeys the station's commands and says what goes back.
-// It neither reads nor writes the line; the answers go into the queue.
+// The docking station with its reader. It carries out the station's commands and puts the answers
+// into the queue. It does not touch the line itself.
 class DockingStation {
 public:
     // Both must outlive this object.
     DockingStation(SendQueue& queue, WireLog& log) : m_queue(queue), m_log(log) {}
 
-    // Puts another station and reader in place; all counts begin anew. What is on its way goes on.
+    // Replaces the docking station and its reader. All counts start again; what is being sent
+    // continues.
     void Load(Scenario scenario);
 
-    // Bytes that the PC sent.
+    // Takes bytes that the station sent.
     void Receive(const Bytes& bytes) { Obey(m_finder.Take(bytes)); }
-    // Whether a frame has begun whose end is still to come.
+    // Whether a frame from the station is unfinished.
     bool AwaitsRest() const { return m_finder.Waiting(); }
     void GiveUpRest() { Obey(m_finder.GiveUp()); }
 
-    // To be called for each item that has been written.
+    // Call it for each item that has been written.
     void NoteSent(const SendItem& item);
 
-    // A guard's touch, somewhere on the tour. Throws ParseError.
+    // A guard's touch. Throws ParseError.
     void Touch(const Words& line);
-    // A button held to the docked reader. Throws ParseError, also when no reader is in.
+    // A button held to the docked reader. Throws ParseError, also if there is no reader.
     void PresentButton(const std::string& code);
     void SetInserted(bool inserted);
     void SetFault(const Words& line) { m_scenario.faults.Set(line); }
@@ -44,12 +44,13 @@ public:
 private:
     void Obey(const std::vector<FrameFinder::Found>& found);
     void Obey(Command command, const Bytes& frame);
-    // Each puts what answers a command behind the items.
+    // True if a fault keeps the command from being carried out and answered. Counts the fault down.
+    bool IsSilent(Command command);
+    // Carries out a command that has a status, and returns the status.
+    uint8_t CarryOut(Command command, const Bytes& frame);
+    // Each appends a part of the answer to the items.
     void AddWrongCode(Command command, std::vector<SendItem>& items);
     void AddReply(Command command, const Bytes& payload, std::vector<SendItem>& items);
-    void AddMemory(std::vector<SendItem>& items);
-    uint8_t Carry(Command command, const Bytes& frame);
-    bool IsSilent(Command command);
     void Deliver(std::vector<SendItem> items);
 
     SendQueue& m_queue;

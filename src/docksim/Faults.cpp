@@ -1,6 +1,6 @@
 #include "Faults.h"
 
-#include <functional>
+#include "Directives.h"
 
 namespace docksim {
 
@@ -16,7 +16,7 @@ Command ParseCommand(const std::string& word) {
     throw ParseError("'" + word + "' is not detect, read, erase, clock or options");
 }
 
-// The optional number behind the directive, as in "stop-after 2".
+// An optional number, as in "no-reader 2".
 long NumberOr(const Words& line, size_t at, long otherwise, long least, long most) {
     return line.size() > at ? ParseNumber(line[at], least, most) : otherwise;
 }
@@ -36,8 +36,8 @@ void SetSilent(Faults& faults, const Words& line) {
         faults.silent[ParseCommand(line[1])] = times;
         return;
     }
-    for (const char* word : kCommandWords)
-        faults.silent[ParseCommand(word)] = times;
+    for (const Command command : kCommands)
+        faults.silent[command] = times;
 }
 
 void SetRefusal(Faults& faults, const Words& line) {
@@ -49,7 +49,7 @@ void SetRefusal(Faults& faults, const Words& line) {
     if (line.size() > 3)
         refusal.status = ParseHexByte(line[3]);
     if (refusal.status == 0)
-        throw ParseError("status 00 would be no refusal");
+        throw ParseError("status 00 is not a refusal");
     faults.refusals[command] = refusal;
 }
 
@@ -81,16 +81,10 @@ void SetCut(Faults& faults, const Words& line) {
     faults.cut = cut;
 }
 
-struct Directive {
-    size_t leastWords;
-    size_t mostWords;
-    std::function<void(Faults&, const Words&)> set;
-};
-
-const std::map<std::string, Directive>& Directives() {
+const Directives<Faults>& FaultDirectives() {
     using F = Faults;
     using W = Words;
-    static const std::map<std::string, Directive> directives = {
+    static const Directives<Faults> directives = {
         {"none", {1, 1, [](F& f, const W&) { f = {}; }}},
         {"silent", {1, 3, SetSilent}},
         {"refuse", {3, 4, SetRefusal}},
@@ -137,11 +131,8 @@ const std::map<std::string, Directive>& Directives() {
 void Faults::Set(const Words& line) {
     if (line.empty())
         throw ParseError("the name of the fault is missing");
-    const auto it = Directives().find(line.front());
-    if (it == Directives().end())
+    if (!ObeyDirective(FaultDirectives(), *this, line))
         throw ParseError("unknown directive '" + line.front() + "'");
-    NeedWords(line, it->second.leastWords, it->second.mostWords);
-    it->second.set(*this, line);
 }
 
 bool Faults::Dropped(size_t streamByte) const {

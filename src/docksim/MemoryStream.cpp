@@ -4,18 +4,23 @@ namespace docksim {
 
 namespace {
 
+// A frame that reports something other than memory.
 SendItem StatusFrame(const Scenario& scenario, uint8_t filler, const char* name) {
     Bytes payload(9, filler);
     payload[0] = kReplyMemory;
-    SendItem item;
-    item.bytes = BuildFrame(scenario.header, payload);
-    item.name = name;
-    item.ofStream = true;
-    return item;
+    return {.bytes = BuildFrame(scenario.header, payload), .name = name, .ofStream = true};
 }
 
-// The bytes of a frame that the faults let through. `streamByte` is the number of its first byte
-// in the stream.
+SendItem TransferFaultFrame(const Scenario& scenario) {
+    return StatusFrame(scenario, 0x01, "status: transfer fault");
+}
+
+SendItem NoReaderFrame(const Scenario& scenario) {
+    return StatusFrame(scenario, 0xFF, "status: no reader in the station");
+}
+
+// The bytes of the frame that are sent, with drops and damage. `streamByte` is the number of its
+// first byte in the stream.
 Bytes Damaged(const Bytes& frame, const Faults& faults, size_t streamByte) {
     Bytes sent;
     for (size_t i = 0; i < frame.size(); ++i) {
@@ -30,39 +35,29 @@ Bytes Damaged(const Bytes& frame, const Faults& faults, size_t streamByte) {
 
 } // namespace
 
-SendItem TransferFaultFrame(const Scenario& scenario) {
-    return StatusFrame(scenario, 0x01, "status: transfer fault");
-}
-
-SendItem NoReaderFrame(const Scenario& scenario) {
-    return StatusFrame(scenario, 0xFF, "status: no reader in the station");
-}
-
 SendItem NoiseItem(NoiseSource& noise, long count) {
-    SendItem item;
-    item.name = "noise";
-    item.isFrame = false;
+    SendItem item{.name = "noise", .isFrame = false};
     for (long i = 0; i < count; ++i)
         item.bytes.push_back(static_cast<uint8_t>(noise()));
     return item;
 }
 
 std::vector<SendItem> BuildMemoryStream(const Scenario& scenario, NoiseSource& noise) {
+    if (!scenario.inserted)
+        return {NoReaderFrame(scenario)};
     const Faults& faults = scenario.faults;
     const long count = scenario.count.value_or(static_cast<long>(scenario.reader.Records().size()));
     const std::vector<Bytes> payloads =
         scenario.reader.MemoryPayloads(count, scenario.frames.value_or(FramesForCount(count)));
 
     std::vector<SendItem> stream;
-    size_t streamByte = 0; // of the undamaged stream
+    size_t streamByte = 0; // in the undamaged stream
     size_t sentBytes = 0;
-    for (size_t k = 0;; ++k) { // k frames have gone
+    for (size_t k = 0;; ++k) { // k frames are done
         const long gone = static_cast<long>(k);
         if (faults.vanishAfterFrame == gone || faults.vanishAfterBytes == sentBytes) {
-            if (stream.empty()) {
-                stream.emplace_back();
-                stream.back().isFrame = false;
-            }
+            if (stream.empty())
+                stream.push_back({.isFrame = false});
             stream.back().vanishAfter = true;
             break;
         }

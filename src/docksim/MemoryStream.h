@@ -9,16 +9,11 @@ namespace docksim {
 
 using NoiseSource = std::mt19937;
 
-// The frame that tells of something other than memory: eight bytes of 01 for a transfer fault,
-// eight of FF for an empty station.
-SendItem TransferFaultFrame(const Scenario& scenario);
-SendItem NoReaderFrame(const Scenario& scenario);
-
-// Random bytes, the same ones for the same seed.
+// Random bytes. The same seed gives the same bytes.
 SendItem NoiseItem(NoiseSource& noise, long count);
 
-// What answers a read: the memory frames with all the faults that strike a memory stream, but
-// without the way in which bytes are delivered (pace, gaps, single bytes).
+// The answer to a read: the memory frames with all faults of a memory stream, or the status
+// frame "no reader". It does not say how the bytes are delivered (pace, gaps, single bytes).
 std::vector<SendItem> BuildMemoryStream(const Scenario& scenario, NoiseSource& noise);
 
 } // namespace docksim

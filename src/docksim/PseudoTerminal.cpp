@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <system_error>
@@ -22,10 +23,9 @@ namespace {
     throw std::system_error(errno, std::generic_category(), what);
 }
 
-std::string LinkTarget(const std::string& path) {
-    std::array<char, 4096> target{};
-    const ssize_t length = readlink(path.c_str(), target.data(), target.size());
-    return length > 0 ? std::string(target.data(), static_cast<size_t>(length)) : std::string();
+bool IsLinkTo(const std::string& path, const std::string& target) {
+    std::error_code error;
+    return std::filesystem::read_symlink(path, error) == target;
 }
 
 } // namespace
@@ -62,7 +62,7 @@ void PseudoTerminal::Link(const std::string& path) {
         errno = EEXIST;
         Fail(path);
     }
-    // Renamed into place: at no moment does the link point nowhere.
+    // Renamed into place, so that the link is valid at every moment.
     const std::string fresh = path + "." + std::to_string(getpid());
     if (symlink(m_path.c_str(), fresh.c_str()) != 0)
         Fail(path);
@@ -93,7 +93,8 @@ bool PseudoTerminal::NoticeStations(bool heard) {
                 ioctl(m_slave, TIOCNXCL); // a killed station may have left the device locked
         }
     }
-    // Two stations that open the device at once may be told as one. Who speaks is there.
+    // Two stations that open the device at the same moment may be reported as one. A station that
+    // sends something has it open.
     if (heard && !noticed && m_holders == 0)
         m_holders = 1;
 #endif
@@ -104,7 +105,7 @@ bool PseudoTerminal::NoticeStations(bool heard) {
 void PseudoTerminal::DropUnread() {
     if (Held())
         return;
-    // What is still in the cable, then what has arrived.
+    // First what is still on its way, then what has arrived.
     tcflush(m_master, TCOFLUSH);
     tcflush(m_slave, TCIFLUSH);
     std::array<char, 4096> buffer{};
@@ -120,8 +121,8 @@ Bytes PseudoTerminal::Read() {
 }
 
 void PseudoTerminal::Vanish() {
-    // Closing the line throws away what the station has not read yet. The queue is looked at
-    // several times, for bytes on their way into it are not counted.
+    // Closing the line discards what the station has not read yet. The queue must be empty several
+    // times, because it does not count the bytes that are still on their way into it.
     int timesEmpty = 0;
     for (int i = 0; Held() && i < 100 && timesEmpty < 4; ++i) {
         usleep(5000);
@@ -132,7 +133,7 @@ void PseudoTerminal::Vanish() {
 }
 
 void PseudoTerminal::Close() {
-    if (!m_link.empty() && LinkTarget(m_link) == m_path)
+    if (!m_link.empty() && IsLinkTo(m_link, m_path))
         unlink(m_link.c_str());
     m_link.clear();
     for (int* descriptor : {&m_watch, &m_slave, &m_master}) {

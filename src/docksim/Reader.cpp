@@ -10,6 +10,7 @@ namespace docksim {
 
 namespace {
 
+constexpr size_t kMostRecords = 65535;
 constexpr uint8_t kMarker = 0xAA;
 constexpr size_t kFirstFrameRecords = 58;
 constexpr size_t kFurtherFrameRecords = 60;
@@ -38,13 +39,7 @@ Moment ParseMoment(const std::string& date, const std::string& time) {
 
 Moment MomentNow() {
     const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    char date[16];
-    char time[8];
-    std::strftime(date, sizeof date, "%Y-%m-%d", &local);
-    std::strftime(time, sizeof time, "%H:%M", &local);
-    return ParseMoment(date, time);
+    return ParseMoment(LocalTimeText("%Y-%m-%d", now), LocalTimeText("%H:%M", now));
 }
 
 std::string MomentText(const Moment& moment) {
@@ -117,7 +112,7 @@ std::vector<Bytes> Reader::MemoryPayloads(long count, size_t frames) const {
             payload.push_back(static_cast<uint8_t>(count >> 8));
             payload.insert(payload.end(), m_identifier.begin(), m_identifier.end());
             payload.push_back(firmware);
-            payload.push_back(0); // means nothing to a station
+            payload.push_back(0); // unused
         }
         const size_t room = k == 1 ? kFirstFrameRecords : kFurtherFrameRecords;
         for (size_t i = 0; i < room && next < m_records.size(); ++i, ++next)

@@ -1,50 +1,50 @@
 #include "Scenario.h"
 
+#include "Directives.h"
+
 #include <fstream>
-#include <functional>
-#include <map>
 
 namespace docksim {
 
 namespace {
 
-struct Directive {
-    size_t words; // the directive counted; 0: the routine counts them
-    std::function<void(Scenario&, const Words&)> obey;
-};
-
-const std::map<std::string, Directive>& Directives() {
+const Directives<Scenario>& ScenarioDirectives() {
     using S = Scenario;
     using W = Words;
-    static const std::map<std::string, Directive> directives = {
-        {"reader", {2, [](S& s, const W& w) { s.reader.SetIdentifier(w[1]); }}},
-        {"firmware", {2, [](S& s, const W& w) { s.reader.firmware = ParseHexByte(w[1]); }}},
-        {"touch", {0, [](S& s, const W& w) { ObeyTouch(s.reader, w); }}},
+    static const Directives<Scenario> directives = {
+        {"reader", {2, 2, [](S& s, const W& w) { s.reader.SetIdentifier(w[1]); }}},
+        {"firmware", {2, 2, [](S& s, const W& w) { s.reader.firmware = ParseHexByte(w[1]); }}},
+        {"touch", {2, 4, [](S& s, const W& w) { ObeyTouch(s.reader, w); }}},
         {"record",
-         {5,
+         {5, 5,
           [](S& s, const W& w) {
               s.reader.AddRecord(
                   {ParseHexByte(w[1]), ParseHexByte(w[2]), ParseHexByte(w[3]), ParseHexByte(w[4])});
           }}},
-        {"count", {2, [](S& s, const W& w) { s.count = ParseNumber(w[1], -32768, 65535); }}},
+        {"count", {2, 2, [](S& s, const W& w) { s.count = ParseNumber(w[1], -32768, 65535); }}},
         {"frames",
-         {2,
+         {2, 2,
           [](S& s, const W& w) { s.frames = static_cast<size_t>(ParseNumber(w[1], 0, 65535)); }}},
         {"header",
-         {6,
+         {6, 6,
           [](S& s, const W& w) {
               s.header = {ParseHexByte(w[1]), ParseHexByte(w[2]), ParseHexByte(w[3]),
                           ParseHexByte(w[4]), ParseHexByte(w[5])};
           }}},
         {"seed",
-         {2,
+         {2, 2,
           [](S& s, const W& w) {
               s.seed = static_cast<unsigned long>(ParseNumber(w[1], 0, 2147483647));
           }}},
-        {"insert", {1, [](S& s, const W&) { s.inserted = true; }}},
-        {"remove", {1, [](S& s, const W&) { s.inserted = false; }}},
-        {"abort-on-command", {1, [](S& s, const W&) { s.abortOnCommand = true; }}},
-        {"queue", {1, [](S& s, const W&) { s.abortOnCommand = false; }}},
+        {"insert", {1, 1, [](S& s, const W&) { s.inserted = true; }}},
+        {"remove", {1, 1, [](S& s, const W&) { s.inserted = false; }}},
+        {"abort-on-command", {1, 1, [](S& s, const W&) { s.abortOnCommand = true; }}},
+        {"queue", {1, 1, [](S& s, const W&) { s.abortOnCommand = false; }}},
+        {"fault",
+         {1, kAnyWords,
+          [](S& s, const W& w) {
+              s.faults.Set({w.begin() + 1, w.end()});
+          }}},
     };
     return directives;
 }
@@ -52,16 +52,8 @@ const std::map<std::string, Directive>& Directives() {
 } // namespace
 
 void Scenario::Obey(const Words& line) {
-    const auto it = Directives().find(line.front());
-    if (it != Directives().end()) {
-        if (it->second.words != 0)
-            NeedWords(line, it->second.words, it->second.words);
-        it->second.obey(*this, line);
-    } else if (line.front() == "fault") {
-        faults.Set({line.begin() + 1, line.end()});
-    } else {
+    if (!ObeyDirective(ScenarioDirectives(), *this, line))
         faults.Set(line);
-    }
 }
 
 Scenario LoadScenario(const std::string& file) {
@@ -85,7 +77,6 @@ Scenario LoadScenario(const std::string& file) {
 }
 
 void ObeyTouch(Reader& reader, const Words& line) {
-    NeedWords(line, 2, 4);
     std::string code;
     std::string date;
     std::string time;
@@ -94,11 +85,11 @@ void ObeyTouch(Reader& reader, const Words& line) {
                              : line[i].find(':') != std::string::npos ? time
                                                                       : code;
         if (!place.empty())
-            throw ParseError("'" + line[i] + "' is one too many");
+            throw ParseError("'" + line[i] + "' is one argument too many");
         place = line[i];
     }
     if (date.empty() != time.empty())
-        throw ParseError("a touch needs both date and time, or none");
+        throw ParseError("a touch needs both date and time, or neither");
     reader.AddTouch(code, date.empty() ? MomentNow() : ParseMoment(date, time));
 }
 

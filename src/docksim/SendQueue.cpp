@@ -49,8 +49,8 @@ void SendQueue::ScheduleNext() {
         pause = item.pauseBefore;
     else if (m_sent == item.cutAt)
         pause = item.cutPause;
-    // A pause runs from the moment the byte before has really gone, so it is never too short. The
-    // pace runs from when that byte was due, so waking up late does not slow the line down.
+    // A pause starts when the previous byte was really written, so it is never too short. The pace
+    // counts from when that byte was due, so waking up late does not slow the line down.
     m_due = (pause > 0 ? MicrosNow() + pause : m_last) + item.byteTime;
 }
 

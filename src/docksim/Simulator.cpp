@@ -1,5 +1,6 @@
 #include "Simulator.h"
 
+#include "Directives.h"
 #include "DockingStation.h"
 #include "PseudoTerminal.h"
 
@@ -9,7 +10,6 @@
 #include <csignal>
 #include <iostream>
 #include <poll.h>
-#include <stdexcept>
 #include <system_error>
 #include <unistd.h>
 
@@ -19,9 +19,10 @@ namespace {
 
 constexpr char kUsage[] = "usage: docksim [--scenario FILE] [--log FILE|-] [--link PATH]";
 
-// A station's frame takes 20 ms at 9600 bits per second; half a second is a station that gave up.
+// A station's frame takes 20 ms at 9600 bits per second. After half a second the station has given
+// up.
 constexpr Micros kPatienceForRest = 500'000;
-// A full line is looked at again this often even if nobody tells that it has room.
+// How often a full line is tried again, even if the system does not report that it has room.
 constexpr Micros kFullLineRetry = 100'000;
 
 volatile std::sig_atomic_t gStopSignal = 0;
@@ -54,11 +55,11 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
     return arguments;
 }
 
-// Catches the signals that end the program, and keeps them back except while the program waits.
-// Returns the mask to wait with.
+// Catches the signals that end the program, and blocks them except while the program waits. Returns
+// the signal mask to wait with.
 sigset_t CatchStopSignals() {
     std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGTTIN, SIG_IGN); // in the background of a terminal, standard input just ends
+    std::signal(SIGTTIN, SIG_IGN); // in the background, standard input just ends
     struct sigaction action {};
     action.sa_handler = [](int) { gStopSignal = 1; };
     sigset_t stop;
@@ -80,12 +81,9 @@ sigset_t CatchStopSignals() {
 
 class Simulator {
 public:
-    // Throws ParseError for what the caller got wrong, std::system_error when no line can be had.
+    // Throws ParseError for a mistake of the caller, std::system_error if there is no line.
     explicit Simulator(const Arguments& arguments) {
-        if (!arguments.scenario.empty())
-            m_station.Load(LoadScenario(arguments.scenario));
-        else
-            m_station.Load({});
+        m_station.Load(arguments.scenario.empty() ? Scenario() : LoadScenario(arguments.scenario));
         if (!m_log.Open(arguments.log))
             throw ParseError(arguments.log + ": cannot be written");
         m_line.Open();
@@ -104,8 +102,8 @@ public:
         m_log.Remark("serving on " + m_line.Path());
         while (!m_quit && gStopSignal == 0) {
             Wait(waiting);
-            // The line is read first and obeyed last, so that whatever was typed before the
-            // station sent its command is in force when the command is obeyed.
+            // The line is read first and obeyed last. So what was typed before the station sent its
+            // command has taken effect when the command is carried out.
             const Bytes arrived = m_line.Read();
             if (m_line.NoticeStations(!arrived.empty()))
                 m_station.GiveUpRest();
@@ -118,7 +116,7 @@ public:
     }
 
 private:
-    // Waits until something arrives, something is due, or the line has room again.
+    // Waits until something arrives or is due, or the line has room again.
     void Wait(const sigset_t& mask) {
         const short lineEvents = static_cast<short>(m_queue.Full() ? POLLIN | POLLOUT : POLLIN);
         std::array<pollfd, 3> fds = {{{m_line.Descriptor(), lineEvents, 0},
@@ -129,8 +127,7 @@ private:
         if (m_queue.Full())
             wake = now + kFullLineRetry;
         if (m_station.AwaitsRest())
-            wake = std::min(wake.value_or(m_lastArrival + kPatienceForRest),
-                            m_lastArrival + kPatienceForRest);
+            wake = std::min(wake.value_or(RestDeadline()), RestDeadline());
         timespec timeout{};
         if (wake) {
             const Micros left = std::max<Micros>(0, *wake - now);
@@ -140,16 +137,19 @@ private:
             throw std::system_error(errno, std::generic_category(), "waiting");
     }
 
+    // When an unfinished frame is given up.
+    Micros RestDeadline() const { return m_lastArrival + kPatienceForRest; }
+
     void Receive(const Bytes& arrived) {
         if (!arrived.empty()) {
             m_lastArrival = MicrosNow();
             m_station.Receive(arrived);
-        } else if (m_station.AwaitsRest() && MicrosNow() >= m_lastArrival + kPatienceForRest) {
+        } else if (m_station.AwaitsRest() && MicrosNow() >= RestDeadline()) {
             m_station.GiveUpRest();
         }
     }
 
-    // Returns false when the device has vanished.
+    // Returns false if the device has vanished.
     bool Transmit() {
         for (const SendItem& item : m_queue.Transmit(MicrosNow(), m_line.Descriptor())) {
             m_station.NoteSent(item);
@@ -185,48 +185,49 @@ private:
         if (words.empty())
             return;
         try {
-            ObeyWords(words);
+            if (!ObeyDirective(LineDirectives(), *this, words))
+                throw ParseError("unknown line '" + words.front() + "'");
         } catch (const ParseError& error) {
             std::cerr << "docksim: " << error.what() << std::endl;
         }
     }
 
-    void ObeyWords(const Words& words) {
-        const std::string& verb = words.front();
-        const bool takesValue =
-            verb == "button" || verb == "load" || verb == "noise" || verb == "log";
-        if (takesValue)
-            NeedWords(words, 2, 2);
-        else if (verb != "touch" && verb != "fault")
-            NeedWords(words, 1, 1);
+    static const Directives<Simulator>& LineDirectives() {
+        using S = Simulator;
+        using W = Words;
+        static const Directives<Simulator> directives = {
+            {"insert", {1, 1, [](S& s, const W&) { s.m_station.SetInserted(true); }}},
+            {"remove", {1, 1, [](S& s, const W&) { s.m_station.SetInserted(false); }}},
+            {"touch", {2, 4, [](S& s, const W& w) { s.m_station.Touch(w); }}},
+            {"button", {2, 2, [](S& s, const W& w) { s.m_station.PresentButton(w[1]); }}},
+            {"load", {2, 2, [](S& s, const W& w) { s.m_station.Load(LoadScenario(w[1])); }}},
+            {"fault",
+             {1, kAnyWords,
+              [](S& s, const W& w) {
+                  s.m_station.SetFault({w.begin() + 1, w.end()});
+              }}},
+            {"noise",
+             {2, 2,
+              [](S& s, const W& w) { s.m_station.SendNoise(ParseNumber(w[1], 1, 1'000'000)); }}},
+            {"state",
+             {1, 1, [](S& s, const W&) { std::cout << s.m_station.StateLine() << std::endl; }}},
+            {"log", {2, 2, [](S& s, const W& w) { s.SwitchLog(w[1]); }}},
+            {"quit", {1, 1, [](S& s, const W&) { s.m_quit = true; }}},
+        };
+        return directives;
+    }
 
-        if (verb == "insert" || verb == "remove")
-            m_station.SetInserted(verb == "insert");
-        else if (verb == "touch")
-            m_station.Touch(words);
-        else if (verb == "button")
-            m_station.PresentButton(words[1]);
-        else if (verb == "load")
-            m_station.Load(LoadScenario(words[1]));
-        else if (verb == "fault")
-            m_station.SetFault({words.begin() + 1, words.end()});
-        else if (verb == "noise")
-            m_station.SendNoise(ParseNumber(words[1], 1, 1'000'000));
-        else if (verb == "state")
-            std::cout << m_station.StateLine() << std::endl;
-        else if (verb == "log" && (words[1] == "on" || words[1] == "off"))
-            m_log.SwitchOn(words[1] == "on");
-        else if (verb == "quit")
-            m_quit = true;
-        else
-            throw ParseError("unknown line '" + verb + (takesValue ? " " + words[1] : "") + "'");
+    void SwitchLog(const std::string& word) {
+        if (word != "on" && word != "off")
+            throw ParseError("'" + word + "' is not on or off");
+        m_log.SwitchOn(word == "on");
     }
 
     WireLog m_log;
     SendQueue m_queue;
     DockingStation m_station{m_queue, m_log};
     PseudoTerminal m_line;
-    std::string m_input; // the beginning of a line
+    std::string m_input; // an unfinished line
     bool m_inputOpen = true;
     bool m_quit = false;
     Micros m_lastArrival = 0;

@@ -5,9 +5,9 @@
 
 namespace docksim {
 
-// The whole program behind its main function: arguments without the program's name. Returns the
-// exit code: 0 after quit, SIGTERM, SIGINT or a vanished device, 1 when the line fails, 2 for bad
-// arguments or a bad scenario, after one line on standard error.
+// The whole program. The arguments do not include the program's name. Returns the exit code: 0
+// after quit, SIGTERM, SIGINT or a vanished device; 1 if the line fails; 2 for a bad argument or
+// scenario. An error gives one line on standard error.
 int RunDocksim(const std::vector<std::string>& arguments);
 
 } // namespace docksim

@@ -30,7 +30,7 @@ uint8_t ParseHexByte(const std::string& word) {
     const char* end = word.data() + word.size();
     const auto result = std::from_chars(word.data(), end, value, 16);
     if (result.ec != std::errc() || result.ptr != end || word.size() > 2)
-        throw ParseError("'" + word + "' is not a byte in hexadecimal");
+        throw ParseError("'" + word + "' is not a hexadecimal byte");
     return static_cast<uint8_t>(value);
 }
 
@@ -38,7 +38,7 @@ std::vector<uint8_t> ParseHexText(const std::string& word, size_t count) {
     const bool allHex =
         std::all_of(word.begin(), word.end(), [](unsigned char c) { return std::isxdigit(c); });
     if (!allHex || word.size() != 2 * count)
-        throw ParseError("'" + word + "' is not made of " + std::to_string(2 * count) +
+        throw ParseError("'" + word + "' must be " + std::to_string(2 * count) +
                          " hexadecimal digits");
     std::vector<uint8_t> bytes;
     for (size_t i = 0; i < count; ++i)
@@ -56,6 +56,13 @@ std::string HexText(const std::vector<uint8_t>& bytes) {
         text += digits[byte & 15];
     }
     return text;
+}
+
+std::string LocalTimeText(const char* format, std::time_t time) {
+    std::tm local{};
+    localtime_r(&time, &local);
+    char text[64];
+    return {text, std::strftime(text, sizeof text, format, &local)};
 }
 
 void NeedWords(const Words& words, size_t least, size_t most) {

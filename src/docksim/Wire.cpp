@@ -1,6 +1,7 @@
 #include "Wire.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace docksim {
 
@@ -10,31 +11,30 @@ constexpr std::array<uint8_t, 4> kPreamble = {0xFF, 0xFF, 0xFF, 0x55};
 constexpr size_t kHeaderAt = 4;
 constexpr size_t kLengthAt = 9;
 constexpr size_t kPayloadAt = 10;
-constexpr size_t kLongestCommand = 7; // the clock command; a greater N is a damaged one
+constexpr size_t kLongestCommand = 7; // the clock command; a greater N is damage
 
 uint8_t Checksum(Bytes::const_iterator first, Bytes::const_iterator last) {
-    uint8_t sum = 0;
-    for (; first != last; ++first)
-        sum = static_cast<uint8_t>(sum + *first);
-    return sum;
+    return static_cast<uint8_t>(std::accumulate(first, last, 0U));
 }
 
 struct CommandShape {
-    const char* name;
-    size_t length;
-    Bytes start; // the fixed bytes that the payload begins with
+    const char* word; // in scenarios
+    const char* name; // in the log
+    uint8_t reply;
+    size_t length; // of the payload
+    Bytes start;   // the fixed bytes that the payload begins with
 };
 
-// In the order of Command.
-const std::array<CommandShape, 5>& Shapes() {
-    static const std::array<CommandShape, 5> shapes = {{
-        {"CmdDetect", 1, {0x11}},
-        {"CmdReadMemory", 6, {0x72, 0x88, 0x88, 0x00, 0x00, 0x00}},
-        {"CmdEraseMemory", 4, {0x72, 0x88, 0x88, 0xFF}},
-        {"CmdSetClock", 7, {0x12, 0x88, 0x88}},
-        {"CmdSetOptions", 4, {0x13, 0x88, 0x88}},
+const CommandShape& ShapeOf(Command command) {
+    // In the order of Command.
+    static const std::array<CommandShape, kCommands.size()> shapes = {{
+        {"detect", "CmdDetect", 0x80, 1, {0x11}},
+        {"read", "CmdReadMemory", kReplyMemory, 6, {0x72, 0x88, 0x88, 0x00, 0x00, 0x00}},
+        {"erase", "CmdEraseMemory", kReplyMemory, 4, {0x72, 0x88, 0x88, 0xFF}},
+        {"clock", "CmdSetClock", 0x93, 7, {0x12, 0x88, 0x88}},
+        {"options", "CmdSetOptions", 0x80, 4, {0x13, 0x88, 0x88}},
     }};
-    return shapes;
+    return shapes[static_cast<size_t>(command)];
 }
 
 } // namespace
@@ -51,22 +51,24 @@ Bytes BuildFrame(const Header& header, const Bytes& payload) {
 }
 
 std::optional<Command> CommandFromWord(const std::string& word) {
-    const auto it = std::find(kCommandWords.begin(), kCommandWords.end(), word);
-    if (it == kCommandWords.end())
-        return std::nullopt;
-    return static_cast<Command>(it - kCommandWords.begin());
+    for (const Command command : kCommands)
+        if (ShapeOf(command).word == word)
+            return command;
+    return std::nullopt;
 }
 
-std::string CommandName(Command command) { return Shapes()[static_cast<size_t>(command)].name; }
+std::string CommandName(Command command) { return ShapeOf(command).name; }
+
+uint8_t ReplyCode(Command command) { return ShapeOf(command).reply; }
 
 std::optional<Command> DecodeCommand(const Bytes& frame) {
     if (!std::equal(kStationHeader.begin(), kStationHeader.end(), frame.begin() + kHeaderAt))
         return std::nullopt;
-    for (size_t i = 0; i < Shapes().size(); ++i) {
-        const CommandShape& shape = Shapes()[i];
+    for (const Command command : kCommands) {
+        const CommandShape& shape = ShapeOf(command);
         if (frame[kLengthAt] == shape.length &&
             std::equal(shape.start.begin(), shape.start.end(), frame.begin() + kPayloadAt))
-            return static_cast<Command>(i);
+            return command;
     }
     return std::nullopt;
 }

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-// Frames as they stand on the wire, seen from the docking station.
+// The frames on the wire, as the docking station sees them.
 //
 //   FF FF FF 55  h h h h h  N  payload (N bytes)  checksum
 //
@@ -18,16 +18,14 @@
 //            13 88 88 opt                   set options  80 status
 //            72 88 88 FF                    erase        F3 status
 //            72 88 88 00 00 00              read         F3 ... memory frames, 252 bytes each
-//   docking station, unasked                             24 00 lo mid hi: a button was presented
+//   docking station, unasked                             24 00 lo mid hi: a button was held to
+//                                                        the reader (its code, low byte first)
 namespace docksim {
 
 using Bytes = std::vector<uint8_t>;
 using Header = std::array<uint8_t, 5>;
 
 inline constexpr Header kStationHeader = {0x03, 0x01, 0x03, 0x51, 0x00};
-inline constexpr uint8_t kReplyDetect = 0x80;
-inline constexpr uint8_t kReplyClock = 0x93;
-inline constexpr uint8_t kReplyOptions = 0x80;
 inline constexpr uint8_t kReplyMemory = 0xF3; // to erase and to read
 inline constexpr uint8_t kCodeButton = 0x24;
 
@@ -36,20 +34,25 @@ Bytes BuildFrame(const Header& header, const Bytes& payload);
 
 enum class Command { Detect, Read, Erase, Clock, Options };
 
-// The names that scenarios use, in the order of Command.
-inline constexpr std::array<const char*, 5> kCommandWords = {"detect", "read", "erase", "clock",
-                                                             "options"};
+inline constexpr std::array kCommands = {Command::Detect, Command::Read, Command::Erase,
+                                         Command::Clock, Command::Options};
+
+// The command with this name in a scenario, such as "detect".
 std::optional<Command> CommandFromWord(const std::string& word);
 
-// The name for the log: "CmdDetect", ...
+// The name for the log, such as "CmdDetect".
 std::string CommandName(Command command);
 
-// The command in a frame with a right checksum; none when header, length or the fixed bytes are
-// not those of any command.
+// The code that the reply to the command begins with.
+uint8_t ReplyCode(Command command);
+
+// The command in a frame whose checksum is right. None if the header, the length or the fixed bytes
+// match no command.
 std::optional<Command> DecodeCommand(const Bytes& frame);
 
-// Finds a station's frames in the bytes that arrive, whatever stands between them. After a bad
-// frame it looks on from the byte behind the sync, so a good frame inside a bad one is not lost.
+// Finds the station's frames in the bytes that arrive, with anything between them. After a bad
+// frame it searches on from the byte after the preamble, so that a good frame inside a bad one is
+// found.
 class FrameFinder {
 public:
     enum class Kind { Frame, Bad, Junk };
@@ -61,9 +64,10 @@ public:
 
     std::vector<Found> Take(const Bytes& arrived);
 
-    // Gives up the frame that has begun: the rest of it is not coming any more.
+    // Gives up the unfinished frame: the rest of it will not come.
     std::vector<Found> GiveUp();
 
+    // Whether a frame is unfinished.
     bool Waiting() const { return !m_pending.empty(); }
 
 private:

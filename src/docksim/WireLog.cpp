@@ -35,14 +35,10 @@ void WireLog::WriteLine(const std::string& text) {
     const auto ms =
         std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() %
         1000;
-    std::tm local{};
-    localtime_r(&seconds, &local);
-    char date[32];
-    char stamp[48];
-    std::strftime(date, sizeof date, "%Y-%m-%d %H:%M:%S", &local);
-    std::snprintf(stamp, sizeof stamp, "%s.%03d ", date, static_cast<int>(ms));
+    char fraction[16];
+    std::snprintf(fraction, sizeof fraction, ".%03d ", static_cast<int>(ms));
     std::ostream& out = m_file.is_open() ? m_file : std::cerr;
-    out << stamp << text << '\n' << std::flush;
+    out << LocalTimeText("%Y-%m-%d %H:%M:%S", seconds) << fraction << text << '\n' << std::flush;
 }
 
 } // namespace docksim

@@ -1,9 +1,9 @@
-"""Faults of single calls: a kill at each write, sync, rename and unlink, and each of them failing.
+"""Faults of single calls: a kill at each write, sync, rename and unlink, or a failure of each.
 
-A first run under strace says which of these calls the job makes on its files, its folder and its
-serial line. Then each of them is struck in a run of its own: strace kills the program as it enters
-the call, or lets the call fail. A bad place of the disk (EIO) fails one call; a full disk (ENOSPC)
-goes on failing.
+Two runs under strace find out how often the job makes these calls on its files, its folder and its
+serial line. Then each call is struck in a run of its own: strace kills the program as it enters
+the call, or makes the call fail. A bad sector (EIO) fails one call. A full disk (ENOSPC) fails that
+call and all later ones.
 """
 
 import re
@@ -35,7 +35,7 @@ def strace(log, *options):
 
 
 def narrowed(run, names):
-    """The options that narrow strace to these files of the job, its folder and its line."""
+    """The strace options for only these files of the job, its folder and its line."""
     paths = [run.station.home, *(run.station.home / name for name in sorted(names))]
     if isinstance(run, Download):
         paths.append(run.dock.device)
@@ -44,8 +44,8 @@ def narrowed(run, names):
 
 @cache
 def calls_of(setting, job):
-    """The names of the files that the job touches in its folder, and how often it makes each call
-    on them."""
+    """The names of the files in its folder that the job uses, and how often it makes each call on
+    them."""
     with job(setting, f"traced {job.__name__}") as run:
         log = run.folder / "trace"
         run.begin(strace(log))
@@ -55,7 +55,7 @@ def calls_of(setting, job):
         log = run.folder / "trace"
         run.begin(strace(log, *narrowed(run, names)))
         run.end()
-        # strace counts the calls of each thread apart.
+        # strace counts the calls of each thread separately.
         made = Counter(re.findall(r"^(\d+) +(\w+)\(", log.read_text(), re.MULTILINE))
     counts = Counter()
     for (_, call), number in made.items():

@@ -1,7 +1,7 @@
-"""A campaign: its setting, its runs side by side, and the line that it prints.
+"""A campaign: its setting, its parallel runs, and the line that it prints.
 
-A touch is (reader, minute, code): the minute counts from 30 December 1899, as the store's dates do,
-and no code stands twice in one reader.
+A touch is (reader, minute, code). The minute counts from 30 December 1899, like the store's dates.
+No code occurs twice in one reader.
 """
 
 import random
@@ -12,7 +12,7 @@ from concurrent.futures import ThreadPoolExecutor
 from dataclasses import dataclass, field
 from pathlib import Path
 
-SLEEPERS, WORKERS = 36, 3  # a download mostly waits for the dock; the other jobs are at work
+SLEEPERS, WORKERS = 36, 3  # downloads mostly wait for the dock; other jobs need the processor
 
 
 class Skipped(Exception):
@@ -21,12 +21,12 @@ class Skipped(Exception):
 
 @dataclass(eq=False)
 class Setting:
-    """Where the programs are, where the campaigns work, and what makes a run repeatable."""
+    """The programs, the working folder, the seed of the faults, and the prepared stores."""
 
     programs: Path
     work: Path
     seed: int
-    few: bool = False  # a tenth of the runs
+    few: bool = False  # only a tenth of the runs
     templates: dict = field(default_factory=dict)
     documents: dict = field(default_factory=dict)
 
@@ -39,7 +39,8 @@ class Setting:
 
 @dataclass
 class Outcome:
-    """What one run came to. `broken` says what else no fault may do."""
+    """The result of one run. `kept` touches are still in the reader. `broken` lists what is wrong
+    besides lost and doubled touches."""
 
     label: str
     hit: bool = False
@@ -54,8 +55,8 @@ class Outcome:
 
 
 def run_all(setting, title, jobs):
-    """Runs (job class, function) pairs side by side, prints the campaign's line, and returns
-    whether it passed."""
+    """Runs (job class, function) pairs in parallel, prints the campaign's line, and returns whether
+    it passed."""
     begin = time.monotonic()
     outcomes, hits = [], Counter()
     with ThreadPoolExecutor(SLEEPERS) as sleepers, ThreadPoolExecutor(WORKERS) as workers:
@@ -66,7 +67,7 @@ def run_all(setting, title, jobs):
                 results = result if isinstance(result, list) else [result]
                 outcomes += results
                 hits[job.__name__] += sum(outcome.hit for outcome in results)
-        except BaseException:  # the campaign itself failed, or was broken off
+        except BaseException:  # the campaign itself failed or was interrupted
             for future in running:
                 future.cancel()
             raise
@@ -87,12 +88,12 @@ def run_all(setting, title, jobs):
         kind = re.sub(r"[\d.]+", "", outcome.label)
         shown[kind] += 1
         if shown[kind] <= 4:
-            told = [f"{outcome.lost} lost"] * bool(outcome.lost)
-            told += [f"{outcome.doubled} doubled"] * bool(outcome.doubled)
-            print(f"    {outcome.label}: {', '.join(told + outcome.broken)}", flush=True)
+            causes = [f"{outcome.lost} lost"] * bool(outcome.lost)
+            causes += [f"{outcome.doubled} doubled"] * bool(outcome.doubled)
+            print(f"    {outcome.label}: {', '.join(causes + outcome.broken)}", flush=True)
     if faulty:
-        print(f"    {len(faulty)} runs at fault, of each kind at most 4 are shown", flush=True)
+        print(f"    {len(faulty)} runs at fault; at most 4 of each kind are shown", flush=True)
     missed = [name for name, number in hits.items() if number == 0]
     if missed:
-        print(f"    no fault took effect on {', '.join(missed)}: nothing was shown", flush=True)
+        print(f"    no fault took effect on {', '.join(missed)}: this proves nothing", flush=True)
     return not missed and not faulty

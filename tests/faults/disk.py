@@ -1,4 +1,4 @@
-"""Small file systems that can be filled, and whose power can be cut."""
+"""Small file systems, for full disks and power cuts."""
 
 import os
 import subprocess
@@ -9,7 +9,7 @@ from campaign import Skipped
 
 
 class Disk:
-    """A small file system of its own, in an image or in memory. Needs root."""
+    """A small file system, in an image file or in memory. Needs root."""
 
     def __init__(self, folder, kind, image=None):
         self.kind, self.image, self.path = kind, image, folder / "disk"
@@ -23,7 +23,7 @@ class Disk:
                 file.truncate({"ext4": 16, "xfs": 300}[kind] << 20)
             quiet = ["-q", "-m", "0", "-b", "1024"] if kind == "ext4" else ["-q"]
             self._run(f"mkfs.{kind}", *quiet, self.image)
-        # The copy of a file system has the name of the first one, which xfs would refuse.
+        # The copy has the same UUID as the original, and xfs would refuse it.
         options = "loop,nouuid" if kind == "xfs" else "loop"
         self._run("mount", "-t", kind, "-o", options, self.image, self.path)
 
@@ -33,7 +33,7 @@ class Disk:
 
     @staticmethod
     def require(setting, kind):
-        """Raises Skipped where no such disk can be had."""
+        """Raises Skipped if such a disk cannot be made here."""
         if os.geteuid() != 0:
             raise Skipped("needs root")
         try:
@@ -57,7 +57,7 @@ class Disk:
         self._run("sync", "-f", self.path)
 
     def fill(self, free):
-        """Leaves that many bytes free; returns the file that takes the rest."""
+        """Leaves this many bytes free. Returns the file that fills the rest."""
         filler = self.path / "filler"
         with filler.open("wb", buffering=0) as file:
             size = 0
@@ -70,8 +70,8 @@ class Disk:
         return filler
 
     def copy_image(self, target):
-        """What a power cut would leave on the disk now. Copied until two copies in a row are the
-        same, so that none is a mixture of two moments."""
+        """Copies what a power cut would leave on the disk now. Repeats until two copies in a row
+        are the same, so that the copy does not mix two moments."""
         again = target.with_suffix(".again")
         subprocess.run(["cp", "--sparse=always", self.image, target], check=True)
         for _ in range(50):
@@ -80,4 +80,4 @@ class Disk:
             again.replace(target)
             if same:
                 return
-        raise RuntimeError("the disk never was at rest")
+        raise RuntimeError("the disk was never at rest")

@@ -1,19 +1,19 @@
-"""Readers, and docks with a reader in them."""
+"""Readers, and simulated docks with a reader."""
 
 import json
 import subprocess
 from contextlib import suppress
 from datetime import datetime, timedelta
 
-TAUGHT_READER = "4B5831A7"  # the demonstration store knows it
+TAUGHT_READER = "4B5831A7"  # defined in the demonstration store
 EPOCH = datetime(1899, 12, 30)
 FRAME = 252  # bytes of a memory frame
 
 
 class Reader:
-    """A guard's reader and what it holds."""
+    """A guard's reader and its touches."""
 
-    erasable = True  # a memory that cannot be read to its end must not be erased
+    erasable = True  # False if the memory cannot be read to its end: then it must not be erased
 
     def __init__(self, rng, touches, identifier=None):
         self.identifier = identifier or rng.choice(
@@ -56,24 +56,24 @@ class Dock:
             raise RuntimeError(f"docksim: {self.complaints.read_text()}")
 
     def tell(self, *lines):
-        with suppress(BrokenPipeError):  # the device may have vanished, as it was told to
+        with suppress(BrokenPipeError):  # the fault may have been to vanish
             self.process.stdin.write("".join(line + "\n" for line in lines))
             self.process.stdin.flush()
 
     def state(self, *then):
-        """The state, and `then` obeyed right after it; None if the device has vanished."""
+        """The state, or None if the device has vanished. The lines `then` are sent with it."""
         self.tell("state", *then)
         line = self.process.stdout.readline()
         return json.loads(line) if line else None
 
     def keeps(self, *then):
-        """Whether the reader still holds its touches: it is erased whole or not at all, and
-        never after its device has vanished in the middle of the reading."""
+        """Whether the reader still holds its touches. It is erased completely or not at all, and
+        never after its device vanished during a transfer."""
         state = self.state(*then)
         return state is None or state["records"] > 0
 
     def exchange(self, reader):
-        """Puts another reader in; returns whether the one taken out still holds its touches."""
+        """Puts in another reader. Returns whether the one taken out still holds its touches."""
         scenario = self.folder / "other.txt"
         scenario.write_text(reader.scenario())
         self.reader = reader
@@ -89,5 +89,5 @@ class Dock:
         with suppress(BrokenPipeError):
             self.process.stdin.close()
         self.process.stdout.close()
-        if self.complaints.read_text():  # a fault that was refused would show nothing
+        if self.complaints.read_text():  # a fault that docksim refused would prove nothing
             raise RuntimeError(f"docksim: {self.complaints.read_text()}")

@@ -1,4 +1,4 @@
-"""Rows that cannot be stored, though the disk is sound: a trigger refuses one row of a download."""
+"""Rows that cannot be stored although the disk works: a trigger refuses one row of a download."""
 
 from functools import partial
 

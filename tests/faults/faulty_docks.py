@@ -1,5 +1,5 @@
-"""Downloads at faulty docks: lost, damaged and late frames, noise, docks that do not answer or
-vanish, readers that are pulled out or exchanged, and memories that must not be believed."""
+"""Downloads at faulty docks: lost, damaged and late frames, noise, docks that do not answer or that
+vanish, readers that are pulled out or exchanged, and memories that must not be trusted."""
 
 import math
 import time
@@ -12,7 +12,7 @@ from jobs import Download
 DOWNLOADS = 500
 LONGEST = 8  # seconds that a download takes
 
-# What a scenario says, by the random numbers and the number of frames.
+# The faults of a scenario, made from random numbers and the number of frames.
 SCENARIOS = {
     "a lost frame": lambda rng, frames: [f"drop-bytes {FRAME * rng.randrange(frames)} {FRAME}"],
     "lost bytes": lambda rng, frames: [
@@ -51,7 +51,7 @@ class FaultyDownload(Download):
     def prepare(self):
         self.reader = self.make_reader()
         self.dock = Dock(self.setting, self.folder / "dock", self.reader, self.scenario())
-        self.taken_out = []  # readers, each with whether it still holds its touches
+        self.taken_out = []  # pairs: a reader, and whether it still holds its touches
 
     def make_reader(self):
         return Reader(self.rng, self.rng.randrange(10, 150))
@@ -95,8 +95,8 @@ class Pulled(FaultyDownload):
 
 
 class Exchanged(FaultyDownload):
-    """Another reader is put in. The dock says on the wire, after the last frame, that a reader was
-    taken out; an exchange that is silent could not be noticed, as an erase names no reader."""
+    """Another reader is put in. After the last frame the dock reports that a reader was taken out.
+    Without this report the exchange could not be noticed, because an erase names no reader."""
 
     def disturb(self):
         records = self.dock.state()["records"]
@@ -108,8 +108,8 @@ class Exchanged(FaultyDownload):
 
 
 class LikeAFirstFrame(FaultyDownload):
-    """The first frame is lost, and the second looks like a first one: it has a count, an identifier
-    and a marker where a first frame has them."""
+    """The first frame is lost, and the second looks like a first frame: it has a count, an
+    identifier and a marker in the same places."""
 
     def make_reader(self):
         reader = Reader(self.rng, 0, f"{self.rng.randrange(1, 1 << 32):08X}")
@@ -118,7 +118,8 @@ class LikeAFirstFrame(FaultyDownload):
         count = self.rng.choice([n for n in range(1, 59) if n != rest + 1])
         codes = [f"{code:06X}" for code in self.rng.sample(range(1 << 16, 1 << 23), 58 + rest)]
         codes.insert(57, f"{self.rng.randrange(128, 256):02X}00{count:02X}")
-        for i, code in enumerate(codes):  # a marker, 57 touches; 2 touches, a marker, the rest
+        # First frame: a marker, 57 touches. Second frame: 2 touches, a marker, the rest.
+        for i, code in enumerate(codes):
             reader.touch(hour + timedelta(minutes=i + (i > 58)), code)
         return reader
 

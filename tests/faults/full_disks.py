@@ -1,11 +1,11 @@
-"""Full disks: a small ext4 or memory disk with some bytes free, from none to more than enough."""
+"""Full disks: a small ext4 or tmpfs disk with anything from no free bytes to more than enough."""
 
 from functools import partial
 
 from disk import Disk
 from jobs import Download, Export, Import, Start
 
-# How often, and with how many bytes free at most.
+# How many runs, and at most how many bytes free.
 RUNS = {
     Download: (32, 64 << 10),
     Start: (24, 96 << 10),

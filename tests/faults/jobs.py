@@ -1,5 +1,5 @@
-"""The jobs that are disturbed: download, start, import, export and the making of a store; and the
-judgement of what came of the touches."""
+"""The jobs that the faults strike (a download, a start, an import, an export, making a store), and
+how each run is judged."""
 
 import re
 import shutil
@@ -12,10 +12,10 @@ from station import Station
 
 
 class Job:
-    """One disturbed job on a station of its own. `begin` starts it, `end` waits until it is over,
-    `judge` says what came of it."""
+    """One job that a fault strikes, on its own station. `begin` starts it, `end` waits until it is
+    over, `judge` returns its outcome."""
 
-    sleeps = False
+    sleeps = False  # whether it mostly waits
     template = "small"
 
     def __init__(self, setting, label, home=None):
@@ -34,10 +34,10 @@ class Job:
         shutil.rmtree(self.folder, ignore_errors=True)
 
     def prepare(self):
-        """What the job needs besides a station."""
+        """Makes what the job needs besides a station."""
 
     def close(self):
-        """Gives up what `prepare` made."""
+        """Releases what `prepare` made."""
 
     def end(self):
         self.program.wait()
@@ -49,8 +49,8 @@ class Job:
         return [self.old.definitions]
 
     def check_store(self, outcome, touches=(), station=None):
-        """The store must open, with the old rows and definitions and nothing new but `touches`.
-        Returns what is new."""
+        """Checks that the store opens and holds the old rows, allowed definitions, and nothing new
+        except `touches`. Returns the new rows."""
         station = station or self.station
         definitions = station.definitions()
         if definitions is None:
@@ -78,7 +78,7 @@ class Job:
 
 
 class Start(Job):
-    """The start of the station, which compacts the store, up to the login."""
+    """A start of the station up to the login. It compacts the store."""
 
     def begin(self, prefix=()):
         self.file_before = self.station.store.stat().st_ino
@@ -93,7 +93,7 @@ class Start(Job):
 
 
 class Import(Job):
-    """An import of definitions: all of them, or none."""
+    """An import of definitions: all or none."""
 
     document = "small"
 
@@ -108,7 +108,8 @@ class Import(Job):
 
 
 class Export(Job):
-    """An export of definitions over an older file: the new file whole, or the older one."""
+    """An export of definitions over an older file. The complete new file or the older one must be
+    left."""
 
     template = "big imported"
     older = "an older export\n" * 100
@@ -123,7 +124,7 @@ class Export(Job):
     def judge_store(self, outcome):
         text = self.target.read_text(errors="replace")
         if self.program.status() == 0 and text != self.whole_text():
-            outcome.broken.append(f"success with {len(text)} characters of an export")
+            outcome.broken.append(f"success with an incomplete export of {len(text)} characters")
         elif self.program.status() != 0 and text != self.older:
             outcome.broken.append("the older export is damaged")
         self.check_store(outcome)
@@ -135,11 +136,11 @@ class Export(Job):
 
 
 class BigStart(Start):
-    template = "big"  # so that many moments fall into the compaction
+    template = "big"  # so that the compaction takes long
 
 
 class LinkedStart(BigStart):
-    """The store is a symbolic link, and must stay one."""
+    """The store is a symbolic link and must stay one."""
 
     def prepare(self):
         target = self.station.home / "elsewhere.mdb"
@@ -157,7 +158,7 @@ class BigImport(Import):
 
 
 class MakeStore(Job):
-    """The making of a store: a whole one, or none."""
+    """Making a store: a complete one or none."""
 
     template = "new"
 
@@ -175,9 +176,10 @@ class MakeStore(Job):
 
 
 class Download(Job):
-    """A download. A reader that still holds its touches after the fault is downloaded again: in the
-    end every touch must be stored. It may be there twice only if the program ended with 1 and said
-    that it was stored, or was killed when all were stored and had no time to say so."""
+    """A download. If the reader still holds its touches after the fault, it is downloaded again. In
+    the end every touch must be stored. A touch may be stored twice only if the program failed and
+    reported it as stored, or if it was killed after all touches were stored and could not report
+    them."""
 
     sleeps = True
 
@@ -192,8 +194,8 @@ class Download(Job):
         self.program = self.station.download(self.dock.device, prefix)
 
     def readers(self):
-        """The readers that were docked, each with whether it still holds its touches."""
-        time.sleep(0.2)  # what a killed program sent last may be on its way
+        """Pairs: a reader that was docked, and whether it still holds its touches."""
+        time.sleep(0.2)  # the last bytes of a killed program may still be on their way
         return [(self.reader, self.dock.keeps())]
 
     def judge_store(self, outcome):
@@ -218,8 +220,8 @@ class Download(Job):
 
     @staticmethod
     def announced(program, reader, new):
-        """The touches of which a program that failed said that they are stored: those that it
-        listed, or those in the store if it complained with their number and that of the reader."""
+        """The touches that a failed program reported as stored: those that it listed, or all in the
+        store if its complaint gives their number and the number of touches in the reader."""
         if program.status() == 0:
             return []
         stored = [touch for touch in reader.touches if new[touch]]
@@ -229,10 +231,10 @@ class Download(Job):
         return [touch for touch in reader.touches if touch[2] in program.output]
 
     def download_again(self, reader, allowed, outcome):
-        """Downloads the reader at a sound dock. Returns the touches that it holds after that."""
+        """Downloads the reader at a dock without faults. Returns the touches left in it."""
         dock = Dock(self.setting, self.folder / f"again-{reader.identifier}", reader)
         try:
-            for _ in range(3):  # a busy machine may be late
+            for _ in range(3):  # a download may time out on a busy machine
                 program = self.station.download(dock.device).wait()
                 allowed.update(self.announced(program, reader, Counter()))
                 if not dock.keeps():

@@ -1,10 +1,10 @@
 """Power cuts after the confirmed erase.
 
-The store lies on a loop device. When the dock has erased its reader, and at random moments in the
-seconds after that, the image of the device is copied: it holds what the system had written until
-then, and nothing of what it still kept in memory. The copy is mounted, which replays its journal,
-and must hold every touch. A file written just before each copy, and not synced, must be missing
-there: else the cut took nothing away and shows nothing.
+The store is on a loop device. When the dock has erased the reader, and at random moments in the
+next seconds, the image of the device is copied. The copy holds what the system had written by then,
+and nothing that it still kept in memory. The copy is mounted, which replays its journal, and must
+hold every touch. A file is written just before each copy and not synced. It must be missing from
+the copy; otherwise the cut lost nothing and proves nothing.
 """
 
 import time
@@ -15,7 +15,7 @@ from disk import Disk
 from jobs import Download
 from station import Station
 
-CUTS = 4  # of each download
+CUTS = 4  # in each download
 LONGEST = 4  # seconds after the erase
 
 
@@ -51,7 +51,7 @@ def cut(setting, kind, number):
 
 
 def judge(run, kind, copy, label):
-    """The unsynced file has the number of the copy at the end of its name, as the copy has."""
+    """Judges one copy. The names of the copy and of its unsynced file end with the same number."""
     outcome = Outcome(label)
     folder = copy.with_name(f"mounted {copy.name}")
     with Disk(folder, kind, copy) as disk:

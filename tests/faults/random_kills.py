@@ -1,7 +1,7 @@
-"""Kills at random moments: the program is gone between any two of its instructions.
+"""Kills at random moments, between any two instructions of the program.
 
-A store is at work for few of the milliseconds that a job takes. So every other kill follows soon
-on a change in the application folder.
+A job uses the store for only a few of its milliseconds. So every second kill comes shortly after a
+change in the application folder.
 """
 
 import os
@@ -24,7 +24,7 @@ def make_jobs(setting):
 
 
 def undisturbed(setting, job):
-    """When the last change in its folder comes, and how many there are."""
+    """When the job makes the last change in its folder, and how many changes it makes."""
     with job(setting, f"undisturbed {job.__name__}") as run:
         run.begin()
         measured = await_changes(run, None, 9)
@@ -33,8 +33,8 @@ def undisturbed(setting, job):
 
 
 def await_changes(run, wanted, longest):
-    """Waits for so many changes in the folder, `longest` seconds at most. Returns after how many
-    seconds the last one came, and how many came."""
+    """Waits for this many changes in the folder, at most `longest` seconds. Returns the seconds
+    until the last one, and how many there were."""
     begin = time.monotonic()
     seen, changes, last = None, -1, 0
     while run.program.runs() and changes != wanted and time.monotonic() - begin < longest:
@@ -42,7 +42,7 @@ def await_changes(run, wanted, longest):
         try:
             files = os.scandir(run.station.home)
             now = sorted((file.name, file.stat().st_mtime_ns) for file in files)
-        except FileNotFoundError:  # it went while it was looked at
+        except FileNotFoundError:  # a file was removed during the scan
             now = None
         if now != seen:
             seen, changes, last = now, changes + 1, time.monotonic() - begin

@@ -1,31 +1,32 @@
 #!/usr/bin/env python3
 """Fault campaigns: ./test --faults [--seed N] [--few] [CAMPAIGN...]
 
-They strike the built programs with the faults that a station meets in years of nights, and look at
-what came of the touches. What must hold, whatever happens:
+They strike the built programs with faults that a station meets over years of use, and then look for
+every touch. Whatever happens:
 
-- No touch is lost: it is in the store, or still in the reader.
-- None is doubled, unless a program said that it was stored and its reader not erased.
-- The store opens, the stock shell finds it sound, and old rows and definitions are still there.
-- What a program says it has imported, exported or made is there, and whole.
+- No touch is lost: it is in the store or still in the reader.
+- No touch is doubled, unless a program reported that it was stored and the reader not erased.
+- The store opens, the stock shell finds no damage, and old rows and definitions are still there.
+- What a program reports as imported, exported or made is there and complete.
 
-| campaign     | what strikes                                                                 |
+| campaign     | the fault                                                                    |
 |--------------|------------------------------------------------------------------------------|
 | random_kills | SIGKILL at a random moment of a download, a start, an import                 |
-| calls        | a kill at each write, sync, rename and unlink of these and of the making of  |
-|              | a store; each of these calls failing                                         |
+| calls        | a kill at each write, sync, rename and unlink in these jobs and in making a  |
+|              | store; a failure of each of these calls                                      |
 | failing_rows | a row that the store refuses                                                 |
-| full_disks   | little or no room under a download, a start, an import, an export (as root)  |
-| power_cuts   | the power going just after the confirmed erase (as root)                     |
-| faulty_docks | 500 downloads at docks and lines that fail, with readers pulled or exchanged |
+| full_disks   | little or no free space in a download, start, import or export (as root)     |
+| power_cuts   | a power cut just after the confirmed erase (as root)                         |
+| faulty_docks | 500 downloads at failing docks and lines; readers pulled out or exchanged    |
 
-Each prints a line: the runs, and those in which the fault took effect ("hit"); the touches that
-were stored and those still in the reader just after the fault; and what was lost or doubled in the
-end, after a reader that still held its touches was downloaded again. The runs at fault follow.
+Each campaign prints a line: how many runs there were, and in how many the fault took effect
+("hit"); how many touches were stored, and how many were still in the reader, just after the fault;
+and how many were lost or doubled in the end, after readers that still held touches were downloaded
+again. The runs at fault follow.
 
-The exit status is 1 if a campaign found a fault of the programs, or if it could not strike. What
-cannot be run here is skipped, and does not count as passed. The same seed gives the same faults;
-their moments are as exact as the machine. --few runs a tenth.
+The exit status is 1 if a campaign found a fault of the programs, or if its faults took no effect. A
+campaign that cannot run here is skipped and does not count as passed. The same seed gives the same
+faults, but their moments vary with the machine. --few runs a tenth.
 """
 
 import argparse

@@ -1,4 +1,4 @@
-"""The programs at work, on an application folder of their own."""
+"""The programs, each run on an application folder of its own."""
 
 import json
 import os
@@ -14,7 +14,7 @@ PATIENCE = 90  # seconds after which a program counts as hanging
 
 
 class Program:
-    """A program at work, in a process group of its own, so that it can be killed with strace."""
+    """A running program, in its own process group so that strace can be killed with it."""
 
     def __init__(self, command, environment):
         self.process = subprocess.Popen(
@@ -55,11 +55,11 @@ class Program:
         return self.process.returncode
 
     def killed(self):
-        """Whether it was killed, by whom ever: strace ends as its program does."""
+        """Whether anything killed it. strace ends in the same way as its program."""
         return self.status() == -signal.SIGKILL
 
     def settle(self):
-        """Waits until it ends or does nothing any more: it waits for the operator."""
+        """Waits until it ends, or until it is idle because it waits for the operator."""
         ticks, since, begin = None, time.monotonic(), time.monotonic()
         while self.runs() and time.monotonic() - begin < PATIENCE:
             now = self._ticks()
@@ -70,7 +70,7 @@ class Program:
             time.sleep(0.05)
 
     def _ticks(self):
-        """The processor time of the program; under strace that is its child."""
+        """The processor time of the program, which is the child under strace."""
         pid = self.process.pid
         try:
             children = Path(f"/proc/{pid}/task/{pid}/children").read_text().split()
@@ -81,7 +81,7 @@ class Program:
 
 
 class Station:
-    """An application folder with a store of its own. Without a template they are there already."""
+    """An application folder with its own store. Without a template, both exist already."""
 
     def __init__(self, setting, folder, template=None, home=None):
         self.programs, self.folder, self.home = setting.programs, folder, home or folder / "home"
@@ -127,5 +127,5 @@ class Station:
         return json.loads(target.read_text())
 
     def rows(self):
-        """How often each touch is stored, and the faults that the stock shell finds."""
+        """How often each touch is stored, and the damage that the stock shell finds."""
         return stored_rows(self.store)

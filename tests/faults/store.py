@@ -7,7 +7,7 @@ STORE_KEY = "kelp7734"
 
 
 def ask_store(store, statements):
-    """What the stock shell answers; raises RuntimeError if it complains."""
+    """The answer of the stock shell. Raises RuntimeError if it complains."""
     shell = subprocess.run(
         ["sqlcipher", "-bail", "-batch", store],
         input=f"PRAGMA key = '{STORE_KEY}';\n{statements}\n",

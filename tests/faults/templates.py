@@ -1,4 +1,4 @@
-"""The stores that jobs begin with, and the documents that they import."""
+"""The stores that jobs start with, and the documents that they import."""
 
 import json
 import subprocess
@@ -12,7 +12,7 @@ from store import ask_store, stored_rows
 
 @dataclass
 class Template:
-    """A store that jobs begin with, and what is in it."""
+    """A store that jobs start with, and its content."""
 
     path: Path
     rows: Counter
@@ -21,14 +21,13 @@ class Template:
 
 @dataclass
 class Document:
-    """A document to import, and the definitions of the small store after that."""
+    """A document to import, and the definitions of the small store after the import."""
 
     path: Path
     imported: dict
 
 
 def make_templates(setting):
-    """The stores that the jobs begin with, and the documents that they import."""
     for name, old_rows in (("new", 0), ("small", 60), ("big", 20000)):
         path = setting.work / f"{name}.mdb"
         subprocess.run([setting.programs / "mkstore", "--demo", path], check=True)

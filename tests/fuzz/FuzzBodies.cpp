@@ -17,7 +17,7 @@ void Promise(bool kept, const char* promise) {
     std::abort();
 }
 
-/// Takes what an input is made of from its front; zeros when it is used up.
+/// Takes bytes from the front of an input. Single bytes are zero after its end.
 class Input {
 public:
     Input(const std::uint8_t* data, std::size_t size) : m_data(data), m_size(size) {}
@@ -61,12 +61,12 @@ void CheckFrame(const QByteArray& frame) {
     Promise(sum % 256 == static_cast<std::uint8_t>(frame.back()), "the checksum holds");
 }
 
-/// One chunk as the script tells: junk, a frame, or a frame with one fault.
+/// The script's next chunk: junk, a frame, or a frame with one fault.
 QByteArray Chunk(Input& input) {
     const std::uint8_t kind = input.Byte() % 8;
     if (kind == 0)
         return input.Bytes(input.Byte());
-    if (kind == 1) // enough of them fill the buffer
+    if (kind == 1) // long enough to fill the buffer after a few
         return QByteArray(input.Byte() * 64, static_cast<char>(input.Byte()));
     QByteArray frame = FrameOf(input.Bytes(input.Byte() % 246));
     const qsizetype at = input.Byte() % frame.size();
@@ -104,12 +104,14 @@ void FuzzReceiveBuffer(const std::uint8_t* data, std::size_t size) {
             QByteArray frame = "old";
             bool received = false;
             buffer.GetPacket(frame, received);
-            Promise(received == !frame.isEmpty(), "a frame is there when it is said to be");
+            Promise(received == !frame.isEmpty(),
+                    "a frame is delivered exactly if the buffer says so");
             if (received) {
                 CheckFrame(frame);
                 Promise(before.contains(frame), "a frame is a piece of what arrived");
             }
-            Promise(before.endsWith(buffer.Buffer()), "what is left is the end of what was there");
+            Promise(before.endsWith(buffer.Buffer()),
+                    "the rest is the end of what was in the buffer");
             delivered += frame.size();
         }
         Promise(buffer.Count() <= cInBuffer::Limit, "the buffer stays within its limit");
@@ -127,7 +129,7 @@ void FuzzMemoryImage(const std::uint8_t* data, std::size_t size) {
     while (!input.Empty() && packets.Count() < 12) {
         const std::uint8_t length = input.Byte();
         QByteArray bytes = input.Bytes(length % 16 == 0 ? 240 : length % 64);
-        // The store is asked once a code, so that there must not be too many of them.
+        // The store is queried once for each code, so keep their number low.
         for (qsizetype i = 0; i < bytes.size(); ++i)
             if (i % 4 != 3)
                 bytes[i] = static_cast<char>(bytes[i] & 0x03);
@@ -141,7 +143,7 @@ void FuzzMemoryImage(const std::uint8_t* data, std::size_t size) {
 
     std::size_t decoded = 0;
     const colRawButtons touches = DecodeImage(packets, directory, [&] { ++decoded; });
-    Promise(touches.size() == decoded, "each touch is told of");
+    Promise(touches.size() == decoded, "each touch is reported");
     Promise(static_cast<std::int64_t>(decoded) <= records, "no touch beyond the frames' records");
     for (const cRawButton& touch : touches) {
         const auto day = touch.DateAndTime.WholeDays();

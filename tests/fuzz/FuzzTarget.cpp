@@ -1,4 +1,4 @@
-// The entry of a libFuzzer program; WARDLOCK_FUZZ_BODY names the body that it runs.
+// The entry point of a libFuzzer program. WARDLOCK_FUZZ_BODY names the body to run.
 
 #include "FuzzBodies.h"
 

@@ -1,5 +1,5 @@
-// A million random inputs for each body. WARDLOCK_FUZZ_SEED and WARDLOCK_FUZZ_COUNT repeat or
-// lengthen a run.
+// Tries a million random inputs on each body. To repeat or lengthen a run, set the environment
+// variables WARDLOCK_FUZZ_SEED and WARDLOCK_FUZZ_COUNT.
 
 #include "FuzzBodies.h"
 
@@ -25,7 +25,7 @@ void Run(const char* name, void (*body)(const std::uint8_t*, std::size_t), unsig
     timer.start();
     std::vector<std::uint8_t> input;
     for (unsigned long i = 0; i < count; ++i) {
-        // Mostly short, so that many are tried; the favourites of the wire more often than others.
+        // Mostly short, so that many can be tried. Bytes with a meaning on the wire are frequent.
         const std::size_t limit = i % 64 == 0 ? 2000 : 120;
         input.resize(random() % limit);
         for (std::uint8_t& byte : input) {
@@ -46,7 +46,7 @@ int main(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     const unsigned long seed = FromEnvironment("WARDLOCK_FUZZ_SEED", 20260301);
     const unsigned long count = FromEnvironment("WARDLOCK_FUZZ_COUNT", 1'000'000);
-    std::printf("seed %lu\n", seed); // before anything breaks
+    std::printf("seed %lu\n", seed); // in case a body aborts
     std::fflush(stdout);
     Run("receive buffer", FuzzReceiveBuffer, count, seed);
     Run("memory image", FuzzMemoryImage, count, seed);
