@@ -23,10 +23,11 @@ class TourRows : public RowSource {
 public:
     explicit TourRows(qsizetype count) : m_count(count) {}
     qsizetype RowCount() const override { return m_count; }
-    int Column(QStringView name) const override {
-        return static_cast<int>(TourExceptionTable::ColumnNames().indexOf(name));
-    }
-    QString TextAt(qsizetype row, int column) const override {
+    const QStringList& Columns() const override { return TourExceptionTable::ColumnNames(); }
+    Value ValueAt(qsizetype row, int column) const override { return Text(row, column); }
+
+private:
+    static QString Text(qsizetype row, int column) {
         static const QString rule(255, u'_');
         switch (row % 5) {
         case 0:
@@ -58,7 +59,6 @@ public:
         }
     }
 
-private:
     qsizetype m_count;
 };
 

@@ -27,7 +27,7 @@ QByteArray Json(const DataReport& report) {
             if (!json.endsWith('{'))
                 json += ", ";
             json += JsonText(name) + ": " +
-                    (rows.IsNullAt(row, column) ? QByteArray("null")
+                    (rows.ValueAt(row, column).IsNull() ? QByteArray("null")
                                                 : JsonText(rows.TextAt(row, column)));
         }
         json += '}';

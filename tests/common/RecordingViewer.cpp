@@ -1,7 +1,7 @@
 #include "RecordingViewer.h"
 
 #include "DataReport.h"
-#include "Recordset.h"
+#include "RowSource.h"
 
 void RecordingViewer::Show(DataReport& report) {
     ++Shown;
@@ -9,7 +9,7 @@ void RecordingViewer::Show(DataReport& report) {
     Pages = report.PageCount();
     Rows.clear();
     const RowSource& source = *report.DataSource();
-    const qsizetype columns = dynamic_cast<const Recordset&>(source).Columns().size();
+    const qsizetype columns = source.Columns().size();
     for (qsizetype row = 0; row < source.RowCount(); ++row) {
         QStringList values;
         for (int column = 0; column < columns; ++column)

@@ -3,6 +3,7 @@
 #include "Clock.h"
 #include "ReportPdf.h"
 #include "SmallReport.h"
+#include "TourExceptionTable.h"
 #include "darTourException.h"
 
 #include <QBuffer>
@@ -14,6 +15,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <random>
 
 namespace {
 
@@ -99,14 +101,81 @@ private slots:
         report->SetDataSource(&source);
         QCOMPARE(report->PageCount(), pages);
         qsizetype next = 0;
-        for (int page = 0; page < pages; ++page) {
-            const auto run = report->RowsOfPage(page);
-            QVERIFY(run.count == 0 || run.first == next);
-            next += run.count;
-        }
+        for (int page = 0; page < pages; ++page)
+            for (const Pagination::Band& band : report->Pages().BandsOf(page))
+                QCOMPARE(band.row, next++);
         QCOMPARE(next, rows);
-        QCOMPARE(report->RowsOfPage(pages - 1).count, onLast);
+        QCOMPARE(qsizetype(report->Pages().BandsOf(pages - 1).size()), onLast);
         QCOMPARE(source.Reads, 0);
+    }
+
+    // The same rules row by row, as plainly as they can be said.
+    static std::vector<std::vector<Pagination::Band>>
+    PlainPages(const std::vector<qsizetype>& groups, std::array<int, 7> heights, int body) {
+        const auto height = [&](SectionKind kind) { return heights[std::size_t(kind)]; };
+        std::vector<std::vector<Pagination::Band>> pages(1);
+        int room = body - height(SectionKind::ReportHeader);
+        const auto place = [&](SectionKind kind, qsizetype row) {
+            if (height(kind) > 0)
+                pages.back().push_back({kind, row});
+            room -= height(kind);
+        };
+        const int header = height(SectionKind::GroupHeader);
+        qsizetype row = 0;
+        for (const qsizetype rows : groups) {
+            const qsizetype first = row, last = first + rows - 1;
+            for (; row <= last; ++row) {
+                const int footer = row == last ? height(SectionKind::GroupFooter) : 0;
+                const int need = height(SectionKind::Detail) + footer;
+                const bool turn = (row == first ? header : 0) + need > room;
+                if (turn) {
+                    pages.emplace_back();
+                    room = body;
+                }
+                if (turn || row == first)
+                    place(SectionKind::GroupHeader, first);
+                place(SectionKind::Detail, row);
+                if (row == last)
+                    place(SectionKind::GroupFooter, row);
+            }
+        }
+        if (height(SectionKind::ReportFooter) > room)
+            pages.emplace_back();
+        return pages;
+    }
+
+    void GroupedPagesAgreeWithPlainOnes() {
+        std::mt19937 random(4711);
+        const auto upto = [&](int most) { return int(random() % unsigned(most + 1)); };
+        for (int turn = 0; turn < 4'000; ++turn) {
+            const std::array heights{upto(3), upto(2), upto(3), 1 + upto(3),
+                                     upto(3), upto(2), upto(9)};
+            const int body = heights[0] + heights[2] + heights[3] + heights[4] + upto(30) + 9;
+            ReportLayout layout;
+            layout.page = QSize(100, body + heights[1] + heights[5]);
+            for (std::size_t kind = 0; kind < heights.size(); ++kind)
+                layout.sections.emplace_back(QString(), SectionKind(kind), heights[kind]);
+            std::vector<qsizetype> groups, names;
+            for (int count = upto(12); count > 0; --count) {
+                groups.push_back(1 + (upto(2) ? upto(3) : upto(90)));
+                names.insert(names.end(), std::size_t(groups.back()), count);
+            }
+            CountedRows rows(qsizetype(names.size()));
+            rows.Text = [&](qsizetype row) { return QString::number(names[std::size_t(row)]); };
+            const Pagination pages(layout, rows.RowCount(), GroupStarts(rows, 0));
+            const auto plain = PlainPages(groups, heights, body);
+            QCOMPARE(pages.PageCount(), int(plain.size()));
+            for (std::size_t page = 0; page < plain.size(); ++page)
+                QVERIFY2(pages.BandsOf(int(page)) == plain[page],
+                         qPrintable(QString::number(turn)));
+        }
+    }
+
+    void LongGroupsAreNotRead() {
+        CountedRows rows(1'000'000);
+        rows.Text = [](qsizetype row) { return row < 700'000 ? QString("a") : QString("b"); };
+        QCOMPARE(GroupStarts(rows, 0), (std::vector<qsizetype>{0, 700'000}));
+        QVERIFY2(rows.Reads < 100, qPrintable(QString::number(rows.Reads)));
     }
 
     void OnePageReadsItsOwnRowsOnly() {
@@ -122,13 +191,8 @@ private slots:
         const auto report = SmallReport();
         QVERIFY_THROWS_EXCEPTION(RunTimeError, report->Sections(u"Nowhere"));
         QVERIFY_THROWS_EXCEPTION(RunTimeError, report->Sections(u"Top").Controls(u"lblNone"));
-        class Other : public CountedRows {
-        public:
-            Other() : CountedRows(1) {}
-            int Column(QStringView name) const override {
-                throw RunTimeError(RunTimeErrorNumber::NoSuchItem, name.toString());
-            }
-        } other;
+        CountedRows other(1);
+        other.Names = QStringList("tOther");
         QVERIFY_THROWS_EXCEPTION(RunTimeError, report->SetDataSource(&other));
         QVERIFY(!report->DataSource());
         QVERIFY_THROWS_EXCEPTION(RunTimeError, LoadReportLayout("darNone"));
@@ -141,6 +205,8 @@ private slots:
         QTest::newRow("no JSON") << QByteArray("{") << QByteArray("[") << QByteArray("test.json");
         QTest::newRow("kind") << QByteArray("\"detail\"") << QByteArray("\"tail\"")
                               << QByteArray("Row");
+        QTest::newRow("group without a column")
+            << QByteArray("\"detail\"") << QByteArray("\"groupHeader\"") << QByteArray("\"group\"");
         QTest::newRow("type") << QByteArray("\"textBox\"") << QByteArray("\"box\"")
                               << QByteArray("txtName");
         QTest::newRow("no field") << QByteArray("\"field\": \"tName\",") << QByteArray()
@@ -260,11 +326,8 @@ private slots:
         const QString wide(50, u'W');
         const QString name = QStringLiteral("North gate, ramp 7 ").repeated(6).left(100);
         const QString two = name + QStringLiteral(" - ") + name;
-        class Rows : public CountedRows {
-        public:
-            using CountedRows::CountedRows;
-            int Column(QStringView) const override { return 0; }
-        } rows(1);
+        CountedRows rows(1);
+        rows.Names = TourExceptionTable::ColumnNames();
         rows.Text = [&](qsizetype) { return two; };
         darTourException report;
         report.SetDataSource(&rows);

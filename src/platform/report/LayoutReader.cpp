@@ -139,6 +139,7 @@ public:
         ReadFont(top.Child("font"));
         for (const QJsonValue& value : top.Array("sections"))
             ReadSection(NamedNode(value, top, QStringLiteral("section")));
+        ReadGroup(top);
         top.RejectLeftOvers();
         CheckFit(top);
         return std::move(m_layout);
@@ -177,7 +178,9 @@ private:
         const auto kind =
             node.Choice<SectionKind>("kind", {{"reportHeader", SectionKind::ReportHeader},
                                               {"pageHeader", SectionKind::PageHeader},
+                                              {"groupHeader", SectionKind::GroupHeader},
                                               {"detail", SectionKind::Detail},
+                                              {"groupFooter", SectionKind::GroupFooter},
                                               {"pageFooter", SectionKind::PageFooter},
                                               {"reportFooter", SectionKind::ReportFooter}});
         ReportSection section(node.Text("name"), kind, node.Length("height"));
@@ -191,6 +194,17 @@ private:
             ReadControl(NamedNode(value, node, QStringLiteral("control")), section);
         node.RejectLeftOvers();
         m_layout.sections.push_back(std::move(section));
+    }
+
+    /// A layout that has a group header or footer names the column that groups its rows.
+    void ReadGroup(Node& top) {
+        if (!m_layout.SectionOf(SectionKind::GroupHeader) &&
+            !m_layout.SectionOf(SectionKind::GroupFooter))
+            return;
+        Node node = top.Child("group");
+        m_layout.groupColumn = node.Text("by");
+        m_layout.groupRows = node.Text("rows");
+        node.RejectLeftOvers();
     }
 
     void ReadControl(Node node, ReportSection& section) {
@@ -222,8 +236,8 @@ private:
                 caption = node.Text("caption", QString());
             } else {
                 dataField = node.Text("field");
-                if (section.Kind() != SectionKind::Detail)
-                    node.Reject(QStringLiteral("a text box stands in the detail only."));
+                if (!HasRow(section.Kind()))
+                    node.Reject(QStringLiteral("this section has no row for a text box."));
             }
         }
         node.RejectLeftOvers();
@@ -265,14 +279,16 @@ private:
         return Node(object, parent.Place() + QStringLiteral(", %1 \"%2\"").arg(word, name));
     }
 
-    /// Every page must take its header, its footer and at least one row or the report's end, or
-    /// there would be no end of pages.
+    /// Every page must have room for its header, its footer and either one row, with its group's
+    /// header and footer, or the report's end. Otherwise there would be no end of pages.
     void CheckFit(const Node& top) const {
         const int body = m_layout.PrintableHeight() - m_layout.HeightOf(SectionKind::PageHeader) -
                          m_layout.HeightOf(SectionKind::PageFooter);
         const int first = body - m_layout.HeightOf(SectionKind::ReportHeader);
-        if (first < m_layout.HeightOf(SectionKind::Detail) || first < 0 ||
-            body < m_layout.HeightOf(SectionKind::ReportFooter))
+        const int row = m_layout.HeightOf(SectionKind::GroupHeader) +
+                        m_layout.HeightOf(SectionKind::Detail) +
+                        m_layout.HeightOf(SectionKind::GroupFooter);
+        if (first < row || first < 0 || body < m_layout.HeightOf(SectionKind::ReportFooter))
             top.Reject(QStringLiteral("the sections are higher than the paper."));
     }
 

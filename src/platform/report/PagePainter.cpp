@@ -71,7 +71,8 @@ void PagePainter::PaintRow(const ReportSection& section, QPoint origin, const Ro
         if (columns[i] < 0)
             PaintFixed(controls[i], origin);
         else
-            PaintText(controls[i].Style(), origin, rows.TextAt(row, columns[i]));
+            PaintText(controls[i].Style(), origin,
+                      controls[i].TextOf(rows.ValueAt(row, columns[i])));
     }
 }
 
