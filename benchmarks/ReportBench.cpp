@@ -63,10 +63,13 @@ private:
 };
 
 void SetTexts(darTourException& report) {
-    report.SetReportParam(QStringLiteral("22/11/2026    08:00"), QStringLiteral("21/11/2026"),
-                          QStringLiteral("Night round - Harbour"), QStringLiteral("4B5831A7"),
-                          QStringLiteral("Tour Report"), QStringLiteral("5"), {},
-                          QStringLiteral("Yes"));
+    report.SetReportParam({{u"lblPrintDate", QStringLiteral("22/11/2026    08:00")},
+                           {u"lblDateRange", QStringLiteral("21/11/2026")},
+                           {u"lblTourName", QStringLiteral("Night round - Harbour")},
+                           {u"lblReaderID", QStringLiteral("4B5831A7")},
+                           {u"lblReportTitle", QStringLiteral("Tour Report")},
+                           {u"lblTolerance", QStringLiteral("5")},
+                           {u"lblOptions", QStringLiteral("Yes")}});
 }
 
 /// The same texts and rules in the same places and fonts, drawn straight onto the PDF, as one would

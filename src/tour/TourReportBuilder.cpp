@@ -168,14 +168,26 @@ void Print(const cTourReport& tour, const TourReportRequest& request, TourExcept
            ReportViewer& viewer) {
     darTourException report;
     report.SetDataSource(&table.Rows());
-    report.SetReportParam(PrintDateText(4), Format(tour.StartDate, QStringLiteral("Short Date")),
-                          tour.GetTourFullName(), request.ReaderText,
-                          GetReportTitle(request.ShowAll), QString::number(tour.Tolerance),
-                          CompanyText(), Translate(request.IncludeEvents ? "Yes" : "No"));
-    report.SetText(Translate("Print Date:"), GetReportsTitle(), Translate("Page"),
-                   Translate("Reader ID:"), Translate("Tour Date:"), Translate("Tour Name:"),
-                   Translate("Tolerance (min):"), Translate("Time"), Translate("Site/Location"),
-                   Translate("Status"), Translate("End Of Report"), Translate("Show Events:"));
+    report.SetReportParam({{u"lblPrintDate", PrintDateText(4)},
+                           {u"lblDateRange", Format(tour.StartDate, QStringLiteral("Short Date"))},
+                           {u"lblTourName", tour.GetTourFullName()},
+                           {u"lblReaderID", request.ReaderText},
+                           {u"lblReportTitle", GetReportTitle(request.ShowAll)},
+                           {u"lblTolerance", QString::number(tour.Tolerance)},
+                           {u"lblCompanyInfo", CompanyText()},
+                           {u"lblOptions", Translate(request.IncludeEvents ? "Yes" : "No")}});
+    report.SetText({{u"Label17", Translate("Print Date:")},
+                    {u"Label19", GetReportsTitle()},
+                    {u"Label16", Translate("Page")},
+                    {u"lblTitleReaderID", Translate("Reader ID:")},
+                    {u"lblDate", Translate("Tour Date:")},
+                    {u"lblTitleTourName", Translate("Tour Name:")},
+                    {u"lblTitleTolerance", Translate("Tolerance (min):")},
+                    {u"lblTitleTourTime", Translate("Time")},
+                    {u"lblSite", Translate("Site/Location")},
+                    {u"lblActualTime", Translate("Status")},
+                    {u"lblEndOfReport", Translate("End Of Report")},
+                    {u"lblShowEvents", Translate("Show Events:")}});
     ShowLayoutFrame(report, viewer);
 }
 

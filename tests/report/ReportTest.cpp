@@ -1,6 +1,7 @@
 // The report engine: pages by arithmetic, captions, texts too long, faulty layouts, PDF.
 
 #include "Clock.h"
+#include "ReportExport.h"
 #include "ReportPdf.h"
 #include "SmallReport.h"
 #include "TourExceptionTable.h"
@@ -171,6 +172,35 @@ private slots:
         }
     }
 
+    void GroupsAsTextJsonAndCsv() {
+        const Touches touches;
+        const auto report = SmallReport(GroupedLayout());
+        report->SetDataSource(&touches);
+        report->SetCaption("Loads");
+        report->Control(u"lblHead").SetCaption("Head");
+        report->Control(u"lblLoad").SetCaption("Load %p:", CaptionKind::Literal);
+        report->Control(u"txtLoad").SetDataFormat("dd/mm HH:NN:SS");
+        QCOMPARE(ReportText(*report),
+                 "Loads\n=====\n\n"
+                 "\nLoad %p:     29/03 12:00:00\na\nsay \"b\"\n      say \"b\"\n"
+                 "\nLoad %p:     30/03 00:00:00\n\n\n\n");
+        QCOMPARE(ReportJson(*report),
+                 "{\"title\": \"Loads\", \"rows\": [\n"
+                 "{\"dtLoad\": \"2026-03-29T12:00:00\", \"T\": [\n"
+                 "{\"dtLoad\": \"2026-03-29T12:00:00\", \"tName\": \"a\"},\n"
+                 "{\"dtLoad\": \"2026-03-29T12:00:00\", \"tName\": \"say \\\"b\\\"\"}\n]},\n"
+                 "{\"dtLoad\": \"2026-03-30T00:00:00\", \"T\": [\n"
+                 "{\"dtLoad\": \"2026-03-30T00:00:00\", \"tName\": null}\n]}\n]}\n");
+        QCOMPARE(ReportCsv(*report), "\"dtLoad\",\"tName\"\r\n"
+                                     "\"2026-03-29T12:00:00\",\"a\"\r\n"
+                                     "\"2026-03-29T12:00:00\",\"say \"\"b\"\"\"\r\n"
+                                     "\"2026-03-30T00:00:00\",\"\"\r\n");
+        if (HasPdfTool())
+            QCOMPARE(PdfText(*report),
+                     "Head 1 / 1 Load %p: 29/03 12:00:00 a say \"b\" say \"b\" Load "
+                     "%p: 30/03 00:00:00");
+    }
+
     void LongGroupsAreNotRead() {
         CountedRows rows(1'000'000);
         rows.Text = [](qsizetype row) { return row < 700'000 ? QString("a") : QString("b"); };
@@ -331,8 +361,9 @@ private slots:
         rows.Text = [&](qsizetype) { return two; };
         darTourException report;
         report.SetDataSource(&rows);
-        report.SetReportParam({}, {}, two, two, {}, {},
-                              QStringList(4, wide).join(QStringLiteral("\r\n")), {});
+        report.SetReportParam({{u"lblTourName", two},
+                               {u"lblReaderID", two},
+                               {u"lblCompanyInfo", QStringList(4, wide).join("\r\n")}});
         const QString text = PdfText(report);
         QCOMPARE(text.count(wide), 4);
         // The head's two and the row's site and touch; narrower columns hold no names.
@@ -396,7 +427,9 @@ private slots:
         if (!HasPdfTool())
             QSKIP("pdftotext is not there");
         darTourException report;
-        report.SetReportParam({}, {}, "Tour %p at 100%d", {}, "T", {}, "Line one\r\nLine two", {});
+        report.SetReportParam({{u"lblTourName", "Tour %p at 100%d"},
+                               {u"lblReportTitle", "T"},
+                               {u"lblCompanyInfo", "Line one\r\nLine two"}});
         const QString text = PdfText(report);
         QVERIFY(text.contains("Tour %p at 100%d"));
         QVERIFY(text.contains("1 / 1"));

@@ -53,6 +53,32 @@ inline QByteArray SmallLayout(int footerHeight = 10) {
         .toUtf8();
 }
 
+/// Two downloads with three touches.
+class Touches : public RowSource {
+public:
+    const QList<QList<Value>> Rows{
+        {46110.5, QString("a")}, {46110.5, QString("say \"b\"")}, {46111.0, Value()}};
+    const QStringList Names{"dtLoad", "tName"};
+    qsizetype RowCount() const override { return Rows.size(); }
+    const QStringList& Columns() const override { return Names; }
+    Value ValueAt(qsizetype row, int column) const override { return Rows[row][column]; }
+};
+
+/// The small layout for Touches: a group for each download, with a header and a footer of 10.
+inline QByteArray GroupedLayout() {
+    return SmallLayout()
+        .replace("\"font\"", R"("group": { "by": "dtLoad", "rows": "T" }, "font")")
+        .replace("{ \"name\": \"End\"", R"(
+          { "name": "GroupTop", "kind": "groupHeader", "height": 10, "controls": [
+            { "name": "lblLoad", "type": "label", "left": 0, "top": 0, "width": 20, "height": 5 },
+            { "name": "txtLoad", "type": "textBox", "field": "dtLoad", "left": 21, "top": 1,
+              "width": 20, "height": 5 } ] },
+          { "name": "GroupEnd", "kind": "groupFooter", "height": 10, "controls": [
+            { "name": "txtLast", "type": "textBox", "field": "tName", "left": 10, "top": 0,
+              "width": 20, "height": 5 } ] },
+          { "name": "End")");
+}
+
 inline std::unique_ptr<DataReport> SmallReport(const QByteArray& layout = SmallLayout()) {
     return std::make_unique<DataReport>(ReadReportLayout(layout, "test.json"));
 }

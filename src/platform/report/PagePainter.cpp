@@ -7,11 +7,6 @@
 
 namespace {
 
-bool IsRule(const QString& text) {
-    return !text.isEmpty() &&
-           std::all_of(text.begin(), text.end(), [](QChar letter) { return letter == u'_'; });
-}
-
 qreal HeightOf(const ReportFont& font, std::size_t lines) {
     return font.Height() + static_cast<qreal>(lines - 1) * font.LineSpacing();
 }

@@ -4,6 +4,13 @@
 #include "RunTimeError.h"
 #include "Value.h"
 
+#include <algorithm>
+
+bool IsRule(QStringView text) {
+    return !text.isEmpty() &&
+           std::all_of(text.begin(), text.end(), [](QChar letter) { return letter == u'_'; });
+}
+
 ReportControl::ReportControl(QString name, ControlKind kind, const ControlStyle& style,
                              QString caption, QString dataField)
     : m_name(std::move(name)), m_kind(kind), m_style(style), m_caption(std::move(caption)),

@@ -32,6 +32,9 @@ constexpr bool HasRow(SectionKind kind) {
            kind == SectionKind::GroupFooter;
 }
 
+/// A text of underscores alone. It is drawn as one line, as wide as its box.
+bool IsRule(QStringView text);
+
 enum class ControlKind { Label, TextBox, Line };
 
 /// Whether "%p", "%P", "%d" and "%t" in a caption mean the page, the number of pages, the date and
