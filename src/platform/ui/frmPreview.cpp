@@ -350,5 +350,6 @@ void frmPreview::Export() {
 void PreviewViewer::Show(DataReport& report) {
     QWidget* over = QApplication::activeModalWidget();
     frmPreview window(report, m_translate, over ? over : m_parent);
+    const ArrowPointer arrow;
     window.exec();
 }

@@ -19,10 +19,13 @@ public:
     frmRptTour(ReportViewer& viewer, QWidget* parent);
     ~frmRptTour() override;
 
-    int TourID = 0;
-    DateTime StartDate;
-    bool IncludeEvents = false;
+    /// What is chosen now.
+    int TourID() const;
+    DateTime StartDate() const;
+    bool IncludeEvents() const;
+    /// Always false: the dialog makes its reports itself.
     bool OK() const { return result() == Accepted; }
+    /// Follows the choice of the reader.
     QString ReaderId;
     /// Sets the caption.
     void Title(const QString& text) { setWindowTitle(text); }
