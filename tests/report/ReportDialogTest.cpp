@@ -35,8 +35,10 @@ private slots:
 
         range.SetDays(today.addDays(-30), today);
         range.show();
+        QVERIFY(QTest::qWaitForWindowActive(&range));
         auto* start = range.findChild<QTimeEdit*>("dtpStartTime");
         start->setFocus();
+        QApplication::processEvents(); // selects the hours
         QTest::keyClicks(start, "0715");
         QCOMPARE(start->text(), "07:15");
         QCOMPARE(range.Start(), At(today.addDays(-30), 7, 15));
