@@ -6,7 +6,6 @@
 void RecordingViewer::Show(DataReport& report) {
     ++Shown;
     Caption = report.Caption();
-    Pages = report.PageCount();
     Rows.clear();
     const RowSource& source = *report.DataSource();
     const qsizetype columns = source.Columns().size();
@@ -16,8 +15,8 @@ void RecordingViewer::Show(DataReport& report) {
             values += source.TextAt(row, column);
         Rows += values.join(u'|');
     }
-    for (const QString& section : {QStringLiteral("Section2"), QStringLiteral("Section5")})
-        for (const ReportControl& control : report.Sections(section).AllControls())
+    for (const ReportSection& section : report.Layout().sections)
+        for (const ReportControl& control : section.AllControls())
             Labels[control.Name()] = control.Caption();
     if (OnShow)
         OnShow();
