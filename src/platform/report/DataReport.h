@@ -59,7 +59,7 @@ public:
     /// At least 1.
     int PageCount() const { return m_pages.PageCount(); }
 
-    /// The paper that the pages are made for, upright.
+    /// The paper that the pages are made for, in portrait.
     QPageSize Paper() const { return QPageSize(m_layout.paper); }
     /// Its size in hundredths of a millimetre.
     QSize PageSize() const { return m_layout.page; }
@@ -68,14 +68,14 @@ public:
     static constexpr double UnitsPerInch = 2540.0;
 
     /// Paints one page; `page` counts from 0. The painter's origin is the top left corner of the
-    /// paper and its unit a hundredth of a millimetre (scale it by the device's dots per inch over
-    /// UnitsPerInch). The paper itself is not painted. `printedAt` is the time of printing that the
-    /// page shows. Throws RunTimeError (SubscriptOutOfRange) for a page that does not exist, and
-    /// whatever the rows throw; the painter's state is then as before.
+    /// paper and its unit a hundredth of a millimetre (scale it by the device's dots per inch
+    /// divided by UnitsPerInch). The paper itself is not painted. `printedAt` is the time of
+    /// printing that the page shows. Throws RunTimeError (SubscriptOutOfRange) if there is no such
+    /// page, and whatever the rows throw; the painter's state is restored in any case.
     void PaintPage(QPainter& painter, int page, DateTime printedAt) const;
-    /// Paints pages, in this order, each on a sheet of its own; the painter has begun on the
-    /// device's first sheet. False if that was ended before the last one, by `progress` or because
-    /// the device gives no further sheet.
+    /// Paints pages, in this order, each on its own sheet. The painter has begun on the device's
+    /// first sheet. False if not all were painted: `progress` ended the job, or the device has no
+    /// further sheet.
     bool PaintSheets(QPainter& painter, QPagedPaintDevice& device, const std::vector<int>& pages,
                      DateTime printedAt, const PageProgress& progress) const;
 

@@ -15,15 +15,15 @@ namespace {
 constexpr double LongestMillimetres = 2000;
 constexpr double SmallestPoints = 1;
 constexpr double LargestPoints = 200;
-/// A hairline that every printer still draws.
+/// The thinnest line that every printer draws.
 constexpr double DefaultThickness = 0.2;
 
 [[noreturn]] void Fail(const QString& text) {
     throw RunTimeError(RunTimeErrorNumber::InvalidPropertyValue, text);
 }
 
-/// One object of the file, with the words that lead to it. Every property is asked for; what is
-/// left over in the end is a misspelling.
+/// One object of the file, with its place in the file for messages. A property that nobody asks for
+/// is a misspelling and rejected.
 class Node {
 public:
     Node(QJsonObject object, QString place)
@@ -63,7 +63,7 @@ public:
     int Length(const char* key, double otherwise) {
         return Hundredths(Number(key, 0, LongestMillimetres, otherwise));
     }
-    /// One of a few words; the first one where the file has none.
+    /// One of a few words. The first one is the default.
     template <typename T>
     T Choice(const char* key, std::initializer_list<std::pair<const char*, T>> choices) {
         if (!Has(key))
@@ -74,7 +74,6 @@ public:
                 return value;
         Reject(QStringLiteral("\"%1\" cannot be \"%2\".").arg(QLatin1String(key), word));
     }
-    /// For a property that must be there.
     void Require(const char* key) const {
         if (!Has(key))
             Reject(QStringLiteral("\"%1\" is missing.").arg(QLatin1String(key)));

@@ -70,7 +70,7 @@ void frmRptTour::FillReaders() {
     }
     const bool any = m_ui->imgcboReader->count() > 0;
     m_ui->imgcboReader->setEnabled(any);
-    // With readers but no tour the button stays enabled; the report then tells what is missing.
+    // With readers but no tour the button stays enabled; the report then says what is missing.
     m_ui->cmdPrintPreview->setEnabled(any);
 }
 

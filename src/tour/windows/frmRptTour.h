@@ -11,11 +11,11 @@ namespace Ui {
 class frmRptTour;
 }
 
-/// The dialog of the tour report: tour, date, reader and options. It stays open after a preview.
+/// The dialog of the tour report: tour, date, reader and options.
 class frmRptTour : public QDialog {
     Q_OBJECT
 public:
-    /// The viewer outlives the dialog.
+    /// The viewer must outlive the dialog.
     frmRptTour(ReportViewer& viewer, QWidget* parent);
     ~frmRptTour() override;
 
