@@ -681,7 +681,7 @@
     </message>
     <message>
         <source>End Time</source>
-        <translation>Endzeit</translation>
+        <translation>Ende</translation>
     </message>
     <message>
         <source>All</source>
