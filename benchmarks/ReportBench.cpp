@@ -23,10 +23,11 @@ class TourRows : public RowSource {
 public:
     explicit TourRows(qsizetype count) : m_count(count) {}
     qsizetype RowCount() const override { return m_count; }
-    int Column(QStringView name) const override {
-        return static_cast<int>(TourExceptionTable::ColumnNames().indexOf(name));
-    }
-    QString TextAt(qsizetype row, int column) const override {
+    const QStringList& Columns() const override { return TourExceptionTable::ColumnNames(); }
+    Value ValueAt(qsizetype row, int column) const override { return Text(row, column); }
+
+private:
+    static QString Text(qsizetype row, int column) {
         static const QString rule(255, u'_');
         switch (row % 5) {
         case 0:
@@ -58,15 +59,17 @@ public:
         }
     }
 
-private:
     qsizetype m_count;
 };
 
 void SetTexts(darTourException& report) {
-    report.SetReportParam(QStringLiteral("22/11/2026    08:00"), QStringLiteral("21/11/2026"),
-                          QStringLiteral("Night round - Harbour"), QStringLiteral("4B5831A7"),
-                          QStringLiteral("Tour Report"), QStringLiteral("5"), {},
-                          QStringLiteral("Yes"));
+    report.SetReportParam({{u"lblPrintDate", QStringLiteral("22/11/2026    08:00")},
+                           {u"lblDateRange", QStringLiteral("21/11/2026")},
+                           {u"lblTourName", QStringLiteral("Night round - Harbour")},
+                           {u"lblReaderID", QStringLiteral("4B5831A7")},
+                           {u"lblReportTitle", QStringLiteral("Tour Report")},
+                           {u"lblTolerance", QStringLiteral("5")},
+                           {u"lblOptions", QStringLiteral("Yes")}});
 }
 
 /// Draws the same texts and rules in the same places and fonts directly onto the PDF, as code

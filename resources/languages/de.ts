@@ -672,6 +672,26 @@
         <translation>Mit Ereignissen</translation>
     </message>
     <message>
+        <source>Start Date</source>
+        <translation>Anfangsdatum</translation>
+    </message>
+    <message>
+        <source>End Date</source>
+        <translation>Enddatum</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
         <source>&amp;Print Preview</source>
         <translation>&amp;Vorschau</translation>
     </message>

@@ -5,12 +5,12 @@
 
 #include <QByteArray>
 
-/// Takes a report instead of a preview window, in the form that was asked for.
+/// Takes the place of the preview window: keeps a report in one format.
 class ConsoleReport : public ReportViewer {
 public:
     explicit ConsoleReport(ReportFormat format) : m_format(format) {}
 
-    /// Throws RunTimeError where a PDF cannot be made.
+    /// Throws RunTimeError if a PDF cannot be made.
     void Show(DataReport& report) override;
 
     /// True once a report has been shown.
@@ -23,5 +23,5 @@ private:
     QByteArray m_bytes;
 };
 
-/// `{"message": "..."}`, for a report that came to nothing.
+/// `{"message": "..."}`, if a message was shown instead of a report.
 QByteArray JsonMessage(const QString& message);

@@ -5,13 +5,13 @@
 class DataReport;
 class ReportViewer;
 
-/// What every report prints or does alike. The product title is GetReportsTitle.
+/// What all reports print or do in the same way. The product title is GetReportsTitle.
 
-/// The four lines of gCompanyInfo, joined; empty lines stay.
+/// The four lines of gCompanyInfo, joined. Empty lines are kept.
 QString CompanyText();
 
-/// Today and now, as the head of a report shows the time of printing, `blanks` apart.
+/// The time of printing in the head of a report: today's date and the time, `blanks` apart.
 QString PrintDateText(int blanks);
 
-/// Shows a report that has its data and its texts. Returns when the viewer is closed.
+/// Shows a report that has its rows and its texts. Returns when the viewer is closed.
 void ShowLayoutFrame(DataReport& report, ReportViewer& viewer);

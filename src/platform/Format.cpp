@@ -5,6 +5,8 @@
 
 namespace {
 
+const QString TimeOfDefaultText = QStringLiteral("HH:mm:ss");
+
 bool Is(const QString& pattern, QStringView name) {
     return pattern.compare(name, Qt::CaseInsensitive) == 0;
 }
@@ -79,5 +81,16 @@ QString Format(long long value, const QString& pattern) {
 
 QString DefaultDateTimeText(DateTime value) {
     return Format(value, QStringLiteral("Short Date")) + u' ' +
-           QLocale().toString(value.ToQTime(), QStringLiteral("HH:mm:ss"));
+           QLocale().toString(value.ToQTime(), TimeOfDefaultText);
+}
+
+std::optional<DateTime> DateTimeFromText(const QString& text) {
+    const qsizetype parting = text.lastIndexOf(u' ');
+    if (parting < 0)
+        return {};
+    const QDate date = QLocale().toDate(text.left(parting), GetShortDateFormat());
+    const QTime time = QLocale().toTime(text.mid(parting + 1), TimeOfDefaultText);
+    if (!date.isValid() || !time.isValid())
+        return {};
+    return DateTime::FromQt(date) + DateTime::FromMilliseconds(time.msecsSinceStartOfDay());
 }

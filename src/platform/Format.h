@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <optional>
+
 /// Text forms of date-times and numbers, by named formats and patterns.
 
 /// Named formats, in any case: "Short Date", "Medium Date" and "Short Time" as the user's locale
@@ -17,6 +19,9 @@ QString Format(long long value, const QString& pattern);
 
 /// Date and time in the default text form of the user's locale.
 QString DefaultDateTimeText(DateTime value);
+
+/// Reads what DefaultDateTimeText writes; empty if the text is something else.
+std::optional<DateTime> DateTimeFromText(const QString& text);
 
 /// The locale's short date pattern, with a year of four digits.
 QString GetShortDateFormat();

@@ -271,17 +271,3 @@ void Recordset::WritePending() {
 }
 
 qsizetype Recordset::RowCount() const { return m_rows.Count(); }
-
-int Recordset::Column(QStringView name) const {
-    for (int column = 0; column < m_columns.size(); ++column)
-        if (name == m_columns[column])
-            return column;
-    for (int column = 0; column < m_columns.size(); ++column)
-        if (name.compare(m_columns[column], Qt::CaseInsensitive) == 0)
-            return column;
-    throw RunTimeError(RunTimeErrorNumber::NoSuchItem,
-                       QStringLiteral("Item cannot be found in the collection corresponding to "
-                                      "the requested name or ordinal."));
-}
-
-QString Recordset::TextAt(qsizetype row, int column) const { return m_rows.At(row, column).Text(); }

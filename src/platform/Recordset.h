@@ -76,12 +76,8 @@ public:
     std::size_t MemoryBytes() const { return m_rows.MemoryBytes(); }
 
     qsizetype RowCount() const override;
-    int Column(QStringView name) const override;
-    QString TextAt(qsizetype row, int column) const override;
-    bool IsNullAt(qsizetype row, int column) const override {
-        return m_rows.At(row, column).IsNull();
-    }
-    const QStringList& Columns() const { return m_columns; }
+    const QStringList& Columns() const override { return m_columns; }
+    Value ValueAt(qsizetype row, int column) const override { return m_rows.At(row, column); }
 
 private:
     enum class Edit { None, Changing, Adding };

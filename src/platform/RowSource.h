@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "Value.h"
+
+#include <QStringList>
 
 /// Rows by position, as a report reads them. The source must outlive whoever holds it.
 class RowSource {
@@ -8,11 +10,14 @@ public:
     virtual ~RowSource() = default;
 
     virtual qsizetype RowCount() const = 0;
-    /// Position of a column by its name, whose case does not count. Throws RunTimeError
-    /// (NoSuchItem) for an unknown name.
-    virtual int Column(QStringView name) const = 0;
-    /// A value as text; null is the empty text. `row` counts from 0 and must be below RowCount().
-    virtual QString TextAt(qsizetype row, int column) const = 0;
-    /// False for a source that knows no nulls.
-    virtual bool IsNullAt(qsizetype, int) const { return false; }
+    /// The names of the columns, in their order.
+    virtual const QStringList& Columns() const = 0;
+    /// `row` counts from 0 and must be below RowCount().
+    virtual Value ValueAt(qsizetype row, int column) const = 0;
+
+    /// A value as text; null is the empty text.
+    QString TextAt(qsizetype row, int column) const { return ValueAt(row, column).Text(); }
+    /// Position of a column by its name; upper and lower case are the same. Throws RunTimeError
+    /// (NoSuchItem) if there is no such column.
+    int Column(QStringView name) const;
 };

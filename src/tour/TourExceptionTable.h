@@ -13,9 +13,9 @@ public:
 
     ~TourExceptionTable();
 
-    /// Makes the table afresh; false, logged, where that fails.
+    /// Drops the table if it exists, and creates it. A failure is logged and gives false.
     static bool ResetTempTourTable();
-    /// Drops it; that it is not there does not matter.
+    /// Drops the table if it exists.
     static void Drop();
 
     void Open();
@@ -23,12 +23,12 @@ public:
     void WriteTourLine(int item, const QString& time, const QString& range, const QString& place,
                        const QString& status);
     void WriteDetailLine(const QString& time, const QString& status, const QString& details);
-    /// A line of its own across the page.
+    /// A text across the whole page.
     void WriteNote(const QString& text);
     void WriteSeparator();
     void Close();
 
-    /// All rows written, once none is pending.
+    /// The rows written. The last one is pending until the recordset moves.
     Recordset& Rows() { return m_rows; }
 
 private:

@@ -14,10 +14,10 @@ cTourPoint MadeUpNeighbour(DateTime time) {
     return point;
 }
 
-/// The last instant at which a touch of the point's button still counts as late for it. Between two
-/// visits of the same button in turn it is the middle of the gap: what comes behind counts as early
-/// for the next. There is no such rule on the early side, where touches were used up already in the
-/// turn of the visit before.
+/// The last instant at which a touch of the point's button counts as late for it. If the next point
+/// has the same button, it is the middle of the gap between the two visits: a later touch counts as
+/// early for the next. The early side needs no such rule, since the visit before has already used
+/// up the touches there.
 DateTime LateLimit(const cTourPoint& point, const cTourPoint& next, int tolerance) {
     if (next.PointButtonId != point.PointButtonId)
         return next.TimeLatest(tolerance);

@@ -2,18 +2,18 @@
 
 #include "cTourReport.h"
 
-/// The rules by which a touch is held against a tour point. All comparisons are exact, on whole
-/// milliseconds; texts are equal only if they are the same characters.
+/// The rules that compare a touch with a tour point. Times are compared exactly, in whole
+/// milliseconds. Texts are equal only if all their characters are.
 
-/// How a touch stands to the point at hand. NotAssigned leaves it for the points to come.
+/// What a touch means for one point. NotAssigned leaves it for the following points.
 enum class TouchClass { NotAssigned, Early, OnTime, Late, OutOfSequence, NotOnTour };
 
-/// Sets PointOK of every point whose button was touched within its own tolerance. One touch can
-/// serve several points here.
+/// Sets PointOK of every point whose button was touched within the point's tolerance. Here, one
+/// touch can serve several points. A failure is logged and gives false.
 bool TryToMatchTourPoints(cTourReport& tour);
 
-/// The points before and behind position `position`, from 0. Where there is none, one is made up:
-/// one hour from `pointDateTime`, with an empty button code.
+/// The points before and after `position`, which counts from 0. If there is none, one is made up:
+/// one hour from `pointDateTime`, with an empty button code. A failure is logged and gives false.
 bool GetPrevAndNextTourPoints(std::size_t position, const colTourPoints& tourPoints,
                               DateTime pointDateTime, cTourPoint& previous, cTourPoint& next);
 

@@ -45,14 +45,14 @@ QString StatusWord(TouchClass touchClass) {
     return {};
 }
 
-/// The one pass over points and touches that writes the report's lines. Its outcome depends on the
-/// order of its steps: a touch assigned to a point is used up for all later ones, printed or not.
+/// Writes the report's lines in one pass over points and touches. The order of the steps matters: a
+/// touch that is assigned to a point is used up for all later points, whether it is printed or not.
 class LineWriter {
 public:
     LineWriter(cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table)
         : m_tour(tour), m_request(request), m_table(table) {}
 
-    /// False if a point's neighbours could not be told.
+    /// False if a point's neighbours could not be found.
     bool WriteAll() {
         for (std::size_t i = 0; i < m_tour.TourPoints().size(); ++i)
             if (!WritePoint(i))
@@ -88,9 +88,8 @@ private:
             tourLineWritten = true;
             WriteTouch(touch, touchClass);
         }
-        // Where no touch was left to look at, this still goes by the touch looked at last, under an
-        // earlier point: a tour whose touches are all used up by points that need no line shows
-        // none for the points behind, either.
+        // If no touch was left, m_showPoint is still that of an earlier point. So if points that
+        // need no line have used up all touches, the points after them get no line either.
         if (m_showPoint && !tourLineWritten)
             WriteTourLine(point, Translate("MISSING"));
         m_tour.Buttons() = std::move(left);
@@ -124,7 +123,7 @@ private:
     bool m_showPoint = false;
 };
 
-/// Loads and matches; false if there is nothing to report, which the operator has been told.
+/// Loads the tour and matches it. False if there is nothing to report; a message box has said why.
 bool LoadTour(cTourReport& tour) {
     if (!tour.LoadTourHeader()) {
         ShowFailure("<ERROR #0001>");
@@ -147,7 +146,7 @@ bool LoadTour(cTourReport& tour) {
     return true;
 }
 
-/// Makes the scratch table and writes all lines; one sync of the store for all of them.
+/// Creates the scratch table and writes all lines in one transaction. False after a message box.
 bool WriteTable(cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table) {
     Transaction transaction(*gConn);
     if (!TourExceptionTable::ResetTempTourTable()) {
@@ -168,14 +167,26 @@ void Print(const cTourReport& tour, const TourReportRequest& request, TourExcept
            ReportViewer& viewer) {
     darTourException report;
     report.SetDataSource(&table.Rows());
-    report.SetReportParam(PrintDateText(4), Format(tour.StartDate, QStringLiteral("Short Date")),
-                          tour.GetTourFullName(), request.ReaderText,
-                          GetReportTitle(request.ShowAll), QString::number(tour.Tolerance),
-                          CompanyText(), Translate(request.IncludeEvents ? "Yes" : "No"));
-    report.SetText(Translate("Print Date:"), GetReportsTitle(), Translate("Page"),
-                   Translate("Reader ID:"), Translate("Tour Date:"), Translate("Tour Name:"),
-                   Translate("Tolerance (min):"), Translate("Time"), Translate("Site/Location"),
-                   Translate("Status"), Translate("End Of Report"), Translate("Show Events:"));
+    report.SetReportParam({{u"lblPrintDate", PrintDateText(4)},
+                           {u"lblDateRange", Format(tour.StartDate, QStringLiteral("Short Date"))},
+                           {u"lblTourName", tour.GetTourFullName()},
+                           {u"lblReaderID", request.ReaderText},
+                           {u"lblReportTitle", GetReportTitle(request.ShowAll)},
+                           {u"lblTolerance", QString::number(tour.Tolerance)},
+                           {u"lblCompanyInfo", CompanyText()},
+                           {u"lblOptions", Translate(request.IncludeEvents ? "Yes" : "No")}});
+    report.SetText({{u"Label17", Translate("Print Date:")},
+                    {u"Label19", GetReportsTitle()},
+                    {u"Label16", Translate("Page")},
+                    {u"lblTitleReaderID", Translate("Reader ID:")},
+                    {u"lblDate", Translate("Tour Date:")},
+                    {u"lblTitleTourName", Translate("Tour Name:")},
+                    {u"lblTitleTolerance", Translate("Tolerance (min):")},
+                    {u"lblTitleTourTime", Translate("Time")},
+                    {u"lblSite", Translate("Site/Location")},
+                    {u"lblActualTime", Translate("Status")},
+                    {u"lblEndOfReport", Translate("End Of Report")},
+                    {u"lblShowEvents", Translate("Show Events:")}});
     ShowLayoutFrame(report, viewer);
 }
 

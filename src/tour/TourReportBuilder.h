@@ -11,7 +11,7 @@ struct TourReportRequest {
     int TourID = 0;
     DateTime StartDate;
     QString ReaderId;
-    QString ReaderText; ///< the reader as the page header names it
+    QString ReaderText; ///< the reader, as the page header shows it
     bool IncludeEvents = false;
     bool ShowAll = false; ///< every tour point, not only the exceptions
 };
@@ -19,6 +19,6 @@ struct TourReportRequest {
 /// "Tour Report" or "Exception Report", translated.
 QString GetReportTitle(bool showAll);
 
-/// Holds what a reader recorded against a tour, writes the report's lines and shows it. Every
-/// failure is told in a message box; then no report is shown.
+/// Compares what a reader recorded with a tour, writes the report's lines and shows the report. A
+/// failure is shown in a message box instead of the report.
 void BuildTourReport(const TourReportRequest& request, ReportViewer& viewer);

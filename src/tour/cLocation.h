@@ -6,10 +6,10 @@
 
 #include <vector>
 
-/// A button code as the evaluation compares it: cut to six characters, or padded with blanks.
+/// A button code as the evaluation compares it: cut or padded with blanks to six characters.
 inline QString FixedCode(const QString& code) { return code.leftJustified(6, u' ', true); }
 
-/// One touch of an event button.
+/// One touch of an event button. The descriptions belong to the model; no report prints them.
 struct cEvent {
     DateTime DateAndTime;
     QString Code; ///< FixedCode
@@ -31,5 +31,5 @@ struct cLocation {
     colEvents Events;
 };
 
-/// In the order of time.
+/// In order of time.
 using colLocations = std::vector<cLocation>;

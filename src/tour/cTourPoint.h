@@ -12,15 +12,15 @@ struct cTourPoint {
     DateTime PointDateTime; ///< planned date and time
     QString PointButtonId;  ///< code of the location button; empty in a made-up neighbour
     QString ButtonName;
-    QString ButtonDesc;
+    QString ButtonDesc; ///< belongs to the model; no report prints it
     QString SiteName;
-    bool PointOK = false; ///< a touch of the button fell into the point's own tolerance
+    bool PointOK = false; ///< the button was touched within the point's tolerance
 
-    /// The planned time less the tolerance, in minutes.
+    /// The planned time minus the tolerance, which is in minutes.
     DateTime TimeEarliest(int tolerance) const {
         return PointDateTime - DateTime::FromTime(0, tolerance);
     }
-    /// The planned time with the tolerance and 59 seconds: the whole last minute counts.
+    /// The planned time plus the tolerance and 59 seconds: the whole last minute counts.
     DateTime TimeLatest(int tolerance) const {
         return PointDateTime + DateTime::FromTime(0, tolerance, 59);
     }

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A tour without tolerance still reads what lies this far from it, in minutes.
+/// The window, in minutes, of a tour without tolerance.
 constexpr int WindowWithoutTolerance = 15;
 
 void OpenQuery(Recordset& rows, const QString& sql, const Values& values) {
@@ -72,8 +72,8 @@ bool cTourReport::LoadTourPoints() {
         if (rows.RecordCount() < 1)
             return false;
         const QTime start = StartTime.ToQTime();
-        // Each point's time is the interval since the one before, so a tour that passes midnight
-        // goes on into the next day by plain addition.
+        // Each point's time is the interval since the point before it, so plain addition carries a
+        // tour over midnight into the next day.
         DateTime time = StartDate.DatePart() + DateTime::FromTime(start.hour(), start.minute());
         for (; !rows.Eof(); rows.MoveNext()) {
             time = time + rows.Date(u"dtTime");

@@ -5,25 +5,26 @@
 
 #include <QString>
 
-/// One evaluation: a tour, laid out on one calendar day, and what one reader recorded around it.
+/// One evaluation: a tour on one calendar day, and what one reader recorded around it.
 ///
-/// Set TourID, StartDate and ReaderId, then load header, points and events in this order, stopping
-/// at the first that gives false. A load that fails is logged. Used once; not reloaded.
+/// Set TourID, StartDate and ReaderId, then load header, points and events in this order. Stop at
+/// the first that gives false; a failure has then been logged. An object is used for one
+/// evaluation.
 class cTourReport {
 public:
     int TourID = 0;
     QString TourName;
     QString TourDesc;
     int Tolerance = 0;                              ///< minutes
-    DateTime StartTime = DateTime::FromDays(36526); ///< its time of day counts
-    DateTime StartDate; ///< the day to evaluate; a time of day does not count
+    DateTime StartTime = DateTime::FromDays(36526); ///< only its time of day is used
+    DateTime StartDate; ///< the day to evaluate; its time of day is not used
     QString ReaderId;
-    /// Margin on both sides of the tour within which events are read.
+    /// Events are read from this long before the tour to this long after it.
     DateTime TourWindow;
 
     const colTourPoints& TourPoints() const { return m_tourPoints; }
     colTourPoints& TourPoints() { return m_tourPoints; }
-    /// Location touches in time order.
+    /// Location touches in order of time.
     const colLocations& Buttons() const { return m_buttons; }
     colLocations& Buttons() { return m_buttons; }
 
@@ -32,12 +33,12 @@ public:
 
     bool LoadTourHeader();
     bool LoadTourPoints();
-    /// With no event at all in the window, tells the operator and gives false. Location touches
-    /// may still be missing where it gives true.
+    /// If the window holds no event at all, a message box says so and it gives false. If it gives
+    /// true, there may still be no location touch.
     bool LoadReaderEvents();
 
 private:
-    /// The range of the events' query. Only for a tour with points.
+    /// The range of the query for events. The tour must have points.
     DateTime m_GetStartDate() const;
     DateTime m_GetEndDate() const;
 

@@ -1,23 +1,22 @@
 #include "RecordingViewer.h"
 
 #include "DataReport.h"
-#include "Recordset.h"
+#include "RowSource.h"
 
 void RecordingViewer::Show(DataReport& report) {
     ++Shown;
     Caption = report.Caption();
-    Pages = report.PageCount();
     Rows.clear();
     const RowSource& source = *report.DataSource();
-    const qsizetype columns = dynamic_cast<const Recordset&>(source).Columns().size();
+    const qsizetype columns = source.Columns().size();
     for (qsizetype row = 0; row < source.RowCount(); ++row) {
         QStringList values;
         for (int column = 0; column < columns; ++column)
             values += source.TextAt(row, column);
         Rows += values.join(u'|');
     }
-    for (const QString& section : {QStringLiteral("Section2"), QStringLiteral("Section5")})
-        for (const ReportControl& control : report.Sections(section).AllControls())
+    for (const ReportSection& section : report.Layout().sections)
+        for (const ReportControl& control : section.AllControls())
             Labels[control.Name()] = control.Caption();
     if (OnShow)
         OnShow();

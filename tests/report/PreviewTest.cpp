@@ -94,46 +94,34 @@ class PreviewTest : public QObject {
 private slots:
     void PreviewIsDrivenByKeys() {
         const CountedRows source(100'000);
-        const auto report = SmallReport();
-        report->SetDataSource(&source);
-        report->SetCaption("A report");
-        frmPreview preview(*report, AsItIs, nullptr);
-        preview.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&preview));
-        QTRY_VERIFY(preview.PagesPainted() > 0);
+        const Shown shown(source);
+        const frmPreview& preview = *shown.window;
         QVERIFY(preview.PagesPainted() < 5);
         QCOMPARE(preview.windowTitle(), "A report");
-        auto* field = preview.findChild<QLineEdit*>("txtPage");
-        QWidget* page = preview.findChild<QWidget*>("scrPage");
-        const int pages = report->PageCount();
-
-        QTest::keyClick(page, Qt::Key_PageDown);
-        QCOMPARE(preview.Page(), 1);
-        QTest::keyClick(page, Qt::Key_End);
-        QCOMPARE(preview.Page(), pages - 1);
-        QVERIFY(!preview.findChild<QAction*>("next")->isEnabled());
-        QTest::keyClick(page, Qt::Key_PageUp);
-        QCOMPARE(preview.Page(), pages - 2);
-        QTest::keyClick(page, Qt::Key_Home);
-        QCOMPARE(preview.Page(), 0);
-        QTest::keyClick(page, Qt::Key_G, Qt::ControlModifier);
+        const int pages = shown.report->PageCount();
+        for (const auto& [key, page] :
+             {std::pair(Qt::Key_PageDown, 1), std::pair(Qt::Key_End, pages - 1),
+              std::pair(Qt::Key_PageUp, pages - 2), std::pair(Qt::Key_Home, 0)}) {
+            shown.Key(key);
+            QCOMPARE(preview.Page(), page);
+            QCOMPARE(shown.Find<QAction>("next")->isEnabled(), page < pages - 1);
+        }
+        auto* field = shown.Find<QLineEdit>("txtPage");
+        shown.Key(Qt::Key_G, Qt::ControlModifier);
         QTest::keyClicks(field, "777");
         QTest::keyClick(field, Qt::Key_Return);
         QCOMPARE(preview.Page(), 776);
         QCOMPARE(field->text(), "777");
-
-        auto* zoom = preview.findChild<QLabel*>("lblZoom");
-        QTest::keyClick(page, Qt::Key_0, Qt::ControlModifier);
-        QCOMPARE(zoom->text(), "100 %");
-        QTest::keyClick(page, Qt::Key_Equal, Qt::ControlModifier);
-        QCOMPARE(zoom->text(), "125 %");
-        QTest::keyClick(page, Qt::Key_Minus, Qt::ControlModifier);
-        QTest::keyClick(page, Qt::Key_Minus, Qt::ControlModifier);
-        QCOMPARE(zoom->text(), "75 %");
+        for (const auto& [key, zoom] :
+             {std::pair(Qt::Key_0, "100 %"), std::pair(Qt::Key_Equal, "125 %"),
+              std::pair(Qt::Key_Minus, "100 %"), std::pair(Qt::Key_Minus, "75 %")}) {
+            shown.Key(key, Qt::ControlModifier);
+            QCOMPARE(shown.Zoom(), zoom);
+        }
         for (const auto* button : preview.findChildren<QWidget*>())
             if (button->inherits("QToolButton") && button->isVisible())
                 QVERIFY(!button->accessibleName().isEmpty());
-        QTest::keyClick(page, Qt::Key_Escape);
+        shown.Key(Qt::Key_Escape);
         QVERIFY(!preview.isVisible());
     }
     void WheelTurnsPagesAndZooms() {
@@ -170,12 +158,12 @@ private slots:
         QVERIFY(file.readAll().endsWith("%%EOF\n"));
     }
 
-    void RowsThatFailAreTold() {
+    void RowsThatFailAreReported() {
         CountedRows rows(100);
         rows.Text = [](qsizetype) -> QString {
             throw RunTimeError(RunTimeErrorNumber::ObjectClosed, "is closed");
         };
-        const Shown preview(rows); // shows the failure in the page's place
+        const Shown preview(rows); // shows the failure instead of the page
         const QTemporaryDir folder;
         KeptMessages messages;
         Export(preview, folder.filePath("report"));
@@ -183,48 +171,45 @@ private slots:
         QVERIFY(QDir(folder.path()).isEmpty());
     }
 
-    void PrintsThePagesAskedFor_data() {
-        QTest::addColumn<QPrinter::PrintRange>("range");
-        QTest::addColumn<QString>("ranges");
-        QTest::addColumn<bool>("lastFirst");
-        QTest::addColumn<int>("copies");
-        QTest::addColumn<QString>("pages");
-        QTest::newRow("all") << QPrinter::AllPages << "" << false << 1 << "1 2 3 4";
-        QTest::newRow("some") << QPrinter::PageRange << "2-3" << false << 1 << "2 3";
-        QTest::newRow("single ones") << QPrinter::PageRange << "2,4" << false << 1 << "2 4";
-        QTest::newRow("beyond the end") << QPrinter::PageRange << "3-9" << false << 1 << "3 4";
-        QTest::newRow("the one shown") << QPrinter::CurrentPage << "" << false << 1 << "3";
-        QTest::newRow("last first") << QPrinter::PageRange << "1,3-4" << true << 1 << "4 3 1";
-        QTest::newRow("twice") << QPrinter::PageRange << "1-2" << false << 2 << "1 2 1 2";
-    }
     void PrintsThePagesAskedFor() {
         if (!HasPdfTool())
             QSKIP("pdftotext is not there");
-        QFETCH(QPrinter::PrintRange, range);
-        QFETCH(QString, ranges);
-        QFETCH(bool, lastFirst);
-        QFETCH(int, copies);
-        QFETCH(QString, pages);
-        const QTemporaryDir folder;
-        QPrinter printer(QPrinter::HighResolution);
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(folder.filePath("print.pdf"));
-        printer.setPrintRange(range);
-        printer.setPageRanges(QPageRanges::fromString(ranges));
-        printer.setPageOrder(lastFirst ? QPrinter::LastPageFirst : QPrinter::FirstPageFirst);
-        printer.setCopyCount(copies);
-        printer.setCollateCopies(true);
-        if (copies > 1 && printer.supportsMultipleCopies())
-            QSKIP("the printer makes the copies");
+        struct Job {
+            QPrinter::PrintRange range;
+            const char* ranges;
+            bool lastFirst;
+            int copies;
+            const char* pages;
+        };
         const CountedRows rows(30);
         const auto report = SmallReport();
         report->SetDataSource(&rows);
-        PrintReport(*report, printer, 2);
-        QStringList printed;
-        static const QRegularExpression number("(\\d) / 4");
-        for (const auto& match : number.globalMatch(TextOfPdf(printer.outputFileName())))
-            printed += match.captured(1);
-        QCOMPARE(printed.join(u' '), pages);
+        for (const Job& job : {Job{QPrinter::AllPages, "", false, 1, "1 2 3 4"},
+                               {QPrinter::PageRange, "2-3", false, 1, "2 3"},
+                               {QPrinter::PageRange, "2,4", false, 1, "2 4"},
+                               {QPrinter::PageRange, "3-9", false, 1, "3 4"}, // beyond the end
+                               {QPrinter::CurrentPage, "", false, 1, "3"},
+                               {QPrinter::PageRange, "1,3-4", true, 1, "4 3 1"},
+                               {QPrinter::PageRange, "1-2", false, 2, "1 2 1 2"}}) {
+            const QTemporaryDir folder;
+            QPrinter printer(QPrinter::HighResolution);
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(folder.filePath("print.pdf"));
+            printer.setPrintRange(job.range);
+            printer.setPageRanges(QPageRanges::fromString(job.ranges));
+            printer.setPageOrder(job.lastFirst ? QPrinter::LastPageFirst
+                                               : QPrinter::FirstPageFirst);
+            printer.setCopyCount(job.copies);
+            printer.setCollateCopies(true);
+            if (job.copies > 1 && printer.supportsMultipleCopies())
+                QSKIP("the printer makes the copies");
+            PrintReport(*report, printer, 2);
+            QStringList printed;
+            static const QRegularExpression number("(\\d) / 4");
+            for (const auto& match : number.globalMatch(TextOfPdf(printer.outputFileName())))
+                printed += match.captured(1);
+            QCOMPARE(printed.join(u' '), job.pages);
+        }
     }
 
     void PrintsAllOrNothing() {

@@ -9,22 +9,19 @@
 #include <functional>
 #include <memory>
 
-/// Rows of one column, `tName`, whose texts are made when they are asked for.
+/// Rows of one column, `tName`. A text is made when it is asked for.
 class CountedRows : public RowSource {
 public:
     explicit CountedRows(qsizetype count) : m_count(count) {}
 
     qsizetype RowCount() const override { return m_count; }
-    int Column(QStringView name) const override {
-        if (name == u"tName")
-            return 0;
-        throw RunTimeError(RunTimeErrorNumber::NoSuchItem, name.toString());
-    }
-    QString TextAt(qsizetype row, int) const override {
+    const QStringList& Columns() const override { return Names; }
+    Value ValueAt(qsizetype row, int) const override {
         ++Reads;
         return Text(row);
     }
 
+    QStringList Names{"tName"};
     std::function<QString(qsizetype)> Text = [](qsizetype row) {
         return QStringLiteral("Row %1").arg(row + 1);
     };
@@ -34,9 +31,9 @@ private:
     qsizetype m_count;
 };
 
-/// A page of 100 mm without margins: header 10, rows of 10, footer as given; so nine rows fit a
-/// page, and the first has room for eight, behind a report header of 10. The sections begin 55 mm
-/// from the left edge of the paper; the text box is 60 mm wide.
+/// A page of 100 mm without margins: header 10, rows of 10, footer as given; so a page
+/// has room for nine rows, and the first, which has a report header of 10, for eight. The sections
+/// begin 55 mm from the left edge of the paper; the text box is 60 mm wide.
 inline QByteArray SmallLayout(int footerHeight = 10) {
     return QStringLiteral(R"({
         "page": { "size": "A4", "width": 100, "marginTop": 98.5, "marginBottom": 98.5 },
@@ -56,11 +53,37 @@ inline QByteArray SmallLayout(int footerHeight = 10) {
         .toUtf8();
 }
 
+/// Two downloads with three touches.
+class Touches : public RowSource {
+public:
+    const QList<QList<Value>> Rows{
+        {46110.5, QString("a")}, {46110.5, QString("say \"b\"")}, {46111.0, Value()}};
+    const QStringList Names{"dtLoad", "tName"};
+    qsizetype RowCount() const override { return Rows.size(); }
+    const QStringList& Columns() const override { return Names; }
+    Value ValueAt(qsizetype row, int column) const override { return Rows[row][column]; }
+};
+
+/// The small layout for Touches: a group for each download, with a header and a footer of 10.
+inline QByteArray GroupedLayout() {
+    return SmallLayout()
+        .replace("\"font\"", R"("group": { "by": "dtLoad", "rows": "T" }, "font")")
+        .replace("{ \"name\": \"End\"", R"(
+          { "name": "GroupTop", "kind": "groupHeader", "height": 10, "controls": [
+            { "name": "lblLoad", "type": "label", "left": 0, "top": 0, "width": 20, "height": 5 },
+            { "name": "txtLoad", "type": "textBox", "field": "dtLoad", "left": 21, "top": 1,
+              "width": 20, "height": 5 } ] },
+          { "name": "GroupEnd", "kind": "groupFooter", "height": 10, "controls": [
+            { "name": "txtLast", "type": "textBox", "field": "tName", "left": 10, "top": 0,
+              "width": 20, "height": 5 } ] },
+          { "name": "End")");
+}
+
 inline std::unique_ptr<DataReport> SmallReport(const QByteArray& layout = SmallLayout()) {
     return std::make_unique<DataReport>(ReadReportLayout(layout, "test.json"));
 }
 
-/// What a PDF says, pages and lines in their order, each parted by a blank; empty without the tool.
+/// The text of a PDF, page by page and line by line, with blanks between; empty without the tool.
 inline QString TextOfPdf(const QString& path) {
     QProcess tool;
     tool.start("pdftotext", {"-raw", path, "-"});

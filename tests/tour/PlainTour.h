@@ -4,8 +4,8 @@
 #include <QString>
 #include <QStringList>
 
-/// The evaluation of a tour written down a second time, as plainly as it can be said and with no
-/// code of the program: whole seconds, lists, and the rules one after the other.
+/// A second evaluation of a tour, as plain as possible and with no code of the program: whole
+/// seconds, lists, and the rules one after the other.
 namespace PlainTour {
 
 struct Point {
@@ -25,7 +25,7 @@ struct Options {
     bool showAll, includeEvents;
 };
 
-/// All rows of the report, their eleven columns parted by "|"; nothing where there is no report.
+/// All rows of the report, with "|" between the eleven columns; empty if there is no report.
 /// The touches stand in the order of time, those of one instant in the order of storing.
 QStringList Report(const QList<Point>& points, const QList<Touch>& touches, Options options);
 

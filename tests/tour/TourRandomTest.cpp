@@ -1,4 +1,4 @@
-// Many random tours, through the store and the whole report, against a second evaluation that
+// Many random tours, through the store and the whole report, compared with a second evaluation that
 // shares no code with the program.
 
 #include "Connection.h"
@@ -131,14 +131,12 @@ private slots:
                          expected.isEmpty() ? QStringList("No Data on the report") : QStringList());
                 if (viewer.Rows == expected)
                     continue;
-                QString about =
-                    QStringLiteral("tolerance %1, all %2\n").arg(made.tolerance).arg(showAll);
-                for (const auto& point : made.points)
-                    about += "point " + Sql(point.time) + ' ' + point.code + '\n';
-                for (const auto& touch : made.touches)
-                    about += "touch " + Sql(touch.time) + ' ' + touch.code + '\n';
-                QFAIL(qPrintable(about + "expected " + Shortened(expected) + "\ngot      " +
-                                 Shortened(viewer.Rows)));
+                QFAIL(qPrintable(
+                    QStringLiteral("tour %1, tolerance %2, all %3\nexpected %4\ngot      %5")
+                        .arg(tours)
+                        .arg(made.tolerance)
+                        .arg(showAll)
+                        .arg(Shortened(expected), Shortened(viewer.Rows))));
             }
         }
         qInfo("%d tours, %d with a report", tours, reports);

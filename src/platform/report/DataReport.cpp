@@ -6,7 +6,8 @@
 
 #include <QPagedPaintDevice>
 
-DataReport::DataReport(ReportLayout layout) : m_layout(std::move(layout)) {
+DataReport::DataReport(ReportLayout layout)
+    : m_layout(std::move(layout)), m_pages(m_layout, 0, {}) {
     m_fonts.reserve(m_layout.fonts.size());
     for (const FontFace& face : m_layout.fonts)
         m_fonts.emplace_back(m_layout.fontFamilies, face);
@@ -21,39 +22,56 @@ ReportSection& DataReport::Sections(QStringView name) {
         QStringLiteral("The layout \"%1\" has no section \"%2\".").arg(m_layout.file, name));
 }
 
-void DataReport::SetDataSource(const RowSource* rows) {
+ReportControl& DataReport::Control(QStringView name) {
+    for (ReportSection& section : m_layout.sections)
+        if (section.Find(name))
+            return section.Controls(name);
+    throw RunTimeError(
+        RunTimeErrorNumber::NoSuchItem,
+        QStringLiteral("The layout \"%1\" has no control \"%2\".").arg(m_layout.file, name));
+}
+
+std::vector<int> DataReport::FindColumns(const ReportSection& section,
+                                         const RowSource& rows) const {
     std::vector<int> columns;
-    const ReportSection* detail = m_layout.SectionOf(SectionKind::Detail);
-    if (rows && detail) {
-        for (const ReportControl& control : detail->AllControls()) {
-            int column = -1;
-            try {
-                if (control.Kind() == ControlKind::TextBox)
-                    column = rows->Column(control.DataField());
-            } catch (const RunTimeError& error) {
-                throw RunTimeError(error.Number(),
-                                   QStringLiteral("Text box \"%1\" of layout \"%2\": %3")
-                                       .arg(control.Name(), m_layout.file, error.Description()));
-            }
-            columns.push_back(column);
+    for (const ReportControl& control : section.AllControls()) {
+        try {
+            columns.push_back(
+                control.Kind() == ControlKind::TextBox ? rows.Column(control.DataField()) : -1);
+        } catch (const RunTimeError& error) {
+            throw RunTimeError(error.Number(),
+                               QStringLiteral("Text box \"%1\" of layout \"%2\": %3")
+                                   .arg(control.Name(), m_layout.file, error.Description()));
         }
     }
+    return columns;
+}
+
+void DataReport::SetDataSource(const RowSource* rows) {
+    const qsizetype count = rows ? rows->RowCount() : 0;
+    std::array<std::vector<int>, SectionKinds> columns;
+    std::vector<qsizetype> groups;
+    if (rows) {
+        for (const ReportSection& section : m_layout.sections)
+            if (HasRow(section.Kind()))
+                columns[static_cast<std::size_t>(section.Kind())] = FindColumns(section, *rows);
+        if (!m_layout.groupColumn.isEmpty())
+            groups = GroupStarts(*rows, rows->Column(m_layout.groupColumn));
+        else if (count > 0)
+            groups = {0};
+    }
+    m_pages = Pagination(m_layout, count, groups);
     m_rows = rows;
     m_columns = std::move(columns);
 }
 
-Pagination DataReport::Pages() const {
-    return Pagination(m_layout, m_rows ? m_rows->RowCount() : 0);
-}
-
 void DataReport::PaintPage(QPainter& painter, int page, DateTime printedAt) const {
-    const Pagination pages = Pages();
-    if (page < 0 || page >= pages.PageCount())
+    if (page < 0 || page >= PageCount())
         throw RunTimeError(RunTimeErrorNumber::SubscriptOutOfRange,
                            QStringLiteral("The report has no page %1.").arg(page + 1));
 
     PagePainter canvas(painter, m_fonts, m_fitted,
-                       {QString::number(page + 1), QString::number(pages.PageCount()),
+                       {QString::number(page + 1), QString::number(PageCount()),
                         Format(printedAt, QStringLiteral("Short Date")),
                         Format(printedAt, QStringLiteral("Short Time"))});
     QPoint at((m_layout.page.width() - m_layout.contentWidth) / 2, m_layout.marginTop);
@@ -67,15 +85,12 @@ void DataReport::PaintPage(QPainter& painter, int page, DateTime printedAt) cons
     if (page == 0)
         paintSection(SectionKind::ReportHeader);
     paintSection(SectionKind::PageHeader);
-    const Pagination::Rows rows = pages.RowsOf(page);
-    if (rows.count > 0) {
-        const ReportSection& detail = *m_layout.SectionOf(SectionKind::Detail);
-        for (qsizetype i = 0; i < rows.count; ++i) {
-            canvas.PaintRow(detail, at, *m_rows, rows.first + i, m_columns);
-            at.ry() += detail.Height();
-        }
+    for (const Pagination::Band& band : m_pages.BandsOf(page)) {
+        const ReportSection& section = *m_layout.SectionOf(band.kind);
+        canvas.PaintRow(section, at, *m_rows, band.row, ColumnsOf(band.kind));
+        at.ry() += section.Height();
     }
-    if (pages.HasReportFooter(page))
+    if (m_pages.HasReportFooter(page))
         paintSection(SectionKind::ReportFooter);
     at.setY(m_layout.page.height() - m_layout.marginBottom -
             m_layout.HeightOf(SectionKind::PageFooter));

@@ -9,17 +9,20 @@
 #include <QPageSize>
 #include <QString>
 
+#include <array>
 #include <functional>
 
 class QPagedPaintDevice;
 class QPainter;
 class RowSource;
 
-/// Asked before each page of a job: `done` of its `all` pages are painted. False ends the job.
+/// Called before each page of a job, when `done` of its `all` pages are painted. False ends the
+/// job.
 using PageProgress = std::function<bool(int done, int all)>;
 
-/// A banded report: a layout whose detail is repeated for each row of a source. It holds no page;
-/// any page is painted from the rows when asked for, alike for the screen, a printer and a PDF.
+/// A banded report: a layout whose detail is repeated for each row of a source, with a header and a
+/// footer for each group of rows if the layout has them. It keeps no pages: a page is painted from
+/// the rows when it is asked for, by the same routine for the screen, a printer and a PDF.
 ///
 /// It needs a QGuiApplication, for the fonts.
 class DataReport {
@@ -33,21 +36,30 @@ public:
     const QString& Caption() const { return m_caption; }
     void SetCaption(const QString& caption) { m_caption = caption; }
 
-    /// The section of that name, whose case does not count. It belongs to the report. Throws
-    /// RunTimeError (NoSuchItem).
+    const ReportLayout& Layout() const { return m_layout; }
+    /// The section of that name; upper and lower case are the same. It belongs to the report.
+    /// Throws RunTimeError (NoSuchItem).
     ReportSection& Sections(QStringView name);
+    /// The first control of that name in any section. It belongs to the report. Throws RunTimeError
+    /// (NoSuchItem).
+    ReportControl& Control(QStringView name);
 
-    /// The rows to report; null for none. They are not owned and must outlive the report's use.
-    /// The columns of all text boxes are looked up here: throws RunTimeError (NoSuchItem) that
-    /// names the text box, and then keeps the rows that it had.
+    /// The rows to report; null for none. They are not owned, must outlive the report's use and
+    /// must not change in number or order. The columns of all text boxes are looked up here: throws
+    /// RunTimeError (NoSuchItem) that names the text box, and then keeps the rows that it had.
     void SetDataSource(const RowSource* rows);
     const RowSource* DataSource() const { return m_rows; }
+    /// The column of each control of a section; -1 for what is not a text box.
+    const std::vector<int>& ColumnsOf(SectionKind kind) const {
+        return m_columns[static_cast<std::size_t>(kind)];
+    }
 
-    /// At least 1. As fast for many rows as for few.
-    int PageCount() const { return Pages().PageCount(); }
-    Pagination::Rows RowsOfPage(int page) const { return Pages().RowsOf(page); }
+    /// What is on which page. As fast for many rows as for few.
+    const Pagination& Pages() const { return m_pages; }
+    /// At least 1.
+    int PageCount() const { return m_pages.PageCount(); }
 
-    /// The paper that the pages are made for, upright.
+    /// The paper that the pages are made for, in portrait.
     QPageSize Paper() const { return QPageSize(m_layout.paper); }
     /// Its size in hundredths of a millimetre.
     QSize PageSize() const { return m_layout.page; }
@@ -56,24 +68,25 @@ public:
     static constexpr double UnitsPerInch = 2540.0;
 
     /// Paints one page; `page` counts from 0. The painter's origin is the top left corner of the
-    /// paper and its unit a hundredth of a millimetre (scale it by the device's dots per inch over
-    /// UnitsPerInch). The paper itself is not painted. `printedAt` is the time of printing that the
-    /// page shows. Throws RunTimeError (SubscriptOutOfRange) for a page that does not exist, and
-    /// whatever the rows throw; the painter's state is then as before.
+    /// paper and its unit a hundredth of a millimetre (scale it by the device's dots per inch
+    /// divided by UnitsPerInch). The paper itself is not painted. `printedAt` is the time of
+    /// printing that the page shows. Throws RunTimeError (SubscriptOutOfRange) if there is no such
+    /// page, and whatever the rows throw; the painter's state is restored in any case.
     void PaintPage(QPainter& painter, int page, DateTime printedAt) const;
-    /// Paints pages, in this order, each on a sheet of its own; the painter has begun on the
-    /// device's first sheet. False if that was ended before the last one, by `progress` or because
-    /// the device gives no further sheet.
+    /// Paints pages, in this order, each on its own sheet. The painter has begun on the device's
+    /// first sheet. False if not all were painted: `progress` ended the job, or the device has no
+    /// further sheet.
     bool PaintSheets(QPainter& painter, QPagedPaintDevice& device, const std::vector<int>& pages,
                      DateTime printedAt, const PageProgress& progress) const;
 
 private:
-    Pagination Pages() const;
+    std::vector<int> FindColumns(const ReportSection& section, const RowSource& rows) const;
 
     ReportLayout m_layout;
     std::vector<ReportFont> m_fonts;
     mutable FittedTexts m_fitted{500};
     QString m_caption;
     const RowSource* m_rows = nullptr;
-    std::vector<int> m_columns; ///< of the detail's controls; -1 for what is no text box
+    std::array<std::vector<int>, SectionKinds> m_columns;
+    Pagination m_pages;
 };

@@ -8,13 +8,13 @@
 
 namespace {
 
-/// Far more than any paper, and far less than what a text layout can count to.
+/// Much wider than any paper, and well within what a text layout can compute with.
 constexpr qreal Endless = 1e7;
-/// Halvings of a span of sizes: what is left of it cannot be seen.
+/// How often a range of sizes is halved. The error that is left cannot be seen.
 constexpr int SizeSteps = 6;
 constexpr QChar Ellipsis = u'\u2026';
 
-/// Line breaks and tabs of every kind within a line.
+/// Replaces control characters, line breaks and tabs of every kind by blanks.
 QString WithoutControls(QString text) {
     const auto isControl = [](QChar letter) {
         return letter.category() == QChar::Other_Control || letter == QChar::LineSeparator ||
@@ -24,7 +24,7 @@ QString WithoutControls(QString text) {
     return text;
 }
 
-/// The largest scale that fits, between one that does and one that does not.
+/// The largest scale that fits, between one that fits and one that does not.
 template <typename Fits>
 qreal Largest(qreal fitting, qreal tooLarge, Fits&& fits) {
     for (int step = 0; step < SizeSteps; ++step) {
@@ -40,7 +40,7 @@ FittedText::FittedText(const ReportFont& font, const QStringList& lines, QSizeF 
                        Qt::Alignment alignment)
     : m_font(font), m_box(box), m_alignment(alignment) {
     const qreal smallest = std::min(1.0, SmallestPoints / font.Points());
-    // Beyond so many letters nothing can be seen, and measuring them would take its time.
+    // No box shows more letters than this, and measuring them would take long.
     const qreal smallLetter = font.Height() * smallest / 4;
     const auto most = static_cast<qsizetype>(100 + m_box.width() * m_box.height() /
                                                        (smallLetter * smallLetter * Narrowest));
@@ -66,11 +66,11 @@ FittedText::FittedText(const ReportFont& font, const QStringList& lines, QSizeF 
         FindSize(smallest);
 }
 
-/// Lays the lines out at a scale, wrapped where they are too long. True if they fit.
+/// Lays the lines out at a scale and wraps those that are too long. True if they fit.
 bool FittedText::LayOut(qreal down, qreal across) {
     m_down = down;
     m_across = across;
-    // What fits exactly must not be wrapped for a rounding.
+    // A line that fits exactly must not be wrapped because of rounding.
     const qreal width = m_box.width() / across + 1;
     m_height = 0;
     for (const auto& text : m_texts) {
@@ -85,13 +85,13 @@ bool FittedText::LayOut(qreal down, qreal across) {
     return m_height * m_down <= m_box.height();
 }
 
-/// At a size, with its letters as narrow as they need to be and may be.
+/// Lays the lines out at a size, with letters as narrow as needed, down to Narrowest.
 bool FittedText::LayOutCondensed(qreal size) {
     const qreal needed = m_box.width() / std::max(1.0, m_natural);
     return LayOut(size, std::clamp(needed, size * Narrowest, size));
 }
 
-/// The largest size at which all fits, and at that size the widest letters.
+/// Finds the largest size at which everything fits, then the widest letters at that size.
 void FittedText::FindSize(qreal smallest) {
     if (!LayOutCondensed(smallest)) {
         Shorten();
@@ -125,8 +125,8 @@ void FittedText::Shorten() {
     LayOut(m_down, m_across);
 }
 
-/// Where the lines begin in their box. A single one keeps the baseline that it would have at full
-/// size, beside its neighbours.
+/// Where the lines begin in their box. A single line keeps its baseline at full size, so that it is
+/// level with its neighbours.
 qreal FittedText::Top() const {
     const qreal height = m_height * m_down;
     const QTextLine first = m_texts.front()->lineAt(0);

@@ -9,17 +9,17 @@
 class QPainter;
 class ReportFont;
 
-/// A text that is too large for its box, made to fit: its letters are condensed, then made smaller
-/// and wrapped, and only what is then still too long is shortened with an ellipsis. Nothing of it
-/// is painted outside the box, whatever it holds.
+/// A text that is too large for its box, made to fit. Its letters are condensed first, then made
+/// smaller and wrapped. If it is still too long, it is shortened with an ellipsis. Nothing is ever
+/// painted outside the box.
 class FittedText {
 public:
-    /// Letters are never narrower than this part of their width,
+    /// Letters keep at least this part of their width,
     static constexpr qreal Narrowest = 2.0 / 3.0;
-    /// nor smaller than this many points; a smaller font of a layout stays as it is.
+    /// and are at least this many points high. A font of the layout that is smaller keeps its size.
     static constexpr qreal SmallestPoints = 5;
 
-    /// `lines` begin on lines of their own. The box is in the font's unit.
+    /// Each of `lines` begins a new line. The box is in the font's unit.
     FittedText(const ReportFont& font, const QStringList& lines, QSizeF box,
                Qt::Alignment alignment);
 
@@ -37,7 +37,7 @@ private:
     QSizeF m_box;
     Qt::Alignment m_alignment;
     std::vector<std::unique_ptr<QTextLayout>> m_texts;
-    qreal m_left = 0; ///< kept free, for letters that reach out of their place
+    qreal m_left = 0; ///< kept free, for ink that reaches beyond the letters' places
     qreal m_right = 0;
     qreal m_natural = 0; ///< width of the longest line at full size
     qreal m_across = 1;  ///< scale of the letters' width

@@ -15,15 +15,15 @@ namespace {
 constexpr double LongestMillimetres = 2000;
 constexpr double SmallestPoints = 1;
 constexpr double LargestPoints = 200;
-/// A hairline that every printer still draws.
+/// The thinnest line that every printer draws.
 constexpr double DefaultThickness = 0.2;
 
 [[noreturn]] void Fail(const QString& text) {
     throw RunTimeError(RunTimeErrorNumber::InvalidPropertyValue, text);
 }
 
-/// One object of the file, with the words that lead to it. Every property is asked for; what is
-/// left over in the end is a misspelling.
+/// One object of the file, with its place in the file for messages. A property that nobody asks for
+/// is a misspelling and rejected.
 class Node {
 public:
     Node(QJsonObject object, QString place)
@@ -63,7 +63,7 @@ public:
     int Length(const char* key, double otherwise) {
         return Hundredths(Number(key, 0, LongestMillimetres, otherwise));
     }
-    /// One of a few words; the first one where the file has none.
+    /// One of a few words. The first one is the default.
     template <typename T>
     T Choice(const char* key, std::initializer_list<std::pair<const char*, T>> choices) {
         if (!Has(key))
@@ -74,7 +74,6 @@ public:
                 return value;
         Reject(QStringLiteral("\"%1\" cannot be \"%2\".").arg(QLatin1String(key), word));
     }
-    /// For a property that must be there.
     void Require(const char* key) const {
         if (!Has(key))
             Reject(QStringLiteral("\"%1\" is missing.").arg(QLatin1String(key)));
@@ -139,6 +138,7 @@ public:
         ReadFont(top.Child("font"));
         for (const QJsonValue& value : top.Array("sections"))
             ReadSection(NamedNode(value, top, QStringLiteral("section")));
+        ReadGroup(top);
         top.RejectLeftOvers();
         CheckFit(top);
         return std::move(m_layout);
@@ -177,7 +177,9 @@ private:
         const auto kind =
             node.Choice<SectionKind>("kind", {{"reportHeader", SectionKind::ReportHeader},
                                               {"pageHeader", SectionKind::PageHeader},
+                                              {"groupHeader", SectionKind::GroupHeader},
                                               {"detail", SectionKind::Detail},
+                                              {"groupFooter", SectionKind::GroupFooter},
                                               {"pageFooter", SectionKind::PageFooter},
                                               {"reportFooter", SectionKind::ReportFooter}});
         ReportSection section(node.Text("name"), kind, node.Length("height"));
@@ -191,6 +193,17 @@ private:
             ReadControl(NamedNode(value, node, QStringLiteral("control")), section);
         node.RejectLeftOvers();
         m_layout.sections.push_back(std::move(section));
+    }
+
+    /// A layout that has a group header or footer names the column that groups its rows.
+    void ReadGroup(Node& top) {
+        if (!m_layout.SectionOf(SectionKind::GroupHeader) &&
+            !m_layout.SectionOf(SectionKind::GroupFooter))
+            return;
+        Node node = top.Child("group");
+        m_layout.groupColumn = node.Text("by");
+        m_layout.groupRows = node.Text("rows");
+        node.RejectLeftOvers();
     }
 
     void ReadControl(Node node, ReportSection& section) {
@@ -222,8 +235,8 @@ private:
                 caption = node.Text("caption", QString());
             } else {
                 dataField = node.Text("field");
-                if (section.Kind() != SectionKind::Detail)
-                    node.Reject(QStringLiteral("a text box stands in the detail only."));
+                if (!HasRow(section.Kind()))
+                    node.Reject(QStringLiteral("this section has no row for a text box."));
             }
         }
         node.RejectLeftOvers();
@@ -265,14 +278,16 @@ private:
         return Node(object, parent.Place() + QStringLiteral(", %1 \"%2\"").arg(word, name));
     }
 
-    /// Every page must take its header, its footer and at least one row or the report's end, or
-    /// there would be no end of pages.
+    /// Every page must have room for its header, its footer and either one row, with its group's
+    /// header and footer, or the report's end. Otherwise there would be no end of pages.
     void CheckFit(const Node& top) const {
         const int body = m_layout.PrintableHeight() - m_layout.HeightOf(SectionKind::PageHeader) -
                          m_layout.HeightOf(SectionKind::PageFooter);
         const int first = body - m_layout.HeightOf(SectionKind::ReportHeader);
-        if (first < m_layout.HeightOf(SectionKind::Detail) || first < 0 ||
-            body < m_layout.HeightOf(SectionKind::ReportFooter))
+        const int row = m_layout.HeightOf(SectionKind::GroupHeader) +
+                        m_layout.HeightOf(SectionKind::Detail) +
+                        m_layout.HeightOf(SectionKind::GroupFooter);
+        if (first < row || first < 0 || body < m_layout.HeightOf(SectionKind::ReportFooter))
             top.Reject(QStringLiteral("the sections are higher than the paper."));
     }
 

@@ -7,11 +7,6 @@
 
 namespace {
 
-bool IsRule(const QString& text) {
-    return !text.isEmpty() &&
-           std::all_of(text.begin(), text.end(), [](QChar letter) { return letter == u'_'; });
-}
-
 qreal HeightOf(const ReportFont& font, std::size_t lines) {
     return font.Height() + static_cast<qreal>(lines - 1) * font.LineSpacing();
 }
@@ -51,7 +46,7 @@ PagePainter::PagePainter(QPainter& painter, const std::vector<ReportFont>& fonts
     : m_painter(painter), m_fonts(fonts), m_fitted(fitted), m_words(std::move(words)) {
     m_painter.save();
     m_painter.setRenderHint(QPainter::TextAntialiasing);
-    // A rule is to be one sharp line, not two grey ones.
+    // A rule must be one sharp line, not two grey ones.
     m_painter.setRenderHint(QPainter::Antialiasing, false);
     // Each text runs in its own direction, whatever the language of the windows.
     m_painter.setLayoutDirection(Qt::LayoutDirectionAuto);
@@ -71,7 +66,8 @@ void PagePainter::PaintRow(const ReportSection& section, QPoint origin, const Ro
         if (columns[i] < 0)
             PaintFixed(controls[i], origin);
         else
-            PaintText(controls[i].Style(), origin, rows.TextAt(row, columns[i]));
+            PaintText(controls[i].Style(), origin,
+                      controls[i].TextOf(rows.ValueAt(row, columns[i])));
     }
 }
 
@@ -88,7 +84,7 @@ void PagePainter::PaintFixed(const ReportControl& control, QPoint origin) {
         PaintLine(control.Style(), origin);
         break;
     case ControlKind::TextBox:
-        break; // shows nothing without a row
+        break; // there is no row
     }
 }
 
@@ -98,7 +94,7 @@ void PagePainter::PaintLine(const ControlStyle& style, QPoint origin) {
     DrawLine(from, to, style.colour, style.thickness);
 }
 
-/// As thick as a whole number of the device's dots: alike lines look alike wherever they fall.
+/// The thickness is a whole number of the device's dots, so that equal lines look equal everywhere.
 void PagePainter::DrawLine(QPointF from, QPointF to, const QColor& colour, qreal thickness) {
     const qreal dots = std::max(1.0, std::round(thickness * m_painter.deviceTransform().m22()));
     QPen pen(colour, dots, Qt::SolidLine, Qt::FlatCap);
@@ -108,7 +104,7 @@ void PagePainter::DrawLine(QPointF from, QPointF to, const QColor& colour, qreal
     m_colour = QColor();
 }
 
-/// Most texts fit their box and are drawn as they are, which is fast.
+/// Most texts fit their box and are drawn as they are: that is the fast way.
 void PagePainter::PaintText(const ControlStyle& style, QPoint origin, const QString& text,
                             bool mayHaveLines) {
     if (text.isEmpty())
@@ -136,7 +132,7 @@ void PagePainter::PaintLines(const ControlStyle& style, const QRectF& box,
         PaintFitted(style, box, QStringList(lines.begin(), lines.end()));
 }
 
-/// A text of underscores alone is a rule. Letter by letter its joints would show.
+/// Drawn as one line: letter by letter, the joints would show.
 void PagePainter::PaintRule(const ControlStyle& style, const QRectF& box, qsizetype letters) {
     const ReportFont& font = FontOf(style);
     const qreal width = font.Width(QStringLiteral("_")) * static_cast<qreal>(letters);

@@ -12,7 +12,7 @@
 
 class RowSource;
 
-/// What the placeholders of a caption stand for on one page.
+/// What the placeholders of a caption are replaced by on one page.
 struct PageWords {
     QString page;  ///< "%p"
     QString pages; ///< "%P"
@@ -22,12 +22,11 @@ struct PageWords {
     QString Expanded(const QString& pattern) const;
 };
 
-/// Texts that had to be fitted, kept from page to page: what every page's head says, and names that
-/// come again and again.
+/// Texts that had to be fitted, kept from page to page: page headers and many names are repeated.
 using FittedTexts = QCache<std::pair<const ControlStyle*, QString>, FittedText>;
 
-/// Paints the sections of one page. The painter's unit is a hundredth of a millimetre; its state is
-/// as before when the painter of the page is gone.
+/// Paints the sections of one page. The painter's unit is a hundredth of a millimetre. Its
+/// destructor restores the painter's state.
 class PagePainter {
 public:
     PagePainter(QPainter& painter, const std::vector<ReportFont>& fonts, FittedTexts& fitted,
@@ -36,9 +35,9 @@ public:
     PagePainter(const PagePainter&) = delete;
     PagePainter& operator=(const PagePainter&) = delete;
 
-    /// Labels and lines.
+    /// The labels and lines of a section.
     void PaintSection(const ReportSection& section, QPoint origin);
-    /// One row: `columns` holds the column of each of the section's controls, or -1.
+    /// A section with the values of a row. `columns` has the column of each control, or -1.
     void PaintRow(const ReportSection& section, QPoint origin, const RowSource& rows, qsizetype row,
                   const std::vector<int>& columns);
 
@@ -60,6 +59,6 @@ private:
     const std::vector<ReportFont>& m_fonts;
     FittedTexts& m_fitted;
     PageWords m_words;
-    int m_font = -1; ///< what the painter is set to
+    int m_font = -1; ///< the painter's present font; its present colour follows
     QColor m_colour;
 };

@@ -8,9 +8,8 @@
 
 #include <vector>
 
-/// A font of a report with what painting asks of it again and again. All lengths are hundredths of
-/// a millimetre: so large that no rounding of glyph widths to whole units shows, whatever the
-/// resolution that the page is painted at.
+/// A font of a report with the measures that painting often needs. All lengths are hundredths of a
+/// millimetre. At that scale, glyph widths rounded to whole units look right at every resolution.
 class ReportFont {
 public:
     ReportFont(const QStringList& families, const FontFace& face);
@@ -20,16 +19,16 @@ public:
     qreal Ascent() const { return m_ascent; }
     qreal Height() const { return m_height; }
     qreal LineSpacing() const { return m_lineSpacing; }
-    /// Where an underline runs, below the baseline, and how thick it is.
+    /// Distance of an underline below the baseline, and its thickness.
     qreal UnderlinePosition() const { return m_metrics.underlinePos(); }
     qreal UnderlineThickness() const { return m_metrics.lineWidth(); }
 
     qreal Width(const QString& text) const { return m_metrics.horizontalAdvance(text); }
-    /// Whether a line's ink surely stays within a width and within the font's height. Most texts do
-    /// by far; they are not measured but estimated from their letters. False means nothing.
+    /// True if a line's ink certainly stays within a width and the font's height. It is estimated
+    /// from the letters, not measured, so false does not mean that the line is too long.
     bool SurelyFits(QStringView line, qreal width) const;
-    /// How far a letter's ink reaches out to the left or to the right of its place. For letters
-    /// whose shape depends on their neighbours, as far as any should.
+    /// How far a letter's ink reaches beyond its place, to the left or to the right. For letters
+    /// whose shape depends on their neighbours it is a generous guess.
     qreal LeftOverhang(QChar letter) const;
     qreal RightOverhang(QChar letter) const;
 
@@ -38,7 +37,7 @@ private:
     static constexpr char16_t PlainLetters = 0x0530;
 
     struct Letter {
-        float width = -1; ///< below 0 where not asked for yet, endless where higher than its line
+        float width = -1; ///< below 0 if not measured yet, infinite if higher than its line
         float left = 0;
         float right = 0;
     };

@@ -12,12 +12,16 @@ struct ReportLayout {
     QString file; ///< for messages
     QPageSize::PageSizeId paper = QPageSize::A4;
     QSize page;           ///< of the paper
-    int contentWidth = 0; ///< of every section; stands in the middle of the paper
+    int contentWidth = 0; ///< of every section; centred on the paper
     int marginTop = 0;
     int marginBottom = 0;
     QStringList fontFamilies; ///< the first that the machine has is used
     std::vector<FontFace> fonts;
     std::vector<ReportSection> sections; ///< at most one of a kind
+    /// The column whose value the rows of a group share, and what the rows of one group are called
+    /// in an export. Both are empty if the layout does not group.
+    QString groupColumn;
+    QString groupRows;
 
     /// Null if the layout has none of that kind, or one without height.
     const ReportSection* SectionOf(SectionKind kind) const;
@@ -26,9 +30,9 @@ struct ReportLayout {
     int PrintableHeight() const { return page.height() - marginTop - marginBottom; }
 };
 
-/// The layout of that name in the program's resources. Throws RunTimeError (FileNotFound) where
-/// there is none and (InvalidPropertyValue) where it is faulty; the text names the file and, where
-/// a control is at fault, its section and name.
+/// The layout of that name in the program's resources. Throws RunTimeError: FileNotFound if there
+/// is none, InvalidPropertyValue if it is faulty. The text names the file and, if a control is at
+/// fault, its section and name.
 ///
 /// The file is JSON; lengths in millimetres, font sizes in points:
 ///
@@ -40,12 +44,18 @@ struct ReportLayout {
 ///             "caption": "%p / %P", "align": "right" } ] } ] }
 ///
 /// Page size: "A4", "Letter", or "A4 or Letter", which is Letter where the user's country uses it.
-/// Width: of the sections, which stand in the middle of the paper. Section kinds: reportHeader,
-/// pageHeader, detail, pageFooter, reportFooter; those left out have no height. Control types:
-/// label ("caption"), textBox ("field", the column; in the detail only), line ("thickness"; one of
-/// width and height is 0). For texts also "size", "bold", "italic", "colour" ("#rrggbb"), "align"
-/// (left, centre, right), "verticalAlign" (top, centre, bottom). A text that is too large for its
-/// box is made to fit it (FittedText.h); a text of underscores alone is drawn as one rule.
+/// Width: of the sections, which are centred on the paper. Section kinds: reportHeader, pageHeader,
+/// groupHeader, detail, groupFooter, pageFooter, reportFooter; those left out have no height.
+///
+/// A layout with a group header or footer also has "group": { "by": the column that groups,
+/// "rows": what an export calls the rows of one group }. The rows of the source are ordered by that
+/// column.
+///
+/// Control types: label ("caption"), textBox ("field", the column; in the detail and in the header
+/// and footer of a group), line ("thickness"; its width or its height is 0). Texts also have
+/// "size", "bold", "italic", "colour" ("#rrggbb"), "align" (left, centre, right), "verticalAlign"
+/// (top, centre, bottom). A text that is too large for its box is made to fit (FittedText.h). A
+/// text of nothing but underscores is drawn as one rule.
 ReportLayout LoadReportLayout(const QString& name);
 
 /// The same from bytes; `file` is what messages call them.

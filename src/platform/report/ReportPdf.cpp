@@ -12,9 +12,8 @@
 
 namespace {
 
-/// What the document goes through on its way to the device: the writer looks at no failed write and
-/// takes the time of day from the machine; here the first failure is kept, and the time is that of
-/// the pages.
+/// Passes the document on to the device. The writer ignores failed writes and takes the date from
+/// the machine; this stream keeps the first failure and puts in the date of the pages.
 class PdfStream : public QIODevice {
 public:
     PdfStream(QIODevice& target, DateTime printedAt) : m_target(target) {
@@ -39,7 +38,7 @@ protected:
     }
 
 private:
-    /// The date is as long as the one that it replaces: the document counts its bytes.
+    /// The new date is as long as the one it replaces, since the document counts its bytes.
     QByteArray Stamped(QByteArray bytes) {
         static const QByteArray key = QByteArrayLiteral("/CreationDate (D:");
         const qsizetype at = m_stamped ? -1 : bytes.indexOf(key);
@@ -70,7 +69,7 @@ bool ExportPdf(const DataReport& report, QIODevice& device, const QString& title
     writer.setTitle(title);
     writer.setPageSize(report.Paper());
     writer.setPageMargins(QMarginsF());
-    // The pages' own unit: nothing is scaled, and the document's numbers are short.
+    // The pages' own unit: nothing is scaled, and the numbers in the document are short.
     writer.setResolution(static_cast<int>(DataReport::UnitsPerInch));
     QPainter painter;
     if (!painter.begin(&writer))

@@ -6,12 +6,12 @@ class QIODevice;
 
 /// Writes all pages of a report as PDF; `title` goes into the document's properties. The same
 /// report at the same time (Clock.h) gives the same bytes. False if `progress` ended it. Throws
-/// RunTimeError where it fails.
+/// RunTimeError if it fails.
 
-/// To a device that is open for writing. Of a job that did not end well it holds a part.
+/// To a device that is open for writing. After a failure it holds part of the document.
 bool ExportPdf(const DataReport& report, QIODevice& device, const QString& title,
                const PageProgress& progress = {});
 
-/// To a file, which is replaced if it exists; but only by a complete one.
+/// To a file. An existing file is replaced, but only by a complete document.
 bool ExportPdf(const DataReport& report, const QString& path, const QString& title,
                const PageProgress& progress = {});

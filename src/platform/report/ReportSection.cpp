@@ -1,6 +1,15 @@
 #include "ReportSection.h"
 
+#include "Format.h"
 #include "RunTimeError.h"
+#include "Value.h"
+
+#include <algorithm>
+
+bool IsRule(QStringView text) {
+    return !text.isEmpty() &&
+           std::all_of(text.begin(), text.end(), [](QChar letter) { return letter == u'_'; });
+}
 
 ReportControl::ReportControl(QString name, ControlKind kind, const ControlStyle& style,
                              QString caption, QString dataField)
@@ -10,6 +19,14 @@ ReportControl::ReportControl(QString name, ControlKind kind, const ControlStyle&
 void ReportControl::SetCaption(const QString& caption, CaptionKind kind) {
     m_caption = caption;
     m_captionKind = kind;
+}
+
+QString ReportControl::TextOf(const Value& value) const {
+    if (m_dataFormat.isEmpty() || value.IsNull())
+        return value.Text();
+    const auto* text = std::get_if<QString>(&value.Data());
+    const std::optional<DateTime> date = text ? DateTimeFromText(*text) : value.Date();
+    return date ? Format(*date, m_dataFormat) : *text;
 }
 
 ReportSection::ReportSection(QString name, SectionKind kind, int height)

@@ -7,17 +7,38 @@
 #include <memory>
 #include <vector>
 
-/// The parts that a report layout is made of. All lengths are hundredths of a millimetre.
+class Value;
 
-/// In the order in which they follow each other on paper. A report that groups its rows will have a
-/// group header and a group footer around the detail; a section kind is then added here, and
-/// Pagination learns to place it.
-enum class SectionKind { ReportHeader, PageHeader, Detail, PageFooter, ReportFooter };
+/// The parts of a report layout. All lengths are hundredths of a millimetre.
+
+/// In the order in which they follow each other on paper. A layout that groups its rows has a group
+/// header before the rows of each group, a group footer after them, or both.
+enum class SectionKind {
+    ReportHeader,
+    PageHeader,
+    GroupHeader,
+    Detail,
+    GroupFooter,
+    PageFooter,
+    ReportFooter
+};
+
+constexpr std::size_t SectionKinds = 7;
+
+/// Whether text boxes in sections of that kind have a row to show. In a group header it is the
+/// first row of the group, in a group footer the last one.
+constexpr bool HasRow(SectionKind kind) {
+    return kind == SectionKind::GroupHeader || kind == SectionKind::Detail ||
+           kind == SectionKind::GroupFooter;
+}
+
+/// A text of underscores alone. It is drawn as one line, as wide as its box.
+bool IsRule(QStringView text);
 
 enum class ControlKind { Label, TextBox, Line };
 
-/// Whether "%p", "%P", "%d" and "%t" in a caption stand for the page, the number of pages, the date
-/// and the time of printing, or for themselves.
+/// Whether "%p", "%P", "%d" and "%t" in a caption mean the page, the number of pages, the date and
+/// the time of printing, or are printed as they are.
 enum class CaptionKind { Pattern, Literal };
 
 struct FontFace {
@@ -46,14 +67,19 @@ public:
     ControlKind Kind() const { return m_kind; }
     const ControlStyle& Style() const { return m_style; }
 
-    /// What a label shows. Lines of text are parted by CR LF or LF. A value that an operator typed
-    /// is handed in as a literal, so that a "%d" in it stays what it is.
+    /// What a label shows. CR LF or LF begins a new line. A value that an operator typed is set as
+    /// a literal, so that a "%d" in it is printed as it is.
     const QString& Caption() const { return m_caption; }
     CaptionKind KindOfCaption() const { return m_captionKind; }
     void SetCaption(const QString& caption, CaptionKind kind = CaptionKind::Pattern);
 
     /// The column that a text box shows; empty for labels and lines.
     const QString& DataField() const { return m_dataField; }
+    /// The format in which a text box shows dates (Format.h); empty for none. A date is a number of
+    /// the store, or a text that DefaultDateTimeText wrote. Every other value is shown as it is.
+    void SetDataFormat(const QString& format) { m_dataFormat = format; }
+    /// What a text box shows of a value of its column.
+    QString TextOf(const Value& value) const;
 
 private:
     QString m_name;
@@ -62,6 +88,7 @@ private:
     QString m_caption;
     CaptionKind m_captionKind = CaptionKind::Pattern;
     QString m_dataField;
+    QString m_dataFormat;
 };
 
 /// A band across the page with its controls.
@@ -73,8 +100,8 @@ public:
     SectionKind Kind() const { return m_kind; }
     int Height() const { return m_height; }
 
-    /// The control of that name, whose case does not count. It belongs to the section. Throws
-    /// RunTimeError (NoSuchItem).
+    /// The control of that name; upper and lower case are the same. It belongs to the section.
+    /// Throws RunTimeError (NoSuchItem).
     ReportControl& Controls(QStringView name);
     /// All of them, in the order in which they are painted.
     const std::vector<ReportControl>& AllControls() const { return m_controls; }

@@ -56,7 +56,7 @@ void PreviewCanvas::paintEvent(QPaintEvent*) {
     painter.fillRect(sheet.translated(3, 3), QColor(0, 0, 0, 60));
     painter.fillRect(sheet, Qt::white);
     painter.setClipRect(sheet);
-    // Nobody could catch it behind this: the failure takes the page's place.
+    // Nothing above a paint event can catch a failure, so it is shown instead of the page.
     try {
         PaintSheet(painter, sheet);
     } catch (const RunTimeError& error) {

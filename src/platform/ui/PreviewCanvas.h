@@ -6,7 +6,7 @@
 
 class DataReport;
 
-/// One page of a report on a sheet of paper, at any zoom. Nothing but that page is ever painted.
+/// One page of a report on a sheet of paper, at any zoom. Only that page is painted.
 class PreviewCanvas : public QWidget {
     Q_OBJECT
 public:
@@ -15,7 +15,7 @@ public:
     void ShowPage(int page);
     /// 1.0 is the paper's own size on the screen.
     void SetZoom(double factor);
-    /// The zoom at which the sheet fills a width, or fits into an area; both in pixels.
+    /// The zoom at which the sheet fills a width, or fits into an area. Both are in pixels.
     double ZoomForWidth(int width) const;
     double ZoomForArea(QSize area) const;
     /// How often a page was painted, for measuring.

@@ -2,40 +2,21 @@
 
 #include "Clock.h"
 #include "OutputFile.h"
-#include "RunTimeError.h"
+#include "PrintQueue.h"
 
 #include <QDir>
 #include <QPainter>
-#include <QPrintEngine>
 #include <QPrinter>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <functional>
-
-#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-#include <cups/cups.h>
-#endif
 #include <vector>
 
 namespace {
 
-constexpr int PrinterError = 482;
-
-/// What the print dialog leaves for the printing system beside the printer's own settings: names
-/// and values in turn. It has no name in Qt's public headers.
-QStringList SystemOptions(const QPrinter& printer) {
-    constexpr auto key = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
-    return printer.printEngine()->property(key).toStringList();
-}
-
-/// The dialog also asks the printing system for the pages. They are chosen here, where the numbers
-/// are those of the report, and must not be chosen again among the sheets of the job.
-const QString PageRangesOption = QStringLiteral("page-ranges");
-const QString PageSetOption = QStringLiteral("page-set");
-
-/// Whether odd or even pages alone are asked for.
+/// Whether a page number is asked for: the dialog can ask for odd or even pages only.
 std::function<bool(int)> PageSet(const QPrinter& printer) {
     const QStringList options = SystemOptions(printer);
     const qsizetype at = options.indexOf(PageSetOption);
@@ -72,7 +53,7 @@ std::vector<int> SheetsOf(const QPrinter& printer, int pageCount, int currentPag
     return sheets;
 }
 
-/// Puts the report's paper into the middle of the printer's, and scales it down where it is larger.
+/// Centres the report's paper on the printer's, scaled down if it is larger.
 void FitPaper(QPainter& painter, const QPrinter& printer, QSizeF page) {
     const QSizeF sheet = printer.paperRect(QPrinter::DevicePixel).size();
     const double scale = std::min({printer.logicalDpiX() / DataReport::UnitsPerInch,
@@ -80,13 +61,6 @@ void FitPaper(QPainter& painter, const QPrinter& printer, QSizeF page) {
     painter.translate((sheet.width() - page.width() * scale) / 2,
                       (sheet.height() - page.height() * scale) / 2);
     painter.scale(scale, scale);
-}
-
-[[noreturn]] void PrintingFailed(const QPrinter& printer, const QString& reason = {}) {
-    throw RunTimeError(
-        PrinterError,
-        (QStringLiteral("The printer \"%1\" takes no pages. ").arg(printer.printerName()) + reason)
-            .trimmed());
 }
 
 /// Paints all sheets of a job; false if `progress` ended it.
@@ -112,7 +86,8 @@ bool PaintJob(const DataReport& report, QPrinter& printer, const std::vector<int
     return true;
 }
 
-/// The bytes of a painted job. The painter looks at no failed write; the end of the document does.
+/// The bytes of a painted job. The painter ignores failed writes, so the end of the document is
+/// looked for.
 QByteArray JobOf(const QPrinter& printer, const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -124,47 +99,10 @@ QByteArray JobOf(const QPrinter& printer, const QString& path) {
     return job;
 }
 
-#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-constexpr bool PrintsFiles = true;
-
-void SendToPrinter(const QPrinter& printer, const QString& path) {
-    int count = 0;
-    cups_option_t* options = nullptr;
-    const auto freeOptions = qScopeGuard([&] { cupsFreeOptions(count, options); });
-    const auto add = [&](const QString& name, const QString& value) {
-        count = cupsAddOption(name.toLocal8Bit().constData(), value.toLocal8Bit().constData(),
-                              count, &options);
-    };
-    add(QStringLiteral("media"), printer.pageLayout().pageSize().key());
-    add(QStringLiteral("sides"),
-        printer.duplex() == QPrinter::DuplexNone        ? QStringLiteral("one-sided")
-        : printer.duplex() == QPrinter::DuplexShortSide ? QStringLiteral("two-sided-short-edge")
-                                                        : QStringLiteral("two-sided-long-edge"));
-    if (printer.copyCount() > 1) {
-        add(QStringLiteral("copies"), QString::number(printer.copyCount()));
-        if (printer.collateCopies())
-            add(QStringLiteral("Collate"), QStringLiteral("True"));
-    }
-    const QStringList chosen = SystemOptions(printer);
-    for (qsizetype i = 0; i + 1 < chosen.size(); i += 2)
-        if (chosen[i] != PageRangesOption && chosen[i] != PageSetOption)
-            add(chosen[i], chosen[i + 1]);
-    // What follows a slash is a set of the user's preferences for that printer.
-    const QString name = printer.printerName().section(u'/', 0, 0);
-    if (cupsPrintFile(name.toLocal8Bit().constData(), QFile::encodeName(path).constData(),
-                      printer.docName().toUtf8().constData(), count, options) == 0)
-        PrintingFailed(printer, QString::fromUtf8(cupsLastErrorString()));
-}
-#else
-constexpr bool PrintsFiles = false;
-
-void SendToPrinter(const QPrinter&, const QString&) {}
-#endif
-
 } // namespace
 
-/// Where the printing system takes files, the job is painted into one first: on a queue, what has
-/// been painted cannot be taken back, and abort() does nothing. So it is with a PDF.
+/// If the printing system takes files, the job is painted into one first: what has been painted to
+/// a queue cannot be taken back, and abort() does nothing. The same goes for a PDF.
 bool PrintReport(const DataReport& report, QPrinter& printer, int currentPage,
                  const PageProgress& progress) {
     const std::vector<int> sheets = SheetsOf(printer, report.PageCount(), currentPage);

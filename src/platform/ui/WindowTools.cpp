@@ -115,13 +115,8 @@ MessageAnswer WindowMessageBoxes::Show(const Message& message) {
     const bool question = message.kind == MessageKind::Question;
     box.setDefaultButton(static_cast<QPushButton*>(question ? buttons.last() : buttons.first()));
     box.setEscapeButton(buttons.last());
-    // Whatever the pointer says of work behind it, a question wants an arrow.
-    const bool waiting = QApplication::overrideCursor() != nullptr;
-    if (waiting)
-        QApplication::setOverrideCursor(Qt::ArrowCursor);
+    const ArrowPointer arrow;
     box.exec();
-    if (waiting)
-        QApplication::restoreOverrideCursor();
     const qsizetype pressed = buttons.indexOf(box.clickedButton());
     return pressed < 0 ? HarmlessAnswer(message.buttons) : answers[pressed];
 }
@@ -178,6 +173,16 @@ void FocusAndSelect(QLineEdit& field) {
 Hourglass::Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
 
 Hourglass::~Hourglass() { QApplication::restoreOverrideCursor(); }
+
+ArrowPointer::ArrowPointer() : m_shown(QApplication::overrideCursor() != nullptr) {
+    if (m_shown)
+        QApplication::setOverrideCursor(Qt::ArrowCursor);
+}
+
+ArrowPointer::~ArrowPointer() {
+    if (m_shown)
+        QApplication::restoreOverrideCursor();
+}
 
 QIcon ProgramIcon(const QString& name) {
     const QString path = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");

@@ -45,6 +45,19 @@ public:
     Hourglass& operator=(const Hourglass&) = delete;
 };
 
+/// The arrow while it lives, if there is an hourglass: for a window that wants an answer in the
+/// middle of work.
+class ArrowPointer {
+public:
+    ArrowPointer();
+    ~ArrowPointer();
+    ArrowPointer(const ArrowPointer&) = delete;
+    ArrowPointer& operator=(const ArrowPointer&) = delete;
+
+private:
+    bool m_shown;
+};
+
 /// An icon of the program by its name.
 QIcon ProgramIcon(const QString& name);
 

@@ -2,7 +2,7 @@
 
 #include "Application.h"
 #include "DataReport.h"
-#include "PreviewCanvas.h"
+#include "PreviewArea.h"
 #include "PrintReport.h"
 #include "ProgressWindow.h"
 #include "ReportPdf.h"
@@ -18,17 +18,12 @@
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
 #include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 #include <QWindow>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <functional>
 
@@ -36,8 +31,6 @@ namespace {
 
 constexpr int PreviewWidth = 12630; // twips
 constexpr int LessThanScreen = 720; // twips
-constexpr int WheelNotch = 120;     // eighths of a degree
-constexpr std::array<double, 9> ZoomSteps = {0.25, 0.5, 0.75, 1.0, 1.25, 1.5, 2.0, 3.0, 4.0};
 
 QString KeysText(const QList<QKeySequence>& keys) {
     return keys.isEmpty()
@@ -45,17 +38,7 @@ QString KeysText(const QList<QKeySequence>& keys) {
                : QStringLiteral(" (") + keys.first().toString(QKeySequence::NativeText) + u')';
 }
 
-/// What a bar shows the middle of, as a part of all.
-double MiddleOf(const QScrollBar& bar) {
-    return (bar.value() + bar.pageStep() / 2.0) / std::max(1, bar.maximum() + bar.pageStep());
-}
-
-void SetMiddle(QScrollBar& bar, double middle) {
-    bar.setValue(static_cast<int>(
-        std::lround(middle * (bar.maximum() + bar.pageStep()) - bar.pageStep() / 2.0)));
-}
-
-/// A title as a file name that every system takes.
+/// A title as a file name that is valid on every system.
 QString FileName(QString title) {
     static const QRegularExpression unfit(QStringLiteral("[\\x00-\\x1f<>:\"/\\\\|?*]+"));
     title = title.replace(unfit, QStringLiteral(" ")).simplified();
@@ -66,29 +49,26 @@ QString FileName(QString title) {
 
 frmPreview::frmPreview(const DataReport& report, TranslateText translate, QWidget* parent)
     : QDialog(parent, Qt::Window), m_report(report), m_translate(std::move(translate)),
-      m_toolbar(new QToolBar(this)), m_scroll(new QScrollArea(this)),
-      m_canvas(new PreviewCanvas(report, m_scroll)), m_pageField(new QLineEdit(this)),
-      m_pageCount(new QLabel(this)), m_zoomText(new QLabel(this)) {
+      m_toolbar(new QToolBar(this)), m_area(new PreviewArea(report, this)),
+      m_pageField(new QLineEdit(this)), m_pageCount(new QLabel(this)),
+      m_zoomText(new QLabel(this)) {
     setObjectName(QStringLiteral("frmPreview"));
     setWindowTitle(report.Caption());
-    m_scroll->setObjectName(QStringLiteral("scrPage"));
-    m_scroll->setWidget(m_canvas);
-    m_scroll->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    m_scroll->setBackgroundRole(QPalette::Mid);
-    m_scroll->installEventFilter(this);
-    m_scroll->viewport()->installEventFilter(this);
+    connect(m_area, &PreviewArea::Changed, this, &frmPreview::ShowState);
     BuildToolbar();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_toolbar);
-    layout->addWidget(m_scroll, 1);
+    layout->addWidget(m_area, 1);
     PlaceWindow();
     ShowState();
-    m_scroll->setFocus();
+    m_area->setFocus();
 }
 
-int frmPreview::PagesPainted() const { return m_canvas->PagesPainted(); }
+int frmPreview::Page() const { return m_area->Page(); }
+
+int frmPreview::PagesPainted() const { return m_area->PagesPainted(); }
 
 void frmPreview::PlaceWindow() {
     const QWidget* main = this;
@@ -101,7 +81,7 @@ void frmPreview::PlaceWindow() {
     resize(area.width() >= wanted ? wanted : otherwise, area.height() - PixelsOf(LessThanScreen));
 }
 
-/// The size above is that of the window with its frame, which is known once it is on the screen.
+/// The size set before includes the window's frame, which is known only once it is on the screen.
 void frmPreview::TakeFrameOff() {
     if (!isMaximized())
         resize(size().shrunkBy(windowHandle()->frameMargins()));
@@ -114,7 +94,7 @@ void frmPreview::showEvent(QShowEvent* event) {
 }
 
 QAction* frmPreview::AddAction(const char* name, const char* text, const QList<QKeySequence>& keys,
-                               void (frmPreview::*handler)()) {
+                               const std::function<void()>& handler) {
     const QString caption = m_translate(QString::fromUtf8(text));
     auto* action = new QAction(ProgramIcon(QStringLiteral("preview-") + QString::fromLatin1(name)),
                                caption, this);
@@ -131,30 +111,33 @@ QAction* frmPreview::AddAction(const char* name, const char* text, const QList<Q
 
 void frmPreview::BuildToolbar() {
     m_toolbar->setIconSize(QSize(22, 22));
-    AddAction("print", "Print", {QKeySequence::Print}, &frmPreview::Print);
-    AddAction("pdf", "Export to PDF", {QKeySequence::Save}, &frmPreview::Export);
+    AddAction("print", "Print", {QKeySequence::Print}, [this] { Print(); });
+    AddAction("pdf", "Export to PDF", {QKeySequence::Save}, [this] { Export(); });
     m_toolbar->addSeparator();
-    m_first = AddAction("first", "First page", {Qt::Key_Home}, &frmPreview::First);
-    m_previous = AddAction("previous", "Previous page", {Qt::Key_PageUp}, &frmPreview::Previous);
+    m_first = AddAction("first", "First page", {Qt::Key_Home}, [this] { GoToPage(0); });
+    m_previous =
+        AddAction("previous", "Previous page", {Qt::Key_PageUp}, [this] { GoToPage(Page() - 1); });
     BuildPageField();
-    m_next = AddAction("next", "Next page", {Qt::Key_PageDown}, &frmPreview::Next);
-    m_last = AddAction("last", "Last page", {Qt::Key_End}, &frmPreview::Last);
+    m_next = AddAction("next", "Next page", {Qt::Key_PageDown}, [this] { GoToPage(Page() + 1); });
+    m_last = AddAction("last", "Last page", {Qt::Key_End},
+                       [this] { GoToPage(m_report.PageCount() - 1); });
     m_toolbar->addSeparator();
-    AddAction("zoom-out", "Zoom out", {QKeySequence::ZoomOut}, &frmPreview::ZoomOut);
+    AddAction("zoom-out", "Zoom out", {QKeySequence::ZoomOut}, [this] { m_area->ZoomOut(); });
     m_zoomText->setObjectName(QStringLiteral("lblZoom"));
     m_zoomText->setAccessibleName(m_translate(QStringLiteral("Zoom")));
     m_zoomText->setAlignment(Qt::AlignCenter);
     m_zoomText->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral(" 000 % ")));
     m_toolbar->addWidget(m_zoomText);
     AddAction("zoom-in", "Zoom in", {QKeySequence::ZoomIn, QKeySequence(Qt::CTRL | Qt::Key_Equal)},
-              &frmPreview::ZoomIn);
+              [this] { m_area->ZoomIn(); });
     AddAction("zoom-full", "Actual size", {QKeySequence(Qt::CTRL | Qt::Key_0)},
-              &frmPreview::ZoomFull);
+              [this] { m_area->SetZoom(1.0); });
     AddAction("fit-width", "Fit width", {QKeySequence(Qt::CTRL | Qt::Key_1)},
-              &frmPreview::FitWidth);
-    AddAction("fit-page", "Whole page", {QKeySequence(Qt::CTRL | Qt::Key_2)}, &frmPreview::FitPage);
+              [this] { m_area->FitWidth(); });
+    AddAction("fit-page", "Whole page", {QKeySequence(Qt::CTRL | Qt::Key_2)},
+              [this] { m_area->FitPage(); });
     m_toolbar->addSeparator();
-    AddAction("close", "Close", {Qt::Key_Escape}, &frmPreview::Close);
+    AddAction("close", "Close", {Qt::Key_Escape}, [this] { reject(); });
     auto* edit = new QAction(this);
     edit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     connect(edit, &QAction::triggered, this, &frmPreview::EditPage);
@@ -171,17 +154,17 @@ void frmPreview::BuildPageField() {
     static const QRegularExpression digits(QStringLiteral("[0-9]{0,8}"));
     m_pageField->setValidator(new QRegularExpressionValidator(digits, this));
     connect(m_pageField, &QLineEdit::editingFinished, this, &frmPreview::TakePageField);
-    connect(m_pageField, &QLineEdit::returnPressed, m_scroll, qOverload<>(&QWidget::setFocus));
+    connect(m_pageField, &QLineEdit::returnPressed, m_area, qOverload<>(&QWidget::setFocus));
     m_toolbar->addWidget(m_pageField);
     m_pageCount->setObjectName(QStringLiteral("lblPageCount"));
     m_toolbar->addWidget(m_pageCount);
 }
 
-/// A number beyond the last page is the last page; no number is the page that is shown.
+/// A number beyond the last page shows the last page. Anything but a number changes nothing.
 void frmPreview::TakePageField() {
     bool isNumber = false;
     const int typed = m_pageField->text().toInt(&isNumber);
-    if (isNumber && typed != m_page + 1)
+    if (isNumber && typed != Page() + 1)
         GoToPage(typed - 1);
     else
         ShowState();
@@ -192,115 +175,20 @@ void frmPreview::EditPage() {
     m_pageField->selectAll();
 }
 
-void frmPreview::Last() { GoToPage(m_report.PageCount() - 1); }
-
-void frmPreview::GoToPage(int page) {
-    m_page = std::clamp(page, 0, m_report.PageCount() - 1);
-    m_wheelBeyondEdge = 0;
-    m_canvas->ShowPage(m_page);
-    m_scroll->verticalScrollBar()->setValue(0);
-    ShowState();
-}
-
-void frmPreview::SetZoom(double factor) {
-    m_fit = Fit::None;
-    ZoomTo(std::clamp(factor, ZoomSteps.front(), ZoomSteps.back()));
-}
-
-/// What is in the middle of the window stays there.
-void frmPreview::ZoomTo(double factor) {
-    QScrollBar& across = *m_scroll->horizontalScrollBar();
-    QScrollBar& down = *m_scroll->verticalScrollBar();
-    const double middleAcross = MiddleOf(across);
-    const double middleDown = down.value() == 0 ? 0 : MiddleOf(down);
-    m_zoom = factor;
-    m_canvas->SetZoom(m_zoom);
-    SetMiddle(across, middleAcross);
-    SetMiddle(down, middleDown);
-    ShowState();
-}
-
-void frmPreview::ZoomIn() {
-    const auto larger = std::find_if(ZoomSteps.begin(), ZoomSteps.end(),
-                                     [this](double step) { return step > m_zoom + 0.01; });
-    SetZoom(larger == ZoomSteps.end() ? ZoomSteps.back() : *larger);
-}
-
-void frmPreview::ZoomOut() {
-    const auto smaller = std::find_if(ZoomSteps.rbegin(), ZoomSteps.rend(),
-                                      [this](double step) { return step < m_zoom - 0.01; });
-    SetZoom(smaller == ZoomSteps.rend() ? ZoomSteps.front() : *smaller);
-}
-
-void frmPreview::FitWidth() {
-    m_fit = Fit::Width;
-    ApplyFit();
-}
-
-void frmPreview::FitPage() {
-    m_fit = Fit::Page;
-    ApplyFit();
-}
-
-void frmPreview::ApplyFit() {
-    if (m_fit == Fit::None)
-        return;
-    const QSize area = m_scroll->maximumViewportSize();
-    const int bar = m_scroll->verticalScrollBar()->sizeHint().width();
-    ZoomTo(m_fit == Fit::Width ? m_canvas->ZoomForWidth(area.width() - bar)
-                               : m_canvas->ZoomForArea(area));
-}
+void frmPreview::GoToPage(int page) { m_area->GoToPage(page); }
 
 void frmPreview::ShowState() {
     const int pages = m_report.PageCount();
-    m_pageField->setText(QString::number(m_page + 1));
+    m_pageField->setText(QString::number(Page() + 1));
     const QString ofPages = m_translate(QStringLiteral("of")) + u' ' + QString::number(pages);
     m_pageCount->setText(u' ' + ofPages + u' ');
-    m_scroll->setAccessibleName(m_translate(QStringLiteral("Page")) + u' ' +
-                                QString::number(m_page + 1) + u' ' + ofPages);
-    m_zoomText->setText(QStringLiteral("%1 %").arg(std::lround(m_zoom * 100)));
-    m_first->setEnabled(m_page > 0);
-    m_previous->setEnabled(m_page > 0);
-    m_next->setEnabled(m_page + 1 < pages);
-    m_last->setEnabled(m_page + 1 < pages);
-}
-
-void frmPreview::resizeEvent(QResizeEvent* event) {
-    QDialog::resizeEvent(event);
-    ApplyFit();
-}
-
-/// At the edge of a page the wheel turns it, a notch a page: a touch pad sends many small steps.
-bool frmPreview::TurnPageByWheel(int delta) {
-    const QScrollBar* bar = m_scroll->verticalScrollBar();
-    const bool atEdge = delta < 0 ? bar->value() == bar->maximum() : bar->value() == bar->minimum();
-    const int page = m_page + (delta < 0 ? 1 : -1);
-    if (!atEdge || page < 0 || page >= m_report.PageCount()) {
-        m_wheelBeyondEdge = 0;
-        return false;
-    }
-    m_wheelBeyondEdge += delta;
-    if (std::abs(m_wheelBeyondEdge) >= WheelNotch) {
-        GoToPage(page);
-        if (delta > 0)
-            m_scroll->verticalScrollBar()->setValue(bar->maximum());
-    }
-    return true;
-}
-
-bool frmPreview::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_scroll->viewport() && event->type() == QEvent::Wheel) {
-        const auto* wheel = static_cast<QWheelEvent*>(event);
-        const int delta = wheel->angleDelta().y();
-        if (wheel->modifiers() & Qt::ControlModifier) {
-            if (delta != 0)
-                delta > 0 ? ZoomIn() : ZoomOut();
-            return true;
-        }
-        if (delta != 0 && TurnPageByWheel(delta))
-            return true;
-    }
-    return QDialog::eventFilter(watched, event);
+    m_area->setAccessibleName(m_translate(QStringLiteral("Page")) + u' ' +
+                              QString::number(Page() + 1) + u' ' + ofPages);
+    m_zoomText->setText(QStringLiteral("%1 %").arg(std::lround(m_area->Zoom() * 100)));
+    m_first->setEnabled(Page() > 0);
+    m_previous->setEnabled(Page() > 0);
+    m_next->setEnabled(Page() + 1 < pages);
+    m_last->setEnabled(Page() + 1 < pages);
 }
 
 void frmPreview::Tell(const char* text, const QString& reason) {
@@ -324,7 +212,7 @@ void frmPreview::Print() {
         return;
     try {
         ProgressWindow progress("Print", m_translate, this);
-        PrintReport(m_report, printer, m_page, std::ref(progress));
+        PrintReport(m_report, printer, Page(), std::ref(progress));
     } catch (const RunTimeError& error) {
         Tell("The report could not be printed.", error.Description());
     }
@@ -350,5 +238,6 @@ void frmPreview::Export() {
 void PreviewViewer::Show(DataReport& report) {
     QWidget* over = QApplication::activeModalWidget();
     frmPreview window(report, m_translate, over ? over : m_parent);
+    const ArrowPointer arrow;
     window.exec();
 }

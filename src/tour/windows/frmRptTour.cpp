@@ -1,8 +1,8 @@
 #include "frmRptTour.h"
 
-#include "Clock.h"
-#include "Format.h"
+#include "DateTimeRange.h"
 #include "Recordset.h"
+#include "ReportButtons.h"
 #include "TourReportBuilder.h"
 #include "WindowTools.h"
 #include "mDeclareGlobals.h"
@@ -32,15 +32,13 @@ frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptTour>()), m_viewer(viewer) {
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
-    SelectSectionOnFocus(*m_ui->dtpStartDate);
-    m_ui->dtpStartDate->setDisplayFormat(GetShortDateFormat());
-    m_ui->dtpStartDate->setDate(Today().ToQDate());
+    PrepareDateField(*m_ui->dtpStartDate);
     connect(m_ui->imgcboReader, &QComboBox::currentIndexChanged, this,
             &frmRptTour::ReadSelectedReader);
-    connect(m_ui->cmdPrintPreview, &QPushButton::clicked, this, &frmRptTour::cmdPrintPreview_Click);
-    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel,
+                      [this] { cmdPrintPreview_Click(); });
     Guarded("Form_Load of Form frmRptTour", [this] {
-        ReadOptions(); // first: whatever fails, they are saved again
+        ReadOptions(); // first: closing saves them, even if the lists cannot be filled
         FillTours();
         FillReaders();
         ReadSelectedReader();
@@ -72,7 +70,7 @@ void frmRptTour::FillReaders() {
     }
     const bool any = m_ui->imgcboReader->count() > 0;
     m_ui->imgcboReader->setEnabled(any);
-    // With readers but no tour the button stays enabled; the report then tells what is missing.
+    // With readers but no tour the button stays enabled; the report then says what is missing.
     m_ui->cmdPrintPreview->setEnabled(any);
 }
 
@@ -84,13 +82,16 @@ void frmRptTour::ReadOptions() {
     m_ui->optShowAll_1->setChecked(SavedOption(ShowAllKey));
 }
 
+int frmRptTour::TourID() const { return m_ui->imgcboTour->currentData().toInt(); }
+
+DateTime frmRptTour::StartDate() const { return DateTime::FromQt(m_ui->dtpStartDate->date()); }
+
+bool frmRptTour::IncludeEvents() const { return m_ui->chkIncludeEvents->isChecked(); }
+
 void frmRptTour::cmdPrintPreview_Click() {
-    TourID = m_ui->imgcboTour->currentData().toInt();
-    StartDate = DateTime::FromQt(m_ui->dtpStartDate->date());
     ReadSelectedReader();
-    IncludeEvents = m_ui->chkIncludeEvents->isChecked();
-    BuildTourReport({TourID, StartDate, ReaderId, m_ui->imgcboReader->currentText(), IncludeEvents,
-                     m_ui->optShowAll_1->isChecked()},
+    BuildTourReport({TourID(), StartDate(), ReaderId, m_ui->imgcboReader->currentText(),
+                     IncludeEvents(), m_ui->optShowAll_1->isChecked()},
                     m_viewer);
 }
 

@@ -11,18 +11,21 @@ namespace Ui {
 class frmRptTour;
 }
 
-/// The dialog of the tour report: tour, date, reader and options. It stays open after a preview.
+/// The dialog of the tour report: tour, date, reader and options.
 class frmRptTour : public QDialog {
     Q_OBJECT
 public:
-    /// The viewer outlives the dialog.
+    /// The viewer must outlive the dialog.
     frmRptTour(ReportViewer& viewer, QWidget* parent);
     ~frmRptTour() override;
 
-    int TourID = 0;
-    DateTime StartDate;
-    bool IncludeEvents = false;
+    /// What is chosen now.
+    int TourID() const;
+    DateTime StartDate() const;
+    bool IncludeEvents() const;
+    /// Always false: the dialog makes its reports itself.
     bool OK() const { return result() == Accepted; }
+    /// Follows the choice of the reader.
     QString ReaderId;
     /// Sets the caption.
     void Title(const QString& text) { setWindowTitle(text); }

@@ -1,0 +1,16 @@
+#include "darReport.h"
+
+darReport::darReport(const QString& layout) : DataReport(LoadReportLayout(layout)) {}
+
+void darReport::SetReportParam(const ReportTexts& values) {
+    for (const auto& [name, value] : values) {
+        Control(name).SetCaption(value, CaptionKind::Literal);
+        if (name == u"lblReportTitle")
+            SetCaption(value);
+    }
+}
+
+void darReport::SetText(const ReportTexts& labels) {
+    for (const auto& [name, text] : labels)
+        Control(name).SetCaption(text);
+}

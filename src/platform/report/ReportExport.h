@@ -1,0 +1,34 @@
+#pragma once
+
+#include "DataReport.h"
+
+#include <QByteArray>
+
+/// A report that has its rows and texts, in forms other than pages. All of them are UTF-8.
+
+/// Plain text. It follows the layout:
+///
+/// - the caption, underlined;
+/// - the values of the page header, one a line. If the fixed label that belongs to a value is left
+/// of
+///   it, less than a millimetre away, it comes first. The page number and fixed labels without a
+///   value are left out.
+/// - the column headings: the last line of the page header, if it is fixed labels only;
+/// - the rows with the headers and footers of their groups. Each text is placed as on paper, or
+///   further to the right if there is no room.
+/// - the report footer.
+QByteArray ReportText(const DataReport& report);
+
+/// Comma-separated: a line of the columns' names, then the rows. Every field is quoted.
+QByteArray ReportCsv(const DataReport& report);
+
+/// `{"title": "...", "rows": [...]}`. A row is an object of all columns in their order; a value is
+/// a text or null. Rows of a layout that groups come in blocks, such as
+/// `{"dtDLDateTime": "...", "ReaderEvents": [...]}`: the value that groups, and the group's rows.
+QByteArray ReportJson(const DataReport& report);
+
+/// In CSV and JSON, a number in a column whose name begins with "dt" is a date:
+/// `YYYY-MM-DDTHH:MM:SS`.
+
+/// A text as JSON has it, with its quotes.
+QByteArray JsonText(const QString& text);

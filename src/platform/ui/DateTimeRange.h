@@ -1,0 +1,38 @@
+#pragma once
+
+#include "DateTime.h"
+
+#include <QWidget>
+
+class QDateEdit;
+class QTimeEdit;
+
+/// Prepares a field for a date: today in the user's own format, a calendar, and the part that is
+/// clicked selected.
+void PrepareDateField(QDateEdit& field);
+
+/// How much of a range's last minute belongs to it: all of it, or its first second only.
+enum class LastMinute { Whole, FirstSecond };
+
+/// The range of time of a report, in minutes: the fields `dtpStartDate`, `dtpStartTime`,
+/// `dtpEndDate` and `dtpEndTime` with their labels. It begins as the whole of today. A range that
+/// ends before it starts is accepted; each report says what it does with one.
+class DateTimeRange : public QWidget {
+    Q_OBJECT
+public:
+    explicit DateTimeRange(QWidget* parent = nullptr);
+
+    /// From 00:00:00 on the first day to 23:59:59 on the last.
+    void SetDays(const QDate& first, const QDate& last);
+
+    /// The first second of the start's minute.
+    DateTime Start() const;
+    /// The last instant of the range, in whole seconds.
+    DateTime End(LastMinute lastMinute) const;
+
+private:
+    QDateEdit* m_startDate;
+    QTimeEdit* m_startTime;
+    QDateEdit* m_endDate;
+    QTimeEdit* m_endTime;
+};
