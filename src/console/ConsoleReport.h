@@ -1,9 +1,10 @@
 #pragma once
 
-#include "CommandLine.h"
 #include "ReportViewer.h"
 
 #include <QByteArray>
+
+enum class ReportFormat { Text, Json, Csv, Pdf };
 
 /// Takes a report instead of a preview window, in the form that was asked for.
 class ConsoleReport : public ReportViewer {
