@@ -223,7 +223,7 @@ private slots:
         QCOMPARE(failed.err.count('\n'), 1);
     }
 
-    void KeepsWhatItIsTold() {
+    void KeepsTheMemoryOfTheReaderIfAsked() {
         Office office;
         Dock dock(Night);
         const Outcome outcome =
@@ -233,7 +233,7 @@ private slots:
         QCOMPARE(dock.State()[u"touches"].toInt(), 3);
     }
 
-    void TellsWhatWasNotDone_data() {
+    void SaysWhatWasNotDone_data() {
         QTest::addColumn<QByteArray>("scenario");
         QTest::addColumn<QByteArray>("words");
         QTest::addColumn<int>("touchesKept");
@@ -249,7 +249,7 @@ private slots:
         QTest::newRow("silent to the read") << Night + "fault silent read\n"
                                             << QByteArray("Download Failed") << 3;
     }
-    void TellsWhatWasNotDone() {
+    void SaysWhatWasNotDone() {
         QFETCH(QByteArray, scenario);
         QFETCH(QByteArray, words);
         QFETCH(int, touchesKept);
@@ -280,7 +280,8 @@ private slots:
         row("firmware", Night + "firmware 08", "firmware", "Firmware Version is V06");
         row("firmware as JSON", Night, "firmware --json", R"({"firmware":"V06"})",
             {{"touches", 3}});
-        row("firmware, not told", Night + "firmware FF", "firmware", "!The reader did not report");
+        row("firmware, not reported", Night + "firmware FF", "firmware",
+            "!The reader did not report");
         row("clock", Night, "set-clock --json --time 2024-02-29T23:59",
             R"({"clock":"2024-02-29T23:59"})", {{"clock", "2024-02-29T23:59"}});
         row("clock refused", Night + "refuse clock 1", "set-clock", "!Reader Clock update failed.",
@@ -317,12 +318,12 @@ private slots:
         QCOMPARE(outcome.status, fails ? 1 : 0);
         QCOMPARE(outcome.err.count('\n'), fails ? 1 : 0);
         QVERIFY(outcome.out.isEmpty() == fails);
-        const QByteArray told = words.contains(u"--json")
-                                    ? QJsonDocument(outcome.Json()).toJson(QJsonDocument::Compact)
-                                : fails ? '!' + outcome.err
-                                        : outcome.out;
-        // A line of the command has single blanks only.
-        QVERIFY2(told.startsWith(output.simplified()), told.constData());
+        const QByteArray result = words.contains(u"--json")
+                                      ? QJsonDocument(outcome.Json()).toJson(QJsonDocument::Compact)
+                                  : fails ? '!' + outcome.err
+                                          : outcome.out;
+        // Complain joins blanks into one.
+        QVERIFY2(result.startsWith(output.simplified()), result.constData());
         const QJsonObject after = dock.State();
         for (auto value = state.begin(); value != state.end(); ++value)
             QVERIFY2(after[value.key()] == value.value(), qPrintable(value.key()));
