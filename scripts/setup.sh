@@ -8,7 +8,7 @@ BIN=$BUILD/bin
 
 build_packages=(build-essential cmake ninja-build pkg-config ccache qt6-base-dev
     qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-serialport-dev
-    qt6-svg-dev libgl-dev libsqlcipher-dev libcups2-dev)
+    qt6-svg-dev libgl-dev libsqlcipher-dev libcups2-dev libcli11-dev)
 run_packages=(libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core)
 # Tests read the text of PDFs and open the store with the stock shell.
 test_packages=(poppler-utils sqlcipher)

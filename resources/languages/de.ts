@@ -924,7 +924,7 @@
         <translation>Firmware-Version des Lesers</translation>
     </message>
     <message>
-        <source>The reader does not tell its firmware version.</source>
+        <source>The reader did not report its firmware version.</source>
         <translation>Der Leser nennt keine Firmware-Version.</translation>
     </message>
     <message>

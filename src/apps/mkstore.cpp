@@ -1,7 +1,7 @@
 // mkstore FILE         makes the store that is delivered with the program: its tables, no row
 // mkstore --demo FILE  makes the demonstration store
 //
-// Overwrites nothing. Exit status: 0 made, 1 not made, 2 wrong usage.
+// It overwrites no file. Exit status: 0 made, 1 not made, 2 wrong usage.
 
 #include "DeliveredStore.h"
 #include "RunTimeError.h"

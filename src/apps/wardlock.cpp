@@ -22,7 +22,7 @@ constexpr char Usage[] =
     "\n"
     "exit status: 0 ended by the operator, 1 could not start\n";
 
-/// Answers what can be answered without a display. True if something was asked.
+/// Answers a question that needs no display. True if there was one.
 bool Answered(int argc, char* argv[]) {
     for (int i = 1; i < argc; ++i) {
         if (std::strcmp(argv[i], "--help") == 0)

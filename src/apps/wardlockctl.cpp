@@ -4,11 +4,24 @@
 
 namespace {
 
-/// Standard error is for what this program has to say; a library's remarks on the surroundings,
-/// such as a missing desktop, are not. The trace channel speaks only when it is switched on.
+/// Keeps a library's remarks, such as on a missing desktop, off standard error, which is for this
+/// program's own messages. The trace is written only if it is switched on.
 void OnlyTrace(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     if (type == QtFatalMsg || qstrcmp(context.category, "wardlock.trace") == 0)
         fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+QStringList Arguments(int argc, char* argv[]) {
+#ifdef Q_OS_WIN
+    Q_UNUSED(argc)
+    Q_UNUSED(argv)
+    return QGuiApplication::arguments().mid(1); // Unicode, as the system holds them
+#else
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments += QString::fromLocal8Bit(argv[i]);
+    return arguments;
+#endif
 }
 
 } // namespace
@@ -18,6 +31,8 @@ int main(int argc, char* argv[]) {
     // A report's page needs fonts but no display.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication app(argc, argv);
-    return RunConsole(QGuiApplication::arguments().mid(1));
+    // Qt sees none of the arguments; it would take some for its own, such as a value "-style".
+    int programOnly = 1;
+    const QGuiApplication app(programOnly, argv);
+    return RunConsole(Arguments(argc, argv));
 }

@@ -1,26 +1,40 @@
 #include "Console.h"
 
 #include "Application.h"
-#include "CommandLine.h"
-#include "ConsoleDownload.h"
-#include "ConsoleReader.h"
-#include "ConsoleReport.h"
+#include "Command.h"
+#include "CommandOptions.h"
+#include "CommandParser.h"
 #include "ConsoleTools.h"
-#include "DockingLink.h"
 #include "InstanceLock.h"
-#include "SetupFile.h"
-#include "TourReportBuilder.h"
+#include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 #include "mOperators.h"
 #include "mSettings.h"
 #include "mStore.h"
 #include "mTranslations.h"
 
-#include <QFile>
-
 namespace {
 
 constexpr int Done = 0, NotDone = 1, WrongUsage = 2;
+const QString Program = QStringLiteral("wardlockctl");
+
+/// A wrong value may be long; only its beginning is repeated.
+constexpr int LongestUsageError = 300;
+
+/// The options of every command.
+struct StationOptions {
+    QString home;
+    OperatorType login = MasterOperator;
+};
+
+void AddStationOptions(CLI::App& options, StationOptions& station) {
+    StartOptionGroup(options, "Options of every command");
+    AddPath(options, "--home", station.home, "the folder of the store");
+    AddChoice<OperatorType>(options, "--operator",
+                            {{"master", MasterOperator}, {"user", UserOperator}}, station.login,
+                            "who logs in; else the master");
+    StartOptionGroup(options, "Options");
+}
 
 /// Closes the store whatever happens, so that its lock file goes.
 struct StoreCloser {
@@ -28,10 +42,10 @@ struct StoreCloser {
 };
 
 /// Opens dictionary and store and checks the login; false once it has said why not.
-bool OpenStation(const CommandLine& line) {
+bool OpenStation(OperatorType login) {
     ReportLostSettings();
     ReadLanguageSetting();
-    // A missing dictionary is the station's matter; here the English texts do as well.
+    // Only the station needs a dictionary; without one the texts are English.
     gDictionary = std::make_unique<Dictionary>();
     gDictionary->FileName = AppFile(QStringLiteral("WK3.MLD"));
     gDictionary->language = gLanguage;
@@ -42,7 +56,7 @@ bool OpenStation(const CommandLine& line) {
     if (!ADOTest(gDatabasePath, StorePassword) || !ADOInit(gDatabasePath, StorePassword))
         return false;
     RemoveLeftoverCopy(AppFile(QStringLiteral("temp.mdb")));
-    if (CheckOperator(line.login, qEnvironmentVariable("WARDLOCK_PASSWORD"), RememberLogin::No) ==
+    if (CheckOperator(login, qEnvironmentVariable("WARDLOCK_PASSWORD"), RememberLogin::No) ==
         NoOperator) {
         const bool given = qEnvironmentVariableIsSet("WARDLOCK_PASSWORD");
         Complain(Translate("The User Name / Password are incorrect. Please try again.") +
@@ -52,99 +66,8 @@ bool OpenStation(const CommandLine& line) {
     return true;
 }
 
-bool Download(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes) {
-    ConsoleDownload view(link);
-    MemoryDownload download(link, view);
-    download.EraseAfterwards = !line.keep;
-    download.Run();
-    const MemoryDownload::Outcome& outcome = download.LastOutcome();
-    if (!outcome.read) {
-        if (boxes.Last().isEmpty()) // else the transfer has said what went wrong
-            Complain(view.MessageText());
-        return false;
-    }
-    if (line.json)
-        WriteOut(DownloadJson(outcome));
-    else if (outcome.stored)
-        WriteOut(DownloadText(outcome, view.MessageText()));
-    if (!outcome.stored)
-        return false;
-    if (!line.keep && !outcome.erased && !download.HasSaidWhyNotErased())
-        Complain(Translate("Reader Memory NOT erased!"));
-    return (line.keep || outcome.erased) && outcome.clockSet;
-}
-
-/// The reader as the report's header names it; its identifier alone where it was never taught.
-QString ReaderText(const QString& readerId) {
-    const KnownReader reader = LookUpReader(readerId);
-    return reader.known ? readerId + QStringLiteral(" - ") + reader.description : readerId;
-}
-
-bool ReportTour(const CommandLine& line, const ConsoleBoxes& boxes) {
-    ConsoleReport report(line.format);
-    BuildTourReport(
-        {line.tour, line.date, line.reader, ReaderText(line.reader), line.events, line.all},
-        report);
-    if (report.HasReport())
-        WriteOut(report.Bytes(), line.output);
-    else if (line.format == ReportFormat::Json)
-        WriteOut(JsonMessage(boxes.Last()), line.output);
-    if (!report.HasReport() && boxes.Last().isEmpty())
-        Complain(Translate("The report could not be made. The file error.log says why."));
-    return report.HasReport();
-}
-
-bool ExportSetupTo(const QString& path) {
-    WriteOut(ExportSetup(), path);
-    return true;
-}
-
-bool ImportSetupFrom(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                           path + QStringLiteral(": ") + file.errorString());
-    ImportSetup(file.readAll());
-    return true;
-}
-
-/// As in the station, where the user has neither the Tools menu nor the setup page.
-bool IsMastersOnly(ConsoleCommand command) {
-    return command != ConsoleCommand::Detect && command != ConsoleCommand::Download &&
-           command != ConsoleCommand::ReportTour;
-}
-
-/// A store that is damaged must be known before a reader is erased on the strength of it.
-bool ErasesReader(const CommandLine& line) {
-    return (line.command == ConsoleCommand::Download && !line.keep) ||
-           line.command == ConsoleCommand::ReaderErase;
-}
-
-/// The commands that speak with the docking station, once that has answered.
-bool RunAtDock(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes) {
-    switch (line.command) {
-    case ConsoleCommand::Detect:
-        WriteLine(Translate("Docking Station : OK"));
-        return true;
-    case ConsoleCommand::Download:
-        return Download(link, line, boxes);
-    case ConsoleCommand::ReaderIdentify:
-        return IdentifyReader(link, line, boxes);
-    case ConsoleCommand::ReaderFirmware:
-        return TellFirmware(link, line, boxes);
-    case ConsoleCommand::ReaderSetClock:
-        return SetReaderClock(link, line);
-    case ConsoleCommand::ReaderSetOptions:
-        return SetReaderOptions(link, line);
-    case ConsoleCommand::ReaderErase:
-        return EraseReader(link, line);
-    default:
-        return false;
-    }
-}
-
-bool RunCommand(const CommandLine& line) {
-    SetAppPath(line.home);
+bool RunCommand(const Command& command, const StationOptions& station, const CommandRun& run) {
+    SetAppPath(station.home);
     const auto instance = TakeInstanceLock();
     if (!instance) {
         Complain(QStringLiteral("The program is already running!"));
@@ -152,44 +75,105 @@ bool RunCommand(const CommandLine& line) {
     }
     const ConsoleBoxes boxes;
     const StoreCloser closer;
-    if (!OpenStation(line))
+    if (!OpenStation(station.login))
         return false;
-    if (line.login != MasterOperator && IsMastersOnly(line.command)) {
+    if (command.access == Access::MasterOnly && station.login != MasterOperator) {
         Complain(Translate("Only the master may do this."));
         return false;
     }
-    if (ErasesReader(line)) {
-        CheckStore();
-        TellOfDamage();
+    return run(boxes);
+}
+
+QString Overview() {
+    QString text = QStringLiteral(
+        "usage: wardlockctl [--home DIR] [--operator master|user] COMMAND [OPTIONS]\n"
+        "       wardlockctl COMMAND --help\n"
+        "       wardlockctl --help | --version\n"
+        "\n");
+    for (const Command& command : Commands())
+        text +=
+            QStringLiteral("  ") + command.words.leftJustified(20) + command.description + u'\n';
+    return text + QStringLiteral("\n"
+                                 "\"wardlockctl COMMAND --help\" lists the options of a command. "
+                                 "They may come before\n"
+                                 "or after the command's words.\n"
+                                 "\n"
+                                 "--home is the folder of the store; else it is the one that the "
+                                 "environment variable\n"
+                                 "WARDLOCK_HOME names, or the program's own. The password of the "
+                                 "operator is read from\n"
+                                 "the environment variable WARDLOCK_PASSWORD. Only the master may "
+                                 "use the reader and\n"
+                                 "setup commands.\n"
+                                 "\n"
+                                 "A docking station that does not answer is given up after 3 "
+                                 "seconds; one that falls\n"
+                                 "silent later, after at most 15.\n"
+                                 "\n"
+                                 "exit status: 0 all done, 1 not or not all done, 2 wrong usage\n");
+}
+
+QString VersionText() {
+    return QStringLiteral("%1 %2.%3.%4\n")
+        .arg(Program)
+        .arg(AppMajor())
+        .arg(AppMinor())
+        .arg(AppRevision());
+}
+
+/// A call that names no command.
+int RunWithoutCommand(const QStringList& arguments) {
+    if (CommandParser::AsksForHelp(arguments)) {
+        WriteOut(Overview().toUtf8());
+        return Done;
     }
-    switch (line.command) {
-    case ConsoleCommand::ReportTour:
-        return ReportTour(line, boxes);
-    case ConsoleCommand::SetupExport:
-        return ExportSetupTo(line.file);
-    case ConsoleCommand::SetupImport:
-        return ImportSetupFrom(line.file);
-    default:
-        break;
+    if (arguments.contains(QStringLiteral("--version"))) {
+        WriteOut(VersionText().toUtf8());
+        return Done;
     }
-    DockingLink link;
-    link.GivesUpInTime = true;
-    return Connect(link, line.device) && RunAtDock(link, line, boxes);
+    CommandParser parser(Program, {});
+    StationOptions station;
+    AddStationOptions(parser.Options(), station);
+    const QStringList words = parser.WordsOf(arguments);
+    throw UsageError(
+        words.isEmpty() ? QStringLiteral("a command is missing")
+                        : QStringLiteral("unknown command \"%1\"").arg(words.mid(0, 2).join(u' ')));
+}
+
+int RunCall(const QStringList& arguments, QString& helpCall) {
+    for (const QString& argument : arguments)
+        if (argument.contains(QChar::ReplacementCharacter))
+            throw UsageError(QStringLiteral("an argument is not UTF-8 text: ") + argument);
+    for (const Command& command : Commands()) {
+        CommandParser parser(Program, command.words);
+        StationOptions station;
+        AddStationOptions(parser.Options(), station);
+        const CommandRun run = command.prepare(parser.Options());
+        if (!parser.IsCalledBy(arguments))
+            continue;
+        if (CommandParser::AsksForHelp(arguments)) {
+            WriteOut(parser.Help(command.description, command.example).toUtf8());
+            return Done;
+        }
+        helpCall = Program + u' ' + command.words + QStringLiteral(" --help");
+        parser.Parse(arguments);
+        return RunCommand(command, station, run) ? Done : NotDone;
+    }
+    return RunWithoutCommand(arguments);
 }
 
 } // namespace
 
 int RunConsole(const QStringList& arguments) {
+    QString helpCall = Program + QStringLiteral(" --help");
     try {
-        if (arguments.contains(QStringLiteral("--help"))) {
-            WriteOut(UsageText().toUtf8());
-            return Done;
-        }
-        return RunCommand(ParseCommandLine(arguments)) ? Done : NotDone;
+        return RunCall(arguments, helpCall);
     } catch (const UsageError& error) {
-        Complain(QStringLiteral("wardlockctl: ") + QString::fromStdString(error.what()));
-        Complain(UsageText().section(u'\n', 0, 0));
-        Complain(QStringLiteral("\"wardlockctl --help\" tells the commands and their options"));
+        QString reason = QString::fromUtf8(error.what());
+        if (reason.size() > LongestUsageError)
+            reason = reason.left(LongestUsageError) + QStringLiteral("...");
+        Complain(Program + QStringLiteral(": ") + reason +
+                 QStringLiteral(" (see \"%1\")").arg(helpCall));
         return WrongUsage;
     } catch (const std::exception& error) {
         Complain(QString::fromUtf8(error.what()));

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "CommandLine.h"
 #include "ReportViewer.h"
 
 #include <QByteArray>
+
+enum class ReportFormat { Text, Json, Csv, Pdf };
 
 /// Takes the place of the preview window: keeps a report in one format.
 class ConsoleReport : public ReportViewer {

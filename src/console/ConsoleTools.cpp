@@ -1,15 +1,11 @@
 #include "ConsoleTools.h"
 
-#include "DockingLink.h"
 #include "OutputFile.h"
 #include "RunTimeError.h"
-#include "mDeclareGlobals.h"
 #include "mTranslations.h"
 
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cstdio>
@@ -50,20 +46,7 @@ MessageAnswer ConsoleBoxes::Show(const Message& message) {
     return HarmlessAnswer(message.buttons);
 }
 
-bool Connect(DockingLink& link, const QString& device) {
-    static const QRegularExpression portName(QStringLiteral("^COM([1-8]):?$"),
-                                             QRegularExpression::CaseInsensitiveOption);
-    const auto match = portName.match(device);
-    if (!match.hasMatch())
-        OverrideDevice(QFileInfo::exists(device) ? QFileInfo(device).absoluteFilePath() : device);
-    if (!link.OpenPort(match.hasMatch() ? match.captured(1).toInt() : 1)) {
-        Complain(device + QStringLiteral(": ") + Translate("Could not open the com port.") + u' ' +
-                 Translate("Check settings and try again."));
-        return false;
-    }
-    gDockingDetected = link.DetectStation();
-    if (!gDockingDetected)
-        Complain(Translate("Could not connect to the docking station.") + u' ' +
-                 Translate("Check hardware and settings and try again."));
-    return gDockingDetected;
+void ComplainUnlessSaid(const ConsoleBoxes& boxes, const char* text) {
+    if (boxes.Last().isEmpty())
+        Complain(Translate(text));
 }

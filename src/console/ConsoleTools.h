@@ -5,21 +5,20 @@
 #include <QByteArray>
 #include <QString>
 
-class DockingLink;
 class QJsonObject;
 
-/// What all commands of the command line share.
+/// What all commands share.
 
-/// One line on standard error, whatever line breaks the text has.
+/// One line on standard error, without the line breaks and control characters of the text.
 void Complain(const QString& text);
 
-/// Writes to a file, or to standard output where the path is empty. Throws RunTimeError.
+/// Writes to a file, or to standard output if the path is empty. Throws RunTimeError.
 void WriteOut(const QByteArray& bytes, const QString& path = {});
 void WriteLine(const QString& text);
 void WriteJson(const QJsonObject& object);
 
-/// Notices go to standard error, a line each. Questions are answered so that nothing is done, and
-/// what then was not done is told by the command itself.
+/// While it lives, notices go to standard error, one line each. Questions get the answer that
+/// changes nothing; the command itself then says what was not done.
 class ConsoleBoxes : public MessageBoxes {
 public:
     ConsoleBoxes() { InstallMessageBoxes(this); }
@@ -33,6 +32,5 @@ private:
     QString m_last;
 };
 
-/// Opens the port and asks for the station; false once it has said why not. `device` is the path
-/// of a serial device, or COM1 to COM8.
-bool Connect(DockingLink& link, const QString& device);
+/// Translates the text and complains, unless a notice has already said what went wrong.
+void ComplainUnlessSaid(const ConsoleBoxes& boxes, const char* text);

@@ -1,9 +1,8 @@
 #include "frmMdiReports.h"
 
+#include "ReportCatalogue.h"
 #include "WindowTools.h"
-#include "frmRptTour.h"
 #include "mErrorHandler.h"
-#include "mStore.h"
 #include "mTranslations.h"
 #include "ui_frmMdiReports.h"
 
@@ -39,20 +38,12 @@ frmMdiReports::frmMdiReports(ReportViewer& viewer, QWidget* parent)
 
 frmMdiReports::~frmMdiReports() = default;
 
-const std::vector<frmMdiReports::CatalogueRow>& frmMdiReports::Catalogue() {
-    static const std::vector<CatalogueRow> rows = {
-        {"NewException", "Tour / Exception Report", "Exception Report",
-         &frmMdiReports::LoadTourReport},
-    };
-    return rows;
-}
-
 void frmMdiReports::LoadReportList() {
     m_ui->lvwReports->clear();
     m_ui->lvwReports->setHeaderLabels({Translate("Report Name"), Translate("Description")});
     m_ui->lvwReports->setColumnWidth(0, PixelsOf(2500));
     m_ui->lvwReports->setColumnWidth(1, PixelsOf(4000));
-    for (const CatalogueRow& row : Catalogue())
+    for (const ReportRow& row : ReportCatalogue())
         AddReportItem(QString::fromUtf8(row.key), Translate(row.name), Translate(row.description));
     SizeColumns();
 }
@@ -82,8 +73,8 @@ bool frmMdiReports::eventFilter(QObject* watched, QEvent* event) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         const QTreeWidgetItem* row = SelectedRow();
         if (row && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
-            // Caption and key change places here, so Enter finds no report and only the icon
-            // blinks. Operators know it so; Open Report (Ctrl+O) is the key that opens.
+            // Caption and key are swapped here, so Enter finds no report and only the icon blinks.
+            // Operators are used to this; Open Report (Ctrl+O) is the key that opens.
             ReportParamShow(row->text(0), row->data(0, KeyRole).toString());
             return true;
         }
@@ -91,7 +82,7 @@ bool frmMdiReports::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-/// The current row need not be selected: a click with Ctrl takes the selection off it.
+/// The current row may not be selected: a click with Ctrl deselects it.
 QTreeWidgetItem* frmMdiReports::SelectedRow() const {
     return m_ui->lvwReports->selectedItems().value(0);
 }
@@ -109,23 +100,20 @@ void frmMdiReports::ReportParamShow(const QString& key, const QString& text) {
         if (!row)
             return;
         row->setIcon(0, ProgramIcon(QStringLiteral("arrow")));
-        for (const CatalogueRow& report : Catalogue())
+        for (const ReportRow& report : ReportCatalogue())
             if (key == QString::fromUtf8(report.key))
-                (this->*report.opener)(text);
+                OpenReport(report, text);
         row->setIcon(0, ProgramIcon(QStringLiteral("report")));
     });
 }
 
-void frmMdiReports::LoadTourReport(const QString& caption) {
-    if (CountReaders() < 1) {
-        IvMessageBox(Translate("You must add at least one reader before this report can be used"));
-        return;
-    }
-    if (CountTours() < 1) {
-        IvMessageBox(Translate("You must add at least one tour before this report can be used"));
-        return;
-    }
-    frmRptTour dialog(m_viewer, window());
-    dialog.Title(caption);
-    dialog.exec();
+void frmMdiReports::OpenReport(const ReportRow& report, const QString& caption) {
+    const auto open = [&] {
+        if (ReportNeedsAreMet(report.needs))
+            report.open(caption, m_viewer, window());
+    };
+    if (report.openLabel)
+        Guarded(report.openLabel, open);
+    else
+        open();
 }

@@ -75,41 +75,72 @@ class ConsoleTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void RefusesWrongUsage_data() {
-        QTest::addColumn<QString>("words");
-        for (const char* words :
-             {"",
-              "detect",
-              "detect --device",
-              "frobnicate --device /dev/null",
-              "download --device x --tour 1",
-              "detect --device x --device y",
-              "report tour",
-              "report tour --tour x --reader 4B5831A7 --date 2026-11-21 --format text",
-              "report tour --tour 1 --reader 4B5831A7 --date 21.11.2026 --format text",
-              "report tour --tour 1 --reader 4B5831A7 --date 2026-02-30 --format text",
-              "report tour --tour 1 --reader 4B5831A7 --date 2026-11-21 --format html",
-              "report tour --tour 1 --reader 4B5831A --date 2026-11-21 --format text",
-              "report tour --tour 1 --reader x')UNION/**/SELECT(Password)FROM/**/"
-              "tblOperators-- --date 2026-11-21 --format text",
-              "reader identify",
-              "reader erase --device x",
-              "reader frob --device x",
-              "reader set-clock --device x --time 2026-02-29T10:00",
-              "reader set-clock --device x --time 1999-12-31T23:59",
-              "reader set-options --device x --led --no-led",
-              "reader firmware --device x --yes",
-              "detect --device x --operator guest",
-              "download --device x --keep=yes"})
-            QTest::newRow(words) << QString::fromLatin1(words);
-    }
+    // Each with one plain line that says why.
     void RefusesWrongUsage() {
-        QFETCH(QString, words);
+        const QString report = QStringLiteral("report tour --tour 1 --reader 4B5831A7 ");
+        const QString longWord(100'000, u'9');
+        const std::pair<QString, const char*> calls[] = {
+            {"", "a command is missing"},
+            {"detect", "--device is required"},
+            {"detect --device", "--device needs a value"},
+            {"detect --device= --operator user", "--device is empty"},
+            {"--home  detect --device x", "--home is empty"},
+            {"detect --device x --device=y", "--device is given twice"},
+            {"detect --device x --operator guest", "--operator guest: expected one of"},
+            {"detect --device x -d", "unexpected argument"},
+            {"detect --dev x", "unknown option --dev"},
+            {"detect --device \xff", "not UTF-8"},
+            {"detect --device x \x1b]0;x\x07\n", "unexpected argument \"?]0;x?"},
+            {"frobnicate --device /dev/null", "unknown command \"frobnicate"},
+            {longWord, "unknown command \"9999"},
+            {"-platform frob detect", "unknown command \"-platform frob\""},
+            {"download --device x --tour 1", "unknown option --tour"},
+            {"download --device x --keep=yes", "--keep takes no value"},
+            {report + "--format text", "--date is required"},
+            {report + "--date 21.11.2026", "--date 21.11.2026: expected a date"},
+            {report + "--date 2026-02-30", "--date 2026-02-30: expected a date"},
+            {report + "--date 2026-11-21 --format html", "--format html: expected one of"},
+            {"report tour --tour " + longWord, "--tour 9999"},
+            {"report tour --tour 1 --reader x')UNION/**/SELECT", "eight hexadecimal digits"},
+            {"reader erase --device x", "--yes is required"},
+            {"reader set-clock --device x --time 2026-02-29T10:00", "expected a time"},
+            {"reader set-clock --device x --time 1999-12-31T23:59", "expected a time"},
+            {"reader set-options --device x --led --no-led", "--led excludes --no-led"},
+            {"setup export", "FILE is required"},
+            {"setup export ", "FILE is empty"},
+            {"setup export a b", "unexpected argument \"b\""}};
         const Office office;
-        const Outcome outcome = office.Run(WARDLOCKCTL, words.split(u' ', Qt::SkipEmptyParts));
-        QCOMPARE(outcome.status, 2);
-        QVERIFY2(outcome.err.contains("usage: wardlockctl"), outcome.err.constData());
-        QVERIFY(outcome.out.isEmpty());
+        for (const auto& [words, reason] : calls) {
+            const Outcome outcome =
+                office.Run(WARDLOCKCTL, words.isEmpty() ? QStringList() : words.split(u' '));
+            QVERIFY2(outcome.status == 2, qPrintable(words.left(99)));
+            QVERIFY2(outcome.err.contains(reason), outcome.err.constData());
+            QVERIFY(outcome.err.startsWith("wardlockctl: ") && outcome.out.isEmpty());
+            QVERIFY(outcome.err.count('\n') == 1 && outcome.err.size() < 500);
+            QVERIFY(!outcome.err.contains('\x1b') && !outcome.err.contains('\x07'));
+        }
+    }
+
+    // An example that is wrong usage would end with 2; without a store it ends with 1.
+    void DescribesEachCommandWithAnExampleThatWorks() {
+        const Office office;
+        QFile::remove(office.Store());
+        const Outcome overview = office.Ctl("--help");
+        QCOMPARE(overview.status, 0);
+        int commands = 0;
+        for (const QString& line : QString::fromUtf8(overview.out).split(u'\n')) {
+            if (!line.startsWith(u"  ") || line.startsWith(u"   "))
+                continue;
+            const QString words = line.trimmed().section("  ", 0, 0);
+            const Outcome help = office.Ctl(words + QStringLiteral(" --help"));
+            QCOMPARE(help.status, 0);
+            const QString example =
+                QString::fromUtf8(help.out).section("Example: wardlockctl ", 1).trimmed();
+            QVERIFY2(example.startsWith(words), help.out.constData());
+            QVERIFY2(office.Ctl(example).status == 1, qPrintable(example));
+            ++commands;
+        }
+        QVERIFY(commands > 1);
     }
 
     void NeedsALogin_data() {
@@ -192,17 +223,17 @@ private slots:
         QCOMPARE(failed.err.count('\n'), 1);
     }
 
-    void KeepsWhatItIsTold() {
+    void KeepsTheMemoryOfTheReaderIfAsked() {
         Office office;
         Dock dock(Night);
         const Outcome outcome =
-            office.Ctl(QStringLiteral("download --keep --json --device ") + dock.Device());
+            office.Ctl(QStringLiteral("--keep --device=%1 download --json").arg(dock.Device()));
         QCOMPARE(outcome.status, 0);
         QCOMPARE(outcome.Json()[u"erased"].toBool(), false);
         QCOMPARE(dock.State()[u"touches"].toInt(), 3);
     }
 
-    void TellsWhatWasNotDone_data() {
+    void SaysWhatWasNotDone_data() {
         QTest::addColumn<QByteArray>("scenario");
         QTest::addColumn<QByteArray>("words");
         QTest::addColumn<int>("touchesKept");
@@ -218,7 +249,7 @@ private slots:
         QTest::newRow("silent to the read") << Night + "fault silent read\n"
                                             << QByteArray("Download Failed") << 3;
     }
-    void TellsWhatWasNotDone() {
+    void SaysWhatWasNotDone() {
         QFETCH(QByteArray, scenario);
         QFETCH(QByteArray, words);
         QFETCH(int, touchesKept);
@@ -234,8 +265,8 @@ private slots:
     void ReaderCommands_data() {
         QTest::addColumn<QByteArray>("scenario");
         QTest::addColumn<QString>("words");
-        QTest::addColumn<QByteArray>("output"); // begins so, on standard error where it fails
-        QTest::addColumn<QJsonObject>("state"); // of the dock afterwards, in part
+        QTest::addColumn<QByteArray>("output"); // its beginning; "!": on standard error
+        QTest::addColumn<QJsonObject>("state"); // of the dock afterwards: these values
         const auto row = [](const char* name, const QByteArray& scenario, const char* words,
                             const char* output, const QJsonObject& state = {}) {
             QTest::newRow(name) << scenario << QString::fromLatin1(words) << QByteArray(output)
@@ -249,7 +280,8 @@ private slots:
         row("firmware", Night + "firmware 08", "firmware", "Firmware Version is V06");
         row("firmware as JSON", Night, "firmware --json", R"({"firmware":"V06"})",
             {{"touches", 3}});
-        row("firmware, not told", Night + "firmware FF", "firmware", "!The reader does not tell");
+        row("firmware, not reported", Night + "firmware FF", "firmware",
+            "!The reader did not report");
         row("clock", Night, "set-clock --json --time 2024-02-29T23:59",
             R"({"clock":"2024-02-29T23:59"})", {{"clock", "2024-02-29T23:59"}});
         row("clock refused", Night + "refuse clock 1", "set-clock", "!Reader Clock update failed.",
@@ -286,18 +318,18 @@ private slots:
         QCOMPARE(outcome.status, fails ? 1 : 0);
         QCOMPARE(outcome.err.count('\n'), fails ? 1 : 0);
         QVERIFY(outcome.out.isEmpty() == fails);
-        const QByteArray told = words.contains(u"--json")
-                                    ? QJsonDocument(outcome.Json()).toJson(QJsonDocument::Compact)
-                                : fails ? '!' + outcome.err
-                                        : outcome.out;
-        // A line of the command has single blanks only.
-        QVERIFY2(told.startsWith(output.simplified()), told.constData());
+        const QByteArray result = words.contains(u"--json")
+                                      ? QJsonDocument(outcome.Json()).toJson(QJsonDocument::Compact)
+                                  : fails ? '!' + outcome.err
+                                          : outcome.out;
+        // Complain joins blanks into one.
+        QVERIFY2(result.startsWith(output.simplified()), result.constData());
         const QJsonObject after = dock.State();
         for (auto value = state.begin(); value != state.end(); ++value)
             QVERIFY2(after[value.key()] == value.value(), qPrintable(value.key()));
     }
 
-    // What is not given stays as it was, from one call to the next.
+    // An option that is not given keeps its value from the last call.
     void OptionsAddUp() {
         const Office office;
         Dock dock(Night);

@@ -1,0 +1,33 @@
+#include "Command.h"
+#include "ConsoleDock.h"
+#include "ConsoleTools.h"
+#include "KnownReader.h"
+
+#include <QJsonObject>
+
+namespace {
+
+bool Identify(DockingLink& link, const ConsoleBoxes& boxes, bool json) {
+    const TransferResult transfer = RunConsoleTransfer(link, TransferPurpose::Identifier);
+    if (!transfer.OK) {
+        ComplainUnlessSaid(boxes, "Reader ID Download Failed");
+        return false;
+    }
+    const std::optional<QString> description = ReaderDescription(transfer.PipeID);
+    if (json)
+        WriteJson({{QStringLiteral("reader"), transfer.PipeID},
+                   {QStringLiteral("known"), description.has_value()},
+                   {QStringLiteral("description"), description.value_or(QString())}});
+    else
+        WriteLine(ReaderText(transfer.PipeID));
+    return true;
+}
+
+} // namespace
+
+Command IdentifyCommand() {
+    return {QStringLiteral("reader identify"),
+            QStringLiteral("prints the identifier and description of the docked reader"),
+            QStringLiteral("--device COM1"), Access::MasterOnly,
+            [](CLI::App& options) { return JsonDockRun(options, Identify); }};
+}

@@ -1,0 +1,139 @@
+#include "CommandOptions.h"
+
+#include "CommandParser.h"
+
+#include <QRegularExpression>
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+/// Stores a value, or gives what was expected in its place.
+using Convert = std::function<std::optional<QString>(const QString& value)>;
+
+void AddValue(CLI::App& options, const char* name, const char* kind, const char* help,
+              Presence presence, const Convert& convert) {
+    const auto store = [name, convert](const CLI::results_t& given) {
+        const QString value = QString::fromStdString(given.front());
+        const QString option = QString::fromUtf8(name);
+        if (value.isEmpty())
+            throw UsageError(option + QStringLiteral(" is empty"));
+        if (const std::optional<QString> expected = convert(value))
+            throw UsageError(option + u' ' + value + QStringLiteral(": expected ") + *expected);
+        return true;
+    };
+    options.add_option(name, store, help)
+        ->type_name(kind)
+        ->required(presence == Presence::Required);
+}
+
+} // namespace
+
+void StartOptionGroup(CLI::App& options, const char* heading) {
+    options.option_defaults()->group(heading);
+}
+
+void AddFlag(CLI::App& options, const char* name, bool& value, const char* help) {
+    options.add_flag(name, value, help);
+}
+
+void AddRequiredFlag(CLI::App& options, const char* name, const char* help) {
+    options
+        .add_flag_callback(
+            name, [] {}, help)
+        ->required();
+}
+
+void AddYesNo(CLI::App& options, const char* yes, const char* no, std::optional<bool>& value,
+              const char* yesHelp, const char* noHelp) {
+    CLI::Option* on = options.add_flag_callback(
+        yes, [&value] { value = true; }, yesHelp);
+    CLI::Option* off = options.add_flag_callback(
+        no, [&value] { value = false; }, noHelp);
+    on->excludes(off);
+    for (CLI::Option* option : {on, off})
+        option->option_text(" "); // else the help names the other one on every line
+}
+
+void AddPath(CLI::App& options, const char* name, QString& value, const char* help,
+             Presence presence) {
+    AddValue(options, name, "PATH", help, presence, [&value](const QString& text) {
+        value = text;
+        return std::nullopt;
+    });
+}
+
+void AddFile(CLI::App& options, QString& value, const char* help) {
+    AddValue(options, "FILE", "", help, Presence::Required, [&value](const QString& text) {
+        value = text;
+        return std::nullopt;
+    });
+}
+
+void AddNumber(CLI::App& options, const char* name, int& value, const char* help) {
+    AddValue(options, name, "NUMBER", help, Presence::Required,
+             [&value](const QString& text) -> std::optional<QString> {
+                 bool ok = false;
+                 value = text.toInt(&ok);
+                 if (!ok)
+                     return QStringLiteral("a number");
+                 return {};
+             });
+}
+
+void AddDate(CLI::App& options, const char* name, DateTime& value, const char* help) {
+    AddValue(options, name, "YYYY-MM-DD", help, Presence::Required,
+             [&value](const QString& text) -> std::optional<QString> {
+                 const QDate date = QDate::fromString(text, Qt::ISODate);
+                 if (!date.isValid() || text.size() != 10)
+                     return QStringLiteral("a date as YYYY-MM-DD");
+                 value = DateTime::FromQt(date);
+                 return {};
+             });
+}
+
+void AddMoment(CLI::App& options, const char* name, std::optional<DateTime>& value,
+               const char* help) {
+    AddValue(options, name, "YYYY-MM-DDTHH:MM", help, Presence::Optional,
+             [&value](const QString& text) -> std::optional<QString> {
+                 // Date and time are read apart: a reader's clock has no summer time, so every
+                 // hour of every day exists.
+                 const QDate date = QDate::fromString(text.left(10), QStringLiteral("yyyy-MM-dd"));
+                 const QTime time = QTime::fromString(text.mid(10), QStringLiteral("THH:mm"));
+                 if (!date.isValid() || !time.isValid() || date < QDate(2000, 1, 1) ||
+                     date > QDate(2179, 6, 6))
+                     return QStringLiteral("a time as YYYY-MM-DDTHH:MM, from 2000 to 2179");
+                 value = DateTime::FromQt(date) + DateTime::FromTime(time.hour(), time.minute());
+                 return {};
+             });
+}
+
+void AddReader(CLI::App& options, const char* name, QString& value, const char* help) {
+    AddValue(options, name, "ID", help, Presence::Required,
+             [&value](const QString& text) -> std::optional<QString> {
+                 static const QRegularExpression identifier(QStringLiteral("\\A[0-9A-Fa-f]{8}\\z"));
+                 if (!identifier.match(text).hasMatch())
+                     return QStringLiteral("eight hexadecimal digits");
+                 value = text.toUpper();
+                 return {};
+             });
+}
+
+void AddWord(CLI::App& options, const char* name, const QStringList& words,
+             const std::function<void(qsizetype)>& store, const char* help, Presence presence) {
+    AddValue(options, name, words.join(u'|').toUtf8().constData(), help, presence,
+             [words, store](const QString& text) -> std::optional<QString> {
+                 if (!words.contains(text))
+                     return QStringLiteral("one of ") + words.join(QStringLiteral(", "));
+                 store(words.indexOf(text));
+                 return {};
+             });
+}
+
+void AddJson(CLI::App& options, bool& value) {
+    AddFlag(options, "--json", value, "prints the result as JSON");
+}
+
+void AddOutput(CLI::App& options, QString& value) {
+    AddPath(options, "--output", value, "writes into this file; else to standard output");
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "DateTime.h"
+
+#include <QString>
+
+#include <functional>
+#include <initializer_list>
+#include <optional>
+#include <utility>
+
+namespace CLI {
+class App;
+}
+
+/// The kinds of options that a command is made of. Each routine adds one to a command and says
+/// where its value goes; that place must outlive CommandParser::Parse. It is left as it is if the
+/// option is not given. A value that is empty or of the wrong kind is a UsageError. `help` is a few
+/// words for the command's description.
+
+enum class Presence { Optional, Required };
+
+/// A heading for the options that are added next.
+void StartOptionGroup(CLI::App& options, const char* heading);
+
+/// True if it is given. It takes no value.
+void AddFlag(CLI::App& options, const char* name, bool& value, const char* help);
+/// As a flag, but the call means nothing without it.
+void AddRequiredFlag(CLI::App& options, const char* name, const char* help);
+/// Two flags that exclude each other.
+void AddYesNo(CLI::App& options, const char* yes, const char* no, std::optional<bool>& value,
+              const char* yesHelp, const char* noHelp);
+
+/// The path of a file, folder or device.
+void AddPath(CLI::App& options, const char* name, QString& value, const char* help,
+             Presence presence = Presence::Optional);
+/// A required word of the call, without a "--": the path of a file.
+void AddFile(CLI::App& options, QString& value, const char* help);
+/// A required number, such as the ID of a tour.
+void AddNumber(CLI::App& options, const char* name, int& value, const char* help);
+/// A required day, as YYYY-MM-DD.
+void AddDate(CLI::App& options, const char* name, DateTime& value, const char* help);
+/// A minute, as YYYY-MM-DDTHH:MM, from 2000 to 2179: the range of a reader's clock.
+void AddMoment(CLI::App& options, const char* name, std::optional<DateTime>& value,
+               const char* help);
+/// A required reader: its identifier of eight hexadecimal digits, stored in upper case.
+void AddReader(CLI::App& options, const char* name, QString& value, const char* help);
+
+/// One of several words; `store` takes the number of the chosen one.
+void AddWord(CLI::App& options, const char* name, const QStringList& words,
+             const std::function<void(qsizetype)>& store, const char* help, Presence presence);
+/// One of several words, each of which means a value.
+template <typename T>
+void AddChoice(CLI::App& options, const char* name,
+               std::initializer_list<std::pair<const char*, T>> choices, T& value, const char* help,
+               Presence presence = Presence::Optional) {
+    QStringList words;
+    QList<T> values;
+    for (const auto& [word, meaning] : choices) {
+        words += QString::fromUtf8(word);
+        values += meaning;
+    }
+    AddWord(
+        options, name, words, [values, &value](qsizetype chosen) { value = values[chosen]; }, help,
+        presence);
+}
+
+/// Result as JSON.
+void AddJson(CLI::App& options, bool& value);
+/// The file that takes the result; standard output if it is not given.
+void AddOutput(CLI::App& options, QString& value);

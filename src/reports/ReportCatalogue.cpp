@@ -1,0 +1,26 @@
+#include "ReportCatalogue.h"
+
+#include "TourReportRow.h"
+#include "mStore.h"
+#include "mTranslations.h"
+
+const std::vector<ReportRow>& ReportCatalogue() {
+    static const std::vector<ReportRow> rows = {
+        TourReportRow(),
+    };
+    return rows;
+}
+
+bool ReportNeedsAreMet(ReportNeeds needs) {
+    const bool needsReader = needs == ReportNeeds::Reader || needs == ReportNeeds::ReaderThenTour;
+    const bool needsTour = needs == ReportNeeds::Tour || needs == ReportNeeds::ReaderThenTour;
+    if (needsReader && CountReaders() < 1) {
+        IvMessageBox(Translate("You must add at least one reader before this report can be used"));
+        return false;
+    }
+    if (needsTour && CountTours() < 1) {
+        IvMessageBox(Translate("You must add at least one tour before this report can be used"));
+        return false;
+    }
+    return true;
+}
