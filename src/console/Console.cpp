@@ -8,7 +8,9 @@
 #include "ConsoleTools.h"
 #include "DockingLink.h"
 #include "InstanceLock.h"
+#include "LookUps.h"
 #include "SetupFile.h"
+#include "StoreUpkeep.h"
 #include "TourReportBuilder.h"
 #include "mErrorHandler.h"
 #include "mOperators.h"
@@ -76,8 +78,8 @@ bool Download(DockingLink& link, const CommandLine& line, const ConsoleBoxes& bo
 
 /// The reader as the report's header names it; its identifier alone where it was never taught.
 QString ReaderText(const QString& readerId) {
-    const KnownReader reader = LookUpReader(readerId);
-    return reader.known ? readerId + QStringLiteral(" - ") + reader.description : readerId;
+    const std::optional<Reader> reader = FindReader(readerId);
+    return reader ? readerId + QStringLiteral(" - ") + reader->description : readerId;
 }
 
 bool ReportTour(const CommandLine& line, const ConsoleBoxes& boxes) {

@@ -3,9 +3,9 @@
 #include "Clock.h"
 #include "ConsoleDownload.h"
 #include "ConsoleTools.h"
-#include "Definitions.h"
 #include "DockingLink.h"
 #include "Format.h"
+#include "LookUps.h"
 #include "MemoryImage.h"
 #include "ReaderSignals.h"
 #include "mTranslations.h"
@@ -22,27 +22,20 @@ void ComplainOfTransfer(const ConsoleBoxes& boxes, const char* text) {
 
 } // namespace
 
-KnownReader LookUpReader(const QString& readerId) {
-    for (const Reader& reader : Readers())
-        if (reader.id == readerId)
-            return {true, reader.description};
-    return {};
-}
-
 bool IdentifyReader(DockingLink& link, const CommandLine& line, const ConsoleBoxes& boxes) {
     const TransferResult transfer = RunConsoleTransfer(link, TransferPurpose::Identifier);
     if (!transfer.OK) {
         ComplainOfTransfer(boxes, "Reader ID Download Failed");
         return false;
     }
-    const KnownReader reader = LookUpReader(transfer.PipeID);
+    const std::optional<Reader> reader = FindReader(transfer.PipeID);
+    const QString description = reader ? reader->description : QString();
     if (line.json)
         WriteJson({{QStringLiteral("reader"), transfer.PipeID},
-                   {QStringLiteral("known"), reader.known},
-                   {QStringLiteral("description"), reader.description}});
+                   {QStringLiteral("known"), reader.has_value()},
+                   {QStringLiteral("description"), description}});
     else
-        WriteLine(transfer.PipeID +
-                  (reader.known ? QStringLiteral(" - ") + reader.description : QString()));
+        WriteLine(transfer.PipeID + (reader ? QStringLiteral(" - ") + description : QString()));
     return true;
 }
 

@@ -13,10 +13,3 @@ bool TellFirmware(DockingLink& link, const CommandLine& line, const ConsoleBoxes
 bool SetReaderClock(DockingLink& link, const CommandLine& line);
 bool SetReaderOptions(DockingLink& link, const CommandLine& line);
 bool EraseReader(DockingLink& link, const CommandLine& line);
-
-/// What tblReaders knows of an identifier.
-struct KnownReader {
-    bool known = false;
-    QString description;
-};
-KnownReader LookUpReader(const QString& readerId);

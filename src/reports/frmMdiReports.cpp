@@ -1,9 +1,9 @@
 #include "frmMdiReports.h"
 
+#include "LookUps.h"
 #include "WindowTools.h"
 #include "frmRptTour.h"
 #include "mErrorHandler.h"
-#include "mStore.h"
 #include "mTranslations.h"
 #include "ui_frmMdiReports.h"
 

@@ -5,6 +5,7 @@
 #include "Format.h"
 #include "InstanceLock.h"
 #include "MessageBox.h"
+#include "StoreUpkeep.h"
 #include "WindowTools.h"
 #include "deMain.h"
 #include "frmLanguage.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "RunTimeError.h"
+#include "StoreUpkeep.h"
 #include "mDeclareGlobals.h"
 #include "mStore.h"
 

@@ -325,7 +325,7 @@ private slots:
             AddReader({hostile, hostile});
             UpdateReader({hostile, hostile + '2'});
             QCOMPARE(Readers().last().description, hostile + '2');
-            QVERIFY(IsKnownReader(hostile));
+            QVERIFY(FindReader(hostile));
             DeleteReader(hostile);
             const int tour = AddTour(hostile);
             UpdateTour({tour, hostile, hostile, 5, {}});

@@ -4,6 +4,7 @@
 
 #include "Connection.h"
 #include "DateTime.h"
+#include "SqlDate.h"
 #include "SqlTranslator.h"
 #include "TestHome.h"
 

@@ -1,7 +1,10 @@
 // Operators and the store's small routines.
 
-#include "Recordset.h"
+#include "LookUps.h"
+#include "ScratchTable.h"
 #include "Settings.h"
+#include "SqlDate.h"
+#include "TableExists.h"
 #include "TestHome.h"
 #include "mOperators.h"
 
@@ -82,7 +85,7 @@ private slots:
         gConn->Execute("INSERT INTO tblReaders VALUES ('9', 'x'), ('10', 'x')");
         QCOMPARE(CountReaders(), 3);
         QCOMPARE(CountTours(), 2);
-        QVERIFY(IsKnownReader("10") && !IsKnownReader("1"));
+        QVERIFY(FindReader("10") && !FindReader("1"));
     }
 
     void DatesAsSql() {

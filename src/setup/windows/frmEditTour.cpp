@@ -1,10 +1,9 @@
 #include "frmEditTour.h"
 
-#include "Definitions.h"
 #include "Format.h"
+#include "LookUps.h"
 #include "NameField.h"
 #include "Number.h"
-#include "Recordset.h"
 #include "TourListDrag.h"
 #include "WindowTools.h"
 #include "frmEditTime.h"
@@ -102,15 +101,9 @@ void frmEditTour::Populate() {
 }
 
 void frmEditTour::FillSites() {
-    Recordset sites;
-    sites.CursorLocation = adUseClient;
-    sites.Open(QStringLiteral("SELECT tblListItems.ID, tblListItems.tName, tblListItems.tDesc "
-                              "FROM tblListItems WHERE (((tblListItems.wType) = 1)) "
-                              "ORDER BY tblListItems.tName; "),
-               *gConn);
-    for (; !sites.Eof(); sites.MoveNext())
-        m_ui->imgCboSites->addItem(ProgramIcon(QStringLiteral("location")), sites.Text(u"tName"),
-                                   static_cast<int>(sites.Number(u"ID")));
+    const QIcon icon = ProgramIcon(QStringLiteral("location"));
+    for (const Group& site : SitesByName())
+        m_ui->imgCboSites->addItem(icon, site.name, site.id);
 }
 
 void frmEditTour::FillLocations() {
