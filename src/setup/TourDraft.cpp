@@ -32,7 +32,7 @@ void TourDraft::Load(int tourId) {
 void TourDraft::Write(int tourId) const {
     gConn->Execute(QStringLiteral("DELETE * FROM tblTourPoints WHERE lParentID = ? ;"), {tourId});
     Recordset rows;
-    // Forward only: the points of the other tours are of no concern.
+    // Forward only, so that the other tours' points are not fetched.
     rows.Open(
         QStringLiteral("SELECT ID, lParentID, lIndex, dtTime, tButtonCode FROM tblTourPoints ;"),
         *gConn, adOpenForwardOnly);
