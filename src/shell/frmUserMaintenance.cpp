@@ -48,7 +48,7 @@ void frmUserMaintenance::cmdOK_Click() {
         m_ui->txtPassword->setFocus();
         return;
     }
-    if (HasControls(m_ui->txtPassword->text())) { // the login could never be given it again
+    if (HasControls(m_ui->txtPassword->text())) { // it could not be typed at the login
         IvMessageBox(
             Translate("A password cannot contain line breaks or other control characters."));
         FocusAndSelect(*m_ui->txtPassword);

@@ -16,7 +16,7 @@ public:
     explicit frmUserMaintenance(QWidget* parent);
     ~frmUserMaintenance() override;
 
-    /// To be called before it is shown.
+    /// Call this before the window is shown.
     void FormStart(OperatorType type);
 
 private:

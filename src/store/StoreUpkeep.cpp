@@ -30,8 +30,8 @@ void CompactStore(const QString& provider, const QString& path, const QString& t
                   const QString& password) {
     gStoreDamaged = false;
     const auto compact = [&] {
-        // Held until the new file is in place: a program that opened the old one in between would
-        // write to a file that is gone.
+        // Held until the new file is in place: a program that opened the old one before that would
+        // write to a file that no longer exists.
         const StoreLock hold(path);
         const QString store = QFileInfo(path).canonicalFilePath();
         const QString copy = CopyBeside(store, tempPath);

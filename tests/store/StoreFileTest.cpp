@@ -327,7 +327,7 @@ private slots:
         QCOMPARE(gConn->QuickCheck(), QString());
         QVERIFY(!QFile::exists(journal) && !QFile::exists(home.Store() + ".trial"));
         QCOMPARE(QDir(home.File({})).entryList({"main.mdb-journal.*"}).size(), 1);
-        QVERIFY(boxes.TakeTexts().value(0).startsWith("Beside the database lay a journal"));
+        QVERIFY(boxes.TakeTexts().value(0).startsWith("A journal beside the database"));
     }
 
     void CompactionKeepsAllButTheWaste() {
