@@ -28,7 +28,7 @@ public:
     int Tolerance = 0;  ///< minutes
     QStringList ExistingNames;
     std::uint8_t ItemType = 0; ///< part of the window's interface; changes nothing
-    bool AddMode = false;      ///< likewise
+    bool AddMode = false;      ///< changes nothing either
 
     /// The points, with the operator's changes.
     const TourDraft& Points() const { return m_draft; }
