@@ -67,12 +67,15 @@ private slots:
             "Error 3704 in InitRptTmp of Form frmRptHardwareListParam\t("));
     }
 
-    void Counts() {
+    void LookUps() {
         const TestHome home(TestHome::DemoSite);
         gConn->Execute("INSERT INTO tblReaders VALUES ('9', 'x'), ('10', 'x')");
         QCOMPARE(CountReaders(), 3);
         QCOMPARE(CountTours(), 2);
         QVERIFY(FindReader("10") && !FindReader("1"));
+        QVERIFY(FindButton("1A40C2") && !FindButton("FFFFFF"));
+        gConn->Execute("INSERT INTO tblButtons (lParentID, tButtonCode) VALUES (2, '1A40C2')");
+        QVERIFY(!FindButton("1A40C2")); // two buttons have this code
     }
 
     void DatesAsSql() {
