@@ -9,6 +9,7 @@
 #include "ReportViewer.h"
 #include "Schema.h"
 #include "StoreTouches.h"
+#include "StoreUpkeep.h"
 #include "TourReportBuilder.h"
 #include "mStore.h"
 #include "mWardlock.h"

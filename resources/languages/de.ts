@@ -68,7 +68,7 @@
         <translation>Sie ist beschädigt. Bitte eine Sicherung zurückspielen.</translation>
     </message>
     <message>
-        <source>Beside the database lay a journal that did not belong to it. The database was opened without it.</source>
+        <source>A journal beside the database did not belong to it. The database was opened without it.</source>
         <translation>Neben der Datenbank lag ein Journal, das nicht zu ihr gehörte. Die Datenbank wurde ohne es geöffnet.</translation>
     </message>
     <message>
@@ -384,7 +384,7 @@
         <translation>Fehler beim Anlegen des Rundgangs</translation>
     </message>
     <message>
-        <source>The settings cannot be saved. What you choose now is forgotten when the program ends.</source>
+        <source>The settings cannot be saved. What you change now is lost when the program ends.</source>
         <translation>Die Einstellungen können nicht gespeichert werden. Was jetzt gewählt wird, ist nach dem Beenden vergessen.</translation>
     </message>
     <message>

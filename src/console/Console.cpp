@@ -1,11 +1,13 @@
 #include "Console.h"
 
+#include "AppVersion.h"
 #include "Application.h"
 #include "Command.h"
 #include "CommandOptions.h"
 #include "CommandParser.h"
 #include "ConsoleTools.h"
 #include "InstanceLock.h"
+#include "StoreUpkeep.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 #include "mOperators.h"

@@ -3,8 +3,8 @@
 #include "CommandOptions.h"
 #include "ConsoleTools.h"
 #include "DockingLink.h"
+#include "StoreUpkeep.h"
 #include "mDeclareGlobals.h"
-#include "mStore.h"
 #include "mTranslations.h"
 
 #include <QEventLoop>

@@ -1,7 +1,7 @@
 #include "Command.h"
 #include "ConsoleDock.h"
 #include "ConsoleTools.h"
-#include "KnownReader.h"
+#include "LookUps.h"
 
 #include <QJsonObject>
 
@@ -13,13 +13,13 @@ bool Identify(DockingLink& link, const ConsoleBoxes& boxes, bool json) {
         ComplainUnlessSaid(boxes, "Reader ID Download Failed");
         return false;
     }
-    const std::optional<QString> description = ReaderDescription(transfer.PipeID);
+    const std::optional<Reader> reader = FindReader(transfer.PipeID);
     if (json)
         WriteJson({{QStringLiteral("reader"), transfer.PipeID},
-                   {QStringLiteral("known"), description.has_value()},
-                   {QStringLiteral("description"), description.value_or(QString())}});
+                   {QStringLiteral("known"), reader.has_value()},
+                   {QStringLiteral("description"), reader ? reader->description : QString()}});
     else
-        WriteLine(ReaderText(transfer.PipeID));
+        WriteLine(reader ? ReaderText(*reader) : transfer.PipeID);
     return true;
 }
 

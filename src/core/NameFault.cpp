@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Would end a line, or turn the rest of one round.
+/// Ends a line, or reverses the rest of it.
 bool IsControl(QChar character) {
     const QChar::Category category = character.category();
     const QChar::Direction direction = character.direction();

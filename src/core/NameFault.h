@@ -3,26 +3,26 @@
 #include <QString>
 #include <QStringList>
 
-/// What is being named; it decides the words.
+/// What is named. It decides the wording of the messages.
 enum class Named {
     Item, ///< a reader or a button
     Group ///< a group or a tour
 };
 
-/// What a report can show of a name in full, two of them in one line.
+/// The longest name that a report can show in full with another one in the same line.
 constexpr int MostNameLetters = 100;
 
-/// True for a text with line breaks, other control characters, or marks that turn the direction of
-/// writing round.
+/// True if a text has line breaks, other control characters, or marks that reverse the direction of
+/// writing.
 bool HasControls(const QString& text);
 
-/// Why a text cannot be a name or a description, as the message to show; empty where it can. Line
-/// breaks and other control characters would tear lists and reports apart, and what is longer than
+/// Why a text cannot be a name or a description, as the message to show; empty if it can. Line
+/// breaks and other control characters would break lists and reports, and a text longer than
 /// MostNameLetters would be cut there.
 QString TextFault(const QString& text);
 
-/// Why a name cannot be given, as the message to show; empty where it can. `name` is trimmed
-/// already. A name that stays what it was, `received`, is not looked for among `existingNames`,
-/// which are compared exactly. TextFault's rule holds for a name too.
+/// Why a name cannot be used, as the message to show; empty if it can. `name` is already trimmed.
+/// It must not be one of `existingNames`, compared exactly, unless it is unchanged (`received`). It
+/// must also pass TextFault.
 QString NameFault(Named what, const QString& name, const QStringList& existingNames,
                   const QString& received = {});

@@ -6,7 +6,7 @@
 #include <array>
 #include <memory>
 
-/// The state that several subsystems share. All of it lives on the interface thread.
+/// The state that several subsystems share. It is used on the interface thread only.
 
 /// Sections of the settings store under SettingsApplication.
 namespace SettingsSection {
@@ -22,20 +22,20 @@ inline const QString Reader = QStringLiteral("Reader"); ///< what cReaderOptions
 /// The two operators.
 enum OperatorType { NoOperator = 0, MasterOperator = 1, UserOperator = 2 };
 
-/// What a touched button's group is, as stored with every touch.
+/// The kinds of groups, as stored with every touch.
 enum GroupType { UserGroup = 0, SiteGroup = 1, EventBookGroup = 2 };
 
 extern bool gDebugMode; ///< false once the program has started
-extern bool gDemoMode;
-extern int gEdition;  ///< branding variant, always 0
-extern int gLanguage; ///< number of the dictionary's language, -1 the system's
+extern bool gDemoMode;  ///< "-demo" was given; a published switch that changes nothing else
+extern int gEdition;    ///< branding variant; there is only one, 0
+extern int gLanguage;   ///< number of the dictionary's language; -1: the system's language
 extern std::unique_ptr<Dictionary> gDictionary;
 extern QString gDatabasePath;             ///< path of "main.mdb"
-extern QString gConnectionString;         ///< the same store as a connection text
+extern QString gConnectionString;         ///< the store as a connection text
 extern std::unique_ptr<Connection> gConn; ///< the shared store connection
-extern bool gStoreDamaged; ///< the open store failed its check: no reader may be erased on it
+extern bool gStoreDamaged; ///< the open store failed its check, so no reader may be erased
 extern bool gAutoSetTime;  ///< set the reader's clock when a download runs
 extern std::array<QString, 4> gCompanyInfo; ///< the company lines printed on reports
 extern bool gDockingDetected;               ///< the docking station answered at the last connect
-extern bool gCommActive;                    ///< incoming serial bytes are to be collected
+extern bool gCommActive;                    ///< incoming serial bytes are collected, not dropped
 extern bool gWaitCancelled;                 ///< makes DockingLink::WaitFor stop its loop

@@ -1,5 +1,6 @@
 #include "mErrorHandler.h"
 
+#include "AppVersion.h"
 #include "Application.h"
 #include "Clock.h"
 #include "Format.h"
@@ -8,12 +9,6 @@
 #include <QFile>
 
 #include <cstdlib>
-
-namespace {
-
-EndProgramRoutine g_endProgram = nullptr;
-
-} // namespace
 
 void WriteLog(const QString& message) {
     const QString line = DefaultDateTimeText(Now()) + u'\t' + message + u'\n';
@@ -51,11 +46,4 @@ void ShowProcedureError(const QString& procedure, const RunTimeError& error) {
            {}, MessageKind::Warning);
 }
 
-void InstallEndProgram(EndProgramRoutine routine) { g_endProgram = routine; }
-
-void EndProgram() {
-    if (g_endProgram)
-        g_endProgram();
-    else
-        std::_Exit(EXIT_FAILURE);
-}
+void EndProgram() { std::_Exit(EXIT_FAILURE); }

@@ -7,29 +7,29 @@
 #include <new>
 #include <type_traits>
 
-/// Failures: the log and the error dialog, and the one handler that a procedure carries.
+/// Failures: the log, the error dialog, and the handlers that catch RunTimeError at the doors of
+/// the program: slots, timers, and the entry points that have a label in the log. Everything
+/// further inside throws or returns.
 
-/// Appends one line to "error.log" in the application folder: date and time, a tab, the message.
-/// Where that fails, a box tells of it and the caller goes on.
+/// Appends one line to "error.log" in the application folder: date and time, a tab, the message. If
+/// that fails, a box says so and the caller goes on.
 void WriteLog(const QString& message);
 
 enum class ErrorShow { LogOnly, Dialog };
 
-/// Logs a failure under the procedure's label and, if asked, shows it in a box whose Cancel ends
-/// the program at once, with no clean-up.
+/// Logs a failure under the procedure's label. If asked, also shows it in a box whose Cancel button
+/// ends the program at once, without cleaning up.
 void ReportError(const QString& procedure, const RunTimeError& error,
                  ErrorShow show = ErrorShow::Dialog);
 
-/// A box and no line in the log: "Error 13 in procedure SqlDateFmt: ...". Some store code tells its
-/// failures so.
+/// Shows a failure in a box, without a line in the log: "Error 13 in procedure SqlDateFmt: ...".
+/// Some store code reports its failures this way.
 void ShowProcedureError(const QString& procedure, const RunTimeError& error);
 
-/// How the program ends at once. Tests put something else in its place.
-using EndProgramRoutine = void (*)();
-void InstallEndProgram(EndProgramRoutine routine);
-void EndProgram();
+/// Ends the program at once, without cleaning up.
+[[noreturn]] void EndProgram();
 
-/// Runs the body and hands what it throws to `handle`. Gives the body's result, or an empty one
+/// Runs the body and passes what it throws to `handle`. Returns the body's result, or an empty one
 /// after a failure.
 template <typename Body, typename Handle>
 auto Trapped(Body&& body, Handle&& handle) -> std::invoke_result_t<Body> {
@@ -44,8 +44,7 @@ auto Trapped(Body&& body, Handle&& handle) -> std::invoke_result_t<Body> {
         return {};
 }
 
-/// A procedure's body with its handler: a failure is reported under the label and does not leave
-/// the procedure.
+/// Runs a procedure's body. A failure is reported under the label and goes no further.
 template <typename Body>
 auto Guarded(const char* label, ErrorShow show, Body&& body) {
     return Trapped(body, [&](const RunTimeError& error) {
@@ -57,7 +56,7 @@ auto Guarded(const char* label, Body&& body) {
     return Guarded(label, ErrorShow::LogOnly, body);
 }
 
-/// The same, told by ShowProcedureError.
+/// The same, reported by ShowProcedureError.
 template <typename Body>
 auto GuardedWithBox(const char* procedure, Body&& body) {
     return Trapped(body, [&](const RunTimeError& error) {
@@ -65,7 +64,7 @@ auto GuardedWithBox(const char* procedure, Body&& body) {
     });
 }
 
-/// A body whose failure is expected and means nothing, such as dropping a table that is not there.
+/// Runs a body whose failure is expected and harmless, such as dropping a table that is not there.
 /// True if it succeeded.
 template <typename Body>
 bool IgnoringErrors(Body&& body) {

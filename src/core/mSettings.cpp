@@ -49,9 +49,8 @@ void ReadRemainingSettings() {
 void ReportLostSettings() {
     InstallSettingsLost([](const QString& path) {
         WriteLog(QStringLiteral("The settings cannot be saved: ") + path);
-        IvMessageBox(
-            Translate("The settings cannot be saved. What you choose now is forgotten when "
-                      "the program ends.") +
-            u'\n' + path);
+        IvMessageBox(Translate("The settings cannot be saved. What you change now is lost when the "
+                               "program ends.") +
+                     u'\n' + path);
     });
 }

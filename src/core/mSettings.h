@@ -4,18 +4,19 @@
 
 #include <QString>
 
-/// The saved options. One whose text cannot be read has its default, and the log names it.
+/// The saved options. If a saved value cannot be read, only that one falls back to its default, and
+/// the log names it.
 
-/// A number, as `convert` reads it.
+/// A number, converted by `convert`.
 int SavedNumber(const QString& section, const QString& key, int fallback,
                 int (*convert)(const QString&) = ToInteger);
 bool SavedBoolean(const QString& section, const QString& key, bool fallback);
 
-/// gLanguage.
+/// Reads gLanguage.
 void ReadLanguageSetting();
-/// gAutoSetTime and gCompanyInfo, whose lines are cut to 50 characters.
+/// Reads gAutoSetTime, and gCompanyInfo with each line cut to 50 characters.
 void ReadRemainingSettings();
 
-/// From now on, a box and a line in the log say that the settings can no longer be written: once,
+/// From now on, if the settings can no longer be written, a box and a line in the log say so: once,
 /// not at every write.
 void ReportLostSettings();

@@ -1,5 +1,6 @@
 #include "mTranslations.h"
 
+#include "AppVersion.h"
 #include "Application.h"
 #include "Format.h"
 #include "Settings.h"

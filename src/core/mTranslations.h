@@ -5,18 +5,18 @@
 #include <QString>
 #include <QStringList>
 
-/// The language layer: every text that an operator sees passes through here at the moment of use.
+/// The language layer: every text that an operator sees is translated here when it is used.
 
-/// A text in the present language; itself where there is no dictionary or no entry.
+/// A text in the present language. Without a dictionary or an entry, the text itself.
 QString Translate(const QString& text);
 QString Translate(const char* text);
 
-/// A message box with its buttons in the present language. The text is translated already.
+/// A message box with its buttons in the present language. The text is already translated.
 MessageAnswer IvMessageBox(const QString& text, MessageKind kind = MessageKind::Warning,
                            MessageButtons buttons = MessageButtons::Ok,
                            const QString& caption = {});
 
-/// "%0:s" and so on in a translated pattern.
+/// Replaces "%0:s" and so on in a translated pattern.
 QString FormatStr(const QString& pattern, const QStringList& values);
 
 /// The fixed short title, never translated.
@@ -26,9 +26,9 @@ inline const QString ShortTitle = QStringLiteral("Wardlock Lite");
 QString GetReportsTitle();
 /// Major and minor number, "1.00".
 QString GetVersionString();
-/// The product title with the version, as window and splash show it.
+/// The product title with the version, for the main window and the splash window.
 QString TitleWithVersion();
 
-/// Opens the dictionary for gLanguage: makes gDictionary, and falls back to language 1, saved,
-/// with a message, when the language cannot be shown.
+/// Makes gDictionary and opens it for gLanguage. If that language cannot be shown, says so, falls
+/// back to language 1 and saves that.
 void OpenDictionary();

@@ -1,7 +1,7 @@
 #include "ButtonCapture.h"
 
 #include "DockingLink.h"
-#include "Recordset.h"
+#include "LookUps.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 #include "mWardlock.h"
@@ -27,15 +27,7 @@ QString ButtonCodeOf(const QByteArray& frame) {
 ButtonCapture::ButtonCapture(DockingLink& link) : m_link(link) {
     gCommActive = true;
     m_link.InBuffer().Clear();
-    Guarded("Form_Load of Form frmAddButton", [this] {
-        QSet<QString> codes;
-        Recordset buttons;
-        buttons.CursorLocation = adUseClient;
-        buttons.Open(QStringLiteral("SELECT tButtonCode FROM tblButtons ;"), *gConn);
-        for (; !buttons.Eof(); buttons.MoveNext())
-            codes += buttons.Text(u"tButtonCode");
-        m_codes = std::move(codes);
-    });
+    Guarded("Form_Load of Form frmAddButton", [this] { m_codes = ButtonCodes(); });
 }
 
 ButtonCapture::~ButtonCapture() { gCommActive = false; }

@@ -7,7 +7,6 @@
 #include "StoreTouches.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
-#include "mStore.h"
 #include "mTranslations.h"
 
 void MemoryDownload::Run() {

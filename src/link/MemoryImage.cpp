@@ -1,7 +1,7 @@
 #include "MemoryImage.h"
 
 #include "Format.h"
-#include "Recordset.h"
+#include "LookUps.h"
 #include "Trace.h"
 #include "mTranslations.h"
 #include "mWardlock.h"
@@ -89,21 +89,12 @@ const cRawButton& ButtonDirectory::LookUpButtonData(const QString& code) {
     cRawButton button;
     button.ButtonCode = code;
     button.Name = Translate("Unknown");
-    Recordset rows;
-    rows.CursorLocation = adUseClient;
-    rows.Open(QStringLiteral("SELECT tblButtons.tButtonCode, tblListItems.wType, "
-                             "tblButtons.tButtonName, tblButtons.tButtonDesc, "
-                             "tblListItems.tName AS tGroupName, tblListItems.tDesc AS tGroupDesc "
-                             "FROM tblButtons INNER JOIN tblListItems ON "
-                             "tblButtons.lParentID = tblListItems.ID "
-                             "WHERE (((tblButtons.tButtonCode)=?));"),
-              {code}, *gConn);
-    if (rows.RecordCount() == 1) {
-        button.EventType = static_cast<int>(rows.Number(u"wType"));
-        button.Name = rows.Text(u"tButtonName");
-        button.Description = rows.Text(u"tButtonDesc");
-        button.GroupName = rows.Text(u"tGroupName");
-        button.GroupDesc = rows.Text(u"tGroupDesc");
+    if (const std::optional<ButtonData> data = FindButton(code)) {
+        button.EventType = data->groupType;
+        button.Name = data->name;
+        button.Description = data->description;
+        button.GroupName = data->groupName;
+        button.GroupDesc = data->groupDescription;
     }
     return *m_known.insert(code, button);
 }

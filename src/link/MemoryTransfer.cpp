@@ -2,10 +2,10 @@
 
 #include "DockingLink.h"
 #include "Format.h"
+#include "LookUps.h"
 #include "MemoryImage.h"
 #include "Trace.h"
 #include "mErrorHandler.h"
-#include "mStore.h"
 #include "mTranslations.h"
 #include "mWardlock.h"
 
@@ -164,7 +164,7 @@ bool MemoryTransfer::MayBeFirst(const QByteArray& frame) const {
 
 MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray& frame) {
     const QString readerId = ReaderIdOf(frame);
-    IgnoringErrors([&] { m_taught = IsKnownReader(readerId); });
+    IgnoringErrors([&] { m_taught = FindReader(readerId).has_value(); });
     if (!MayBeFirst(frame))
         return Failed;
     m_firmware = FirmwareTextOf(frame);

@@ -2,9 +2,9 @@
 
 #include "Clock.h"
 #include "Recordset.h"
+#include "TableExists.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
-#include "mStore.h"
 
 #include <algorithm>
 

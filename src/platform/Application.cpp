@@ -1,7 +1,5 @@
 #include "Application.h"
 
-#include "Version.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -38,7 +36,3 @@ QString GetMyDocumentsPath() {
 QString AppExeName() {
     return QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName();
 }
-
-int AppMajor() { return WARDLOCK_VERSION_MAJOR; }
-int AppMinor() { return WARDLOCK_VERSION_MINOR; }
-int AppRevision() { return WARDLOCK_VERSION_REVISION; }

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// What the program knows of itself and of the folder it runs in.
+/// The program's name and its folders.
 
 /// The application folder, without a separator at its end: the folder of the executable, unless
 /// the environment variable WARDLOCK_HOME or SetAppPath names another.
@@ -14,7 +14,3 @@ QString AppFile(const QString& name);
 QString GetMyDocumentsPath();
 /// The executable's name without its extension.
 QString AppExeName();
-
-int AppMajor();
-int AppMinor();
-int AppRevision();

@@ -4,8 +4,8 @@
 
 #include <exception>
 
-/// The one type that the platform throws. It is caught by the handler of the procedure that asked
-/// (mErrorHandler.h) and never crosses two procedures of the system.
+/// The one type that is thrown. It passes through inner routines and is caught at the doors of the
+/// program (mErrorHandler.h).
 class RunTimeError : public std::exception {
 public:
     RunTimeError(int number, QString description)

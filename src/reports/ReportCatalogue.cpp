@@ -1,7 +1,7 @@
 #include "ReportCatalogue.h"
 
+#include "LookUps.h"
 #include "TourReportRow.h"
-#include "mStore.h"
 #include "mTranslations.h"
 
 const std::vector<ReportRow>& ReportCatalogue() {

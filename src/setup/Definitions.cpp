@@ -1,28 +1,10 @@
 #include "Definitions.h"
 
-#include "Recordset.h"
+#include "Rows.h"
 #include "TourDraft.h"
 #include "mTranslations.h"
 
 namespace {
-
-/// A statement's rows, to be read, added to and changed.
-class Rows : public Recordset {
-public:
-    explicit Rows(const QString& statement, const Values& values = {}) {
-        CursorLocation = adUseClient;
-        Open(statement, values, *gConn);
-    }
-    bool Any() { return RecordCount() > 0; }
-    int Id() { return static_cast<int>(Number(u"ID")); }
-};
-
-/// For adding alone. It fetches no row, so adding many takes no longer where there are many.
-class NewRows : public Rows {
-public:
-    explicit NewRows(const char* table)
-        : Rows(QStringLiteral("SELECT * FROM %1 WHERE 1 = 0 ;").arg(QLatin1String(table))) {}
-};
 
 void DeleteWithParts(const QString& deleteOne, const QString& deleteParts, int id) {
     Transaction transaction(*gConn);
@@ -31,21 +13,7 @@ void DeleteWithParts(const QString& deleteOne, const QString& deleteParts, int i
     transaction.Commit();
 }
 
-const QString AllGroups = QStringLiteral("SELECT * FROM tblListItems ;");
-const QString AllReaders = QStringLiteral("SELECT * FROM tblReaders ;");
-const QString AllTours = QStringLiteral("SELECT * FROM tblTours ;");
-const QString ButtonsOfGroup = QStringLiteral("SELECT * FROM tblButtons WHERE lParentID = ? ;");
-const QString PointsOfTour = QStringLiteral("SELECT * FROM tblTourPoints WHERE lParentID = ? ;");
-
 } // namespace
-
-QList<Group> GroupsOf(GroupType type) {
-    QList<Group> groups;
-    for (Rows rows(AllGroups); !rows.Eof(); rows.MoveNext())
-        if (rows.Number(u"wType") == type)
-            groups += Group{rows.Id(), rows.Text(u"tName"), rows.Text(u"tDesc")};
-    return groups;
-}
 
 int AddGroup(GroupType type, const QString& name) {
     NewRows rows("tblListItems");
@@ -66,19 +34,9 @@ void UpdateGroup(const Group& group) {
     rows.Update();
 }
 
-bool GroupHasButtons(int id) { return Rows(ButtonsOfGroup, {id}).Any(); }
-
 void DeleteGroup(int id) {
     DeleteWithParts(QStringLiteral("DELETE * FROM tblListItems WHERE ID = ? ;"),
                     QStringLiteral("DELETE * FROM tblButtons WHERE lParentID = ? ;"), id);
-}
-
-QList<Button> ButtonsOf(int groupId) {
-    QList<Button> buttons;
-    for (Rows rows(ButtonsOfGroup, {groupId}); !rows.Eof(); rows.MoveNext())
-        buttons += Button{rows.Id(), rows.Text(u"tButtonCode"), rows.Text(u"tButtonName"),
-                          rows.Text(u"tButtonDesc")};
-    return buttons;
 }
 
 void AddButton(int groupId, const Button& button) {
@@ -104,20 +62,6 @@ void DeleteButton(int id) {
     gConn->Execute(QStringLiteral("DELETE * FROM tblButtons WHERE ID = ? ;"), {id});
 }
 
-bool HasLocations() {
-    return Rows(QStringLiteral("SELECT tblButtons.tButtonName, tblListItems.wType FROM tblButtons "
-                               "LEFT JOIN tblListItems ON tblButtons.lParentID = tblListItems.ID "
-                               "WHERE (((tblListItems.wType)=1)); "))
-        .Any();
-}
-
-QList<Reader> Readers() {
-    QList<Reader> readers;
-    for (Rows rows(AllReaders); !rows.Eof(); rows.MoveNext())
-        readers += Reader{rows.Text(u"tReaderId"), rows.Text(u"tDescription")};
-    return readers;
-}
-
 void AddReader(const Reader& reader) {
     NewRows rows("tblReaders");
     rows.AddNew();
@@ -136,14 +80,6 @@ void UpdateReader(const Reader& reader) {
 
 void DeleteReader(const QString& id) {
     gConn->Execute(QStringLiteral("DELETE * FROM tblReaders WHERE tReaderId = ? ;"), {id});
-}
-
-QList<Tour> Tours() {
-    QList<Tour> tours;
-    for (Rows rows(AllTours); !rows.Eof(); rows.MoveNext())
-        tours += Tour{rows.Id(), rows.Text(u"tName"), rows.Text(u"tDesc"),
-                      static_cast<int>(rows.Number(u"iTolerance")), rows.Date(u"dtStartTime")};
-    return tours;
 }
 
 int AddTour(const QString& name) {
@@ -175,8 +111,6 @@ void SaveTour(const Tour& tour, const TourDraft& points) {
     transaction.Commit();
 }
 
-bool TourHasPoints(int id) { return Rows(PointsOfTour, {id}).Any(); }
-
 void DeleteTour(int id) {
     DeleteWithParts(QStringLiteral("DELETE * FROM tblTours WHERE ID = ? ;"),
                     QStringLiteral("DELETE * FROM tblTourPoints WHERE lParentID = ? ;"), id);
@@ -186,7 +120,8 @@ int CopyTour(int from, const QString& name) {
     Transaction transaction(*gConn);
     const int id = AddTour(name);
     NewRows target("tblTourPoints");
-    for (Rows source(PointsOfTour, {from}); !source.Eof(); source.MoveNext()) {
+    Rows source(QStringLiteral("SELECT * FROM tblTourPoints WHERE lParentID = ? ;"), {from});
+    for (; !source.Eof(); source.MoveNext()) {
         target.AddNew();
         target.Set(u"lParentID", id);
         for (const QStringView column : {u"lIndex", u"dtTime", u"tButtonCode"})

@@ -1,8 +1,7 @@
 #include "TourDraft.h"
 
 #include "Number.h"
-#include "Recordset.h"
-#include "mDeclareGlobals.h"
+#include "Rows.h"
 
 namespace {
 
@@ -17,16 +16,14 @@ int MinutesOf(DateTime interval) {
 
 void TourDraft::Load(int tourId) {
     m_points.clear();
-    Recordset rows;
-    rows.CursorLocation = adUseClient;
-    rows.Open(QStringLiteral("SELECT tblTourPoints.lIndex, tblTourPoints.dtTime, "
+    Rows rows(QStringLiteral("SELECT tblTourPoints.lIndex, tblTourPoints.dtTime, "
                              "tblTourPoints.tButtonCode, tblButtons.tButtonName, "
                              "tblListItems.tName AS tSiteName FROM (tblTourPoints LEFT JOIN "
                              "tblButtons ON tblTourPoints.tButtonCode = tblButtons.tButtonCode) "
                              "LEFT JOIN tblListItems ON tblButtons.lParentID = tblListItems.ID "
                              "WHERE (((tblTourPoints.lParentID) = ?)) "
                              "ORDER BY tblTourPoints.lIndex; "),
-              {tourId}, *gConn);
+              {tourId});
     for (; !rows.Eof(); rows.MoveNext())
         m_points.push_back({MinutesOf(rows.Date(u"dtTime")), rows.Text(u"tButtonCode"),
                             rows.Text(u"tSiteName"), rows.Text(u"tButtonName")});
@@ -35,7 +32,7 @@ void TourDraft::Load(int tourId) {
 void TourDraft::Write(int tourId) const {
     gConn->Execute(QStringLiteral("DELETE * FROM tblTourPoints WHERE lParentID = ? ;"), {tourId});
     Recordset rows;
-    // Forward only: the points of the other tours are of no concern.
+    // Forward only, so that the other tours' points are not fetched.
     rows.Open(
         QStringLiteral("SELECT ID, lParentID, lIndex, dtTime, tButtonCode FROM tblTourPoints ;"),
         *gConn, adOpenForwardOnly);

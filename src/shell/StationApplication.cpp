@@ -13,8 +13,9 @@ void ShowRunTimeError(const RunTimeError& error) {
 } // namespace
 
 StationApplication::StationApplication(int& argc, char** argv) : QApplication(argc, argv) {
-    setApplicationName(QStringLiteral("Wardlock")); // what a box without a caption is titled
-    setQuitOnLastWindowClosed(false); // the main window ends the program, not a dialog before it
+    setApplicationName(QStringLiteral("Wardlock")); // the title of a box without a caption
+    setQuitOnLastWindowClosed(
+        false); // closing the login must not end it; closing the main window does
     InstallMessageBoxes(&m_boxes);
 }
 

@@ -6,8 +6,8 @@
 
 #include <functional>
 
-/// The desktop application: real message boxes, and an end with a box for a failure that no
-/// procedure expected.
+/// The desktop application. It installs real message boxes. A failure that nothing else catches is
+/// shown in a box and ends the program.
 class StationApplication : public QApplication {
 public:
     StationApplication(int& argc, char** argv);
@@ -16,7 +16,7 @@ public:
     /// The arguments as one text.
     static QString CommandLine();
 
-    /// Runs the program; a failure that reaches this shows the run-time error box and ends it.
+    /// Runs the program and returns its exit status.
     int RunGuarded(const std::function<int()>& program);
 
     bool notify(QObject* receiver, QEvent* event) override;

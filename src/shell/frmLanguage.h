@@ -18,7 +18,7 @@ public:
 
     int Number() const;
 
-    /// As Dictionary::Chooser wants it.
+    /// A Dictionary::Chooser.
     static bool Choose(Dictionary& dictionary, int& number);
 
 private:

@@ -10,7 +10,7 @@ namespace Ui {
 class frmLogin;
 }
 
-/// The login: which operator, and his password. Four wrong passwords close it.
+/// The login: the operator and the password. The fourth wrong password closes it.
 class frmLogin : public QDialog {
     Q_OBJECT
 public:

@@ -30,16 +30,15 @@ struct ToolbarRow {
     const char* key; ///< and the name of the icon
     const char* caption;
     void (frmMain::*action)();
-    Qt::Key shortcut;  ///< with Ctrl
-    const char* marks; ///< the state string while the button's page is shown
+    Qt::Key shortcut; ///< with Ctrl
 };
 
-/// The page buttons in their order, which is that of frmMain::Page.
+/// The page buttons, in the order of frmMain::Page.
 constexpr std::array<ToolbarRow, 4> Toolbar = {{
-    {"home", "Home", &frmMain::GoHome, Qt::Key_1, "0111"},
-    {"download", "Download", &frmMain::GoOnline, Qt::Key_2, "1011"},
-    {"reports", "Reports", &frmMain::GoReports, Qt::Key_3, "1101"},
-    {"setup", "Setup", &frmMain::GoSetup, Qt::Key_4, "1110"},
+    {"home", "Home", &frmMain::GoHome, Qt::Key_1},
+    {"download", "Download", &frmMain::GoOnline, Qt::Key_2},
+    {"reports", "Reports", &frmMain::GoReports, Qt::Key_3},
+    {"setup", "Setup", &frmMain::GoSetup, Qt::Key_4},
 }};
 
 // Twips.
@@ -61,11 +60,12 @@ frmMain::frmMain()
     m_ui->sbStatusBar->addWidget(m_panel1, 1);
     m_ui->sbStatusBar->addPermanentWidget(m_panel2);
     setWindowIcon(ProgramIcon(QStringLiteral("wardlock")));
+    connect(&m_state, &LinkState::Changed, this, &frmMain::MarkPage);
     MDIForm_Load();
 }
 
 frmMain::~frmMain() {
-    delete takeCentralWidget(); // the pages, which refer to the link and the viewer
+    delete takeCentralWidget(); // the pages refer to the link and the viewer
 }
 
 void frmMain::MDIForm_Load() {
@@ -85,7 +85,7 @@ void frmMain::MDIForm_Load() {
     });
 }
 
-/// Menu items whose dialogs have not come yet.
+/// Hides the menu items whose dialogs do not exist yet.
 void frmMain::HideUnbuilt() {
     for (QAction* action : {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore,
                             m_ui->mnuToolCompany, m_ui->mnuHelpAbout})
@@ -153,7 +153,12 @@ void frmMain::NavigateToolbarButtons(const QString& state) {
         ToolbarButton(QStringLiteral("download"))->setEnabled(false);
 }
 
-void frmMain::MarkPage() { NavigateToolbarButtons(QString::fromLatin1(Toolbar[m_shown].marks)); }
+/// Disables the button of the page that is shown.
+void frmMain::MarkPage() {
+    QString state(Toolbar.size(), u'1');
+    state[m_shown] = u'0';
+    NavigateToolbarButtons(state);
+}
 
 void frmMain::SetTitle(const QString& text) {
     m_ui->lblTitle->setText(QStringLiteral("  ") + text);
@@ -166,7 +171,7 @@ bool frmMain::UnloadPage() {
         return false;
     m_ui->layPage->removeWidget(m_page);
     m_panel2->clear();
-    m_page->deleteLater(); // this may be running in one of its own events
+    m_page->deleteLater(); // not at once: it may be handling an event
     m_page = nullptr;
     m_downloadPage = nullptr;
     return true;
@@ -188,8 +193,8 @@ void frmMain::GoHome() {
     page->Translate();
     SetTitle(Translate("Home"));
     IgnoringErrors([this] { MarkPage(); });
-    m_portNumber = SavedPortNumber();
-    if (!m_online)
+    m_state.Port = SavedPortNumber();
+    if (!m_state.Online())
         IgnoringErrors([this] { GoConnect(); });
 }
 
@@ -198,10 +203,10 @@ void frmMain::GoOnline() {
         if (!UnloadPage())
             return;
         SetTitle(Translate("Download"));
-        m_downloadPage = new frmMdiDownload(m_link, m_ui->pageArea);
+        m_downloadPage = new frmMdiDownload(m_state.Link(), m_ui->pageArea);
         connect(m_downloadPage, &frmMdiDownload::BusyChanged, this, &frmMain::ShowBusy);
         connect(m_downloadPage, &frmMdiDownload::StatusChanged, m_panel2, &QLabel::setText);
-        connect(this, &frmMain::LinkChanged, m_downloadPage, &frmMdiDownload::ShowLink);
+        connect(&m_state, &LinkState::Changed, m_downloadPage, &frmMdiDownload::ShowLink);
         ShowPage(DownloadPage, m_downloadPage);
         MarkPage();
     });
@@ -221,9 +226,9 @@ void frmMain::GoSetup() {
     Guarded("GoSetup of Form frmMain", [this] {
         if (!UnloadPage())
             return;
-        auto* page = new frmMDISetup(m_link, m_ui->pageArea);
+        auto* page = new frmMDISetup(m_state.Link(), m_ui->pageArea);
         connect(page, &frmMDISetup::TitleChanged, this, &frmMain::SetTitle);
-        connect(this, &frmMain::LinkChanged, page, &frmMDISetup::ShowLink);
+        connect(&m_state, &LinkState::Changed, page, &frmMDISetup::ShowLink);
         ShowPage(SetupPage, page);
         page->Start();
         MarkPage();
@@ -287,7 +292,7 @@ void frmMain::ExitApp() {
     if (!std::exchange(m_open, false))
         return;
     IgnoringErrors([this] {
-        m_link.ClosePort();
+        m_state.Link().ClosePort();
         deMain.Close();
         gConn.reset();
     });

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DockingLink.h"
+#include "LinkState.h"
 #include "mDeclareGlobals.h"
 
 #include <QMainWindow>
@@ -14,8 +14,8 @@ namespace Ui {
 class frmMain;
 }
 
-/// The one frame window: menu, toolbar, title, status bar, and one page at a time. It owns the
-/// docking station link and hands it to pages and dialogs.
+/// The main window: menu, toolbar, title, status bar, and one page at a time. It owns the docking
+/// link and passes it to pages and dialogs.
 class frmMain : public QMainWindow {
     Q_OBJECT
 public:
@@ -29,19 +29,15 @@ public:
     void GoOnline();
     void GoReports();
     void GoSetup();
-    /// Marks the present page: one character a toolbar button, "1" for enabled. Then takes back
-    /// what the operator, or the lack of a docking station, does not allow. Throws RunTimeError
-    /// for a text of another length, and changes nothing.
+    /// Enables the toolbar buttons: one character per button, "1" for enabled. Then disables or
+    /// hides what this operator may not do, and what needs a docking station if there is none. If
+    /// the text has another length, throws RunTimeError and changes nothing.
     void NavigateToolbarButtons(const QString& state);
     void SetTitle(const QString& text);
     void ShowDockingDetect(bool detected);
     void ShowOnlineMode(bool online);
     OperatorType UserType() const { return m_userType; }
     void SetUserType(OperatorType type) { m_userType = type; }
-
-signals:
-    /// Whether there is a docking station to talk to.
-    void LinkChanged(bool detected);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -61,9 +57,6 @@ private:
     void ShowBusy(bool busy);
     void ShowStatus(const QString& text, const QString& icon);
 
-    /// The one place that changes the state of the link. What needs a docking station is open or
-    /// closed afterwards, on whatever page.
-    void SetLink(bool online, bool detected);
     void GoConnect();
     void GoOffline();
     void mnuToolsPipeOptions_Click();
@@ -79,7 +72,7 @@ private:
 
     std::unique_ptr<Ui::frmMain> m_ui;
     std::unique_ptr<ReportViewer> m_viewer;
-    DockingLink m_link;
+    LinkState m_state;
     QLabel* m_panelPicture;
     QLabel* m_panel1;
     QLabel* m_panel2;
@@ -87,7 +80,5 @@ private:
     QWidget* m_page = nullptr;
     frmMdiDownload* m_downloadPage = nullptr;
     OperatorType m_userType = NoOperator;
-    int m_portNumber = 1;
     bool m_open = true; ///< ExitApp has not run yet
-    bool m_online = false;
 };

@@ -1,5 +1,5 @@
-// The main window's part in the link: connecting, the port choice, showing the state, and what the
-// Tools menu does to a docked reader.
+// What the main window does with the link: connects, lets the operator choose the port, shows the
+// state, and runs the commands of the Tools menu on a docked reader.
 
 #include "Clock.h"
 #include "MemoryImage.h"
@@ -17,31 +17,24 @@
 #include <QAction>
 #include <QLabel>
 
-void frmMain::SetLink(bool online, bool detected) {
-    m_online = online;
-    gDockingDetected = detected;
-    MarkPage();
-    emit LinkChanged(detected);
-}
-
 void frmMain::GoConnect() {
     for (bool done = false; !done;) {
         done = true;
-        m_link.ClosePort();
+        m_state.Link().ClosePort();
         DoEventsWithoutInput();
-        frmGoOnline dialog(m_link, this);
-        dialog.Online = m_online;
-        dialog.MyCommPort = QString::number(m_portNumber);
+        frmGoOnline dialog(m_state.Link(), this);
+        dialog.Online = m_state.Online();
+        dialog.MyCommPort = QString::number(m_state.Port);
         dialog.MyCommSettings = DockingLink::CommSettings;
         dialog.exec();
         if (!dialog.OK()) {
-            SetLink(false, false);
+            m_state.Set(false, false);
             IvMessageBox(Translate("Could not open the com port.") + u'\n' +
                              Translate("Check settings and try again.") + u'\n' +
                              Translate("Working in Offline Mode"),
                          MessageKind::Information);
         } else {
-            SetLink(dialog.Online, dialog.DockingDetected);
+            m_state.Set(dialog.Online, dialog.DockingDetected);
             if (!gDockingDetected) {
                 const auto answer =
                     IvMessageBox(Translate("Could not connect to the docking station.") + u'\n' +
@@ -50,34 +43,33 @@ void frmMain::GoConnect() {
                 done = answer == MessageAnswer::Ignore;
             }
         }
-        ShowOnlineMode(m_online);
+        ShowOnlineMode(m_state.Online());
         ShowDockingDetect(gDockingDetected);
     }
 }
 
-void frmMain::GoOffline() {
-    m_link.ClosePort();
-    SetLink(false, false);
-}
+void frmMain::GoOffline() { m_state.Close(); }
 
 void frmMain::GoOptions() {
-    GoOffline();
-    DoEventsWithoutInput();
-    ShowOnlineMode(m_online);
-    frmPrpComms dialog(this);
-    dialog.comPort = m_portNumber;
-    dialog.Populate();
-    dialog.exec();
-    if (!dialog.OK())
-        return;
-    m_portNumber = dialog.comPort;
-    SavePortNumber(m_portNumber);
-    GoConnect();
+    Guarded("GoOptions of Form frmMain", [this] {
+        GoOffline();
+        DoEventsWithoutInput();
+        ShowOnlineMode(m_state.Online());
+        frmPrpComms dialog(this);
+        dialog.comPort = m_state.Port;
+        dialog.Populate();
+        dialog.exec();
+        if (!dialog.OK())
+            return;
+        m_state.Port = dialog.comPort;
+        SavePortNumber(m_state.Port);
+        GoConnect();
+    });
 }
 
 void frmMain::mnuToolsPipeOptions_Click() {
     {
-        frmSetTime dialog(m_link, this);
+        frmSetTime dialog(m_state.Link(), this);
         dialog.exec();
     }
     GoHome();
@@ -96,7 +88,7 @@ void frmMain::mnuToolsReaderFW_Click() {
         TransferResult result;
         {
             const Hourglass hourglass;
-            frmDownload dialog(m_link, this);
+            frmDownload dialog(m_state.Link(), this);
             result = dialog.Run(TransferPurpose::Firmware);
         }
         if (!NamesFirmware(result.tFirmware))
@@ -117,7 +109,7 @@ void frmMain::ShowDockingDetect(bool detected) {
 }
 
 void frmMain::ShowOnlineMode(bool online) {
-    ShowStatus(online ? QStringLiteral("Status: ONLINE, COM %1").arg(m_portNumber)
+    ShowStatus(online ? QStringLiteral("Status: ONLINE, COM %1").arg(m_state.Port)
                       : QStringLiteral("Status: Offline"),
                online ? QStringLiteral("online") : QStringLiteral("offline"));
 }

@@ -20,7 +20,7 @@ frmMdiMenu::frmMdiMenu(QWidget* parent)
     m_ui->setupUi(this);
     Guarded("Form_Load of Form frmMdiMenu", [this] {
         gCommActive = false;
-        setBackgroundRole(QPalette::Base); // the ground that the pictures are drawn for
+        setBackgroundRole(QPalette::Base); // the pictures are drawn for this background
         setAutoFillBackground(true);
         QFont font = m_ui->lblMainTitle->font();
         font.setPointSizeF(font.pointSizeF() * 1.8);

@@ -24,7 +24,7 @@ frmSplash::~frmSplash() = default;
 
 void frmSplash::ShowPainted() {
     show();
-    // The window system asks for the first painting, in its own time.
+    // The window system decides when the window is first painted.
     const QDeadlineTimer limit(2000);
     for (DoEvents(); isVisible() && !m_painted && !limit.hasExpired(); DoEvents())
         Sleep(10);

@@ -8,15 +8,15 @@ namespace Ui {
 class frmSplash;
 }
 
-/// The splash window, on top of all others while it is loaded. A click on the picture unloads it.
+/// The splash window, on top of all others. A click on the picture closes it.
 class frmSplash : public QWidget {
     Q_OBJECT
 public:
     frmSplash();
     ~frmSplash() override;
 
-    /// Shows the window and returns once it is painted, so that work which handles no events can
-    /// follow. Gives up after two seconds.
+    /// Shows the window and returns once it is painted, so that work without an event loop can
+    /// follow. Waits two seconds at most.
     void ShowPainted();
     void ShowVersion(const QString& text);
     void ShowMessage(const QString& text);

@@ -3,7 +3,6 @@
 #include "NameFault.h"
 #include "WindowTools.h"
 #include "mErrorHandler.h"
-#include "mOperators.h"
 #include "mTranslations.h"
 #include "ui_frmUserMaintenance.h"
 
@@ -24,32 +23,22 @@ QStringList frmUserMaintenance::Entered() const {
 }
 
 void frmUserMaintenance::FormStart(OperatorType type) {
-    m_type = type;
     m_ui->txtPassword->clear();
     m_ui->txtRetypePassword->clear();
-    ReadOperatorRecord();
+    ReadOperatorRecord(type);
     setWindowTitle(windowTitle() + QStringLiteral(" - ") +
                    Translate(type == MasterOperator ? "Master" : "User"));
 }
 
-void frmUserMaintenance::ReadOperatorRecord() {
+void frmUserMaintenance::ReadOperatorRecord(OperatorType type) {
     m_operator.reset();
-    GuardedWithBox("ReadOperatorRecord", [this] {
-        auto rows = std::make_unique<Recordset>();
-        rows->CursorLocation = adUseClient;
-        rows->Open(QStringLiteral("SELECT * FROM tblOperators WHERE LoginName = ?;"),
-                   {LoginNameOf(m_type)}, *gConn);
-        m_operator = std::move(rows);
-    });
+    GuardedWithBox("ReadOperatorRecord",
+                   [&] { m_operator = std::make_unique<OperatorRecord>(type); });
 }
 
 bool frmUserMaintenance::Update() {
     return GuardedWithBox("Update", [this] {
-        if (!m_operator || m_operator->RecordCount() < 1)
-            return false;
-        m_operator->Set(u"Password", m_ui->txtPassword->text());
-        m_operator->Update();
-        return true;
+        return m_operator && m_operator->SetPassword(m_ui->txtPassword->text());
     });
 }
 
@@ -59,7 +48,7 @@ void frmUserMaintenance::cmdOK_Click() {
         m_ui->txtPassword->setFocus();
         return;
     }
-    if (HasControls(m_ui->txtPassword->text())) { // the login could never be given it again
+    if (HasControls(m_ui->txtPassword->text())) { // it could not be typed at the login
         IvMessageBox(
             Translate("A password cannot contain line breaks or other control characters."));
         FocusAndSelect(*m_ui->txtPassword);

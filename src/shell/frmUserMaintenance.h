@@ -1,8 +1,7 @@
 #pragma once
 
 #include "EditorDialog.h"
-#include "Recordset.h"
-#include "mDeclareGlobals.h"
+#include "mOperators.h"
 
 #include <memory>
 
@@ -17,16 +16,15 @@ public:
     explicit frmUserMaintenance(QWidget* parent);
     ~frmUserMaintenance() override;
 
-    /// To be called before it is shown.
+    /// Call this before the window is shown.
     void FormStart(OperatorType type);
 
 private:
     QStringList Entered() const override;
-    void ReadOperatorRecord();
+    void ReadOperatorRecord(OperatorType type);
     bool Update();
     void cmdOK_Click();
 
     std::unique_ptr<Ui::frmUserMaintenance> m_ui;
-    OperatorType m_type = NoOperator;
-    std::unique_ptr<Recordset> m_operator;
+    std::unique_ptr<OperatorRecord> m_operator;
 };

@@ -22,9 +22,8 @@ const QString& HelpFile() { return g_helpFile; }
 void SetHelpFile(const QString& path) { g_helpFile = path; }
 
 void UpdateLanguage() {
-    // Naming a file cannot fail here, so nothing falls back; that it cannot be read is told when
-    // somebody asks for it.
-    // The dictionary names each language's help file.
+    // The dictionary names each language's help file. Setting the path cannot fail, so there is no
+    // fallback here; ShowHelpContents reports a file that cannot be read.
     const QString localized = AppFile(Translate("WK3_ENG.HLP"));
     if (QFileInfo::exists(localized))
         SetHelpFile(localized);

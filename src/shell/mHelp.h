@@ -4,13 +4,13 @@
 
 class QWidget;
 
-/// The application's help file: which one it is, and how it is shown.
+/// The application's help file: its path, and the window that shows it.
 
 const QString& HelpFile();
 void SetHelpFile(const QString& path);
 
-/// Binds the help file of the present language, where there is one beside the program.
+/// Sets the help file of the present language if it is beside the program.
 void UpdateLanguage();
 
-/// Shows the help file's contents. Throws RunTimeError where it cannot be read.
+/// Shows the help file. Throws RunTimeError if it cannot be read.
 void ShowHelpContents(QWidget* parent);

@@ -5,6 +5,7 @@
 #include "Format.h"
 #include "InstanceLock.h"
 #include "MessageBox.h"
+#include "StoreUpkeep.h"
 #include "WindowTools.h"
 #include "deMain.h"
 #include "frmLanguage.h"
@@ -33,7 +34,7 @@ void ReadCommandLine(const QString& commandLine) {
     if (gDebugMode)
         WriteLog(AppExeName() + QStringLiteral(" Started at ") + DefaultDateTimeText(Now()));
     gDemoMode = commandLine.contains(QStringLiteral("-demo"));
-    // The switch is for that one line: whatever else tests the flag stays silent.
+    // The switch is only for that one line. Later tests of the flag find it off.
     gDebugMode = false;
     gEdition = 0;
 }
@@ -75,7 +76,7 @@ bool TestCompactAndOpen(frmSplash& splash) {
     return true;
 }
 
-bool OpenBehindSplash() {
+bool OpenUnderSplash() {
     frmSplash splash;
     splash.ShowVersion(TitleWithVersion());
     splash.ShowMessage(Translate("Loading Application..."));
@@ -112,7 +113,7 @@ StartOutcome Main(const QString& commandLine) {
         return StartOutcome::Failed;
     }
     std::optional<Hourglass> hourglass(std::in_place);
-    if (!OpenBehindSplash())
+    if (!OpenUnderSplash())
         return StartOutcome::Failed;
     OperatorType login;
     bool refused;

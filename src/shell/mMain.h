@@ -2,18 +2,18 @@
 
 #include <QString>
 
-/// How a start ended. Unless the station is running, the program is to end; the operator has been
-/// told why.
+/// How a start ended. Unless the station is running, the program must end now; the operator has
+/// been told why.
 enum class StartOutcome {
-    Running,   ///< the main window is shown, and the event loop is to run
+    Running,   ///< the main window is shown; the event loop comes next
     Cancelled, ///< the operator cancelled the login
     Failed
 };
 
-/// The station's only entry: reads the command line and the settings, opens dictionary and store,
-/// asks for a login and shows the main window. From the moment the store is touched a failure that
-/// nobody expected is thrown, as RunTimeError.
+/// The station's only entry: reads the command line and the settings, opens the dictionary and the
+/// store, asks for a login and shows the main window. Once it has begun to open the store, an
+/// unexpected failure is thrown as RunTimeError.
 StartOutcome Main(const QString& commandLine);
 
-/// Drops the main window, once the event loop has ended.
+/// Deletes the main window after the event loop has ended.
 void ReleaseMainWindow();

@@ -31,7 +31,7 @@ void MakeDeliveredStore(const QString& path, StoreContent content) {
             RunTimeErrorNumber::FileInUse,
             QStringLiteral("The file '%1' exists already.").arg(QDir::toNativeSeparators(path)));
     const QString part = path + QStringLiteral(".part");
-    QFile::remove(part); // one that was killed has left it
+    QFile::remove(part); // left by a program that was killed
     QFile::remove(part + QStringLiteral("-journal"));
     try {
         Fill(part, content);

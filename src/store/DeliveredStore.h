@@ -3,10 +3,10 @@
 #include <QString>
 
 enum class StoreContent {
-    Empty, ///< the tables and no row, as the store is delivered
+    Empty, ///< the tables without rows, as delivered
     Demo   ///< the demonstration installation (DemoStore)
 };
 
-/// Makes a store file. It appears under its name only when it is complete, and never in the place
-/// of another file. Throws RunTimeError.
+/// Makes a store file. It gets its name only when it is complete, and never replaces another file.
+/// Throws RunTimeError.
 void MakeDeliveredStore(const QString& path, StoreContent content);

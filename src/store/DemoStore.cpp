@@ -1,6 +1,7 @@
 #include "DemoStore.h"
 
 #include "Connection.h"
+#include "DateTime.h"
 #include "Recordset.h"
 
 namespace {
@@ -19,7 +20,7 @@ struct Group {
 };
 
 struct Point {
-    int minutes; ///< since the point before
+    int minutes; ///< since the previous point
     const char* code;
 };
 

@@ -3,12 +3,11 @@
 #include "Connection.h"
 
 // Types of the columns follow from their prefixes: t text, dt date-time (REAL days since 30
-// December 1899), w byte, i 16 bits, l 32 bits. ID never takes a number twice, so that it keeps the
-// order in which rows were stored.
+// December 1899), w byte, i 16 bits, l 32 bits. No ID is used twice, so IDs keep the order in which
+// rows were stored.
 //
-// The indexes: a tour's query asks for one reader and a range of time; the range reports for a
-// range of time alone; a touch is looked up by its code; the parts of a group or tour by their
-// parent.
+// The indexes: the tour report asks for one reader and a range of time, other reports only for a
+// range of time. A touch is looked up by its code, the parts of a group or tour by their parent.
 void CreateTables(Connection& connection) {
     static const char* const statements[] = {
         "CREATE TABLE tblOperators (LoginName TEXT, Password TEXT)",

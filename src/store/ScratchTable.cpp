@@ -1,5 +1,6 @@
 #include "ScratchTable.h"
 
+#include "TableExists.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 
@@ -13,7 +14,7 @@ bool MemoryHelps(const RunTimeError& error) {
     return !g_inMemory && (code == inputOutput || code == full || code == cannotOpen);
 }
 
-/// In memory a table of the store's may bear the same name. It does no harm there.
+/// While tables are made in memory, the store may have one of the same name. It is left alone.
 void Drop(const QString& name) {
     gConn->Execute(
         (g_inMemory ? QStringLiteral("DROP TABLE temp.%1 ;") : QStringLiteral("DROP TABLE %1 ;"))
@@ -23,7 +24,7 @@ void Drop(const QString& name) {
 } // namespace
 
 void MakeScratchTable(const QString& name, const QStringList& columns) {
-    // If a full disk keeps one that was left over, a new one cannot be made beside it.
+    // A leftover table that a full disk does not let us drop would be in the way of the new one.
     Trapped([&] { Drop(name); }, PassOnIfMemoryHelps);
     gConn->Execute(
         (g_inMemory ? QStringLiteral("CREATE TEMP TABLE ") : QStringLiteral("CREATE TABLE ")) +
@@ -50,4 +51,24 @@ void WithScratchTables(const std::function<void()>& build) {
 void PassOnIfMemoryHelps(const RunTimeError& error) {
     if (MemoryHelps(error))
         throw error;
+}
+
+bool InitRptTmp() {
+    return Guarded("InitRptTmp of Form frmRptHardwareListParam", [] {
+        const QString table = QStringLiteral("tblReportTemp");
+        if (!TableExists(table) && !CreateTblReportTemp(table))
+            return false;
+        gConn->Execute(QStringLiteral("DELETE FROM tblReportTemp"));
+        return true;
+    });
+}
+
+bool CreateTblReportTemp(const QString& name) {
+    return Guarded("CreateTblReportTemp of Form frmRptHardwareListParam", [&] {
+        gConn->Execute(QStringLiteral("CREATE TABLE ") + name +
+                       QStringLiteral("( ID autoincrement, Field0 memo, Field1 memo, Field2 memo, "
+                                      "Field3 memo, Field4 memo, Field5 memo, Field6 memo, "
+                                      "Field7 memo, Field8 memo, Field9 memo )"));
+        return true;
+    });
 }

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Codes of the engine.
+/// Numbers of the engine's failures.
 constexpr int Full = RunTimeErrorNumber::StoreEngine + 13;
 constexpr int NoDatabase = RunTimeErrorNumber::StoreEngine + 26;
 constexpr int ReadOnly = RunTimeErrorNumber::StoreEngine + 8;
@@ -59,10 +59,10 @@ QString CauseOf(const RunTimeError& error, const QString& storePath) {
 
 void TellOfForeignJournal(const QString& journalPath) {
     const QString path = QDir::toNativeSeparators(journalPath);
-    WriteLog(QStringLiteral("A journal of another database lay beside the store. It is now ") +
+    WriteLog(QStringLiteral("A journal beside the store belonged to another database. It is now ") +
              path);
-    IvMessageBox(Translate("Beside the database lay a journal that did not belong to it. The "
-                           "database was opened without it.") +
+    IvMessageBox(Translate("A journal beside the database did not belong to it. The database was "
+                           "opened without it.") +
                      u'\n' + Translate("It was renamed to:") + u'\n' + path,
                  MessageKind::Warning, MessageButtons::Ok, ShortTitle);
 }

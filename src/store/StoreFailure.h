@@ -4,8 +4,9 @@
 
 class RunTimeError;
 
-/// Why a store could not be opened, in the operator's language and words.
+/// Why a store could not be opened, for the operator: translated, and without numbers.
 QString CauseOf(const RunTimeError& error, const QString& storePath);
 
-/// Says that a journal lay beside the store that belonged to another file, and where it is now.
+/// Tells the operator that a journal beside the store belonged to another file, and where it is
+/// now.
 void TellOfForeignJournal(const QString& journalPath);

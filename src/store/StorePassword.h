@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// The store's password, handed to every routine that opens the store.
+/// The store's password, passed to every routine that opens the store.
 inline const QString StorePassword = QStringLiteral("kelp7734");

@@ -2,11 +2,11 @@
 
 #include "Connection.h"
 
-/// The report data environment: a second connection to the store, by its connection text, for
-/// reports whose query is hierarchical.
+/// The report data environment: a second connection to the store, opened by its connection text,
+/// for reports with hierarchical queries.
 class DataEnvironment {
 public:
-    /// Connects anew. Throws RunTimeError.
+    /// Closes the connection if it is open, and opens it. Throws RunTimeError.
     void Connect(const QString& connectionText) {
         Close();
         m_main.Open(connectionText);

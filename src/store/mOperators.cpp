@@ -1,20 +1,32 @@
 #include "mOperators.h"
 
-#include "Recordset.h"
 #include "Settings.h"
 #include "mErrorHandler.h"
+
+namespace {
 
 QString LoginNameOf(OperatorType type) {
     return type == MasterOperator ? QStringLiteral("KEEPER") : QStringLiteral("CREW");
 }
 
+} // namespace
+
+OperatorRecord::OperatorRecord(OperatorType type)
+    : m_row(QStringLiteral("SELECT * FROM tblOperators WHERE LoginName = ?;"),
+            {LoginNameOf(type)}) {}
+
+bool OperatorRecord::SetPassword(const QString& password) {
+    if (!m_row.Any())
+        return false;
+    m_row.Set(u"Password", password);
+    m_row.Update();
+    return true;
+}
+
 OperatorType CheckOperator(OperatorType type, const QString& entered, RememberLogin remember) {
     const QString name = LoginNameOf(type);
-    Recordset operators;
-    operators.CursorLocation = adUseClient;
-    operators.Open(QStringLiteral("SELECT * From tblOperators WHERE LoginName = ?;"), {name},
-                   *gConn);
-    if (operators.RecordCount() < 1) {
+    Rows operators(QStringLiteral("SELECT * From tblOperators WHERE LoginName = ?;"), {name});
+    if (!operators.Any()) {
         operators.AddNew();
         operators.Set(u"LoginName", name);
         operators.Set(u"Password", name);
@@ -24,7 +36,6 @@ OperatorType CheckOperator(OperatorType type, const QString& entered, RememberLo
     if (remember == RememberLogin::Yes)
         SaveSetting(SettingsApplication, SettingsSection::Info, QStringLiteral("LastLogin"),
                     QString::number(type));
-    operators.MoveFirst();
     const bool equal = operators.Text(u"Password").toUpper() == entered.trimmed().toUpper();
     if (!equal)
         WriteLog(QStringLiteral("Wrong password for user type = %1").arg(type));

@@ -1,22 +1,29 @@
 #pragma once
 
-#include "mDeclareGlobals.h"
+#include "Rows.h"
 
-#include <QString>
+/// The two operators, "KEEPER" (the master) and "CREW" (the user), and their passwords, kept in
+/// tblOperators. Everything here throws RunTimeError.
 
-/// The two operators and their passwords, kept in tblOperators.
-
-/// "KEEPER" for the master, "CREW" for the user.
-QString LoginNameOf(OperatorType type);
-
-/// Whether the next login window is to preselect this operator.
+/// Whether the next login window preselects this operator.
 enum class RememberLogin { Yes, No };
 
-/// The type, if the password is the operator's, else NoOperator. Passwords are compared without
-/// regard to case, and blanks around what was entered do not count. Remembers the type in the
-/// setting LastLogin, if asked, before the password is even looked at. An operator who has no row
-/// yet gets one, with his login name for a password; that try has failed, the next may succeed.
-/// A wrong password is logged, but not what was entered.
-/// Throws RunTimeError.
+/// Returns the type if the password is the operator's, else NoOperator. Upper and lower case are
+/// the same, and blanks around the entry do not count. If asked, saves the type in the setting
+/// LastLogin before it looks at the password. An operator without a row gets one, with the login
+/// name as password; this try fails, the next one can succeed. A wrong password is logged without
+/// what was entered.
 OperatorType CheckOperator(OperatorType type, const QString& entered,
                            RememberLogin remember = RememberLogin::Yes);
+
+/// An operator's row, open for a change of password.
+class OperatorRecord {
+public:
+    explicit OperatorRecord(OperatorType type);
+
+    /// False, and nothing is written, if the operator has no row.
+    bool SetPassword(const QString& password);
+
+private:
+    Rows m_row;
+};

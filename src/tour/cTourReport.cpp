@@ -1,9 +1,9 @@
 #include "cTourReport.h"
 
+#include "LookUps.h"
 #include "Recordset.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
-#include "mStore.h"
 #include "mTranslations.h"
 
 namespace {
@@ -38,19 +38,14 @@ bool cTourReport::LoadTourHeader() {
     if (TourID < 1)
         return false;
     return Guarded("LoadTourHeader of Class Module cTourReport", [this] {
-        Recordset header;
-        OpenQuery(header,
-                  QStringLiteral("SELECT tblTours.ID, tblTours.tName, tblTours.tDesc, "
-                                 "tblTours.iTolerance, tblTours.dtStartTime FROM tblTours "
-                                 "WHERE tblTours.ID=? ; "),
-                  {TourID});
-        if (header.RecordCount() < 1)
+        const std::optional<Tour> tour = FindTour(TourID);
+        if (!tour)
             return false;
-        TourName = header.Text(u"tName");
-        TourDesc = header.Text(u"tDesc");
-        Tolerance = static_cast<int>(header.Number(u"iTolerance"));
+        TourName = tour->name;
+        TourDesc = tour->description;
+        Tolerance = tour->tolerance;
         TourWindow = GetToleranceAsDate();
-        StartTime = header.Date(u"dtStartTime");
+        StartTime = tour->startTime;
         return true;
     });
 }

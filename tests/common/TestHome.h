@@ -1,6 +1,7 @@
 #pragma once
 
 #include "RunTimeError.h"
+#include "StoreUpkeep.h"
 #include "mDeclareGlobals.h"
 #include "mStore.h"
 
@@ -8,8 +9,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// An application folder of its own, whose name is no simple one, with settings of its own; both
-/// are gone afterwards.
+/// An application folder and settings of the test's own, deleted afterwards. The folder's name has
+/// a blank, a quote and an umlaut.
 class TestHome {
 public:
     enum Content { NoStore, EmptyStore, DemoSite };
@@ -32,10 +33,10 @@ private:
     QTemporaryDir m_folder{QDir::tempPath() + "/keeper's Büro-XXXXXX"};
 };
 
-/// Runs a query on gConn; a row a line, its values parted by "|", a null as "NULL".
+/// Runs a query on gConn. Each row is a line, its values separated by "|", null shown as "NULL".
 QStringList RowsOf(const QString& query);
 
-/// All tables of gConn with all their rows, the engine's own bookkeeping of IDs included.
+/// All tables of gConn with all their rows, and the engine's own table of the last IDs.
 QStringList ContentOfStore();
 
 /// The number of the RunTimeError that the body throws, or 0.

@@ -1,6 +1,7 @@
 // The whole download, against the simulated dock and a real store: read, store, erase, set clock.
 
 #include "LinkTestTools.h"
+#include "TableExists.h"
 
 namespace {
 

@@ -1,5 +1,6 @@
 // The windows of the reader link, driven by their controls' names.
 
+#include "Controls.h"
 #include "Format.h"
 #include "LinkTestTools.h"
 #include "frmDownload.h"
@@ -24,14 +25,6 @@ const QByteArray TwoTouches =
 /// 131 records, three frames.
 const QByteArray ManyTouches =
     "reader 4B5831A7\n" + QByteArray("touch 2026-03-01 08:10 1A40C2\n").repeated(130);
-
-template <typename T = QLabel>
-T* Control(QWidget& window, const char* name) {
-    T* control = window.findChild<T*>(QString::fromLatin1(name));
-    if (!control)
-        qFatal("no control %s", name);
-    return control;
-}
 
 QString TextOf(QWidget& window, const char* label) { return Control(window, label)->text(); }
 

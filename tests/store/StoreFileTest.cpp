@@ -1,5 +1,5 @@
-// The store as a file: what opens, what does not, who may, and what compaction and a killed program
-// leave behind.
+// The store as a file: what opens and what does not, who may open it, and what compaction and
+// killed programs leave.
 
 #include "Application.h"
 #include "Connection.h"
@@ -8,7 +8,7 @@
 #include "ForkedChild.h"
 #include "InstanceLock.h"
 #include "OutputFile.h"
-#include "Recordset.h"
+#include "Rows.h"
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
 
@@ -19,10 +19,7 @@
 #include <QStandardPaths>
 #include <QTest>
 
-#include <csignal>
 #include <random>
-#include <sqlcipher/sqlite3.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -48,6 +45,13 @@ void Write(const QString& path, const QByteArray& bytes) {
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
+/// Changes one bit of a file.
+void Damage(const QString& path, qsizetype at) {
+    QByteArray bytes = BytesOf(path);
+    bytes[at] = static_cast<char>(bytes[at] ^ 1);
+    Write(path, bytes);
+}
+
 ino_t FileNumber(const QString& path) {
     struct stat status {};
     return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_ino : 0;
@@ -65,70 +69,53 @@ private slots:
 
     void DoesNotOpen_data() {
         QTest::addColumn<std::function<void(const QString&)>>("spoil");
-        QTest::addColumn<QString>("password");
         QTest::addColumn<int>("error");
-        const auto row = [](const char* name, int error, std::function<void(const QString&)> spoil,
-                            const QString& password = StorePassword) {
-            QTest::newRow(name) << std::move(spoil) << password << error;
+        const auto row = [](const char* name, int error,
+                            std::function<void(const QString&)> spoil) {
+            QTest::newRow(name) << std::move(spoil) << error;
         };
         row("missing", 53, [](auto& path) { QFile::remove(path); });
-        row("a folder", 53, [](auto& path) {
-            QFile::remove(path);
-            QDir().mkdir(path);
-        });
+        row("a folder", 53, [](auto& path) { QFile::remove(path) && QDir().mkdir(path); });
         row("empty", 10026, [](auto& path) { QFile::resize(path, 0); });
-        row("one byte", 10026, [](auto& path) { QFile::resize(path, 1); });
         row("garbage", 10026, [](auto& path) { Write(path, QByteArray(20'000, 'g')); });
         row("cut in half", 10011,
             [](auto& path) { QFile::resize(path, QFileInfo(path).size() / 2); });
         row("cut to its first bytes", 10026, [](auto& path) { QFile::resize(path, 100); });
-        row("damaged first page", 10026, [](auto& path) {
-            QByteArray bytes = BytesOf(path);
-            bytes[500] = static_cast<char>(bytes[500] ^ 1);
-            Write(path, bytes);
-        });
-        row("no password on it", 10026, [](auto& path) {
+        row("damaged first page", 10026, [](auto& path) { Damage(path, 500); });
+        row("another password on it", 10026, [](auto& path) {
             QFile::remove(path);
-            sqlite3* plain = nullptr;
-            sqlite3_open(QFile::encodeName(path).constData(), &plain);
-            sqlite3_exec(plain, "CREATE TABLE tblOperators (a)", nullptr, nullptr, nullptr);
-            sqlite3_close(plain);
+            CreateStoreFile(path, "Kelp7734");
         });
-        row(
-            "wrong password", 10026, [](auto&) {}, "Kelp7734");
     }
     void DoesNotOpen() {
         QFETCH(std::function<void(const QString&)>, spoil);
-        QFETCH(QString, password);
         QFETCH(int, error);
         const TestHome home(TestHome::DemoSite);
         TestHome::Close();
         spoil(home.Store());
         const QByteArray before = BytesOf(home.Store());
-        ScriptedBoxes boxes;
-        QVERIFY(!ADOTest(home.Store(), password));
-        QCOMPARE(boxes.Messages.value(0).caption, QString());
         const QString cause = error == 53      ? "The file is not there."
                               : error == 10026 ? "It has another password, or it is damaged. If "
                                                  "it is damaged, please restore a backup."
                                                : "It is damaged. Please restore a backup.";
-        QCOMPARE(boxes.TakeTexts(), QStringList("*** System Error: Cannot Open the database at " +
-                                                home.Store() + "\n\n" + cause));
-        const QString log = home.TakeLog();
-        const QString number = QStringLiteral("\nError #%1\n").arg(error);
-        QVERIFY2(log.startsWith("ADOTest Failed. Exiting..." + number), qPrintable(log));
-        QVERIFY(!ADOInit(home.Store(), password));
-        QCOMPARE(boxes.Messages.value(0).caption, "Wardlock Lite");
-        QCOMPARE(boxes.Messages.value(0).kind, MessageKind::Critical);
+        const QString number = QStringLiteral(" Failed. Exiting...\nError #%1\n").arg(error);
+        ScriptedBoxes boxes;
+        QVERIFY(!ADOTest(home.Store(), StorePassword));
+        QVERIFY(home.TakeLog().startsWith("ADOTest" + number));
+        QVERIFY(!ADOInit(home.Store(), StorePassword));
+        QVERIFY(home.TakeLog().startsWith("ADOInit" + number));
+        QCOMPARE(boxes.Messages.value(0).caption, QString());
+        QCOMPARE(boxes.Messages.value(1).caption, "Wardlock Lite");
+        QCOMPARE(boxes.Messages.value(1).kind, MessageKind::Critical);
         QCOMPARE(boxes.TakeTexts(),
-                 QStringList("Cannot Open the database, please check that the database file is "
-                             "available.\n\n" +
-                             cause));
-        QVERIFY(home.TakeLog().startsWith("ADOInit Failed. Exiting..." + number));
-        CompactStore(ProviderText, home.Store(), home.Temp(), password);
-        QVERIFY(!QFile::exists(home.Temp()));
-        QVERIFY(!QFile::exists(home.File("main.ldb")));
-        QCOMPARE(boxes.TakeTexts(), QStringList()); // compaction says nothing
+                 (QStringList{"*** System Error: Cannot Open the database at " + home.Store() +
+                                  "\n\n" + cause,
+                              "Cannot Open the database, please check that the database file is "
+                              "available.\n\n" +
+                                  cause}));
+        home.Compact();
+        QVERIFY(!QFile::exists(home.Temp()) && !QFile::exists(home.File("main.ldb")));
+        QCOMPARE(boxes.TakeTexts(), QStringList()); // compaction shows nothing
         QVERIFY(BytesOf(home.Store()) == before);
     }
 
@@ -200,25 +187,20 @@ private slots:
         QVERIFY(TakeInstanceLock());
     }
 
-    // Only a lock of the operating system keeps anybody out, whatever the file says.
-    void LockFileOfNobody_data() {
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("empty") << QByteArray();
-        QTest::newRow("zeros") << QByteArray(64, '\0');
-        QTest::newRow("this process's number, as in a container")
-            << QByteArray::number(::getpid()) + "\nwardlock\n";
-        QTest::newRow("a living process of another machine") << QByteArray("1\nwardlock\nelse\n");
-    }
+    // Only a lock of the operating system keeps others out, whatever the file says.
     void LockFileOfNobody() {
-        QFETCH(QByteArray, content);
         const TestHome home(TestHome::DemoSite);
-        TestHome::Close();
-        Write(home.File("main.ldb"), content);
-        ScriptedBoxes boxes;
-        QVERIFY2(home.Open(), qPrintable(home.TakeLog()));
+        for (const QByteArray& content :
+             {QByteArray(), QByteArray(64, '\0'),
+              QByteArray::number(::getpid()) + "\nwardlock\n", // in a container numbers recur
+              QByteArray("1\nwardlock\nelse\n")}) {            // on another machine
+            TestHome::Close();
+            Write(home.File("main.ldb"), content);
+            QVERIFY2(home.Open(), qPrintable(home.TakeLog()));
+        }
     }
 
-    // A folder with a ";" in its name, and in it a link to a store that lies elsewhere.
+    // The store is a link to a file in a folder with ";" in its name.
     void CompactsTheTargetOfALink() {
         const TestHome home(TestHome::DemoSite);
         TestHome::Close();
@@ -240,7 +222,7 @@ private slots:
         QVERIFY(home.Open());
         QVERIFY(QFile::exists(folder + "/night.ldb") && !QFile::exists(home.File("main.ldb")));
         for (const QString& open : {home.Store(), target, folder + "/night.ldb"})
-            QCOMPARE(ErrorOf([&] { OutputFile file(open); }), 3045); // never written over
+            QCOMPARE(ErrorOf([&] { OutputFile file(open); }), 3045); // must not be overwritten
         OutputFile(folder + "/night.pdf");
         Connection byText;
         byText.Open(ConnectionText(target, StorePassword));
@@ -250,43 +232,28 @@ private slots:
         QVERIFY(!QFile::exists(folder + "/temp.mdb"));
     }
 
-    // The disk has no room for all of it; or somebody else makes a file of that name meanwhile.
-    void AStoreIsMadeWholeOrNotAtAll() {
+    void ANewFileReplacesNone() {
         const TestHome home(TestHome::NoStore);
-        QVERIFY(QDir().mkdir(home.File("made")));
-        const QString path = home.File("made/main.mdb");
-        rlimit before{};
-        getrlimit(RLIMIT_FSIZE, &before);
-        const auto handler = signal(SIGXFSZ, SIG_IGN);
-        const rlimit small{2500, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-        const int error = ErrorOf([&] { MakeDeliveredStore(path, StoreContent::Demo); });
-        const int bare = ErrorOf([&] { CreateStoreFile(path, StorePassword); });
-        setrlimit(RLIMIT_FSIZE, &before);
-        signal(SIGXFSZ, handler);
-        QVERIFY(error != 0 && bare != 0);
-        QCOMPARE(QDir(home.File("made")).entryList(QDir::Files), QStringList());
+        const QString path = home.Store();
         MakeDeliveredStore(path, StoreContent::Demo);
         QVERIFY(ErrorOf([&] { MakeDeliveredStore(path, StoreContent::Empty); }) != 0);
         const QByteArray whole = BytesOf(path);
-        Write(home.File("made/other"), "other");
-        QVERIFY(ErrorOf([&] { PlaceNewFile(home.File("made/other"), path); }) != 0);
-        QVERIFY(BytesOf(path) == whole && BytesOf(home.File("made/other")) == "other");
-        QCOMPARE(QDir(home.File("made")).entryList(QDir::Files).size(), 2);
+        Write(home.File("other"), "other");
+        QVERIFY(ErrorOf([&] { PlaceNewFile(home.File("other"), path); }) != 0);
+        QVERIFY(BytesOf(path) == whole && BytesOf(home.File("other")) == "other");
+        QCOMPARE(QDir(home.File({})).entryList(QDir::Files).size(), 2);
     }
 
-    // A program is killed in mid-transaction; then somebody puts a backup in the store's place.
+    // A program is killed within a transaction, and then the store is replaced by a backup: an
+    // older one, when the journal holds all pages, or one of the same session, when it holds some.
     void JournalOfAnotherFile_data() {
-        QTest::addColumn<bool>("sameSession");
         QTest::addColumn<QString>("halfDone");
-        QTest::newRow("backup of an earlier session, journal of all pages")
-            << false << "UPDATE tblEvents SET tButtonDesc = 'half done'";
-        QTest::newRow("backup of the same session, journal of some pages")
-            << true << "DELETE FROM tblEvents WHERE ID > 1000 AND ID < 1800";
+        QTest::newRow("older") << "UPDATE tblEvents SET tButtonDesc = 'half done'";
+        QTest::newRow("same session") << "DELETE FROM tblEvents WHERE ID > 1000 AND ID < 1800";
     }
     void JournalOfAnotherFile() {
-        QFETCH(bool, sameSession);
         QFETCH(QString, halfDone);
+        const bool sameSession = halfDone.startsWith(u"DELETE");
         const TestHome home(TestHome::DemoSite);
         AddEvents(3000);
         TestHome::Close();
@@ -299,7 +266,7 @@ private slots:
         TestHome::Close();
         ForkedChild child([&](int out) {
             home.Open();
-            gConn->Execute("PRAGMA cache_size = 5"); // so that pages reach the file
+            gConn->Execute("PRAGMA cache_size = 5"); // so that pages are written
             gConn->BeginTrans();
             gConn->Execute(halfDone);
             (void)::write(out, "o", 1);
@@ -327,7 +294,7 @@ private slots:
         QCOMPARE(gConn->QuickCheck(), QString());
         QVERIFY(!QFile::exists(journal) && !QFile::exists(home.Store() + ".trial"));
         QCOMPARE(QDir(home.File({})).entryList({"main.mdb-journal.*"}).size(), 1);
-        QVERIFY(boxes.TakeTexts().value(0).startsWith("Beside the database lay a journal"));
+        QVERIFY(boxes.TakeTexts().value(0).startsWith("A journal beside the database"));
     }
 
     void CompactionKeepsAllButTheWaste() {
@@ -362,9 +329,8 @@ private slots:
         AddEvents(2000);
         TestHome::Close();
         const QByteArray whole = BytesOf(home.Store());
-        QByteArray damaged = whole;
-        damaged[damaged.size() / 2] = static_cast<char>(damaged[damaged.size() / 2] ^ 1);
-        Write(home.Store(), damaged); // a page in the middle: the store opens all the same
+        Damage(home.Store(), whole.size() / 2); // a page in the middle: the store still opens
+        const QByteArray damaged = BytesOf(home.Store());
         home.Compact();
         QVERIFY(BytesOf(home.Store()) == damaged && !QFile::exists(home.Temp()));
         QVERIFY(gStoreDamaged);
@@ -374,7 +340,7 @@ private slots:
         QVERIFY(boxes.TakeTexts().value(0).contains("restore a backup"));
         QVERIFY(home.Open());
         gStoreDamaged = false;
-        CheckStore(); // as the command line does, which does not compact
+        CheckStore(); // as the command line does instead of compacting
         QVERIFY(gStoreDamaged);
         TestHome::Close();
         QVERIFY(QDir().mkdir(home.Temp())); // no room for the copy
@@ -386,91 +352,66 @@ private slots:
         QVERIFY(home.Open());
     }
 
-    void CompactionMayBeKilled() {
-        const TestHome home(TestHome::DemoSite);
-        AddEvents(20'000);
-        const QStringList before = ContentOfStore();
-        TestHome::Close();
-        QElapsedTimer timer;
-        timer.start();
-        home.Compact();
-        const qint64 half = timer.elapsed() / 2;
-        int replaced = 0;
-        for (int round = 0; round < 16; ++round) {
-            const ino_t old = FileNumber(home.Store());
-            ForkedChild child([&](int) {
-                for (;;)
-                    home.Compact();
-            });
-            // Most of the time goes into the password's key; the copy and the change of files
-            // behind it are what matters.
-            timer.start();
-            while (QFileInfo(home.Temp()).size() == 0 && timer.elapsed() < 5000)
-                ::usleep(200);
-            const qint64 end =
-                timer.elapsed() + static_cast<qint64>(m_random() % 1000) * half / 1000;
-            while (timer.elapsed() < end)
-                QVERIFY(FileNumber(home.Store()) != 0); // at no moment is there no store
-            child.Kill();
-            replaced += FileNumber(home.Store()) != old;
-            const ino_t killed = FileNumber(home.Store());
-            home.Compact();
-            QVERIFY(FileNumber(home.Store()) != killed && !QFile::exists(home.Temp()));
-            QVERIFY(home.Open());
-            QVERIFY(ContentOfStore() == before);
-            TestHome::Close();
-        }
-        // How many kills fell behind the change of files depends on the machine's pace.
-        qInfo("killed behind the change of files: %d of 16", replaced);
-    }
-
-    // Every download that was reported done is whole; one that was not is whole or not there.
-    void DownloadMayBeKilled() {
+    // Downloads and compactions are killed. There is a store at every moment, and it opens. A batch
+    // that was reported is whole; one that was not is whole or not there.
+    void MayBeKilled() {
         const TestHome home(TestHome::DemoSite);
         QCOMPARE(RowsOf("PRAGMA synchronous"), QStringList("3")); // the folder, too
         TestHome::Close();
+        gDatabasePath = home.Store();
         constexpr int rowsEach = 500;
-        int stored = 0, halfDone = 0;
-        for (int round = 0; round < 16; ++round) {
+        int stored = 0, halfDone = 0, replaced = 0;
+        for (int round = 0; round < 24; ++round) {
+            const bool compacts = round % 2;
+            const ino_t before = FileNumber(home.Store());
             ForkedChild child([&](int out) {
+                while (compacts)
+                    home.Compact();
                 home.Open();
                 (void)::write(out, "o", 1);
                 for (int batch = stored + 1;; ++batch) {
                     Transaction transaction(*gConn);
-                    Recordset events;
-                    events.Open("tblEvents", *gConn, adOpenForwardOnly, adLockOptimistic,
-                                adCmdTable);
+                    NewRows events("tblEvents");
                     for (int row = 0; row < rowsEach; ++row) {
                         events.AddNew();
                         events.Set(u"wGroupType", batch);
                         events.Set(u"tButtonName", QString(60, u'x'));
                         events.Update();
                     }
-                    events.Close();
                     transaction.Commit();
                     (void)::write(out, "d", 1);
                 }
             });
-            QCOMPARE(child.Read(1), "o");
-            ::usleep(m_random() % 60'000);
+            QElapsedTimer timer;
+            timer.start();
+            if (!compacts)
+                QCOMPARE(child.Read(1), "o");
+            // Most of a compaction's time goes into the password's key; the copy is what matters.
+            while (compacts && QFileInfo(home.Temp()).size() == 0 && timer.elapsed() < 5000)
+                ::usleep(200);
+            timer.start();
+            for (const qint64 end = m_random() % 60; timer.elapsed() < end;)
+                QVERIFY(FileNumber(home.Store()) != 0);
             child.Kill();
             const int reported = stored + static_cast<int>(child.Read(100'000).size());
             halfDone += QFile::exists(home.Store() + "-journal");
-            if (round % 2) // the start compacts before it opens
+            replaced += FileNumber(home.Store()) != before;
+            if (round % 4 >= 2) // the start compacts before it opens
                 home.Compact();
             QVERIFY2(home.Open(), qPrintable(home.TakeLog()));
             const QStringList batches =
                 RowsOf("SELECT wGroupType, COUNT(*) AS n FROM tblEvents GROUP BY wGroupType");
             stored = static_cast<int>(batches.size());
-            QVERIFY(stored == reported || stored == reported + 1);
+            QVERIFY(stored == reported || (!compacts && stored == reported + 1));
             for (int batch = 1; batch <= stored; ++batch)
                 QCOMPARE(batches[batch - 1], QStringLiteral("%1|%2").arg(batch).arg(rowsEach));
+            RemoveLeftoverCopy(home.Temp());
+            QVERIFY(!QFile::exists(home.Temp()));
             TestHome::Close();
-            const ino_t before = FileNumber(home.Store());
-            home.Compact();
-            QVERIFY(FileNumber(home.Store()) != before);
         }
         QVERIFY(stored > 0 && halfDone > 0);
+        // How many kills came after the change of files depends on the machine's pace.
+        qInfo("killed after the change of files: %d of 12", replaced);
     }
 };
 

@@ -2,6 +2,7 @@
 // shares no code with the program.
 
 #include "Connection.h"
+#include "SqlDate.h"
 #include "TourReportBuilder.h"
 #include "TourSite.h"
 

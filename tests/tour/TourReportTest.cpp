@@ -5,6 +5,7 @@
 #include "Connection.h"
 #include "Engine.h"
 #include "ForkedChild.h"
+#include "TableExists.h"
 #include "TourReportBuilder.h"
 #include "TourSite.h"
 #include "cTourReport.h"

@@ -1,6 +1,7 @@
 #include "TourSite.h"
 
 #include "DateTime.h"
+#include "LookUps.h"
 #include "Recordset.h"
 
 namespace {

@@ -3,12 +3,12 @@
 #include "CapturedId.h"
 #include "Clock.h"
 #include "DockingLink.h"
+#include "LookUps.h"
 #include "NameField.h"
 #include "WindowTools.h"
 #include "frmDownload.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
-#include "mStore.h"
 #include "mTranslations.h"
 #include "ui_frmAddReader.h"
 
@@ -63,7 +63,7 @@ void frmAddReader::CheckReaderID(bool& ok) {
 }
 
 void frmAddReader::ShowReader(const QString& readerId) {
-    const bool isNew = !IsKnownReader(readerId);
+    const bool isNew = !FindReader(readerId);
     m_ui->lblID->setText(readerId);
     if (isNew)
         ReaderId = readerId;

@@ -17,7 +17,7 @@ public:
 
     /// True once the dialog was closed by OK.
     bool OK() const { return result() == Accepted; }
-    /// The ID of the tour that is selected; 0 where there is none.
+    /// The ID of the selected tour; 0 if there is none.
     int TourID() const;
 
 private:

@@ -18,11 +18,11 @@ public:
     ~frmEditButton() override;
 
     void SetCaption(const QString& caption) { setWindowTitle(caption); }
-    /// The dialog's picture, by its name.
+    /// Chooses the dialog's picture by its name.
     void SetIcon(const QString& name);
-    QString EditName; ///< as it is, then as entered, trimmed
+    QString EditName; ///< before: the present name; after OK: the new one, trimmed
     QString Desc;
-    QStringList ExistingNames; ///< names that may not be used; the button's own may stand in it
+    QStringList ExistingNames; ///< names that may not be used; may include the button's own
 
     int exec() override;
 

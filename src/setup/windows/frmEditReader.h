@@ -18,9 +18,9 @@ public:
     ~frmEditReader() override;
 
     void SetCaption(const QString& caption) { setWindowTitle(caption); }
-    QString Desc; ///< as it is, then as entered, trimmed
+    QString Desc; ///< before: the present description; after OK: the new one, trimmed
     QString ReaderId;
-    QStringList ExistingNames; ///< descriptions that may not be used; its own may stand in it
+    QStringList ExistingNames; ///< descriptions that may not be used; may include its own
 
     int exec() override;
 

@@ -1,10 +1,9 @@
 #include "frmEditTour.h"
 
-#include "Definitions.h"
 #include "Format.h"
+#include "LookUps.h"
 #include "NameField.h"
 #include "Number.h"
-#include "Recordset.h"
 #include "TourListDrag.h"
 #include "WindowTools.h"
 #include "frmEditTime.h"
@@ -42,10 +41,11 @@ frmEditTour::frmEditTour(QWidget* parent)
     SelectAllOnFocus(*m_ui->txtTolerance);
     m_drag = new TourListDrag(*m_ui->lvwLocations, *m_ui->lvwSelected);
     connect(m_drag, &TourListDrag::Dropped, this, &frmEditTour::DropOn);
-    // As wide as its place, not as its longest name.
+    // As wide as the layout allows, not as wide as its longest name.
     m_ui->imgCboSites->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_ui->imgCboSites->setMinimumContentsLength(20);
-    connect(m_ui->imgCboSites, &QComboBox::currentIndexChanged, this, &frmEditTour::FillLocations);
+    connect(m_ui->imgCboSites, &QComboBox::currentIndexChanged, this,
+            [this] { Guarded("FillLocations of Form frmEditTour", [this] { FillLocations(); }); });
     connect(m_ui->dtpStartTime, &QTimeEdit::timeChanged, this, &frmEditTour::UpdateTimes);
     connect(m_ui->txtTolerance, &QLineEdit::textChanged, this, &frmEditTour::UpdateTimes);
     connect(m_ui->lvwLocations, &QTreeView::doubleClicked, this,
@@ -95,6 +95,7 @@ void frmEditTour::Populate() {
         ShareWidth(*m_ui->lvwLocations, {50, 49});
         ShareWidth(*m_ui->lvwSelected, {17, 33, 33, 16});
         FillSites();
+        FillLocations();
         m_draft.Load(GroupID);
         ShowPoints(0);
         m_ui->cmdOK->setEnabled(true);
@@ -102,27 +103,20 @@ void frmEditTour::Populate() {
 }
 
 void frmEditTour::FillSites() {
-    Recordset sites;
-    sites.CursorLocation = adUseClient;
-    sites.Open(QStringLiteral("SELECT tblListItems.ID, tblListItems.tName, tblListItems.tDesc "
-                              "FROM tblListItems WHERE (((tblListItems.wType) = 1)) "
-                              "ORDER BY tblListItems.tName; "),
-               *gConn);
-    for (; !sites.Eof(); sites.MoveNext())
-        m_ui->imgCboSites->addItem(ProgramIcon(QStringLiteral("location")), sites.Text(u"tName"),
-                                   static_cast<int>(sites.Number(u"ID")));
+    const QSignalBlocker once(m_ui->imgCboSites); // the locations are filled when all is there
+    const QIcon icon = ProgramIcon(QStringLiteral("location"));
+    for (const Group& site : SitesByName())
+        m_ui->imgCboSites->addItem(icon, site.name, site.id);
 }
 
 void frmEditTour::FillLocations() {
-    m_locations.SetRows({});
-    Guarded("FillLocations of Form frmEditTour", [this] {
-        QList<ListRow> rows;
-        for (const Button& button : ButtonsOf(m_ui->imgCboSites->currentData().toInt()))
-            rows += ListRow{{button.name, button.description}, button.code};
-        m_locations.SetRows(std::move(rows));
-        SelectPlace(*m_ui->lvwLocations, 0);
-        UpdateButtons();
-    });
+    m_locations.SetRows({}); // if reading fails, no other site's locations may stay
+    QList<ListRow> rows;
+    for (const Button& button : ButtonsOf(m_ui->imgCboSites->currentData().toInt()))
+        rows += ListRow{{button.name, button.description}, button.code};
+    m_locations.SetRows(std::move(rows));
+    SelectPlace(*m_ui->lvwLocations, 0);
+    UpdateButtons();
 }
 
 int frmEditTour::SelectedPoint() const { return SelectedPlace(*m_ui->lvwSelected); }
@@ -132,8 +126,8 @@ DateTime frmEditTour::ChosenStart() const {
     return DateTime::FromTime(start.hour(), start.minute());
 }
 
-/// Shows the points with their times, and selects one. While the tolerance is no number the times
-/// stay as they were.
+/// Shows the points with their times, and selects one. While the tolerance is not a number, the
+/// times stay as they were.
 void frmEditTour::ShowPoints(int selected) {
     if (NumericValue(m_ui->txtTolerance->text())) {
         m_times.clear();
@@ -153,7 +147,7 @@ void frmEditTour::ShowPoints(int selected) {
 void frmEditTour::UpdateButtons() {
     const bool any = m_draft.Count() > 0;
     if (!any && m_ui->cmdMove_1->hasFocus())
-        m_ui->cmdMove_0->setFocus(); // and not on "Reset", as the focus would go
+        m_ui->cmdMove_0->setFocus(); // by itself the focus would go to "Reset"
     for (QPushButton* button :
          {m_ui->cmdMove_1, m_ui->cmdMove_2, m_ui->cmdMove_3, m_ui->cmdEditTime})
         button->setEnabled(any);
@@ -261,7 +255,7 @@ void frmEditTour::cmdOK_Click() {
     });
 }
 
-/// Fields of text keep their own Delete key; it comes here from everywhere else.
+/// The Delete key arrives here from everywhere but the text fields, which use it themselves.
 void frmEditTour::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Delete)
         RemoveLocation();

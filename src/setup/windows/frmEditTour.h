@@ -13,8 +13,8 @@ namespace Ui {
 class frmEditTour;
 }
 
-/// Edits one tour: its name, start, tolerance and points. It writes nothing; the caller takes what
-/// it hands back.
+/// Edits one tour: its name, start, tolerance and points. It writes nothing itself: the caller
+/// saves the result.
 class frmEditTour : public EditorDialog {
     Q_OBJECT
 public:
@@ -27,12 +27,12 @@ public:
     DateTime StartTime; ///< time of day
     int Tolerance = 0;  ///< minutes
     QStringList ExistingNames;
-    std::uint8_t ItemType = 0;
-    bool AddMode = false;
+    std::uint8_t ItemType = 0; ///< part of the window's interface; changes nothing
+    bool AddMode = false;      ///< changes nothing either
 
-    /// The points, as Populate read them and the operator changed them.
+    /// The points, with the operator's changes.
     const TourDraft& Points() const { return m_draft; }
-    /// Fills the window from the above and from the store.
+    /// Fills the window from these values and from the store.
     void Populate();
     /// True if a location's description is this text.
     bool EditedNameOK(const QString& name) const;
@@ -69,5 +69,5 @@ private:
     RowListModel m_locations;
     RowListModel m_selected;
     QStringList m_times; ///< as the list shows them
-    int m_newInterval;
+    int m_newInterval;   ///< minutes before a new point
 };

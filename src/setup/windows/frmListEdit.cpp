@@ -63,26 +63,24 @@ int frmListEdit::exec() {
 }
 
 void frmListEdit::Update() {
-    Guarded("Update of Form frmListEdit", [this] {
-        const TypeWords& words = WordsOf(ItemType);
-        m_ui->txtName->setText(ListName);
-        m_ui->txtDesc->setText(ListDesc);
-        const int place = SelectedPlace(*m_ui->lvwItems);
-        QList<ListRow> rows;
-        for (const Button& button : ButtonsOf(ID))
-            rows += ListRow{{button.code, button.name, button.description}, button.id};
-        m_buttons.SetIcon(ProgramIcon(QString::fromLatin1(words.icon)));
-        m_buttons.SetRows(std::move(rows));
-        SelectPlace(*m_ui->lvwItems, std::max(place, 0));
-        ShowIcon(*m_ui->imgIcon, QString::fromLatin1(words.icon));
-        setWindowTitle(Translate("Edit") + u' ' + Translate(words.label));
-        const bool any = m_buttons.rowCount() > 0;
-        m_ui->cmdSetup_0->setEnabled(any);
-        m_ui->cmdSetup_2->setEnabled(any);
-    });
+    const TypeWords& words = WordsOf(ItemType);
+    m_ui->txtName->setText(ListName);
+    m_ui->txtDesc->setText(ListDesc);
+    const int place = SelectedPlace(*m_ui->lvwItems);
+    QList<ListRow> rows;
+    for (const Button& button : ButtonsOf(ID))
+        rows += ListRow{{button.code, button.name, button.description}, button.id};
+    m_buttons.SetIcon(ProgramIcon(QString::fromLatin1(words.icon)));
+    m_buttons.SetRows(std::move(rows));
+    SelectPlace(*m_ui->lvwItems, std::max(place, 0));
+    ShowIcon(*m_ui->imgIcon, QString::fromLatin1(words.icon));
+    setWindowTitle(Translate("Edit") + u' ' + Translate(words.label));
+    const bool any = m_buttons.rowCount() > 0;
+    m_ui->cmdSetup_0->setEnabled(any);
+    m_ui->cmdSetup_2->setEnabled(any);
 }
 
-/// What was typed so far outlives a change of the buttons.
+/// Keeps what was typed so far when the buttons change.
 void frmListEdit::KeepTyped() {
     ListName = m_ui->txtName->text();
     ListDesc = m_ui->txtDesc->text();
@@ -141,7 +139,7 @@ void frmListEdit::DeleteButtonItem() {
         KeepTyped();
         Update();
         SelectPlace(*m_ui->lvwItems, std::max(place - 1, 0));
-        m_ui->lvwItems->setFocus(); // the button under the focus may be disabled now
+        m_ui->lvwItems->setFocus(); // the Delete button had it, and may be disabled now
     });
 }
 

@@ -11,8 +11,8 @@ namespace Ui {
 class frmListEdit;
 }
 
-/// Edits one group: its name, its description, and its buttons. The buttons are written at once;
-/// the name is the caller's to take.
+/// Edits one group: its name, its description and its buttons. Changes to buttons are written at
+/// once. The caller writes the name and the description.
 class frmListEdit : public EditorDialog {
     Q_OBJECT
 public:
@@ -23,12 +23,12 @@ public:
     QString ListName;
     QString ListDesc;
     GroupType ItemType = UserGroup;
-    bool AddMode = false;      ///< begin with the name
-    QStringList ExistingNames; ///< names that may not be used; its own may stand in it
+    bool AddMode = false;      ///< the name has the focus first, not the list
+    QStringList ExistingNames; ///< names that may not be used; may include its own
 
-    /// Shows the group and its buttons afresh.
+    /// Shows the group and its buttons as they are now. Throws RunTimeError.
     void Update();
-    /// The name check, without a word.
+    /// The name check, without a message.
     bool EditedNameOK() const;
 
     int exec() override;

@@ -15,44 +15,21 @@
 
 const QList<frmMDISetup::Kind>& frmMDISetup::Kinds() {
     using Page = frmMDISetup;
-    const QList<const char*> nameAndText = {"Name", "Description"};
+    static const Actions groups{&Page::GroupRows, &Page::EditGroup, &Page::AddGroup,
+                                &Page::DeleteGroup};
+    static const Actions tours{&Page::TourRows, &Page::EditTour, &Page::AddTour, &Page::DeleteTour};
+    static const Actions readers{&Page::ReaderRows, &Page::EditReader, &Page::AddReader,
+                                 &Page::DeleteReader};
     static const QList<Kind> kinds = {
-        {"Sites",
-         "location",
-         SiteGroup,
-         nameAndText,
-         {40, 59},
-         &Page::GroupRows,
-         &Page::EditGroup,
-         &Page::AddGroup,
-         &Page::DeleteGroup},
-        {"Event Books",
-         "event",
-         EventBookGroup,
-         nameAndText,
-         {40, 59},
-         &Page::GroupRows,
-         &Page::EditGroup,
-         &Page::AddGroup,
-         &Page::DeleteGroup},
+        {"Sites", "location", SiteGroup, {"Name", "Description"}, {40, 59}, groups},
+        {"Event Books", "event", EventBookGroup, {"Name", "Description"}, {40, 59}, groups},
         {"Tours",
          "tour",
          UserGroup,
          {"Tour Name", "Start Time", "Description"},
          {40, 15, 44},
-         &Page::TourRows,
-         &Page::EditTour,
-         &Page::AddTour,
-         &Page::DeleteTour},
-        {"Readers",
-         "reader",
-         UserGroup,
-         {"Reader ID", "Description"},
-         {30, 69},
-         &Page::ReaderRows,
-         &Page::EditReader,
-         &Page::AddReader,
-         &Page::DeleteReader},
+         tours},
+        {"Readers", "reader", UserGroup, {"Reader ID", "Description"}, {30, 69}, readers},
     };
     return kinds;
 }
@@ -66,11 +43,10 @@ frmMDISetup::frmMDISetup(DockingLink& link, QWidget* parent)
         m_ui->tabSetup->addTab(ProgramIcon(QString::fromLatin1(kind.icon)), QString());
     Translate();
     connect(m_ui->tabSetup, &QTabBar::currentChanged, this, &frmMDISetup::ShowTab);
-    connect(m_ui->lvwProgram, &QTreeView::doubleClicked, this,
-            [this] { (this->*Present().edit)(); });
-    connect(m_ui->cmdSetup_0, &QPushButton::clicked, this, [this] { (this->*Present().edit)(); });
-    connect(m_ui->cmdSetup_1, &QPushButton::clicked, this, [this] { (this->*Present().add)(); });
-    connect(m_ui->cmdSetup_2, &QPushButton::clicked, this, [this] { (this->*Present().remove)(); });
+    connect(m_ui->lvwProgram, &QTreeView::doubleClicked, this, [this] { Do(&Actions::edit); });
+    connect(m_ui->cmdSetup_0, &QPushButton::clicked, this, [this] { Do(&Actions::edit); });
+    connect(m_ui->cmdSetup_1, &QPushButton::clicked, this, [this] { Do(&Actions::add); });
+    connect(m_ui->cmdSetup_2, &QPushButton::clicked, this, [this] { Do(&Actions::remove); });
     connect(m_ui->cmdTourCopy, &QPushButton::clicked, this, &frmMDISetup::CopyTour);
     setFocusProxy(m_ui->lvwProgram);
 }
@@ -91,9 +67,16 @@ const frmMDISetup::Kind& frmMDISetup::Present() const {
     return Kinds()[m_ui->tabSetup->currentIndex()];
 }
 
-bool frmMDISetup::ShowsTours() const { return Present().edit == &frmMDISetup::EditTour; }
+void frmMDISetup::Do(void (frmMDISetup::*Actions::*action)()) {
+    (this->*(Present().actions.*action))();
+}
 
-int frmMDISetup::Selected() const { return SelectedPlace(*m_ui->lvwProgram); }
+bool frmMDISetup::ShowsTours() const { return Present().actions.edit == &frmMDISetup::EditTour; }
+
+std::optional<ListRow> frmMDISetup::SelectedRow() const {
+    const int place = SelectedPlace(*m_ui->lvwProgram);
+    return place < 0 ? std::nullopt : std::optional(m_rows.Row(place));
+}
 
 bool frmMDISetup::Confirmed(const QString& question) const {
     return IvMessageBox(question, MessageKind::Question, MessageButtons::YesNo) !=
@@ -116,7 +99,7 @@ void frmMDISetup::ShowTab() {
 }
 
 void frmMDISetup::FillList() {
-    m_rows.SetRows((this->*Present().rows)());
+    m_rows.SetRows((this->*Present().actions.rows)());
     m_ui->cmdTourCopy->setVisible(ShowsTours());
     ShowLink();
     const bool any = m_rows.rowCount() > 0;
@@ -125,7 +108,7 @@ void frmMDISetup::FillList() {
 }
 
 void frmMDISetup::ShowLink() {
-    const bool teachesReaders = Present().add == &frmMDISetup::AddReader;
+    const bool teachesReaders = Present().actions.add == &frmMDISetup::AddReader;
     m_ui->cmdSetup_1->setEnabled(!teachesReaders || gDockingDetected);
 }
 
@@ -136,32 +119,33 @@ void frmMDISetup::FillListAndSelect(const QVariant& tag) {
 
 void frmMDISetup::DeleteSelected(bool (*hasParts)(int), const char* partsText, const char* question,
                                  void (*remove)(int)) {
-    const int place = Selected();
-    if (place < 0)
+    const std::optional<ListRow> row = SelectedRow();
+    if (!row)
         return;
-    const int id = m_rows.Row(place).tag.toInt();
+    const int id = row->tag.toInt();
     QString text = ::Translate(question);
     if (hasParts(id))
         text = ::Translate(partsText) + u'\n' + text;
     if (!Confirmed(text))
         return;
     remove(id);
-    FillListAfterDelete(place);
+    FillListAfterDelete();
 }
 
-void frmMDISetup::FillListAfterDelete(int place) {
+void frmMDISetup::FillListAfterDelete() {
+    const int place = SelectedPlace(*m_ui->lvwProgram);
     FillList();
     SelectPlace(*m_ui->lvwProgram, place);
-    m_ui->lvwProgram->setFocus(); // the delete button may have been disabled under the pointer
+    m_ui->lvwProgram->setFocus(); // the Delete button had it, and may be disabled now
 }
 
 void frmMDISetup::keyPressEvent(QKeyEvent* event) {
     Guarded("Form_KeyDown of Form frmMDISetup", ErrorShow::Dialog, [&] {
         const bool onList = focusWidget() == m_ui->lvwProgram;
         if (event->key() == Qt::Key_Delete)
-            (this->*Present().remove)();
+            Do(&Actions::remove);
         else if (onList && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
-            (this->*Present().edit)();
+            Do(&Actions::edit);
         else
             QWidget::keyPressEvent(event);
     });
@@ -187,20 +171,20 @@ void frmMDISetup::AddGroup() {
 
 void frmMDISetup::EditGroup() {
     Guarded("EditGroup of Form frmMDISetup", [this] {
-        if (Selected() < 0)
+        const std::optional<ListRow> row = SelectedRow();
+        if (!row)
             return;
-        const ListRow row = m_rows.Row(Selected());
         frmListEdit dialog(m_link, window());
-        dialog.ID = row.tag.toInt();
-        dialog.ListName = row.texts[0];
-        dialog.ListDesc = row.texts[1];
+        dialog.ID = row->tag.toInt();
+        dialog.ListName = row->texts[0];
+        dialog.ListDesc = row->texts[1];
         dialog.ItemType = Present().type;
         dialog.ExistingNames = m_rows.TextsOf(0);
         dialog.exec();
         if (!dialog.OK())
             return;
         UpdateGroup({dialog.ID, dialog.ListName, dialog.ListDesc});
-        FillListAndSelect(row.tag);
+        FillListAndSelect(row->tag);
     });
 }
 
@@ -237,31 +221,29 @@ void frmMDISetup::AddReader() {
 
 void frmMDISetup::EditReader() {
     GuardedWithBox("EditReader", [this] {
-        if (Selected() < 0)
+        const std::optional<ListRow> row = SelectedRow();
+        if (!row)
             return;
-        const ListRow row = m_rows.Row(Selected());
         frmEditReader dialog(window());
-        dialog.ReaderId = row.texts[0];
-        dialog.Desc = row.texts[1];
+        dialog.ReaderId = row->texts[0];
+        dialog.Desc = row->texts[1];
         dialog.ExistingNames = m_rows.TextsOf(1);
         dialog.exec();
         if (!dialog.OK())
             return;
-        UpdateReader({row.texts[0], dialog.Desc});
-        FillListAndSelect(row.tag);
+        UpdateReader({row->texts[0], dialog.Desc});
+        FillListAndSelect(row->tag);
     });
 }
 
 void frmMDISetup::DeleteReader() {
     GuardedWithBox("DeleteReader", [this] {
-        const int place = Selected();
-        if (place < 0)
+        const std::optional<ListRow> row = SelectedRow();
+        if (!row || !Confirmed(::Translate("Are you sure you want to delete this reader?") + u' ' +
+                               row->texts[0]))
             return;
-        const QString id = m_rows.Row(place).texts[0];
-        if (!Confirmed(::Translate("Are you sure you want to delete this reader?") + u' ' + id))
-            return;
-        ::DeleteReader(id);
-        FillListAfterDelete(place);
+        ::DeleteReader(row->texts[0]);
+        FillListAfterDelete();
     });
 }
 
@@ -289,34 +271,32 @@ void frmMDISetup::AddTour() {
 
 void frmMDISetup::EditTour() {
     Guarded("EditTour of Form frmMDISetup", [this] {
-        if (Selected() < 0)
+        const std::optional<ListRow> row = SelectedRow();
+        if (!row)
             return;
         if (!HasLocations()) {
             IvMessageBox(
                 ::Translate("You must add at least one location before you can define a tour"));
             return;
         }
-        const QVariant tag = m_rows.Row(Selected()).tag;
-        for (Tour& tour : Tours()) {
-            if (tour.id != tag.toInt())
-                continue;
-            frmEditTour dialog(window());
-            dialog.GroupID = tour.id;
-            dialog.ListName = tour.name;
-            dialog.ListDesc = tour.description;
-            dialog.Tolerance = tour.tolerance;
-            dialog.StartTime = tour.startTime;
-            dialog.ExistingNames = m_rows.TextsOf(0);
-            dialog.Populate();
-            do { // again, with all that was entered, while it cannot be saved
-                dialog.exec();
-                if (!dialog.OK())
-                    return;
-                tour = {tour.id, dialog.ListName, dialog.ListDesc, dialog.Tolerance,
-                        dialog.StartTime};
-            } while (!Saved(tour, dialog.Points()));
-            FillListAndSelect(tag);
-        }
+        std::optional<Tour> tour = FindTour(row->tag.toInt());
+        if (!tour)
+            return;
+        frmEditTour dialog(window());
+        dialog.GroupID = tour->id;
+        dialog.ListName = tour->name;
+        dialog.ListDesc = tour->description;
+        dialog.Tolerance = tour->tolerance;
+        dialog.StartTime = tour->startTime;
+        dialog.ExistingNames = m_rows.TextsOf(0);
+        dialog.Populate();
+        do { // as long as it cannot be saved, the editor comes back with everything in it
+            dialog.exec();
+            if (!dialog.OK())
+                return;
+            tour = {tour->id, dialog.ListName, dialog.ListDesc, dialog.Tolerance, dialog.StartTime};
+        } while (!Saved(*tour, dialog.Points()));
+        FillListAndSelect(row->tag);
     });
 }
 
@@ -352,8 +332,7 @@ void frmMDISetup::CopyTour() {
         FillListAndSelect(::CopyTour(dialog.TourID(), FreshTourName()));
     };
     Trapped(copy, [](const RunTimeError& error) {
-        ReportError(QStringLiteral("cmdTourCopy_Click of Form frmMDISetup"), error,
-                    ErrorShow::LogOnly);
+        ReportError(QStringLiteral("CopyTour of Form frmMDISetup"), error, ErrorShow::LogOnly);
         IvMessageBox(::Translate("Error in creating new Tour"));
     });
 }

@@ -6,13 +6,14 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class DockingLink;
 namespace Ui {
 class frmMDISetup;
 }
 
-/// The setup page: lists what is defined, a tab for each kind, to be added to, edited and deleted.
+/// The setup page: lists the definitions, one tab for each kind, with Add, Edit and Delete.
 class frmMDISetup : public QWidget {
     Q_OBJECT
 public:
@@ -21,7 +22,7 @@ public:
 
     /// Shows the first tab.
     void Start();
-    /// Opens or closes what needs a docking station, as it comes or goes.
+    /// Enables or disables what needs a docking station.
     void ShowLink();
     /// Translates the page's controls.
     void Translate();
@@ -35,31 +36,35 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    /// A kind of definition: its tab, its list, and what its buttons do.
-    struct Kind {
-        const char* caption;
-        const char* icon;
-        GroupType type; ///< of groups
-        QList<const char*> columns;
-        QList<int> widths; ///< in hundredths
+    struct Actions {
         QList<ListRow> (frmMDISetup::*rows)();
         void (frmMDISetup::*edit)();
         void (frmMDISetup::*add)();
         void (frmMDISetup::*remove)();
     };
+    /// A kind of definition: its tab, its list, and what its buttons do.
+    struct Kind {
+        const char* caption;
+        const char* icon;
+        GroupType type; ///< only meant for groups
+        QList<const char*> columns;
+        QList<int> widths; ///< of the columns, in hundredths of the list's width
+        Actions actions;
+    };
     static const QList<Kind>& Kinds();
     const Kind& Present() const;
+    /// Runs one of the present kind's actions.
+    void Do(void (frmMDISetup::*Actions::*action)());
     bool ShowsTours() const;
 
     void ShowTab();
     void FillList();
     void FillListAndSelect(const QVariant& tag);
-    void FillListAfterDelete(int place);
-    /// Asks, with a warning where there are parts that would go too, and deletes by ID.
+    void FillListAfterDelete();
+    /// Asks, with a warning if parts would be deleted too, and deletes by ID.
     void DeleteSelected(bool (*hasParts)(int), const char* partsText, const char* question,
                         void (*remove)(int));
-    /// -1 where no row is selected; else its place in the list.
-    int Selected() const;
+    std::optional<ListRow> SelectedRow() const;
     bool Confirmed(const QString& question) const;
 
     QList<ListRow> GroupRows();
@@ -75,7 +80,7 @@ private:
     void EditTour();
     void DeleteTour();
     void CopyTour();
-    /// True if the tour was written. If not, nothing was, and a message said so.
+    /// True if the tour was saved. If not, nothing was changed, and a message said so.
     bool Saved(const Tour& tour, const TourDraft& points) const;
     QString FreshTourName() const;
 

@@ -1,7 +1,7 @@
 #include "TourReportRow.h"
 
 #include "CommandOptions.h"
-#include "KnownReader.h"
+#include "LookUps.h"
 #include "TourReportBuilder.h"
 #include "frmRptTour.h"
 
@@ -21,7 +21,8 @@ std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
     AddFlag(options, "--all", request->ShowAll, "shows every tour point, not only exceptions");
     AddFlag(options, "--events", request->IncludeEvents, "shows the incidents too");
     return [request](ReportViewer& viewer) {
-        request->ReaderText = ReaderText(request->ReaderId);
+        const std::optional<Reader> reader = FindReader(request->ReaderId);
+        request->ReaderText = reader ? ReaderText(*reader) : request->ReaderId;
         BuildTourReport(*request, viewer);
     };
 }

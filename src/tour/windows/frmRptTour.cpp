@@ -1,7 +1,7 @@
 #include "frmRptTour.h"
 
 #include "DateTimeRange.h"
-#include "Recordset.h"
+#include "LookUps.h"
 #include "ReportButtons.h"
 #include "TourReportBuilder.h"
 #include "WindowTools.h"
@@ -20,10 +20,6 @@ bool SavedOption(const QString& key) { return SavedBoolean(SettingsSection::Sett
 
 void SaveOption(const QString& key, bool value) {
     SaveSetting(SettingsApplication, SettingsSection::Settings, key, BooleanText(value));
-}
-
-QString Joined(const QString& left, const QString& right) {
-    return left + QStringLiteral(" - ") + right;
 }
 
 } // namespace
@@ -48,26 +44,17 @@ frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
 frmRptTour::~frmRptTour() = default;
 
 void frmRptTour::FillTours() {
-    Recordset tours;
-    tours.CursorLocation = adUseClient;
-    tours.Open(QStringLiteral("SELECT ID, tName, tDesc FROM tblTours ORDER BY tName ;"), *gConn);
     const QIcon icon = ProgramIcon(QStringLiteral("tour"));
-    for (; !tours.Eof(); tours.MoveNext())
-        m_ui->imgcboTour->addItem(icon, Joined(tours.Text(u"tName"), tours.Text(u"tDesc")),
-                                  static_cast<int>(tours.Number(u"ID")));
+    for (const Tour& tour : ToursByName())
+        m_ui->imgcboTour->addItem(icon, tour.name + QStringLiteral(" - ") + tour.description,
+                                  tour.id);
     m_ui->cmdPrintPreview->setEnabled(m_ui->imgcboTour->count() > 0);
 }
 
 void frmRptTour::FillReaders() {
-    Recordset readers;
-    readers.CursorLocation = adUseClient;
-    readers.Open(QStringLiteral("SELECT * FROM tblReaders ORDER BY tblReaders.tDescription ;"),
-                 *gConn);
     const QIcon icon = ProgramIcon(QStringLiteral("reader"));
-    for (; !readers.Eof(); readers.MoveNext()) {
-        const QString id = readers.Text(u"tReaderId");
-        m_ui->imgcboReader->addItem(icon, Joined(id, readers.Text(u"tDescription")), id);
-    }
+    for (const Reader& reader : ReadersByDescription())
+        m_ui->imgcboReader->addItem(icon, ReaderText(reader), reader.id);
     const bool any = m_ui->imgcboReader->count() > 0;
     m_ui->imgcboReader->setEnabled(any);
     // With readers but no tour the button stays enabled; the report then says what is missing.

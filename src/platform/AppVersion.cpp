@@ -1,0 +1,7 @@
+#include "AppVersion.h"
+
+#include "Version.h"
+
+int AppMajor() { return WARDLOCK_VERSION_MAJOR; }
+int AppMinor() { return WARDLOCK_VERSION_MINOR; }
+int AppRevision() { return WARDLOCK_VERSION_REVISION; }

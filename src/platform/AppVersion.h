@@ -1,0 +1,6 @@
+#pragma once
+
+/// The program's version numbers.
+int AppMajor();
+int AppMinor();
+int AppRevision();

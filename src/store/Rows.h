@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Recordset.h"
+#include "mDeclareGlobals.h"
+
+/// The rows of a statement on gConn: all of them in memory, to be read, changed and added to.
+/// Throws RunTimeError.
+class Rows : public Recordset {
+public:
+    explicit Rows(const QString& statement, const Values& values = {}) {
+        CursorLocation = adUseClient;
+        Open(statement, values, *gConn);
+    }
+    bool Any() { return RecordCount() > 0; }
+    int Id() { return static_cast<int>(Number(u"ID")); }
+};
+
+/// For adding to a table. It fetches no row, so adding takes no longer when the table is large.
+class NewRows : public Rows {
+public:
+    explicit NewRows(const char* table)
+        : Rows(QStringLiteral("SELECT * FROM %1 WHERE 1 = 0 ;").arg(QLatin1String(table))) {}
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Script.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTreeView>
+
+/// Finds the controls of a window by name, types into them and reads them.
+
+template <typename T = QLabel>
+T* Control(QWidget& window, const char* name) {
+    T* control = window.findChild<T*>(QString::fromLatin1(name));
+    if (!control)
+        qFatal("no control %s", name);
+    return control;
+}
+
+/// The step of a script that fills a field of the window with that name, once it is shown.
+inline void Type(Script& script, const QString& window, const char* field, const QString& text) {
+    script.Then([=] {
+        auto* edit = Script::Find<QLineEdit>(window, QString::fromLatin1(field));
+        if (edit)
+            edit->setText(text);
+        return edit != nullptr;
+    });
+}
+
+/// A list's rows. Each row is a text, its columns separated by "|".
+inline QStringList RowsIn(const QTreeView& list) {
+    QStringList rows;
+    for (int row = 0; row < list.model()->rowCount(); ++row) {
+        QStringList texts;
+        for (int column = 0; column < list.model()->columnCount(); ++column)
+            texts += list.model()->index(row, column).data().toString();
+        rows += texts.join(u'|');
+    }
+    return rows;
+}
