@@ -238,7 +238,7 @@ private slots:
             TourWith(R"("tolerance":59,"points":[{"minutes":1439,"button":"a00001"},)"
                      R"({"minutes":1321,"button":"A00002"},{"minutes":0,"button":"A00001"}])"),
             "");
-        row("no JSON", "{\"groups\": [}", "no JSON");
+        row("no JSON", "{\"groups\": [}", "not valid JSON");
         row("no object", "[]", "an object");
         row("unknown list", R"({"Groups":[]})", "\"Groups\" is not known here");
         row("no list", R"({"groups":{}})", "\"groups\" must be a list");
