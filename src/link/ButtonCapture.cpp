@@ -3,7 +3,6 @@
 #include "DockingLink.h"
 #include "Recordset.h"
 #include "mDeclareGlobals.h"
-#include "mErrorHandler.h"
 #include "mWardlock.h"
 
 #include <QRegularExpression>
@@ -12,7 +11,7 @@ namespace {
 
 constexpr int CodeOffset = 12; ///< three bytes, lowest first
 constexpr int LeastButtonFrame = CodeOffset + 3 + 1;
-/// Calls without a new byte after which the beginning of a frame is given up.
+/// After this many calls without a new byte, the beginning of a frame is given up.
 constexpr int Patience = 2;
 
 QString ButtonCodeOf(const QByteArray& frame) {
@@ -27,15 +26,16 @@ QString ButtonCodeOf(const QByteArray& frame) {
 ButtonCapture::ButtonCapture(DockingLink& link) : m_link(link) {
     gCommActive = true;
     m_link.InBuffer().Clear();
-    Guarded("Form_Load of Form frmAddButton", [this] {
-        QSet<QString> codes;
-        Recordset buttons;
-        buttons.CursorLocation = adUseClient;
-        buttons.Open(QStringLiteral("SELECT tButtonCode FROM tblButtons ;"), *gConn);
-        for (; !buttons.Eof(); buttons.MoveNext())
-            codes += buttons.Text(u"tButtonCode");
-        m_codes = std::move(codes);
-    });
+}
+
+void ButtonCapture::ReadCodes() {
+    QSet<QString> codes;
+    Recordset buttons;
+    buttons.CursorLocation = adUseClient;
+    buttons.Open(QStringLiteral("SELECT tButtonCode FROM tblButtons ;"), *gConn);
+    for (; !buttons.Eof(); buttons.MoveNext())
+        codes += buttons.Text(u"tButtonCode");
+    m_codes = std::move(codes);
 }
 
 ButtonCapture::~ButtonCapture() { gCommActive = false; }
