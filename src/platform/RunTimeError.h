@@ -4,15 +4,14 @@
 
 #include <exception>
 
-/// The one type that the platform throws. It is caught by the handler of the procedure that asked
-/// (mErrorHandler.h) and never crosses two procedures of the system.
+/// The only type that the platform throws. It is caught by the handler of a slot, a timer or
+/// another entry point (mErrorHandler.h).
 class RunTimeError : public std::exception {
 public:
     RunTimeError(int number, QString description)
         : m_number(number), m_description(std::move(description)), m_what(m_description.toUtf8()) {}
 
-    /// Always above zero. The numbers are those of RunTimeErrorNumber, or StoreEngine plus the
-    /// engine's own code.
+    /// Always above zero: one of RunTimeErrorNumber, or StoreEngine plus the engine's own code.
     int Number() const { return m_number; }
     const QString& Description() const { return m_description; }
     const char* what() const noexcept override { return m_what.constData(); }

@@ -14,7 +14,7 @@ namespace {
 constexpr double LongestMillimetres = 2000;
 constexpr double SmallestPoints = 1;
 constexpr double LargestPoints = 200;
-/// A hairline that every printer still draws.
+/// A thin line that every printer can draw.
 constexpr double DefaultThickness = 0.2;
 
 /// Millimetres in the file, hundredths of them here.
@@ -182,8 +182,8 @@ private:
         return static_cast<int>(m_layout.fonts.size()) - 1;
     }
 
-    /// Every page must take its header, its footer and at least one row or the report's end, or
-    /// there would be no end of pages.
+    /// Every page must have room for its header, its footer and at least one row or the report
+    /// footer. Otherwise the pages would never end.
     void CheckFit(const CheckedJson& top) const {
         const int body = m_layout.PrintableHeight() - m_layout.HeightOf(SectionKind::PageHeader) -
                          m_layout.HeightOf(SectionKind::PageFooter);
