@@ -8,12 +8,12 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// An application folder of its own, whose name is no simple one, with settings of its own; both
-/// are gone afterwards.
+/// A temporary application folder with its own settings. Its name has a quote, a blank and an
+/// umlaut.
 class TestHome {
 public:
     enum Content { NoStore, EmptyStore, DemoSite };
-    /// With a store, it is open in gConn.
+    /// If there is a store, it is open in gConn.
     explicit TestHome(Content content);
     ~TestHome();
 
@@ -32,10 +32,11 @@ private:
     QTemporaryDir m_folder{QDir::tempPath() + "/keeper's Büro-XXXXXX"};
 };
 
-/// Runs a query on gConn; a row a line, its values parted by "|", a null as "NULL".
+/// The rows of a query on gConn, one text for each, with values separated by "|" and nulls as
+/// "NULL".
 QStringList RowsOf(const QString& query);
 
-/// All tables of gConn with all their rows, the engine's own bookkeeping of IDs included.
+/// All tables of gConn with all their rows, including the engine's own record of IDs.
 QStringList ContentOfStore();
 
 /// The number of the RunTimeError that the body throws, or 0.
