@@ -17,6 +17,7 @@
 #include "frmListEdit.h"
 #include "frmMDISetup.h"
 
+#include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -86,6 +87,9 @@ class SetupWindowsTest : public QObject {
         auto page = std::make_unique<frmMDISetup>(m_link, nullptr);
         page->resize(800, 500);
         page->show();
+        new QAbstractItemModelTester(In<QTreeView>(*page, "lvwProgram")->model(),
+                                     QAbstractItemModelTester::FailureReportingMode::QtTest,
+                                     page.get());
         page->Start();
         page->setFocus();
         In<QTabBar>(*page, "tabSetup")->setCurrentIndex(tab);
