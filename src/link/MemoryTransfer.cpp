@@ -178,7 +178,7 @@ MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray&
         return Failed;
     if (GetIDMode)
         return Complete;
-    if (m_recordCount < 0) // such a memory has no end
+    if (m_recordCount < 0) // no memory can be this long
         return Failed;
     m_view.ShowReaderId(m_pipeId);
     m_frameTotal = FramesFor(m_recordCount);

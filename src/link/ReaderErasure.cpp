@@ -16,8 +16,8 @@ bool ReaderErasure::IsAllowed() {
                             "stored, but the reader was not erased."));
         return false;
     case ImageEnd::CountDisagrees:
-        SayWhyNot(Translate("The reader holds another number of records than it says. What was "
-                            "read is stored, but the reader was not erased."));
+        SayWhyNot(Translate("The reader does not hold as many records as it says. What was read is "
+                            "stored, but the reader was not erased."));
         return false;
     case ImageEnd::Sound:
         break;

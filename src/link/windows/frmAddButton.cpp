@@ -55,7 +55,7 @@ int frmAddButton::exec() {
 void frmAddButton::tmrGetID_Timer() {
     if (!m_capture.LineIsOpen())
         m_ui->lblHint->setText(
-            Translate("The docking station has gone. Enter the ID by hand, or go "
+            Translate("The docking station is disconnected. Enter the ID by hand, or go "
                       "home to connect again."));
     const QString code = m_capture.TakeCode();
     if (code.isEmpty())
