@@ -49,9 +49,8 @@ struct TransferResult {
 /// taken for it: a reader and touches that do not exist, and then an erase that loses the real
 /// ones. So an image is believed only if everything in it agrees:
 ///
-/// - For a reader that has been taught, the first frame must have the identifier of that reader,
-/// and
-///   as many frames must come as its count says.
+/// - For a reader that has been taught, the first frame must have its identifier, and as many
+///   frames must come as its count says.
 /// - For any other reader, the image must also begin with a marker, because a reader writes one
 ///   before its first touch (or it must be empty). It must hold exactly as many records as its
 ///   count says. And the bytes before it that belong to no frame must be fewer than half a memory
