@@ -132,7 +132,7 @@
         <translation>Im Speicher des Lesers stehen nach der Endmarke weitere Daten. Das Gelesene ist gespeichert, der Leser wurde aber nicht gelöscht.</translation>
     </message>
     <message>
-        <source>The reader holds another number of records than it says. What was read is stored, but the reader was not erased.</source>
+        <source>The reader does not hold as many records as it says. What was read is stored, but the reader was not erased.</source>
         <translation>Der Leser enthält eine andere Anzahl von Datensätzen, als er angibt. Das Gelesene ist gespeichert, der Leser wurde aber nicht gelöscht.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Nur Zahlen von 0 bis 1439 sind gültig</translation>
     </message>
     <message>
-        <source>The docking station has gone. Enter the ID by hand, or go home to connect again.</source>
+        <source>The docking station is disconnected. Enter the ID by hand, or go home to connect again.</source>
         <translation>Die Dockingstation ist weg. Den Code von Hand eingeben, oder zur Startseite gehen und neu verbinden.</translation>
     </message>
 </context>

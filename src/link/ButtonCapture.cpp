@@ -3,7 +3,6 @@
 #include "DockingLink.h"
 #include "LookUps.h"
 #include "mDeclareGlobals.h"
-#include "mErrorHandler.h"
 #include "mWardlock.h"
 
 #include <QRegularExpression>
@@ -12,7 +11,7 @@ namespace {
 
 constexpr int CodeOffset = 12; ///< three bytes, lowest first
 constexpr int LeastButtonFrame = CodeOffset + 3 + 1;
-/// Calls without a new byte after which the beginning of a frame is given up.
+/// After this many calls without a new byte, the beginning of a frame is given up.
 constexpr int Patience = 2;
 
 QString ButtonCodeOf(const QByteArray& frame) {
@@ -27,8 +26,9 @@ QString ButtonCodeOf(const QByteArray& frame) {
 ButtonCapture::ButtonCapture(DockingLink& link) : m_link(link) {
     gCommActive = true;
     m_link.InBuffer().Clear();
-    Guarded("Form_Load of Form frmAddButton", [this] { m_codes = ButtonCodes(); });
 }
+
+void ButtonCapture::ReadCodes() { m_codes = ButtonCodes(); }
 
 ButtonCapture::~ButtonCapture() { gCommActive = false; }
 

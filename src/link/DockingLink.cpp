@@ -16,14 +16,14 @@ namespace {
 
 const QString PortKey = QStringLiteral("ComPort");
 
-constexpr int AnswerPause = 500; ///< ms that the reader side is given after each command
+constexpr int AnswerPause = 500; ///< ms for the reader to answer after each command
 constexpr int LookAgainPause = 300;
-/// In this time a memory stream brings several frames.
+/// A memory stream brings several frames in this time.
 constexpr int QuietPause = 1000;
-/// The largest memory takes 150 seconds on the line. A line that never rests is not waited for.
+/// The largest memory takes 150 seconds on the line. If the line never rests, the wait ends.
 constexpr int MostQuietPauses = 160;
 
-/// The status byte tells success; a reply without one does not.
+/// The status byte says whether a command succeeded. A reply without one is a failure.
 bool Succeeded(const QByteArray& reply, bool received) {
     return received && reply.size() > 1 && reply[1] == 0;
 }
@@ -69,19 +69,20 @@ DockingLink::DockingLink(QObject* parent) : QObject(parent) {
 
 void DockingLink::OnComm() {
     const int event = m_comPort.CommEvent();
-    if (event == CommPort::comEvReceive) {
-        const QByteArray bytes = m_comPort.Input();
-        m_bytesSeen += bytes.size();
-        if (gCommActive)
-            m_inBuffer.Append(bytes);
-        if (m_watched)
-            m_watched->Append(bytes);
-        return;
-    }
-    const QString text = EventText(event);
-    if (!text.isEmpty())
+    if (event == CommPort::comEvReceive)
+        Guarded("comPort_OnComm of Form frmMain", [this] { Receive(); });
+    else if (const QString text = EventText(event); !text.isEmpty())
         Trace(Format(Now(), QStringLiteral("Hh:Nn:Ss")) +
               QStringLiteral("***!!! CommEvent (%1").arg(event) + text);
+}
+
+void DockingLink::Receive() {
+    const QByteArray bytes = m_comPort.Input();
+    m_bytesSeen += bytes.size();
+    if (gCommActive)
+        m_inBuffer.Append(bytes);
+    if (m_watched)
+        m_watched->Append(bytes);
 }
 
 bool DockingLink::OpenPort(int number, const QString& settings) {
@@ -164,7 +165,7 @@ void DockingLink::WaitFor(int tries, std::uint8_t header1, const QByteArray& dat
 }
 
 bool DockingLink::EndOverdueWait() const {
-    // One look late is how a wait that ends in time may end.
+    // A wait that ends in time may end one look late.
     const bool overdue = m_waitEnd && MillisecondsRunning() > *m_waitEnd + LookAgainPause;
     if (overdue)
         gWaitCancelled = true;
@@ -189,7 +190,7 @@ bool DockingLink::ReaderWasRemoved() {
 }
 
 void DockingLink::AwaitQuietLine() {
-    m_waitEnd = MillisecondsRunning(); // so that a window can be closed meanwhile
+    m_waitEnd = MillisecondsRunning(); // so that a window can be closed during the pauses
     const auto ended = qScopeGuard([this] { m_waitEnd.reset(); });
     for (int pause = 0; pause < MostQuietPauses; ++pause) {
         DoEvents();

@@ -10,23 +10,23 @@
 #include <cstdint>
 #include <optional>
 
-/// The road to the docking station: the port, the receive buffer that its events fill, and the one
-/// send-and-wait routine. Owned by the main window (or the command line), and handed to whatever
-/// speaks with the dock.
+/// The connection to the docking station: the port, the receive buffer that its events fill, and
+/// the one routine that sends and waits. Owned by the main window (or the command line), and handed
+/// to whatever talks to the dock.
 ///
-/// Everything runs on the interface thread. Bytes reach the buffer only while events are handled,
-/// and only while gCommActive is true; otherwise they are dropped.
+/// Everything runs on the interface thread. Bytes reach the buffer only while events are handled
+/// and gCommActive is true; otherwise they are dropped.
 class DockingLink : public QObject {
     Q_OBJECT
 public:
-    /// How a docking station talks: rate, parity, data bits, stop bits.
+    /// The line settings of a docking station: rate, parity, data bits, stop bits.
     static const QString CommSettings;
 
     explicit DockingLink(QObject* parent = nullptr);
 
     CommPort& comPort() { return m_comPort; }
     cInBuffer& InBuffer() { return m_inBuffer; }
-    /// Bytes that have arrived so far, dropped ones included.
+    /// The number of bytes that have arrived so far, including dropped ones.
     std::int64_t BytesSeen() const { return m_bytesSeen; }
 
     /// True if the port is open already or could be opened.
@@ -36,45 +36,48 @@ public:
 
     /// Sends a command and waits for its reply.
     ///
-    /// The command is sent up to `tries` times. After each sending the reader side is given 500 ms;
-    /// then the buffer is looked at for `timeout` ms, and a try that brought nothing is followed
-    /// by a pause of that length again. A frame whose reply code is not `expected` is passed over,
-    /// unless `acceptAny`; a memory frame, which may come late, is passed over in any case. `reply`
-    /// becomes the payload: the reply code, then the status byte. gWaitCancelled ends it.
+    /// The command is sent up to `tries` times. After each sending the reader has 500 ms to answer;
+    /// then the buffer is searched for `timeout` ms. If nothing came, a pause of the same length
+    /// follows. A frame whose reply code is not `expected` is skipped, unless `acceptAny`. A memory
+    /// frame, which may come late, is always skipped. `reply` becomes the payload: the reply code,
+    /// then the status byte. gWaitCancelled ends the wait.
     void WaitFor(int tries, std::uint8_t header1, const QByteArray& data, int timeout,
                  std::uint8_t expected, bool acceptAny, QByteArray& reply, bool& received);
 
-    /// How long a wait lasts: as the time of day says, so that a wait across midnight goes on until
-    /// a frame comes; or, if this is set, `timeout` whatever the time of day does.
+    /// A wait is measured by the time of day, so across midnight it goes on until a frame comes. If
+    /// this is set, it always ends after its time-out.
     bool GivesUpInTime = false;
-    /// Ends a wait that lasts longer than its time-out, by setting gWaitCancelled, and gives true.
-    /// The caller clears that again once all that waited has come to its end.
+    /// If a wait lasts longer than its time-out, sets gWaitCancelled, which ends it, and gives
+    /// true. The caller clears gWaitCancelled once everything that waited has ended.
     bool EndOverdueWait() const;
 
-    /// From here on a status frame "no reader" is noticed: the reader that is docked now has been
-    /// taken out. The watch begins with what the buffer holds.
+    /// From here on, a status frame "no reader" is noticed: it means that the reader that is docked
+    /// now was taken out. The watch includes what the buffer holds.
     void WatchForRemoval();
     bool ReaderWasRemoved();
-    /// Pauses until no more than noise arrives: the rest of a memory of which one frame was wanted
-    /// has come.
+    /// Pauses until nothing but noise arrives. If only the first frame of a memory was wanted, all
+    /// the others have then come.
     void AwaitQuietLine();
 
     /// True if a docking station answers.
     bool DetectStation();
-    /// Sets the reader's clock; true if the reader said so.
+    /// Sets the reader's clock. True if the reader confirms it.
     bool TxNewDate(std::uint8_t hour, std::uint8_t minute, std::uint8_t dateMsb,
                    std::uint8_t dateLsb);
-    /// The same to the minute of a moment. Sends nothing for a date that ClockDateIsUsable refuses.
+    /// Sets the clock to a moment, without its seconds. Sends nothing if the date is not usable
+    /// (ClockDateIsUsable).
     bool SetClock(DateTime moment);
-    /// The same to the present time.
+    /// Sets the clock to the current time.
     bool SetClockToNow();
-    /// Sets the reader's option byte (ReaderSignals); true if the reader said so.
+    /// Sets the reader's option byte (ReaderSignals). True if the reader confirms it.
     bool TxOptions(std::uint8_t options);
-    /// One erase command; `succeeded` if the reader said so. Sends nothing if ReaderWasRemoved.
+    /// Sends one erase command; `succeeded` if the reader confirms it. Sends nothing if
+    /// ReaderWasRemoved.
     void EraseRequest(bool& succeeded);
 
 private:
     void OnComm();
+    void Receive();
 
     CommPort m_comPort;
     cInBuffer m_inBuffer;
@@ -84,10 +87,10 @@ private:
     bool m_readerRemoved = false;
 };
 
-/// False, after a message to the operator, for a date that no reader's clock can be set to: before
-/// the year 2000, or after 6 June 2179.
+/// A reader's clock takes dates from 1 January 2000 to 6 June 2179. For any other, tells the
+/// operator and gives false.
 bool ClockDateIsUsable(DateTime moment);
 
-/// The port number of the setting; 1 where that is no number from 1 to 8. Saved again in any case.
+/// The saved port number, or 1 if that is not a number from 1 to 8. It is always saved again.
 int SavedPortNumber();
 void SavePortNumber(int number);

@@ -3,6 +3,7 @@
 #include "Clock.h"
 #include "DockingLink.h"
 #include "MemoryTransfer.h"
+#include "ReaderErasure.h"
 #include "StoreFailure.h"
 #include "StoreTouches.h"
 #include "mDeclareGlobals.h"
@@ -31,7 +32,7 @@ void MemoryDownload::ShowText(const QString& text) {
     m_view.ShowMessageText(m_text);
 }
 
-/// What is shown is painted first: nothing is while the thread sleeps.
+/// Lets the windows paint first: nothing is painted while the thread sleeps.
 void MemoryDownload::Pause(int milliseconds) {
     DoEvents();
     Sleep(milliseconds);
@@ -48,8 +49,6 @@ void MemoryDownload::ReadStoreErase() {
     m_outcome.read = true;
     m_outcome.readerId = transfer.PipeID;
     m_outcome.touches = std::move(transfer.Buttons);
-    m_readFrame = transfer.FirstFrame;
-    m_imageEnd = transfer.End;
     const colRawButtons& touches = m_outcome.touches;
     ShowText(Translate("Download Successful") + u'\n' + Translate("Data Readings = ") +
              QString::number(touches.size()));
@@ -64,8 +63,9 @@ void MemoryDownload::ReadStoreErase() {
         return;
     Pause(2500);
     if (EraseAfterwards) {
-        if (MayErase())
-            EraseUntilDone(m_outcome.erased);
+        ReaderErasure erasure(m_link, m_view, transfer);
+        m_outcome.erased = erasure.IsAllowed() && erasure.Run();
+        m_saidWhyNotErased = erasure.HasSaidWhyNot();
         ShowText(
             m_text + u'\n' +
             Translate(m_outcome.erased ? "Reader Memory erased" : "Reader Memory NOT erased!"));
@@ -95,7 +95,8 @@ bool MemoryDownload::Store() {
                            : "The touches could not be stored. The reader was not erased.") +
              u'\n' + Translate("Touches stored: ") +
              QStringLiteral("%1 / %2").arg(m_outcome.rowsStored).arg(m_outcome.touches.size()));
-    SayWhyNotErased(m_text + u'\n' + cause);
+    m_saidWhyNotErased = true;
+    IvMessageBox(m_text + u'\n' + cause);
     return false;
 }
 
@@ -109,94 +110,31 @@ bool MemoryDownload::SetClock() {
 }
 
 void MemoryDownload::EraseReader(bool silent, bool& succeeded) {
-    succeeded = false;
-    m_readFrame.clear();
-    m_confirmedId.clear();
-    m_imageEnd = ImageEnd::Sound;
-    m_saidWhyNotErased = false;
-    if (!MayErase())
+    ReaderErasure erasure(m_link, m_view);
+    succeeded = EraseIfSure(erasure, silent);
+    m_saidWhyNotErased = erasure.HasSaidWhyNot();
+    if (!succeeded || silent)
         return;
-    if (!silent && IvMessageBox(Translate("Are you sure you want to clear the reader? "),
-                                MessageKind::Question, MessageButtons::YesNo) != MessageAnswer::Yes)
-        return;
-    if (!silent)
-        m_view.ShowStatus({}); // what stands there is of an earlier one
-    // The conversation handles events: nothing else may be begun meanwhile, nor the page left.
+    m_view.ClearList();
+    m_view.ShowMessageText({}); // the text of an earlier download
+    m_view.ShowStatus(Translate("Reader Erased"));
+    IvMessageBox(Translate("Reader Erased"), MessageKind::Information);
+}
+
+bool MemoryDownload::EraseIfSure(ReaderErasure& erasure, bool silent) {
+    if (!erasure.IsAllowed())
+        return false;
+    if (!silent) {
+        if (IvMessageBox(Translate("Are you sure you want to clear the reader? "),
+                         MessageKind::Question, MessageButtons::YesNo) != MessageAnswer::Yes)
+            return false;
+        m_view.ShowStatus({}); // the text of an earlier erase
+    }
+    // Events are handled meanwhile: nothing else may be started, and the page may not be left.
     SetBusy(true);
     m_link.InBuffer().Clear();
     m_link.WatchForRemoval();
-    EraseUntilDone(succeeded);
+    const bool erased = erasure.Run();
     SetBusy(false);
-    if (succeeded && !silent) {
-        m_view.ClearList();
-        m_view.ShowMessageText({}); // of the download before
-        m_view.ShowStatus(Translate("Reader Erased"));
-        IvMessageBox(Translate("Reader Erased"), MessageKind::Information);
-    }
-}
-
-void MemoryDownload::EraseUntilDone(bool& succeeded) {
-    for (m_link.EraseRequest(succeeded); !succeeded; m_link.EraseRequest(succeeded)) {
-        if (m_link.ReaderWasRemoved())
-            SayWhyNotErased(
-                Translate("The reader was taken out of the station. It was not erased."));
-        do {
-            if (gWaitCancelled ||
-                IvMessageBox(Translate("Reader Erase Failed.  Try again?"), MessageKind::Question,
-                             MessageButtons::YesNo) != MessageAnswer::Yes)
-                return;
-        } while (!RightReaderIsDocked());
-    }
-}
-
-bool MemoryDownload::MayErase() {
-    if (gStoreDamaged) {
-        SayWhyNotErased(Translate("The database is damaged. The reader was not erased."));
-        return false;
-    }
-    switch (m_imageEnd) {
-    case ImageEnd::DataAfterEndMark:
-        SayWhyNotErased(
-            Translate("The reader's memory goes on after its end mark. What was read is stored, "
-                      "but the reader was not erased."));
-        return false;
-    case ImageEnd::CountDisagrees:
-        SayWhyNotErased(
-            Translate("The reader holds another number of records than it says. What was read is "
-                      "stored, but the reader was not erased."));
-        return false;
-    case ImageEnd::Sound:
-        break;
-    }
-    return true;
-}
-
-/// The question whether to try again may have stood there for hours.
-bool MemoryDownload::RightReaderIsDocked() {
-    const TransferResult docked = m_view.RunTransfer(TransferPurpose::Identifier);
-    if (!docked.OK) // the transfer has said why
-        return false;
-    m_link.AwaitQuietLine();
-    if (m_readFrame.isEmpty()) {
-        // Which reader was docked at the first try is not known. The operator says it of this one.
-        if (docked.PipeID != m_confirmedId &&
-            IvMessageBox(Translate("Are you sure you want to clear the reader? ") + docked.PipeID,
-                         MessageKind::Question, MessageButtons::YesNo) == MessageAnswer::Yes)
-            m_confirmedId = docked.PipeID;
-        return docked.PipeID == m_confirmedId;
-    }
-    // An erase whose reply was lost leaves the reader empty: then it does no harm to repeat it.
-    const bool sameReader = docked.PipeID == m_outcome.readerId;
-    if (TellTheSame(m_readFrame, docked.FirstFrame) ||
-        (sameReader && IsEmptyImage(docked.FirstFrame)))
-        return true;
-    SayWhyNotErased(Translate(sameReader
-                                  ? "The reader has been used since it was read. It was not erased."
-                                  : "Another reader is in the station. It was not erased."));
-    return false;
-}
-
-void MemoryDownload::SayWhyNotErased(const QString& text) {
-    m_saidWhyNotErased = true;
-    IvMessageBox(text);
+    return erased;
 }

@@ -20,7 +20,7 @@ Record RecordAt(const QByteArray& frame, int at) {
     return {ByteAt(frame, at), ByteAt(frame, at + 1), ByteAt(frame, at + 2), ByteAt(frame, at + 3)};
 }
 
-/// Goes through all records of the frames until `visit` gives false.
+/// Visits the records of the frames in order, until `visit` gives false.
 void ForEachRecord(const colPackets& packets, const std::function<bool(const Record&)>& visit) {
     for (const cPacket& packet : packets) {
         const QByteArray& frame = packet.RawData;
@@ -32,7 +32,7 @@ void ForEachRecord(const colPackets& packets, const std::function<bool(const Rec
     }
 }
 
-/// What the frames hold, their end mark and what stands after it included.
+/// What the frames hold, including what follows the end mark.
 struct Extent {
     int decoded = 0; ///< records before the end mark
     int last = 0;    ///< number of the last record that is not all zeros
@@ -57,8 +57,8 @@ Extent ExtentOf(const colPackets& packets) {
 } // namespace
 
 int FramesFor(int recordCount) {
-    const int behindFirst = std::max(0, recordCount - Wire::FirstFrameRecords);
-    return 1 + (behindFirst + Wire::FrameRecords - 1) / Wire::FrameRecords;
+    const int afterFirst = std::max(0, recordCount - Wire::FirstFrameRecords);
+    return 1 + (afterFirst + Wire::FrameRecords - 1) / Wire::FrameRecords;
 }
 
 int RecordCountOf(const QByteArray& firstFrame) {
@@ -109,7 +109,8 @@ ImageEnd EndOf(const colPackets& packets, int recordCount) {
     const Extent extent = ExtentOf(packets);
     if (extent.last > extent.decoded)
         return ImageEnd::DataAfterEndMark;
-    // Frames that are full to the end may not hold all that a low count left out.
+    // More records than the count says are fine only if an end mark follows them. Without one, the
+    // frames may not hold them all.
     const bool agrees =
         extent.decoded == recordCount || (extent.decoded > recordCount && extent.endMark);
     return agrees ? ImageEnd::Sound : ImageEnd::CountDisagrees;
@@ -135,7 +136,7 @@ bool TellTheSame(const QByteArray& firstFrame, const QByteArray& other) {
 colRawButtons DecodeImage(const colPackets& packets, ButtonDirectory& directory,
                           const std::function<void()>& decoded) {
     colRawButtons touches;
-    // Before the first marker a touch has a time of day on the zero date.
+    // A touch before the first marker is on the zero date.
     DateTime date;
     int hour = 0;
     ForEachRecord(packets, [&](const Record& record) {

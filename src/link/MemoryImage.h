@@ -7,53 +7,54 @@
 
 #include <functional>
 
-/// Decoding of a reader's memory image: records of four bytes, laid over the frames of a transfer.
+/// A reader's memory image: records of four bytes, spread over the frames of a transfer.
 
-/// Frames that an image of so many records takes: 58 records in the first, 60 in each further, and
-/// at least one.
+/// The number of frames for an image of `recordCount` records: 58 records in the first frame, 60 in
+/// each further one. At least 1.
 int FramesFor(int recordCount);
 
-/// The record count of the first memory frame, a signed number. Below zero there is no valid
+/// The record count in the first memory frame, a signed number. Below zero, there is no valid
 /// memory.
 int RecordCountOf(const QByteArray& firstFrame);
-/// The identifier in the first memory frame, eight upper-case hexadecimal digits in the order in
-/// which the store holds them.
+/// The identifier in the first memory frame: eight upper-case hexadecimal digits, in the order in
+/// which they are stored.
 QString ReaderIdOf(const QByteArray& firstFrame);
-/// "V" and two hexadecimal digits; "VFF" where the reader does not tell.
+/// "V" and two hexadecimal digits; "VFF" if the reader does not give its version.
 QString FirmwareTextOf(const QByteArray& firstFrame);
-/// False for "VFF", and for the empty text of a transfer that got no frame.
+/// False for "VFF", and for the empty text of a transfer without a frame.
 bool NamesFirmware(const QString& firmwareText);
 
 /// True if the image's first record is a marker.
 bool BeginsWithMarker(const QByteArray& firstFrame);
-/// Records up to the last that is not all zeros; markers count, and an end mark before it does.
+/// The number of records up to the last one that is not all zeros. Markers count, and so does an
+/// end mark before it.
 int RecordsIn(const colPackets& packets);
 
 /// Whether an image ends where it should.
 enum class ImageEnd {
     Sound,
-    DataAfterEndMark, ///< bytes other than zero stand after the end mark
-    CountDisagrees,   ///< fewer records than the count says, or more and no end mark
+    DataAfterEndMark, ///< there are bytes other than zero after the end mark
+    CountDisagrees,   ///< fewer records than the count says, or more without an end mark
 };
 ImageEnd EndOf(const colPackets& packets, int recordCount);
 
-/// True if the first frame says that there are no records, and holds none.
+/// True if the first frame has a count of 0 and holds no records.
 bool IsEmptyImage(const QByteArray& firstFrame);
-/// True if two first frames name the same reader and hold the same count and records.
+/// True if two first frames have the same reader, count and records.
 bool TellTheSame(const QByteArray& firstFrame, const QByteArray& other);
 
-/// What is known of buttons, looked up in the store once a code.
+/// The definitions of buttons. Each code is looked up in the store only once.
 class ButtonDirectory {
 public:
-    /// A touch of that button, without a time. A code that no button, or more than one, has gives
-    /// an unknown button, which is no error. Throws RunTimeError.
+    /// A touch of that button, without a time. If no button has the code, or more than one, it is
+    /// an unknown button; that is not an error. Throws RunTimeError.
     const cRawButton& LookUpButtonData(const QString& code);
 
 private:
     QHash<QString, cRawButton> m_known;
 };
 
-/// Decodes the frames, up to the end mark or the end of the frames. `decoded` is called after each
-/// touch. Throws what the look-up throws.
+/// Decodes the frames up to the end mark or the last frame. Calls `decoded` after each touch.
+/// Throws RunTimeError if a look-up fails.
 colRawButtons DecodeImage(const colPackets& packets, ButtonDirectory& directory,
                           const std::function<void()>& decoded = {});

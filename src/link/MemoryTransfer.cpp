@@ -17,9 +17,9 @@ constexpr int StartInterval = 500;
 constexpr int PacketInterval = 350;
 constexpr int WatchdogInterval = 5000;
 
-/// What the empty end of an image would name, were it taken for a first frame.
+/// The identifier that results if the empty end of an image is taken for a first frame.
 const QString NoReaderId = QStringLiteral("00000000");
-/// The record count of a reader that has no valid memory.
+/// The record count of a reader without valid memory.
 constexpr int NoValidMemory = -1;
 
 QString Percent(int part, int whole, const char* pattern) {
@@ -59,7 +59,7 @@ void MemoryTransfer::BeginReading() {
     if (m_closed)
         return;
     m_bytesAtRequest = m_link.BytesSeen();
-    if (m_bytesAtRequest != m_bytesAtStart) { // perhaps the answer to an earlier request
+    if (m_bytesAtRequest != m_bytesAtStart) { // may be the answer to an earlier request
         m_answered = true;
         m_tmrTimeout.SetEnabled(true);
     }
@@ -91,7 +91,7 @@ void MemoryTransfer::TakePacket() {
     m_link.InBuffer().DropBrokenFrame();
     m_link.InBuffer().GetPacket(frame, received);
     if (!received) {
-        if (!m_link.comPort().PortOpen()) // the dock has gone, and all it sent is taken
+        if (!m_link.comPort().PortOpen()) // the dock was unplugged, and all it sent has been read
             Fail(Translate("Download Error"));
         return;
     }
@@ -148,17 +148,17 @@ bool MemoryTransfer::MayBeFirst(const QByteArray& frame) const {
     if (count < 0)
         return count == NoValidMemory && noise == 0;
     const bool marker = count == 0 || BeginsWithMarker(frame);
-    // To name a reader stores and erases nothing.
+    // Nothing is stored or erased if only the identifier or the firmware is read.
     if (FirstFrameMustDo() && noise == 0 && marker)
         return true;
     colPackets alone;
     alone.Add(frame).Tag = 1;
-    const bool tellsAll = count <= Wire::FirstFrameRecords;
+    const bool holdsAll = count <= Wire::FirstFrameRecords;
     if (RecordsIn(alone) != std::min(count, Wire::FirstFrameRecords) &&
-        (tellsAll || FirstFrameMustDo()))
+        (holdsAll || FirstFrameMustDo()))
         return false;
     if (FirstFrameMustDo())
-        return noise == 0 ? tellsAll : marker && tellsAll;
+        return holdsAll && (marker || noise == 0);
     return marker;
 }
 
@@ -168,7 +168,7 @@ MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray&
     if (!MayBeFirst(frame))
         return Failed;
     m_firmware = FirmwareTextOf(frame);
-    if (bFirmwareVersion && m_firmware == u"V08") // two names of one version
+    if (bFirmwareVersion && m_firmware == u"V08") // two names for one version
         m_firmware = QStringLiteral("V06");
     m_pipeId = readerId;
     m_firstFrame = frame;
@@ -178,7 +178,7 @@ MemoryTransfer::PacketResult MemoryTransfer::ProcessFirstFrame(const QByteArray&
         return Failed;
     if (GetIDMode)
         return Complete;
-    if (m_recordCount < 0) // no such memory can be read to an end
+    if (m_recordCount < 0) // no memory can be this long
         return Failed;
     m_view.ShowReaderId(m_pipeId);
     m_frameTotal = FramesFor(m_recordCount);
@@ -197,6 +197,12 @@ MemoryTransfer::PacketResult MemoryTransfer::ResultOf(FrameStatus status) {
     return Running;
 }
 
+void MemoryTransfer::StopTimers() {
+    m_tmrStart.SetEnabled(false);
+    m_tmrGetPackets.SetEnabled(false);
+    m_tmrTimeout.SetEnabled(false);
+}
+
 void MemoryTransfer::EndReading() {
     m_link.WatchForRemoval();
     m_view.ShowText(Translate("Download Completed"));
@@ -207,9 +213,7 @@ void MemoryTransfer::EndReading() {
         Finish();
         return;
     }
-    m_tmrStart.SetEnabled(false);
-    m_tmrGetPackets.SetEnabled(false);
-    m_tmrTimeout.SetEnabled(false);
+    StopTimers();
     DoEvents();
     Sleep(500);
     DoEvents();
@@ -235,7 +239,7 @@ bool MemoryTransfer::ImageAgrees() {
 
 bool MemoryTransfer::StreamHasEnded() {
     cInBuffer& buffer = m_link.InBuffer();
-    // A call that gives no frame may yet have thrown one away, with another after it.
+    // A call that gives no frame may have dropped a bad one, and another may follow it.
     for (qsizetype before = -1; before != buffer.Buffer().size();) {
         before = buffer.Buffer().size();
         QByteArray frame;
@@ -285,9 +289,7 @@ void MemoryTransfer::Fail(const QString& text) {
     if (m_closed)
         return;
     m_view.ShowWarning(false);
-    m_tmrStart.SetEnabled(false);
-    m_tmrGetPackets.SetEnabled(false);
-    m_tmrTimeout.SetEnabled(false);
+    StopTimers();
     DoEvents();
     if (m_closed)
         return;
@@ -309,9 +311,7 @@ void MemoryTransfer::Close() {
     if (m_closed)
         return;
     m_closed = true;
-    m_tmrStart.SetEnabled(false);
-    m_tmrGetPackets.SetEnabled(false);
-    m_tmrTimeout.SetEnabled(false);
+    StopTimers();
     gCommActive = false;
     emit Closed();
 }

@@ -27,43 +27,42 @@ public:
 /// What a transfer is for.
 enum class TransferPurpose { Touches, Identifier, Firmware };
 
-/// What came of a memory transfer.
+/// The result of a memory transfer.
 struct TransferResult {
     bool OK = false;
     colRawButtons Buttons;
     QString PipeID;        ///< the reader's identifier
     QString tFirmware;     ///< "V" and two hexadecimal digits; empty before the first frame
-    QByteArray FirstFrame; ///< the frame that names the reader; empty before it
-    /// Whether the memory that was read ends where it should. If not, the reader may hold more.
+    QByteArray FirstFrame; ///< the frame with the reader's identifier; empty before it
+    /// If the memory did not end where it should, the reader may hold more.
     ImageEnd End = ImageEnd::Sound;
 };
 
-/// Runs one memory read: sends the command, takes the memory frames on a timer and decodes them
-/// into touches, in order. For one use only.
+/// Reads a reader's memory: sends the command, takes the memory frames on a timer and decodes them
+/// into touches, in order. Each object is used once.
 ///
-///     Start --500 ms--> the request is sent, once --> frames, one a tick of 350 ms
+///     Start --500 ms--> the request is sent, once --> frames, one in each tick of 350 ms
 ///           --> all frames are there: decoded, OK      --> Closed
 ///           --> no frame for 5000 ms, a fault, Cancel  --> Closed, no touches
 ///
-/// The frames of a memory image carry no number, so a second frame whose first was lost could pass
-/// for it: a made-up reader with made-up touches, and an erase that loses the real ones. So an
-/// image is believed only if everything in it agrees.
+/// The frames of a memory image have no number. If the first frame is lost, the second could be
+/// taken for it: a reader and touches that do not exist, and then an erase that loses the real
+/// ones. So an image is believed only if everything in it agrees:
 ///
-/// That of a reader that has been taught: the first frame names that reader, and as many frames
-/// come as its count asks for.
+/// - For a reader that has been taught, the first frame must have its identifier, and as many
+///   frames must come as its count says.
+/// - For any other reader, the image must also begin with a marker, because a reader writes one
+///   before its first touch (or it must be empty). It must hold exactly as many records as its
+///   count says. And the bytes before it that belong to no frame must be fewer than half a memory
+///   frame, because more could be the rest of the real first frame.
+/// - In both cases no further memory frame may follow, whether whole, damaged or incomplete. All
+///   other noise, before, between or after the frames, does not matter.
 ///
-/// That of any other reader: besides, it begins with a marker, as a reader writes one before its
-/// first touch (or it is empty), and it holds exactly as many records as its count says. And the
-/// bytes before it that belong to no frame are fewer than half a memory frame: more could be what
-/// is left of the real first one.
+/// If only the identifier or the firmware is wanted, the first frame must be enough. If that frame
+/// does not hold all records, or has no marker, no stray byte at all may come before it.
 ///
-/// Of neither may a further memory frame follow, whole, damaged or only begun. All other noise,
-/// before the first frame, between frames and after the last, is no reason to doubt.
-///
-/// For the identifier or the firmware alone the first frame must do. If it cannot show all records,
-/// or has no marker, then no stray byte at all may come before it.
-///
-/// The watchdog runs from the first byte on, so that only complete silence waits for the operator.
+/// The watchdog runs from the first byte on. Only if nothing at all arrives does the transfer wait
+/// until the operator cancels it.
 class MemoryTransfer : public QObject {
     Q_OBJECT
 public:
@@ -76,7 +75,7 @@ public:
     void SetPurpose(TransferPurpose purpose);
 
     void Start();
-    /// Ends it; nothing is sent to the reader.
+    /// Ends the transfer. Nothing is sent to the reader.
     void Cancel();
 
     bool OK() const { return m_ok; }
@@ -88,7 +87,7 @@ public:
     }
 
 signals:
-    /// Emitted once. The object may be dropped from here on, but not from within.
+    /// Emitted once. A slot must not delete the object, but it may be deleted afterwards.
     void Closed();
 
 private:
@@ -101,6 +100,7 @@ private:
     static PacketResult ResultOf(FrameStatus status);
     bool MayBeFirst(const QByteArray& frame) const;
     bool FirstFrameMustDo() const { return GetIDMode || bFirmwareVersion; }
+    void StopTimers();
     void EndReading();
     bool ImageAgrees();
     bool StreamHasEnded();

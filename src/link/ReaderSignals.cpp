@@ -7,7 +7,7 @@
 
 namespace {
 
-/// 1 is a checked box, and the short buzzer.
+/// 1 means a checked box, or the short buzzer.
 constexpr int Chosen = 1, NotChosen = 0, LongDuration = 2;
 
 int Saved(const char* key) {

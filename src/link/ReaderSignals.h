@@ -11,14 +11,14 @@ struct ReaderSignals {
     bool vibration = true;
     bool longBuzzer = false;
 
-    /// As set-options carries them: bit 0 buzzer, 1 LED, 2 vibration, 3 long buzzer.
+    /// The byte for the set-options command: bit 0 buzzer, 1 LED, 2 vibration, 3 long buzzer.
     std::uint8_t OptionByte() const;
 };
 
-/// False, once it has told the operator, where no signal is left on: a guard could not tell a
-/// touch from a miss.
+/// If all three signals are off, tells the operator and gives false: a guard could not notice
+/// whether a touch was read.
 bool SignalsAreUsable(const ReaderSignals& readerSignals);
 
-/// What was chosen last; the defaults where nothing, or no number, is saved.
+/// The last choice. If a saved value cannot be read, only that one falls back to its default.
 ReaderSignals SavedReaderSignals();
 void SaveReaderSignals(const ReaderSignals& readerSignals);

@@ -51,8 +51,8 @@ void Note(const QString& readerId, DateTime stamp) {
                    {readerId, stamp});
 }
 
-/// Takes back what an earlier download of the reader left unfinished, if this one begins with it.
-/// Gives the number of rows taken back.
+/// Deletes the rows that an unfinished download of the reader left, if this download begins with
+/// the same touches. Gives the number of deleted rows.
 int TakeBack(const colRawButtons& touches, const QString& readerId) {
     if (!TableExists(NoteTable))
         return 0;
@@ -103,8 +103,8 @@ void WriteAll(const colRawButtons& touches, const QString& readerId, DateTime st
     try {
         WriteRows(touches, readerId, stamp, written);
     } catch (const RunTimeError&) {
-        // Less than was there before is no gain; then, as after the engine's own rollback, that
-        // stays.
+        // If there are now fewer rows than before, the earlier ones are kept; the same if the
+        // engine itself has rolled back.
         if (gConn->InTransaction() && written > 0 && written >= takenBack)
             IgnoringErrors([&] {
                 Note(readerId, stamp);
@@ -125,7 +125,7 @@ void StoreTouches(const colRawButtons& touches, const QString& readerId, int& st
         WriteAll(touches, readerId, stamp, takenBack);
         stored = static_cast<int>(touches.size());
     } catch (const RunTimeError&) {
-        // The store is asked: a commit that fails late may have been one.
+        // Count the rows: a commit that reports a failure may have succeeded.
         IgnoringErrors([&] {
             Recordset rows;
             OpenRows(rows, readerId, stamp);

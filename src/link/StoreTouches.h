@@ -4,11 +4,12 @@
 
 #include <QString>
 
-/// Writes one row of tblEvents for each touch, in one transaction. They are committed, and so on
-/// disk, when this returns.
+/// Writes one row of tblEvents for each touch, in one transaction. When it returns, the rows are
+/// committed and on the disk.
 ///
-/// Throws RunTimeError if a row cannot be written. Those before it stay, unless the engine had to
-/// take them back, as on a full disk. `stored` becomes the number of touches that the store holds,
-/// in any case. A part that stays is noted in tblTempDownload; the next download of that reader, if
-/// it begins with exactly these touches, takes its place, so that none is there twice.
+/// Throws RunTimeError if a row cannot be written. The rows before it stay, unless the engine
+/// itself has rolled them back, for example on a full disk. In any case `stored` becomes the number
+/// of touches in the store. Rows that stay are noted in tblTempDownload: if the next download of
+/// that reader begins with exactly these touches, it replaces them, so that no touch is stored
+/// twice.
 void StoreTouches(const colRawButtons& touches, const QString& readerId, int& stored);

@@ -9,8 +9,8 @@ constexpr char PreambleByte = '\xFF';
 constexpr char SyncByte = '\x55';
 constexpr int PreambleLength = 3;
 const QByteArray FrameStart = QByteArrayLiteral("\xFF\xFF\xFF\x55");
-/// Frames with a payload of this many bytes or more are not taken: no dock sends them, and a
-/// damaged length byte must not swallow what follows.
+/// Frames with a payload of this many bytes or more are not taken: no dock sends them, and the
+/// length byte may be damaged.
 constexpr int TooLong = 245;
 
 bool IsOfMemory(int length) {
@@ -61,7 +61,7 @@ QByteArray cInBuffer::Parse() {
         } else if (m_bytes[i] == SyncByte) {
             start = i - PreambleLength;
         } else {
-            // Not a frame here; the next call looks again from the second preamble byte on.
+            // This is not a frame. The next call starts from the second preamble byte.
             m_lost += i - 2;
             Cut(i - 2);
             return {};
@@ -85,7 +85,7 @@ QByteArray cInBuffer::Parse() {
     const QByteArray frame = m_bytes.mid(start, length + Wire::Overhead);
     Cut(start + frame.size());
     m_lost += start;
-    if (m_bytes.size() == 1) { // a single byte behind a frame never stays
+    if (m_bytes.size() == 1) { // a single byte after a frame is always dropped
         m_lost += 1;
         m_bytes.clear();
     }

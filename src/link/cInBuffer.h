@@ -4,10 +4,11 @@
 
 #include <cstdint>
 
-/// Collects the bytes that the serial port delivers and cuts frames (mWardlock.h) out of them.
+/// Collects the bytes from the serial port and takes frames (mWardlock.h) out of them.
 class cInBuffer {
 public:
-    /// The highest index that the buffer may reach. Bytes that would go beyond purge what is there.
+    /// The highest index that the buffer may reach. If new bytes would go beyond it, all older
+    /// bytes are dropped.
     static constexpr int Limit = 40960;
 
     void Clear() {
@@ -15,26 +16,26 @@ public:
         m_lost = 0;
         m_lostMemoryFrames = 0;
     }
-    /// The highest index: one less than the number of bytes, and 0 for an empty buffer too.
+    /// The highest index: one less than the number of bytes, but 0 for an empty buffer.
     int Count() const { return m_bytes.isEmpty() ? 0 : static_cast<int>(m_bytes.size()) - 1; }
     void Append(const QByteArray& data);
     QByteArray Buffer() const { return m_bytes; }
 
-    /// Takes at most one frame out of the buffer. Junk in front of a frame goes with it; a frame
-    /// whose checksum does not hold goes without being delivered. `received` tells whether `frame`
-    /// holds a frame; if not, it is empty.
+    /// Takes at most one frame out of the buffer, together with any junk before it. A frame with a
+    /// wrong checksum is dropped. `received` says whether `frame` holds a frame; if not, it is
+    /// empty.
     void GetPacket(QByteArray& frame, bool& received);
 
-    /// Throws away a frame that broke off, if one stands in front: its checksum does not hold, and
-    /// another frame begins in it, whose beginning GetPacket would throw away along with it.
+    /// Drops an incomplete frame at the front if the next frame begins within it. GetPacket would
+    /// drop the beginning of that next frame together with the incomplete one.
     void DropBrokenFrame();
-    /// True if a memory frame has begun whose end is still to come.
+    /// True if a memory frame has begun but is not complete yet.
     bool AwaitsMemoryFrame() const;
 
-    /// Bytes since the last Clear that arrived and were thrown away: junk, frames with a wrong
-    /// checksum, purged bytes.
+    /// The number of bytes that were dropped since the last Clear: junk, frames with a wrong
+    /// checksum, older bytes of a buffer that was full.
     std::int64_t Lost() const { return m_lost; }
-    /// Among them, frames as long as a memory frame.
+    /// The number of dropped frames that were as long as a memory frame.
     int LostMemoryFrames() const { return m_lostMemoryFrames; }
 
 private:

@@ -7,9 +7,9 @@
 
 #include <vector>
 
-/// One touch as it came from a reader, with what the definitions said of its button then.
+/// One touch from a reader, with the definition of its button at that time.
 struct cRawButton {
-    int EventType = UserGroup; ///< goes into wGroupType
+    int EventType = UserGroup; ///< a GroupType, stored as wGroupType
     DateTime DateAndTime;
     QString ButtonCode;
     QString Name;
@@ -17,9 +17,10 @@ struct cRawButton {
     QString GroupName;
     QString GroupDesc;
 
+    // Part of the type's interface; the station itself asks for EventType.
     bool IsEvent() const { return EventType == EventBookGroup; }
     bool IsLocation() const { return EventType == SiteGroup; }
 };
 
-/// The touches of one download, in the order in which they were made.
+/// The touches of one download, oldest first.
 using colRawButtons = std::vector<cRawButton>;

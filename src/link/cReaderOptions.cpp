@@ -31,7 +31,7 @@ void Read(const char* key, bool& value) {
     value = SavedBoolean(SettingsSection::Reader, QString::fromLatin1(key), value);
 }
 
-/// Every property with its setting's name.
+/// Calls `visit` with each property and the name of its setting.
 template <typename Options, typename Visit>
 void ForEachSetting(Options& options, Visit visit) {
     visit("DallasOption", options.DallasOption);

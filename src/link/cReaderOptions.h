@@ -3,8 +3,9 @@
 #include <cstdint>
 #include <memory>
 
-/// The reader's options as saved values: read when it is made, written back when it goes. Nothing
-/// is sent from here; ReaderSignals holds what the operator chose for the next sending.
+/// The reader's options as saved settings. The constructor reads them and the destructor writes
+/// them back. That is all that the object does: the station uses none of the values. What is sent
+/// to a reader is in ReaderSignals.
 class cReaderOptions {
 public:
     cReaderOptions();
@@ -12,7 +13,7 @@ public:
     cReaderOptions(const cReaderOptions&) = delete;
     cReaderOptions& operator=(const cReaderOptions&) = delete;
 
-    std::uint8_t DallasOption = 0; ///< kept for the reader's maker; the station gives it no meaning
+    std::uint8_t DallasOption = 0; ///< saved, without a meaning for the station
     std::uint8_t PcCodeMSB = 136;
     std::uint8_t PcCodeLSB = 136;
     bool EnableBuzzer = true;
@@ -20,12 +21,12 @@ public:
     bool EnableVibration = true;
     bool EnableLongDuration = false;
 
-    /// Yesterday's date code, high and low byte: one day below the one that sets the clock.
+    /// High and low byte of yesterday's date code, one day before the one that sets the clock.
     std::uint8_t DateCodeMSB() const;
     std::uint8_t DateCodeLSB() const;
-    /// The four booleans as ReaderSignals packs them.
+    /// The four booleans, packed as in ReaderSignals.
     std::uint8_t OptionByte() const;
 };
 
-/// Lives as long as the main window.
+/// Exists as long as the main window.
 extern std::unique_ptr<cReaderOptions> gReaderOptions;

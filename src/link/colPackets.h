@@ -7,10 +7,10 @@
 /// One frame of a memory transfer.
 struct cPacket {
     QByteArray RawData; ///< the whole frame, preamble and checksum included
-    int Tag = 0;        ///< its running number, 1 for the first
+    int Tag = 0;        ///< its number, from 1
 };
 
-/// The frames of one memory transfer, in the order in which they came.
+/// The frames of one memory transfer, in order.
 class colPackets {
 public:
     cPacket& Add(const QByteArray& rawData) { return m_packets.emplace_back(cPacket{rawData, 0}); }

@@ -7,27 +7,27 @@
 
 #include <cstdint>
 
-/// The one place that knows the time. Everything that pauses, waits or ticks goes through here, so
-/// that a test can set the time and let it run faster; nothing but a test does.
+/// The only source of the time. Everything that pauses, waits or ticks goes through here, so that a
+/// test can set the time and make it run faster. Only tests do.
 
-/// The present local date and time.
+/// The current local date and time.
 DateTime Now();
 /// Today at midnight.
 DateTime Today();
-/// Seconds since midnight; falls back to 0 at midnight, as a wall clock does.
+/// Seconds since midnight. Starts again from 0 at midnight.
 double SecondsOfDay();
-/// Milliseconds since some moment, by a clock that no setting of the time moves. For measuring how
-/// long something takes.
+/// Milliseconds since some moment, by a clock that is not changed when the time is set. For
+/// measuring how long something takes.
 std::int64_t MillisecondsRunning();
-/// Blocks the thread; no event is handled meanwhile.
+/// Blocks the thread. No events are handled until it returns.
 void Sleep(int milliseconds);
-/// Handles all events that are waiting.
+/// Handles all waiting events.
 void DoEvents();
-/// The same, but keys and clicks go on waiting.
+/// Handles all waiting events except keys and clicks.
 void DoEventsWithoutInput();
 
 /// A repeating timer on the interface thread, stopped at first. Starting it again begins a new
-/// interval. A tick that is still being handled is not entered again from its own DoEvents.
+/// interval. If the handler of a tick calls DoEvents, no further tick comes in there.
 class Timer : public QObject {
     Q_OBJECT
 public:
@@ -48,8 +48,8 @@ private:
     bool m_firing = false;
 };
 
-/// While it lives, the time starts at `start` (if given) and runs `speed` times as fast: pauses,
-/// timers and waits shrink together. For tests.
+/// For tests. While it exists, the time begins at `start` (if given) and runs `speed` times as
+/// fast; pauses, timers and waits become shorter in proportion.
 class TestClock {
 public:
     explicit TestClock(double speed);

@@ -38,7 +38,7 @@ bool CommPort::PortOpen() const { return m_port && m_port->isOpen(); }
 
 void CommPort::SetPortOpen(bool open) {
     if (!open) {
-        // Not deleted here and now: this may be running in one of its own events.
+        // Deleted later: this may be called from one of its own signals.
         if (m_port) {
             m_port->disconnect(this);
             m_port->close();
@@ -59,7 +59,7 @@ void CommPort::SetPortOpen(bool open) {
         throw RunTimeError(RunTimeErrorNumber::PortNotAvailable,
                            device.isEmpty() ? QStringLiteral("Invalid port number")
                                             : device + QStringLiteral(": ") + port->errorString());
-    port->clear(QSerialPort::Input); // what waited in the system was meant for somebody else
+    port->clear(QSerialPort::Input); // what was waiting belongs to an earlier conversation
     connect(port.get(), &QSerialPort::readyRead, this, [this] { Raise(comEvReceive); });
     connect(port.get(), &QSerialPort::errorOccurred, this,
             [this](QSerialPort::SerialPortError error) { HandleError(error); });
@@ -98,7 +98,7 @@ void CommPort::HandleError(int error) {
     case QSerialPort::ResourceError:
     case QSerialPort::DeviceNotFoundError:
     case QSerialPort::PermissionError:
-        // The device is gone; what it sent before still waits to be read.
+        // The device is gone, but what it sent before can still be read.
         if (m_port->bytesAvailable() > 0)
             Raise(comEvReceive);
         SetPortOpen(false);

@@ -9,8 +9,8 @@
 
 class QSerialPort;
 
-/// The serial port control: opening, binary input and output, and one event for whatever happens
-/// on the line. Events come only while events are handled (DoEvents, or the event loop).
+/// The serial port: opening, binary input and output, and one signal for everything that happens on
+/// the line. The signal comes only while events are handled (DoEvents, or the event loop).
 class CommPort : public QObject {
     Q_OBJECT
 public:
@@ -32,24 +32,25 @@ public:
     explicit CommPort(QObject* parent = nullptr);
     ~CommPort() override;
 
-    /// Number of the port, 1 to 8; which device that is tells DeviceOfPort.
+    /// The number of the port, 1 to 8. `DeviceOfPort` says which device that is.
     int Number = 1;
     /// "9600,n,8,1": rate, parity (n, e, o), data bits, stop bits.
     QString Settings;
 
     bool PortOpen() const;
-    /// Throws RunTimeError (PortNotAvailable) if the device cannot be opened. A port whose device
-    /// vanishes closes itself.
+    /// Throws RunTimeError (PortNotAvailable) if the device cannot be opened. If the device is
+    /// unplugged, the port closes itself.
     void SetPortOpen(bool open);
 
-    /// All bytes that wait. Throws RunTimeError (PortNotOpen).
+    /// All waiting bytes. Throws RunTimeError (PortNotOpen).
     QByteArray Input();
-    /// Hands bytes to the system without waiting for the line. Throws RunTimeError (PortNotOpen).
+    /// Hands bytes to the system without waiting until they are sent. Throws RunTimeError
+    /// (PortNotOpen).
     void Output(const QByteArray& bytes);
     int CommEvent() const { return m_event; }
 
 signals:
-    /// Something happened; CommEvent tells what.
+    /// Something happened; CommEvent says what.
     void OnComm();
 
 private:
@@ -60,17 +61,18 @@ private:
     int m_event = 0;
 };
 
-/// The device behind a port number from 1 to 8: the one that the operator chose for it, else the
-/// machine's serial devices in order (on Windows: the port of that name). Empty where there is
-/// none.
+/// The device for a port number from 1 to 8; empty if there is none. It is the one that the
+/// operator chose, or else the automatic one.
 QString DeviceOfPort(int number);
-/// The parts of that answer: what the operator chose, empty if nothing; and what is taken then.
+/// The device that the operator chose for a port number; empty if none.
 QString ChosenDevice(int number);
+/// The device that is used if none is chosen: the machine's serial devices in order (on Windows,
+/// the port of that name).
 QString AutomaticDevice(int number);
-/// Chooses the device for a port number for good; an empty device takes the choice back.
+/// Saves the device for a port number. An empty device deletes the choice.
 void ChooseDevice(int number, const QString& device);
-/// While the process runs, `device` is what every port number means. For a device named on the
-/// command line.
+/// Makes every port number mean `device` until the process ends. For a device named on the command
+/// line.
 void OverrideDevice(const QString& device);
 /// The machine's serial devices, in order.
 QStringList SerialDevices();

@@ -17,15 +17,14 @@ namespace {
 
 const QString PasswordProperty = QStringLiteral("jet oledb:database password");
 const QString SourceProperty = QStringLiteral("data source");
-/// A page of the format. Anything shorter is no store, though the engine would take it for a new
+/// One page of the format. A shorter file is not a store, but the engine would take it for a new
 /// one and write to it.
 constexpr qint64 LeastStoreBytes = 1024;
 
-/// In KiB below zero: as much as a store of about two million events.
+/// In KiB, as a negative number: enough for a store of about two million events.
 constexpr char CacheForTwoPasses[] = "PRAGMA cache_size = -262144";
 
-/// The end of a connection text's part that begins at `at`: the next ";" that stands outside
-/// quotes.
+/// The end of the part of a connection text that begins at `at`: the next ";" outside quotes.
 qsizetype EndOfPart(const QString& text, qsizetype at) {
     bool quoted = false;
     for (; at < text.size() && (quoted || text[at] != u';'); ++at)
@@ -40,7 +39,8 @@ QString WithoutQuotes(const QString& value) {
     return value.mid(1, value.size() - 2).replace(QStringLiteral("\"\""), QStringLiteral("\""));
 }
 
-/// "Key=value;Key = value": the keys in lower case, blanks around both sides dropped.
+/// The parts of "Key=value;Key = value", with the keys in lower case and without blanks around
+/// them.
 QHash<QString, QString> PartsOf(const QString& connectionText) {
     QHash<QString, QString> parts;
     for (qsizetype start = 0; start < connectionText.size();) {
@@ -148,7 +148,7 @@ Transaction::~Transaction() {
     try {
         m_connection.RollbackTrans();
     } catch (const RunTimeError&) {
-        // The file is gone: nothing is left to undo.
+        // The file is gone, so there is nothing to undo.
     }
 }
 
@@ -161,10 +161,10 @@ void CreateStoreFile(const QString& path, const QString& password) {
     if (QFileInfo::exists(path))
         throw RunTimeError(
             RunTimeErrorNumber::FileInUse,
-            QStringLiteral("The file '%1' exists already.").arg(QDir::toNativeSeparators(path)));
+            QStringLiteral("The file '%1' already exists.").arg(QDir::toNativeSeparators(path)));
     try {
         const auto engine = std::make_shared<Engine>(path, password, Engine::Creation::MayCreate);
-        // An empty store has no page yet; a table that comes and goes gives it its first.
+        // An empty store has no page. Creating a table and dropping it makes the first one.
         RunOn(engine, "CREATE TABLE tblNone (ID INTEGER)");
         RunOn(engine, "DROP TABLE tblNone");
     } catch (...) {
@@ -178,14 +178,13 @@ void CompactDatabase(const QString& source, const QString& destination) {
     Connection connection;
     connection.Open(source);
     const auto& engine = connection.OpenEngine();
-    // The check reads what the copying reads again. A page that is still there need not be
-    // decrypted a second time.
+    // The check and the copying read the same pages. With this cache they are decrypted only once.
     RunOn(engine, CacheForTwoPasses);
     const QString fault = connection.QuickCheck();
     if (!fault.isEmpty())
         throw RunTimeError(RunTimeErrorNumber::StoreEngine + SQLITE_CORRUPT, fault);
     const auto target = PartsOf(destination);
-    // The engine attaches only a file that is there; an empty one is a new store to it.
+    // The engine attaches only an existing file. It treats an empty one as a new store.
     QFile file(target.value(SourceProperty));
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         throw RunTimeError(RunTimeErrorNumber::FileNotFound,
@@ -193,8 +192,8 @@ void CompactDatabase(const QString& source, const QString& destination) {
     file.close();
     RunOn(engine, "ATTACH DATABASE ? AS compacted KEY ?",
           {target.value(SourceProperty), target.value(PasswordProperty)});
-    // The copy is worthless until it is complete, so it needs neither a journal nor a sync a step;
-    // whoever puts it in place syncs it whole.
+    // The copy is useless until it is complete, so it needs no journal and no sync at each step. It
+    // is synced as a whole when it is put in place.
     RunOn(engine, "PRAGMA compacted.journal_mode = OFF");
     RunOn(engine, "PRAGMA compacted.synchronous = OFF");
     RunOn(engine, "SELECT sqlcipher_export('compacted')");

@@ -12,8 +12,8 @@ class Engine;
 class Recordset;
 
 /// One connection to a password-protected store file. While it is open, a lock file beside the
-/// store (the same name, ending in ".ldb") keeps other processes out; several connections of one
-/// process share it. Everything that fails throws RunTimeError.
+/// store (the same name, ending in ".ldb") keeps other processes out. The connections of one
+/// process share that file. Everything that fails throws RunTimeError.
 class Connection {
 public:
     Connection();
@@ -21,48 +21,49 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    /// Kept for the caller; there is one provider.
+    /// Set by the caller, without effect: there is only one provider.
     QString Provider;
-    /// "Data Source=" and the path, and other parts split by ";" as a connection text has them. A
-    /// value that holds a ";" stands in double quotes (ConnectionValue).
+    /// "Data Source=" and the path, and other parts, separated by ";". A value that contains a ";"
+    /// must be in double quotes (ConnectionValue).
     QString ConnectionString;
+    /// Set by the caller, without effect: every connection reads and writes.
     int Mode = 0;
-    /// "Jet OLEDB:Database Password" is the one that is used.
+    /// Only "Jet OLEDB:Database Password" is used.
     QString& Properties(const QString& name) { return m_properties[name.toLower()]; }
 
-    /// Opens the store, which must be there, be an encrypted store file and open with the
-    /// password. A transaction that a dying process left half done is rolled back here, unless its
-    /// journal belongs to another file (ForeignJournal). `connectionString`, where not empty,
-    /// replaces the property.
+    /// Opens the store, which must be an existing store file with this password. If a killed
+    /// process left a transaction unfinished, it is rolled back, unless its journal belongs to
+    /// another file (ForeignJournal). A `connectionString` that is not empty replaces the property.
     void Open(const QString& connectionString = {});
     /// Recordsets that are still open keep the file and its lock until they are closed.
     void Close();
     ObjectState State() const { return m_engine ? adStateOpen : adStateClosed; }
 
-    /// A journal beside the store that did not belong to it, such as one that a killed program left
-    /// before somebody put a backup in the store's place. Open has moved it to this path; empty
-    /// where there was none.
+    /// A journal beside the store that did not belong to it; for example, a killed program left it,
+    /// and then somebody replaced the store by a backup. Open has moved it to this path. Empty if
+    /// there was none.
     const QString& ForeignJournal() const { return m_foreignJournal; }
 
-    /// Runs one statement of the store's dialect, with a value for each "?" in it, and gives the
-    /// number of rows it changed.
+    /// Runs one statement in the store's dialect, with a value for each "?". Gives the number of
+    /// rows that it changed.
     int Execute(const QString& statement, const Values& values = {});
 
-    /// The first fault that the engine's own check of the store finds; empty for a sound one. Reads
-    /// the whole store.
+    /// The first fault that the engine's own check finds in the store; empty if there is none.
+    /// Reads the whole store.
     QString QuickCheck() const;
 
-    /// A transaction is on disk when CommitTrans returns. They do not nest.
+    /// A transaction is on disk when CommitTrans returns. Transactions do not nest.
     void BeginTrans();
     void CommitTrans();
     void RollbackTrans();
-    /// False also after the engine has rolled a transaction back by itself, as on a full disk.
+    /// Also false after the engine itself has rolled a transaction back, for example on a full
+    /// disk.
     bool InTransaction() const;
 
-    /// The names of the tables, one row each, in the column "TABLE_NAME", and "TABLE_TYPE".
+    /// One row for each table and view: "TABLE_NAME" and "TABLE_TYPE".
     std::unique_ptr<Recordset> OpenSchema();
 
-    /// For the platform's own use; null while the connection is closed.
+    /// For the platform only. Null while the connection is closed.
     const std::shared_ptr<Engine>& OpenEngine() const { return m_engine; }
 
 private:
@@ -87,13 +88,13 @@ private:
     bool m_open = true;
 };
 
-/// A value as it stands in a connection text.
+/// A value in the form for a connection text, in quotes if it needs them.
 QString ConnectionValue(const QString& value);
 
 /// Makes a new, empty store file with this password. Throws RunTimeError if the file exists.
 void CreateStoreFile(const QString& path, const QString& password);
 
-/// Checks the store that the first connection text names, and copies it without its waste into a
-/// new file that the second names; both texts carry path and password. Throws RunTimeError, whose
-/// number IsDamage knows if the source is not sound; the destination is then to be thrown away.
+/// Checks the source and copies it, without unused space, into a new file. Both parameters are
+/// connection texts with path and password. Throws RunTimeError; the destination is then useless.
+/// IsDamage recognises the number if the source is damaged.
 void CompactDatabase(const QString& source, const QString& destination);

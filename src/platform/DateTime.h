@@ -6,9 +6,9 @@
 #include <compare>
 #include <cstdint>
 
-/// A point in time, or a duration: days since 30 December 1899, as the store holds them, without
-/// time zone. Kept on whole milliseconds, so that sums and differences are exact where sums of
-/// binary fractions of a day would drift across the edge of a tolerance.
+/// A point in time or a duration, without time zone. The store holds it as days since 30 December
+/// 1899; here it is a whole number of milliseconds. So sums and differences are exact, whereas sums
+/// of fractions of a day could drift across the edge of a tolerance.
 class DateTime {
 public:
     static constexpr std::int64_t MillisecondsPerDay = 86'400'000;
@@ -49,8 +49,8 @@ public:
         return QTime::fromMSecsSinceStartOfDay(static_cast<int>(TimePart().m_milliseconds));
     }
 
-    /// Half of a duration. An odd number of milliseconds is rounded down; a bound so made
-    /// separates whole milliseconds exactly as the unrounded one would under "<=" and ">".
+    /// Half of a duration. An odd number of milliseconds is rounded down. Compared by "<=" or ">",
+    /// the result separates whole milliseconds just as the exact half would.
     constexpr DateTime Half() const {
         return DateTime((m_milliseconds - FloorRemainder(m_milliseconds, 2)) / 2);
     }

@@ -16,8 +16,8 @@
 
 namespace {
 
-// The file is a binary resource collection: a list of the languages and one compiled catalogue for
-// each but the language of the keys.
+// The file is a binary resource collection: a list of the languages, and a compiled catalogue for
+// each of them except English.
 const QString Root = QStringLiteral("/WK3");
 
 [[noreturn]] void ThrowUnreadable(const QString& what) {
@@ -33,7 +33,7 @@ Dictionary::~Dictionary() { Unload(); }
 
 void Dictionary::Unload() {
     m_translator.reset();
-    m_libraryTexts.reset(); // which also takes it from the application
+    m_libraryTexts.reset(); // also removes it from the application
     m_languages.clear();
     if (!m_registered.isEmpty())
         QResource::unregisterResource(m_registered, Root);
@@ -64,7 +64,7 @@ void Dictionary::Open() {
     LoadLibraryTexts(locale);
 }
 
-/// A missing catalogue costs only the translation of Qt's own texts.
+/// If the catalogue is missing, only Qt's own texts stay in English.
 void Dictionary::LoadLibraryTexts(const QString& locale) {
     auto translator = std::make_unique<QTranslator>();
     if (!translator->load(QStringLiteral("qtbase_") + locale,
@@ -113,13 +113,13 @@ MessageAnswer Dictionary::IvMessageBox(const QString& text, const QString& capti
 QString Dictionary::FormatStr(const QString& pattern, const QStringList& values) {
     static const QRegularExpression mark(QStringLiteral("%(\\d+):s"));
     QString text;
-    qsizetype behind = 0;
+    qsizetype end = 0;
     for (auto marks = mark.globalMatch(pattern); marks.hasNext();) {
         const auto match = marks.next();
-        text += QStringView(pattern).mid(behind, match.capturedStart() - behind);
+        text += QStringView(pattern).mid(end, match.capturedStart() - end);
         text += values.value(match.captured(1).toInt());
-        behind = match.capturedEnd();
+        end = match.capturedEnd();
     }
-    text += QStringView(pattern).mid(behind);
+    text += QStringView(pattern).mid(end);
     return text;
 }

@@ -10,18 +10,19 @@
 
 class QTranslator;
 
-/// What the dictionary file tells of one language.
+/// One language, as the dictionary file describes it.
 struct Language {
     QString englishName;
     QString nativeName;
     QString locale; ///< such as "de"; empty for the language of the keys
 };
 
-/// The translation dictionary: one binary file with all languages. The key of a text is the
-/// English text itself, and a text without an entry is its own translation.
+/// The translation dictionary: one binary file with all languages. The key of a text is its English
+/// wording. A text without an entry is shown in English.
 class Dictionary {
 public:
-    /// Takes the number of the present language and gives that of the chosen one, or nothing.
+    /// Lets the operator choose: `language` is the current one and becomes the chosen one. False if
+    /// none was chosen.
     using Chooser = bool (*)(Dictionary& dictionary, int& language);
 
     Dictionary();
@@ -29,32 +30,33 @@ public:
     Dictionary(const Dictionary&) = delete;
     Dictionary& operator=(const Dictionary&) = delete;
 
+    /// Set by the caller, without effect: Open always checks the file.
     int CheckLevel = 0;
     QString FileName;
-    /// Number of the language to open; -1 is the system's own.
+    /// The number of the language to open; -1 means the system's language.
     int language = -1;
 
-    /// Opens the file and the language; Qt's own dialogs follow. Throws RunTimeError where the file
-    /// is missing or damaged or holds no such language; every text is then its own translation.
+    /// Opens the file and the language, for Qt's own dialogs too. Throws RunTimeError if the file
+    /// is missing or damaged or does not hold the language; every text is then shown in English.
     void Open();
 
-    /// A language by its number. For -1, or where no file is open, what can be told without it.
+    /// A language by its number. For -1, or if no file is open, what is known without the file.
     Language Languages(int number) const;
     int LanguageCount() const { return static_cast<int>(m_languages.size()); }
 
     QString Translate(const QString& text) const;
 
-    /// Lets the operator choose; true, and `number` set, if a language was chosen. Without a
-    /// chooser installed nothing is ever chosen.
+    /// Lets the operator choose. If a language was chosen, gives true and sets `number`. Does
+    /// nothing if no chooser is installed.
     bool SelectLanguage(int& number);
     void InstallChooser(Chooser chooser) { m_chooser = chooser; }
 
-    /// A message box whose text is translated already; its buttons follow the language.
+    /// A message box. The text must be translated already; the buttons are translated here.
     MessageAnswer IvMessageBox(const QString& text, const QString& caption, MessageKind kind,
                                MessageButtons buttons = MessageButtons::Ok) const;
 
-    /// Replaces "%0:s", "%1:s" ... in the pattern by the values, in one pass: what a value holds is
-    /// not looked at again.
+    /// Replaces "%0:s", "%1:s" ... in the pattern by the values. Marks within a value are not
+    /// replaced.
     static QString FormatStr(const QString& pattern, const QStringList& values);
 
 private:

@@ -58,23 +58,23 @@ void Engine::Prepare(const QString& password) {
     sqlite3_busy_timeout(m_database, BusyMilliseconds);
     const QByteArray key = password.toUtf8();
     Require(*this, sqlite3_key(m_database, key.constData(), static_cast<int>(key.size())));
-    // The format is that of the third major version, which older engines have as their only one. A
-    // newer engine needs to be asked for it.
+    // The format is that of the third major version. Older engines know no other; a newer engine
+    // must be asked for it.
     Run(*this, "PRAGMA cipher_default_compatibility = 3");
     Run(*this, "PRAGMA cipher_compatibility = 3");
-    // EXTRA also syncs the folder after the journal is deleted. With FULL, a power cut after the
-    // commit could bring the journal back, and with it the state before the commit.
+    // EXTRA also syncs the folder after the journal is deleted. With FULL, the journal could be
+    // back after a power cut, and with it the state before the commit.
     Run(*this, "PRAGMA synchronous = EXTRA");
-    // Temporary tables are for when the disk is full.
+    // Temporary tables are used when the disk is full.
     Run(*this, "PRAGMA temp_store = MEMORY");
-    // The engine reads the first page, and so tries the password, only when it is asked something.
+    // The engine tries the password only when it first reads from the file.
     Run(*this, "SELECT count(*) FROM sqlite_master");
     auto collator = std::make_unique<QCollator>(QLocale());
     collator->setCaseSensitivity(Qt::CaseInsensitive);
     Require(*this, sqlite3_create_collation_v2(m_database, PeopleCollation, SQLITE_UTF8,
                                                collator.get(), ComparePeople,
                                                [](void* p) { delete static_cast<QCollator*>(p); }));
-    (void)collator.release(); // the engine's own from here on
+    (void)collator.release(); // owned by the engine from here on
 }
 
 Engine::~Engine() { sqlite3_close(m_database); }
@@ -119,7 +119,7 @@ void Statement::Bind(int position, const Value& value) {
 
 void Statement::Bind(const Values& values) {
     if (sqlite3_bind_parameter_count(m_statement.get()) != static_cast<int>(values.size()))
-        Throw(SQLITE_RANGE, QStringLiteral("The statement wants another number of values."));
+        Throw(SQLITE_RANGE, QStringLiteral("The statement needs another number of values."));
     int position = 0;
     for (const Value& value : values)
         Bind(++position, value);
@@ -138,7 +138,7 @@ void Statement::Run() {
         Reset();
         return;
     }
-    // Reset gives the failure of the last step once more; take it before that.
+    // Reset would report the failure of the last step again, so throw it first.
     try {
         m_engine->ThrowError();
     } catch (...) {

@@ -12,8 +12,8 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-/// An open store file with the hold on it. It is closed, and the hold let go, when the last
-/// connection, recordset or statement on it is gone: never one without the other.
+/// An open store file and its lock. When the last connection, recordset or statement on it is gone,
+/// the file is closed and the lock released, always together.
 ///
 /// Everything that fails throws RunTimeError, with the number StoreEngine plus the engine's code.
 class Engine {
@@ -26,9 +26,10 @@ public:
     Engine& operator=(const Engine&) = delete;
 
     sqlite3* Handle() const { return m_database; }
-    /// Throws the engine's present error.
+    /// Throws the engine's current error.
     [[noreturn]] void ThrowError() const;
-    /// False also after the engine has rolled a transaction back by itself, as on a full disk.
+    /// Also false after the engine itself has rolled a transaction back, for example on a full
+    /// disk.
     bool InTransaction() const;
 
 private:
@@ -42,11 +43,11 @@ private:
 class Statement {
 public:
     Statement() = default;
-    /// Throws for text that holds anything after the first statement.
+    /// Throws if the text holds anything after the first statement.
     Statement(std::shared_ptr<Engine> engine, const QByteArray& sql);
     Statement(Statement&&) = default;
     Statement& operator=(Statement other) noexcept {
-        std::swap(m_engine, other.m_engine); // what was here goes in the order of destruction
+        std::swap(m_engine, other.m_engine); // `other` destroys the old ones in the right order
         std::swap(m_statement, other.m_statement);
         return *this;
     }
@@ -55,11 +56,11 @@ public:
     sqlite3_stmt* Handle() const { return m_statement.get(); }
     /// `position` counts the "?" from 1.
     void Bind(int position, const Value& value);
-    /// One value for each "?"; throws for more or fewer.
+    /// One value for each "?". Throws if there are more or fewer.
     void Bind(const Values& values);
     /// True if there is a row.
     bool Step();
-    /// Runs a statement from which no row is wanted, and makes it ready to run again.
+    /// Runs a statement whose rows are not wanted, and makes it ready to run again.
     void Run();
     void Reset();
 
@@ -73,10 +74,10 @@ private:
 
 enum class Check {
     Quick, ///< every page and every row, in one pass
-    Full   ///< each index against its table, too
+    Full   ///< also each index against its table
 };
-/// The first fault that the engine's own check finds, in its words; empty for a sound store.
+/// The first fault that the engine's own check finds, in its words; empty if there is none.
 QString FirstFault(const std::shared_ptr<Engine>& engine, Check check);
 
-/// True for the numbers with which the engine says that the file's content is at fault.
+/// True for the error numbers that mean a damaged file.
 bool IsDamage(int errorNumber);

@@ -115,7 +115,7 @@ void PlaceNewFile(const QString& from, const QString& to) {
     const QByteArray source = QFile::encodeName(from), target = QFile::encodeName(to);
     if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) !=
         0) {
-        // A file system that does not know this may know hard links.
+        // A file system without this call may have hard links.
         if (errno != EINVAL || ::link(source.constData(), target.constData()) != 0)
             ThrowFileError(to);
         ::unlink(source.constData());
@@ -129,7 +129,7 @@ void KeepOwnerAndMode(const QString& from, const QString& to) {
     if (::stat(QFile::encodeName(from).constData(), &old) != 0)
         return;
     mode_t mode = old.st_mode & 07777;
-    // The owner alone may fail while the group succeeds.
+    // Setting the owner may fail where setting the group succeeds.
     if (::chown(target.constData(), old.st_uid, old.st_gid) != 0 &&
         ::chown(target.constData(), static_cast<uid_t>(-1), old.st_gid) != 0)
         mode &= ~static_cast<mode_t>(S_IRWXG);

@@ -43,7 +43,7 @@ QString Format(DateTime value, const QString& pattern) {
     const QDate date = value.ToQDate();
     const QTime time = value.ToQTime();
     QString text;
-    bool behindHour = false;
+    bool afterHour = false;
     for (qsizetype at = 0; at < pattern.size();) {
         const QChar letter = pattern[at].toLower();
         qsizetype end = at;
@@ -51,7 +51,7 @@ QString Format(DateTime value, const QString& pattern) {
             ++end;
         const int count = static_cast<int>(end - at);
         const int width = count > 1 ? 2 : 1;
-        const bool minute = letter == u'n' || (letter == u'm' && behindHour && count < 3);
+        const bool minute = letter == u'n' || (letter == u'm' && afterHour && count < 3);
         if (minute)
             text += Padded(time.minute(), width);
         else if (letter == u'd')
@@ -68,7 +68,7 @@ QString Format(DateTime value, const QString& pattern) {
         else
             text += QStringView(pattern).mid(at, count);
         if (letter.isLetter())
-            behindHour = letter == u'h';
+            afterHour = letter == u'h';
         at = end;
     }
     return text;

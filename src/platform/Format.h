@@ -6,18 +6,19 @@
 
 #include <optional>
 
-/// Text forms of date-times and numbers, by named formats and patterns.
+/// Dates, times and numbers as text.
 
-/// Named formats, in any case: "Short Date", "Medium Date" and "Short Time" as the user's locale
-/// has them (a year always has four digits, a short time never seconds). Otherwise a pattern:
-/// "d", "dd", "m", "mm", "mmm" (month name), "yy", "yyyy", "h", "hh" (24-hour), "n", "nn" (minute),
-/// "s", "ss", in any case; an "m" just behind an hour is the minute. All else stands as it is.
+/// `pattern` is one of the named formats "Short Date", "Medium Date" and "Short Time" of the user's
+/// locale, in any case (a year always has four digits, a short time never has seconds). Or it is
+/// made of "d", "dd", "m", "mm", "mmm" (month name), "yy", "yyyy", "h", "hh" (24-hour), "n", "nn"
+/// (minute), "s", "ss", in any case. An "m" directly after an hour is the minute. Everything else
+/// is copied.
 QString Format(DateTime value, const QString& pattern);
 
-/// A whole number with at least as many digits as the pattern has "0"; "0", "00", "000", "#0".
+/// A whole number with at least as many digits as the pattern ("0", "00", "000", "#0") has "0".
 QString Format(long long value, const QString& pattern);
 
-/// Date and time in the default text form of the user's locale.
+/// Date and time in the user's locale, with seconds.
 QString DefaultDateTimeText(DateTime value);
 
 /// Reads what DefaultDateTimeText writes; empty if the text is something else.

@@ -13,7 +13,8 @@ namespace {
 class LockFileInstance : public InstanceLock {
 public:
     explicit LockFileInstance(const QString& path) : m_file(path) {}
-    /// False only if somebody holds it: where no lock can be kept, none is missed.
+    /// False only if another process holds it. If no lock file can be made, the program goes on
+    /// without one.
     bool Take() { return m_file.Take() != LockFile::Outcome::Held; }
 
 private:
@@ -23,9 +24,9 @@ private:
 } // namespace
 
 std::unique_ptr<InstanceLock> TakeInstanceLock() {
-    // Not in the application folder, which may not be writable, but named after it: two folders
-    // are two installations. In the user's own folder, for in a shared one anybody could make the
-    // file first and so shut the program out.
+    // The application folder may not be writable. So the file is in the user's own folder and named
+    // after the application folder: two folders are two installations. In a shared folder another
+    // user could make the file first and lock the program out.
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
                       QStringLiteral("/wardlock"));
     folder.mkpath(QStringLiteral("."));

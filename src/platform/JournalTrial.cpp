@@ -10,11 +10,12 @@
 
 namespace {
 
-/// A page of the store's format.
+/// The size of a page in the store's format.
 constexpr qint64 PageBytes = 1024;
 
-/// How many pages the store had when the transaction of a journal began, as its head says after its
-/// magic number, the count of records and a random number; 0 where there is no head.
+/// The number of pages that the store had when the journal's transaction began; 0 if the journal
+/// has no header. In the header it follows the magic number, the count of records and a random
+/// number.
 qint64 PagesBefore(const QString& journalPath) {
     QFile file(journalPath);
     const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(20) : QByteArray();
@@ -23,7 +24,7 @@ qint64 PagesBefore(const QString& journalPath) {
     return qFromBigEndian<quint32>(head.constData() + 16);
 }
 
-/// A copy of the store beside it, while it lives.
+/// A copy of the store, beside it. It is removed in the end.
 class Trial {
 public:
     explicit Trial(const QString& storePath)
@@ -51,7 +52,7 @@ public:
 
 private:
     void Remove() {
-        QFile::remove(m_path); // one of a killed program, too
+        QFile::remove(m_path); // may also be one that a killed program left
         QFile::remove(JournalOf(m_path));
     }
 

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Process, program and machine, a line each.
+/// Process, program and machine, one line each.
 QByteArray Introduction() {
     const QString program =
         QCoreApplication::instance()
@@ -46,7 +46,7 @@ LockFile::Holder LockFile::HolderOf(const QString& path) {
 #ifdef Q_OS_WIN
 
 LockFile::Outcome LockFile::Take() {
-    // Others may read who holds it; the system removes the file with its last handle.
+    // Others may read the holder. The system removes the file when its last handle is closed.
     const HANDLE file =
         CreateFileW(reinterpret_cast<const wchar_t*>(m_path.utf16()), GENERIC_READ | GENERIC_WRITE,
                     FILE_SHARE_READ, nullptr, CREATE_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
@@ -72,14 +72,14 @@ LockFile::~LockFile() {
 
 namespace {
 
-/// Another process may remove the file between its opening and its locking; then there is a new
-/// one.
+/// Another process may remove the file after it was opened and before it is locked. Then the next
+/// try opens a new one.
 constexpr int MostTries = 100;
 
 int OpenForLocking(const QByteArray& path) {
     const int flags = O_CREAT | O_CLOEXEC | O_NOFOLLOW;
     const int file = ::open(path.constData(), O_RDWR | flags, 0666);
-    // One that another user's dead process left can be locked without being written.
+    // If a dead process of another user left it, it cannot be written, but it can be locked.
     return file < 0 && errno == EACCES ? ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW)
                                        : file;
 }
@@ -108,7 +108,7 @@ LockFile::Outcome LockFile::Take() {
             ::close(file);
             continue;
         }
-        // Only to say who holds it: on a full disk the lock holds without this.
+        // This only says who holds the file. On a full disk it fails, and the lock still holds.
         const QByteArray text = Introduction();
         if (::ftruncate(file, 0) == 0)
             (void)!::pwrite(file, text.constData(), static_cast<std::size_t>(text.size()), 0);
@@ -121,7 +121,7 @@ LockFile::Outcome LockFile::Take() {
 LockFile::~LockFile() {
     if (m_file < 0)
         return;
-    ::unlink(QFile::encodeName(m_path).constData()); // still held: nobody else can hold this one
+    ::unlink(QFile::encodeName(m_path).constData()); // while it is locked: no one else can hold it
     ::close(m_file);
 }
 

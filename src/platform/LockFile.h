@@ -2,26 +2,26 @@
 
 #include <QString>
 
-/// A file that one process at a time holds. The operating system's own file lock decides who holds
-/// it; the content only says who that is. A file that a dead process, another machine or a copied
-/// folder has left does no harm.
+/// Records its holder: one process at a time can hold the file. The operating system's file lock
+/// decides who holds it; the content only says who that is. So a file left by a dead process, by
+/// another machine or in a copied folder does no harm.
 class LockFile {
 public:
     enum class Outcome {
         Taken,
         Held,      ///< another process holds it
-        DiskFull,  ///< the file cannot be made for want of space
+        DiskFull,  ///< there is no room to make the file
         Impossible ///< the file cannot be made or locked for another reason
     };
-    /// As far as the file says; all empty where it says nothing.
+    /// As the file says. What it does not say is empty.
     struct Holder {
         qint64 process = 0;
         QString program;
-        QString machine; ///< empty for this one
+        QString machine; ///< empty for this machine
     };
 
     explicit LockFile(const QString& path) : m_path(path) {}
-    /// Lets go and removes the file.
+    /// Releases and removes the file.
     ~LockFile();
     LockFile(const LockFile&) = delete;
     LockFile& operator=(const LockFile&) = delete;

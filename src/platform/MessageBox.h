@@ -3,7 +3,7 @@
 #include <QList>
 #include <QString>
 
-/// The one seam for message boxes: a real box in the station, a line on standard error in the
+/// All message boxes go through here: a real box in the station, a line on standard error in the
 /// command line, a scripted answer in a test.
 
 enum class MessageKind { Warning, Critical, Information, Question };
@@ -15,20 +15,19 @@ struct Message {
     QString caption;
     MessageKind kind = MessageKind::Warning;
     MessageButtons buttons = MessageButtons::Ok;
-    /// What the buttons say, in the order of their names in MessageButtons.
+    /// The words on the buttons, in the order of their names in MessageButtons.
     QList<QString> buttonTexts;
 };
 
 class MessageBoxes {
 public:
     virtual ~MessageBoxes() = default;
-    /// Returns when it has been answered. Closing a box answers as Escape would: with its last
-    /// button.
+    /// Returns when the box has been answered. Closing it, or Escape, means its last button.
     virtual MessageAnswer Show(const Message& message) = 0;
 };
 
-/// Takes the place of whatever answered before; not owned. Null restores the default, which writes
-/// the text to standard error and gives the answer that does nothing.
+/// Replaces what answered before; not owned. Null restores the default, which writes the text to
+/// standard error and gives the answer that changes nothing (HarmlessAnswer).
 void InstallMessageBoxes(MessageBoxes* boxes);
 
 /// An untranslated box.
@@ -36,8 +35,8 @@ MessageAnswer MsgBox(const QString& text, const QString& caption, MessageKind ki
                      MessageButtons buttons = MessageButtons::Ok);
 MessageAnswer ShowMessage(const Message& message);
 
-/// The answer that changes nothing: Ok, No or Ignore. (Of OK and Cancel the one error dialog goes
-/// on with OK and ends the program with Cancel.)
+/// The answer that changes nothing: Ok, No or Ignore. (Only the error dialog has OK and Cancel, and
+/// its Cancel ends the program.)
 MessageAnswer HarmlessAnswer(MessageButtons buttons);
 /// The English words on the buttons, first to last.
 QList<QString> ButtonWords(MessageButtons buttons);

@@ -4,10 +4,10 @@
 
 #include <optional>
 
-/// Numbers as they are typed or saved.
+/// Numbers that were typed or saved.
 
-/// The value of a text that is a number, with "." or the user's own decimal sign; blanks around it
-/// do not matter. Nothing for any other text, the infinite ones included.
+/// The value of a number, written with "." or with the user's own decimal sign; blanks around it
+/// are ignored. Nothing if the text is not a finite number.
 std::optional<double> NumericValue(const QString& text);
 
 /// To the nearest whole number, halves to the even one: 0.5 gives 0, 1.5 and 2.5 give 2.

@@ -1,4 +1,4 @@
 #pragma once
 
-/// States of a connection or recordset.
+/// Whether a connection or recordset is open.
 enum ObjectState { adStateClosed = 0, adStateOpen = 1 };

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Beside the target, for only within a folder can one file take another's place at once.
+/// Beside the target, because only within one folder can a file replace another atomically.
 QString PartPath(const QFileInfo& target) {
     return target.dir().filePath(
         QStringLiteral(".%1.%2.part")
@@ -21,7 +21,7 @@ QString PartPath(const QFileInfo& target) {
             .arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0')));
 }
 
-/// Through a symbolic link, to the file that it means, which need not be there.
+/// The file that a symbolic link means, or the path itself. The file need not exist.
 QFileInfo FileMeantBy(const QString& path) {
     const QFileInfo given(path);
     if (given.exists())
@@ -58,7 +58,7 @@ OutputFile::OutputFile(const QString& path) {
 }
 
 OutputFile::~OutputFile() {
-    // By its name: a QFile whose last write failed does not remove itself.
+    // By its name, because a QFile whose last write failed does not remove itself.
     if (m_way == Way::Replace)
         QFile::remove(m_device->fileName());
 }
@@ -97,7 +97,7 @@ void OutputFile::CopyOver() {
 }
 
 QString OutputFile::CauseOfFailure(QIODevice& device) {
-    // A write that was only cut short has no cause yet. The next one has.
+    // An incomplete write does not give a cause. The next write does.
     if (auto* file = qobject_cast<QFileDevice*>(&device)) {
         file->putChar('\n');
         file->flush();

@@ -4,30 +4,30 @@
 
 #include <memory>
 
-/// A file that is being written. It takes the place of an older one only when it is complete and on
-/// the disk; a device or a pipe is written as it stands. Where the user may write to the older file
-/// but not make a new one in its folder, it is written over by Commit, from a complete file
-/// elsewhere. Every failure throws RunTimeError, with the file's name and the cause in its text.
+/// A file that is being written. It replaces an older file only when it is complete and on the
+/// disk. A device or a pipe is written directly. If the user may write to the older file but may
+/// not make a new one in its folder, Commit overwrites it from a complete file elsewhere. Every
+/// failure throws RunTimeError, with the file's name and the cause in its text.
 class OutputFile {
 public:
     explicit OutputFile(const QString& path);
-    /// Without a Commit before, an older file stays as it was, and no new one is left.
+    /// Without Commit, an older file stays as it was, and no new one is left.
     ~OutputFile();
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
 
     void Write(const QByteArray& bytes);
-    /// For a writer of its own, which must look at the result of every write.
+    /// For a writer that checks the result of each write itself.
     QFile& Device() { return *m_device; }
     void Commit();
 
-    /// Why a write to a device failed or was cut short.
+    /// Why a write to a device failed or was incomplete.
     static QString CauseOfFailure(QIODevice& device);
 
 private:
     enum class Way {
-        Replace,  ///< a file beside the target, which takes its place
-        Copy,     ///< a temporary file elsewhere, copied over the target
+        Replace,  ///< a file beside the target, which then replaces it
+        Copy,     ///< a temporary file elsewhere, then copied over the target
         Straight, ///< the target itself: a device or a pipe
     };
 

@@ -217,7 +217,7 @@ Statement& Recordset::WriterFor(const std::vector<int>& assigned) {
     return m_writer;
 }
 
-/// Gives the key of the row written.
+/// Gives the key of the written row.
 qint64 Recordset::WriteRow() {
     std::vector<int> assigned;
     for (int column = 0; column < m_columns.size(); ++column)
@@ -243,7 +243,7 @@ void Recordset::WritePending() {
     try {
         key = WriteRow();
     } catch (...) {
-        m_edit = Edit::None; // a row that cannot be written is dropped, not tried again
+        m_edit = Edit::None; // do not try to write this row again
         throw;
     }
     const Edit written = m_edit;

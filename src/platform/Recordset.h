@@ -17,18 +17,17 @@ class Connection;
 enum CursorLocationKind { adUseServer = 2, adUseClient = 3 };
 enum CursorType { adOpenForwardOnly = 0, adOpenStatic = 3 };
 enum LockType { adLockReadOnly = 1, adLockOptimistic = 3 };
-/// The source is a statement, or the bare name of a table.
+/// Whether the source is a statement or the name of a table.
 enum CommandType { adCmdText = 1, adCmdTable = 2 };
 
 /// The rows of one query.
 ///
-/// With a client cursor the whole result is fetched when it opens and lies in memory, so
-/// RecordCount is exact. With a server cursor rows are fetched one by one, forward only, and
-/// RecordCount is unknown.
+/// A client cursor fetches the whole result into memory when it opens, so RecordCount is exact. A
+/// server cursor fetches the rows one by one, forward only, and RecordCount is unknown.
 ///
-/// Rows can be added and changed when the statement reads from one table and the lock is not read
-/// only. AddNew begins a row; assignments fill it; Update writes it. Beginning another row or
-/// moving writes a row that is still pending. A closed recordset forgets it.
+/// Rows can be added and changed if the statement reads from one table and the lock is not read
+/// only. AddNew begins a row, assignments fill it, and Update writes it. A pending row is also
+/// written by the next AddNew and by moving. Closing discards it.
 ///
 /// Everything that fails throws RunTimeError.
 class Recordset : public RowSource {
@@ -40,8 +39,8 @@ public:
 
     CursorLocationKind CursorLocation = adUseServer;
 
-    /// `values` take the places of the "?" in the source, in their order. No value of the
-    /// operator's or the store's ever becomes part of the source itself.
+    /// `values` replace the "?" in the source, in order. No value from the operator or the store
+    /// may become part of the source itself.
     void Open(const QString& source, const Values& values, Connection& connection,
               CursorType cursor = adOpenStatic, LockType lock = adLockOptimistic,
               CommandType command = adCmdText);
@@ -58,7 +57,7 @@ public:
     void MoveFirst();
     void MoveNext();
 
-    /// The current row's value, or the pending one's while a row is being added.
+    /// The value in the current row, or in the pending row while one is being added.
     Value Fields(QStringView name) { return FieldAt(Column(name)); }
     Value FieldAt(int column);
     QString Text(QStringView name) { return Fields(name).Text(); }
@@ -66,13 +65,13 @@ public:
     DateTime Date(QStringView name) { return Fields(name).Date(); }
 
     void AddNew();
-    /// Sets a column of the row being added, or of the current row.
+    /// Sets a column of the pending row or, if there is none, of the current row.
     void Set(QStringView name, Value value);
-    /// Writes what was set. A row added gets its automatic ID here. The row that was written is
-    /// then the current one; a server cursor stays where it was.
+    /// Writes the pending row. A new row gets its automatic ID here. The written row becomes the
+    /// current one; a server cursor stays where it was.
     void Update();
 
-    /// What the set holds and how much memory its values take, for measuring.
+    /// The memory that the values take, for the benchmarks.
     std::size_t MemoryBytes() const { return m_rows.MemoryBytes(); }
 
     qsizetype RowCount() const override;

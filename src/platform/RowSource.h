@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-/// Rows by position, as a report reads them. The source must outlive whoever holds it.
+/// Rows by position, as a report reads them. The source must outlive the report.
 class RowSource {
 public:
     virtual ~RowSource() = default;

@@ -6,8 +6,8 @@
 
 namespace {
 
-// What a value's first byte says. A text's length follows in 7-bit groups, the lowest first, the
-// high bit telling that another follows.
+// The first byte of a value. The length of a text follows in groups of 7 bits, the lowest first;
+// the high bit is set if another group follows.
 enum Tag : unsigned char { TagNull, TagByte, TagInt32, TagInt64, TagReal, TagText };
 
 template <typename T>
@@ -29,7 +29,7 @@ std::size_t ReadLength(const unsigned char*& at) {
     return length;
 }
 
-const unsigned char* Behind(const unsigned char* at) {
+const unsigned char* EndOf(const unsigned char* at) {
     switch (*at++) {
     case TagByte:
         return at + 1;
@@ -126,7 +126,7 @@ void RowStore::AppendValue(const Value& value) {
 void RowStore::EndRow() {
     const std::size_t bytes = m_building.size();
     if (m_blocks.empty() || m_blocks.back().size - m_blocks.back().used < bytes) {
-        // Few rows are the rule, so the first block is small.
+        // Most results have few rows, so the first block is small.
         const std::size_t size = std::max(bytes, m_blocks.empty() ? FirstBlockBytes : BlockBytes);
         m_blocks.push_back({std::make_unique_for_overwrite<unsigned char[]>(size), size, 0});
     }
@@ -150,7 +150,7 @@ Value RowStore::At(qsizetype row, int column) const {
         m_cursor = m_rows[static_cast<std::size_t>(row)];
     }
     for (; m_cursorColumn < column; ++m_cursorColumn)
-        m_cursor = Behind(m_cursor);
+        m_cursor = EndOf(m_cursor);
     return Decode(m_cursor);
 }
 

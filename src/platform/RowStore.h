@@ -6,14 +6,15 @@
 #include <memory>
 #include <vector>
 
-/// Rows of values, packed: a tag byte a value and no more bytes than the value needs, in blocks
-/// that never move. A million rows so take little more than their bare values.
+/// Packed rows of values: for each value one tag byte and only as many bytes as it needs, in blocks
+/// that never move. So a million rows take little more memory than their bare values.
 class RowStore {
 public:
     void Clear();
     qsizetype Count() const { return static_cast<qsizetype>(m_rows.size()); }
 
-    /// A row is appended value by value, from the first column to the last, between these two.
+    /// A row is appended between these two calls, value by value, from the first column to the
+    /// last.
     void BeginRow();
     void EndRow();
     void AppendNull();
@@ -21,10 +22,10 @@ public:
     void AppendReal(double number);
     void AppendText(const char* utf8, std::size_t bytes);
     void AppendValue(const Value& value);
-    /// The row appended last takes the place of row `row`.
+    /// Replaces row `row` by the row that was appended last.
     void MoveLastTo(qsizetype row);
 
-    /// Reading the columns of a row in turn costs one step each.
+    /// Fast if the columns of a row are read in order.
     Value At(qsizetype row, int column) const;
 
     std::size_t MemoryBytes() const;
@@ -40,7 +41,8 @@ private:
 
     std::vector<Block> m_blocks;
     std::vector<const unsigned char*> m_rows;
-    /// The row being appended, kept until its length is known so that no row spans two blocks.
+    /// The row that is being appended. It is kept here until its length is known, so that no row
+    /// spans two blocks.
     std::vector<unsigned char> m_building;
 
     mutable qsizetype m_cursorRow = -1;

@@ -11,8 +11,7 @@ public:
     RunTimeError(int number, QString description)
         : m_number(number), m_description(std::move(description)), m_what(m_description.toUtf8()) {}
 
-    /// Always above zero. The numbers are those of RunTimeErrorNumber, or StoreEngine plus the
-    /// engine's own code.
+    /// Always above zero: one of RunTimeErrorNumber, or StoreEngine plus the engine's own code.
     int Number() const { return m_number; }
     const QString& Description() const { return m_description; }
     const char* what() const noexcept override { return m_what.constData(); }

@@ -17,7 +17,7 @@ struct Token {
 
 bool IsWordCharacter(QChar c) { return c.isLetterOrNumber() || c == u'_' || c == u'.'; }
 
-/// Text from `at` to the closing quote; a doubled quote stands for one.
+/// Text from `at` to the closing quote. A doubled quote means one.
 QString ReadQuoted(const QString& statement, qsizetype& at) {
     const QChar quote = statement[at];
     QString text;
@@ -47,7 +47,7 @@ QList<Token> Split(const QString& statement) {
                 ++at;
             tokens += {TokenKind::Word, statement.mid(start, at - start)};
         } else {
-            // "<=", "<>" and their like stay in one piece.
+            // "<=", "<>" and the like stay in one piece.
             static const QString comparison = QStringLiteral("<>=!");
             const qsizetype start = at++;
             while (comparison.contains(c) && at < statement.size() &&
@@ -83,8 +83,8 @@ QString DateNumber(const QString& literal) {
         throw RunTimeError(
             RunTimeErrorNumber::TypeMismatch,
             QStringLiteral("Syntax error in date in query expression '#%1#'.").arg(literal));
-    // Seventeen digits give the very double that a date-time of the same value is stored as. The
-    // exponent keeps it a real number to the engine.
+    // Seventeen digits give exactly the double that a date-time of the same value is stored as. The
+    // exponent makes the engine read it as a real number.
     return QString::number(
         (DateTime::FromQt(date) + DateTime::FromTime(number(4), number(5), number(6))).ToStore(),
         'e', 17);
@@ -108,14 +108,14 @@ QString Rendered(const Token& token) {
     return token.text;
 }
 
-/// The positions of a SELECT's clauses, as token indexes; -1 where there is none. Only the outer
-/// level counts, though a table's name may stand in the brackets of a join.
+/// The positions of a SELECT's clauses, as token indexes; -1 if there is none. Only the outer level
+/// counts, but a table's name may be within the brackets of a join.
 struct SelectShape {
     qsizetype from = -1;
     qsizetype orderBy = -1;
     QString firstTable;
     bool oneTable = true;
-    bool plainRows = true; ///< rows of the table itself, not sums or groups of them
+    bool plainRows = true; ///< the rows of the table itself, not sums or groups
 };
 
 SelectShape ShapeOf(const QList<Token>& tokens) {
@@ -147,7 +147,7 @@ SelectShape ShapeOf(const QList<Token>& tokens) {
     return shape;
 }
 
-/// Columns bear their type in the prefix: a "t" in front of a capital is text.
+/// The prefix of a column's name is its type: a "t" before a capital letter means text.
 bool IsTextColumn(const QString& name) {
     const QString column = name.mid(name.lastIndexOf(u'.') + 1);
     return column.size() > 1 && column[0] == u't' && column[1].isUpper();

@@ -3,7 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
-/// The store's SQL dialect, put into the engine's. Every statement passes through here:
+/// A statement of the store's SQL dialect, translated for the engine. Every statement passes
+/// through here:
 ///
 /// | dialect                    | engine                                             |
 /// |----------------------------|----------------------------------------------------|
@@ -12,20 +13,20 @@
 /// | `"text"`                   | `'text'`                                           |
 /// | `autoincrement`            | `INTEGER PRIMARY KEY AUTOINCREMENT`                |
 /// | `memo`, `VARCHAR`          | `TEXT`                                             |
-/// | `ORDER BY tName`           | not sensitive to case, ties in the order of storing|
+/// | `ORDER BY tName`           | ignoring case, equal texts in the order of storing  |
 /// | a SELECT with no ORDER BY  | the order of storing                               |
 struct EngineSql {
     QByteArray text;
-    /// The table that a recordset on the statement writes to: the one behind FROM. Empty for a
-    /// join and for anything but a SELECT.
+    /// The table that a recordset on the statement writes to: the one after FROM. Empty for a join
+    /// and for anything but a SELECT.
     QString table;
-    /// The last column of the result is the row's key and not the caller's.
+    /// The last column of the result is the row's key, which the caller did not ask for.
     bool hasRowKey = false;
 };
 
-/// The collation of ordered text: as people expect it (a, B, c).
+/// The collation for ordered text. It ignores case (a, B, c).
 inline constexpr char PeopleCollation[] = "PEOPLE";
 
-/// With `withRowKey` a SELECT from one table also fetches the row's key, so that rows can be
-/// written back. Throws RunTimeError (TypeMismatch) for a date literal that is no date.
+/// With `withRowKey`, a SELECT from one table also fetches the row's key, so that rows can be
+/// written back. Throws RunTimeError (TypeMismatch) if a date literal is not a date.
 EngineSql TranslateSql(const QString& statement, bool withRowKey = false);

@@ -10,7 +10,7 @@ namespace {
 
 using Holds = QHash<QString, std::weak_ptr<LockFile>>;
 
-/// By the path of the lock file, and by that of the store.
+/// The locks of this process, by the path of the lock file and by the path of the store.
 Holds& Held() {
     static Holds held;
     return held;

@@ -6,18 +6,19 @@
 
 #include <memory>
 
-/// The process's hold on a store file, kept in a lock file beside it ("main.ldb" for "main.mdb").
-/// For a symbolic link that is beside its target. All connections of one process share one hold.
+/// The process's lock on a store file, held by a lock file beside it ("main.ldb" for "main.mdb").
+/// If the store is a symbolic link, the lock file is beside its target. All connections of one
+/// process share the lock.
 class StoreLock {
 public:
-    /// Throws RunTimeError: FileInUse when another process holds the store; DiskFull or
-    /// PermissionDenied when the lock file cannot be made.
+    /// Throws RunTimeError: FileInUse if another process holds the store; DiskFull or
+    /// PermissionDenied if the lock file cannot be made.
     explicit StoreLock(const QString& storePath);
 
-    /// True for a store that this process holds, and for its lock file, by whatever name.
+    /// True for a store that this process holds, and for its lock file, also by another path.
     static bool IsHeldHere(const QString& path);
 
-    /// Who holds a store, as far as its lock file says.
+    /// The holder of a store, as its lock file says.
     static LockFile::Holder HolderOf(const QString& storePath);
 
 private:

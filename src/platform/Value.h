@@ -20,7 +20,7 @@ public:
     bool IsNull() const { return std::holds_alternative<std::monostate>(m_data); }
     /// Null gives the empty text.
     QString Text() const;
-    /// Null gives 0. Throws RunTimeError (TypeMismatch) for text that is no number.
+    /// Null gives 0. Throws RunTimeError (TypeMismatch) if a text is not a number.
     qint64 Number() const { return static_cast<qint64>(std::llround(Real())); }
     double Real() const;
     DateTime Date() const { return DateTime::FromStore(Real()); }
@@ -32,5 +32,5 @@ private:
     std::variant<std::monostate, qint64, double, QString> m_data;
 };
 
-/// What a statement's "?" stand for, in their order.
+/// The values for the "?" of a statement, in order.
 using Values = std::vector<Value>;

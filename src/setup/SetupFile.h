@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 
-/// All definitions as one JSON document, for setting up in bulk and for moving a set-up to another
+/// All definitions in one JSON document, for entering many at once and for copying them to another
 /// store:
 ///
 ///     { "groups":  [ { "type": "site", "name": "Quay", "description": "",
@@ -12,14 +12,14 @@
 ///       "tours":   [ { "name": "Night", "description": "", "start": "22:30", "tolerance": 5,
 ///                      "points": [ { "minutes": 0, "button": "1A40C2" } ] } ] }
 ///
-/// A group's type is "site", "event book" or "user group". Every list may be left out, and every
-/// description but a reader's, which is its name; nothing else may stand in it. A point whose
-/// button has been deleted carries "deleted": true.
+/// A group's type is "site", "event book" or "user group". Lists and descriptions may be left out,
+/// except a reader's description, which is its name. Nothing else is allowed. A point whose button
+/// has been deleted has "deleted": true.
 
-/// What the store holds. Throws RunTimeError.
+/// The definitions in the store. Throws RunTimeError.
 QByteArray ExportSetup();
 
-/// Adds what the document holds to what the store holds, in one transaction, under the rules that
-/// the editors keep: names, codes, neighbours, tolerance, total time. On the first fault nothing is
-/// changed, and RunTimeError tells the entry and the fault.
+/// Adds the definitions of the document to the store, in one transaction. The rules are those of
+/// the editors: names, codes, neighbours, tolerance, total time. On the first fault nothing is
+/// changed, and RunTimeError names the entry and the fault.
 void ImportSetup(const QByteArray& document);

@@ -10,13 +10,13 @@
 #include <stdexcept>
 #include <sys/prctl.h>
 
-/// The simulated docking station, as a program of its own, with the lines of a scenario.
+/// The simulated docking station, started as a program with a scenario.
 class Dock {
 public:
     explicit Dock(const QByteArray& scenario) : m_log(m_folder.filePath("log")) {
         Write(scenario);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        // A test that dies takes its dock along.
+        // If the test dies, the dock ends too.
         m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
         m_process.start(DOCKSIM, {"--scenario", Scenario(), "--log", m_log});
         m_device = QString::fromUtf8(ReadLine()).trimmed();
@@ -28,20 +28,20 @@ public:
 
     const QString& Device() const { return m_device; }
     void Say(const QByteArray& line) { m_process.write(line + '\n'); }
-    /// Puts another station and reader in place.
+    /// Replaces the station and the reader.
     void Load(const QByteArray& scenario) {
         Write(scenario);
         Say("load " + Scenario().toUtf8());
         State();
     }
-    /// What was said before is in force when this returns.
+    /// When it returns, everything said before has taken effect.
     QJsonObject State() {
         Say("state");
         return QJsonDocument::fromJson(ReadLine()).object();
     }
     int Erasures() { return State()["erased"].toInt(); }
     QString Clock() { return State()["clock"].toString(); }
-    /// How often this text stands in the log so far.
+    /// How often the log contains this text so far.
     qsizetype Logged(const char* text) const {
         QFile file(m_log);
         return file.open(QIODevice::ReadOnly) ? file.readAll().count(text) : -1;

@@ -5,8 +5,8 @@
 #include <functional>
 #include <sys/types.h>
 
-/// A second process that runs `body` and ends. What the body writes to the file it is handed, the
-/// parent reads. The child shares nothing with the parent but files; open no store before forking.
+/// A second process that runs `body` and ends. The parent reads what the body writes to `out`. The
+/// child shares only files with the parent; open no store before forking.
 class ForkedChild {
 public:
     explicit ForkedChild(const std::function<void(int out)>& body);
@@ -14,10 +14,10 @@ public:
     ForkedChild(const ForkedChild&) = delete;
     ForkedChild& operator=(const ForkedChild&) = delete;
 
-    /// Waits for so many bytes; fewer come only if the child is gone.
+    /// Waits for this many bytes. Gives fewer only if the child has ended.
     QByteArray Read(qsizetype bytes);
-    /// Ends the child as a power cut ends a program: at once, with no clean-up. All that it still
-    /// wrote is left to be read.
+    /// Ends the child at once, without clean-up, like a power cut. What it has written can still be
+    /// read.
     void Kill();
 
 private:

@@ -11,8 +11,9 @@
 #include <functional>
 #include <vector>
 
-/// Plays the operator: a list of steps that are tried in turn while modal windows, found by their
-/// object names, run their own loops. A step waits for what it needs by giving false.
+/// Plays the operator: a list of steps that are run in order while modal windows run their own
+/// event loops. Windows are found by their object names. A step that gives false is tried again
+/// later.
 class Script : public QObject {
 public:
     using Step = std::function<bool()>;
@@ -24,7 +25,7 @@ public:
 
     void Then(Step step) { m_steps.push_back(std::move(step)); }
 
-    /// Presses a button of the message box that is shown, and keeps its text.
+    /// Waits for a message box, keeps its text and presses one of its buttons.
     void Answer(const QString& button) {
         Then([this, button] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -38,13 +39,13 @@ public:
         });
     }
 
-    /// Clicks a button of the window with that name, once it is shown and enabled.
+    /// Clicks a button of the window with that name, once it is visible and enabled.
     void Click(const QString& window, const QString& button) {
         Then([=] {
             auto* found = Find<QAbstractButton>(window, button);
             if (!found || !found->isEnabled())
                 return false;
-            // Not from here: the click may run a dialog of its own, and the script goes on in it.
+            // Clicked later: it may run a dialog, and the script must go on during that.
             QTimer::singleShot(0, found, &QAbstractButton::click);
             return true;
         });
@@ -66,7 +67,7 @@ public:
         m_elapsed.start();
         m_timer.start();
     }
-    /// Runs events until every step is done; false after half a minute.
+    /// Handles events until every step is done; false after half a minute.
     bool Finish() {
         return QTest::qWaitFor([this] { return m_next >= m_steps.size(); }, 30'000);
     }
@@ -82,13 +83,13 @@ private:
             ++m_next;
         m_polling = false;
         if (m_elapsed.elapsed() > 30'000 && m_next < m_steps.size()) {
-            // Stuck: end every window, so that the test fails instead of hanging.
+            // Stuck: close every window, so that the test fails and does not hang.
             qWarning("the script is stuck at step %zu", m_next);
             m_timer.stop();
             QTimer::singleShot(0, [] {
                 while (QWidget* modal = QApplication::activeModalWidget())
                     if (auto* dialog = qobject_cast<QDialog*>(modal))
-                        dialog->done(QDialog::Rejected); // an editor would ask if it was closed
+                        dialog->done(QDialog::Rejected); // close() would make an editor ask
                     else
                         modal->close();
                 QApplication::quit();

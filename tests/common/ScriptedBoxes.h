@@ -7,8 +7,8 @@
 #include <functional>
 #include <utility>
 
-/// Takes the place of the operator: keeps what was shown and gives the answers it was handed, then
-/// the harmless ones.
+/// Answers message boxes in place of the operator and keeps what they showed. Gives `Answers` in
+/// order, then harmless answers.
 class ScriptedBoxes : public MessageBoxes {
 public:
     ScriptedBoxes() { InstallMessageBoxes(this); }
@@ -30,6 +30,6 @@ public:
 
     QList<Message> Messages;
     QList<MessageAnswer> Answers;
-    /// What happens while the next question is open.
+    /// Called while the next question is open.
     std::function<void()> Meanwhile;
 };

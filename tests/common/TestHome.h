@@ -9,12 +9,12 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// An application folder and settings of the test's own, deleted afterwards. The folder's name has
-/// a blank, a quote and an umlaut.
+/// A temporary application folder with its own settings. Its name has a quote, a blank and an
+/// umlaut.
 class TestHome {
 public:
     enum Content { NoStore, EmptyStore, DemoSite };
-    /// With a store, it is open in gConn.
+    /// If there is a store, it is open in gConn.
     explicit TestHome(Content content);
     ~TestHome();
 
@@ -33,10 +33,11 @@ private:
     QTemporaryDir m_folder{QDir::tempPath() + "/keeper's Büro-XXXXXX"};
 };
 
-/// Runs a query on gConn. Each row is a line, its values separated by "|", null shown as "NULL".
+/// The rows of a query on gConn, one text for each, with values separated by "|" and nulls as
+/// "NULL".
 QStringList RowsOf(const QString& query);
 
-/// All tables of gConn with all their rows, and the engine's own table of the last IDs.
+/// All tables of gConn with all their rows, including the engine's own record of IDs.
 QStringList ContentOfStore();
 
 /// The number of the RunTimeError that the body throws, or 0.

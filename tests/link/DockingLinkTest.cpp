@@ -1,4 +1,4 @@
-// The road to the docking station, over a real serial device: the port, and send-and-wait.
+// The connection to the docking station, over a real serial device: the port, sending and waiting.
 
 #include "LinkTestTools.h"
 #include "Settings.h"
@@ -37,7 +37,7 @@ private slots:
         QCOMPARE(station.dock.Logged("CmdDetect"), 3);
     }
 
-    // One try takes the answer pause, the time-out and the pause behind it, by the real clock.
+    // One try takes the answer pause, the time-out and the pause after it, by the real clock.
     void SilenceTakesItsTime() {
         Station station("silent", 1);
         QElapsedTimer timer;
@@ -49,37 +49,11 @@ private slots:
         QCOMPARE(station.dock.Logged("CmdDetect"), 1);
     }
 
-    void SetsTheClock_data() {
-        QTest::addColumn<QByteArray>("fault");
-        QTest::addColumn<bool>("succeeds");
-        QTest::addColumn<int>("sent");
-        QTest::addColumn<bool>("obeyed");
-        const auto row = [](const char* fault, bool succeeds, int sent, bool obeyed) {
-            QTest::newRow(fault) << QByteArray(fault) << succeeds << sent << obeyed;
-        };
-        row("none", true, 1, true);
-        row("wrong-code 80", true, 1, true); // before the right one
-        row("noise 30 clock", true, 1, true);
-        row("silent clock 2", true, 3, true);
-        row("silent clock", false, 3, false);
-        row("checksum clock", false, 3, true);  // but nobody hears of it
-        row("refuse clock 1", false, 1, false); // an answer, so it is not asked again
-        row("refuse clock 1 FF", false, 1, false);
-    }
-    void SetsTheClock() {
-        QFETCH(QByteArray, fault);
-        QFETCH(bool, obeyed);
-        Station station("fault " + fault);
-        QTEST(station.link.SetClockToNow(), "succeeds");
-        QCOMPARE(station.dock.Clock(), obeyed ? "2026-03-02T07:15" : "");
-        QTEST(static_cast<int>(station.dock.Logged("CmdSetClock")), "sent");
-    }
-
-    // The first half is there at the first look, the other comes between two looks.
+    // The first half is there at the first look; the other half comes between two looks.
     void ReplyInTwoPieces() {
         Station station("cut 140", 5);
-        QVERIFY(station.link.TxNewDate(23, 59, 0x01, 0x02));
-        QCOMPARE(station.dock.Clock(), "2000-09-15T23:59");
+        QVERIFY(station.link.SetClockToNow());
+        QCOMPARE(station.dock.Clock(), "2026-03-02T07:15");
         QCOMPARE(station.dock.Logged("CmdSetClock"), 1);
     }
 
@@ -88,16 +62,20 @@ private slots:
         QTest::addColumn<QByteArray>("reply"); // empty: none is received
         QTest::addColumn<QByteArray>("replyOfAnyCode");
         const QByteArray none, done = FrameOf(Hex("9300"));
-        QTest::newRow("nothing") << none << none << none;
-        QTest::newRow("done") << done << Hex("9300") << Hex("9300");
-        QTest::newRow("without status") << FrameOf(Hex("93")) << Hex("93") << Hex("93");
-        QTest::newRow("another code") << FrameOf(Hex("8000")) << none << Hex("8000");
-        QTest::newRow("another code before it")
-            << FrameOf(Hex("2400010203")) + done << Hex("9300") << Hex("2400010203");
-        QTest::newRow("late memory frame before it")
-            << ImageFrames(0, {}, 1).first() + done << Hex("9300") << Hex("9300");
-        QTest::newRow("wrong checksum before it")
-            << done.chopped(1) + "a" + FrameOf(Hex("9301")) << Hex("9301") << Hex("9301");
+        const QByteArray other = FrameOf(Hex("8000")), button = FrameOf(Hex("2400010203"));
+        const QByteArray memory = ImageFrames(0, {}, 1).first();
+        const auto row = [](const char* name, const QByteArray& answer, const QByteArray& reply,
+                            const QByteArray& ofAnyCode) {
+            QTest::newRow(name) << answer << reply << ofAnyCode;
+        };
+        row("nothing", none, none, none);
+        row("done", done, Hex("9300"), Hex("9300"));
+        row("without status", FrameOf(Hex("93")), Hex("93"), Hex("93"));
+        row("another code", other, none, Hex("8000"));
+        row("another code before it", button + done, Hex("9300"), Hex("2400010203"));
+        row("late memory frame before it", memory + done, Hex("9300"), Hex("9300"));
+        row("wrong checksum before it", done.chopped(1) + "a" + FrameOf(Hex("9301")), Hex("9301"),
+            Hex("9301"));
     }
     void Replies() {
         QFETCH(QByteArray, answer);
@@ -117,12 +95,13 @@ private slots:
             QCOMPARE(got, wanted);
             QCOMPARE(received, !wanted.isEmpty());
             QVERIFY(!gCommActive);
+            QCOMPARE(line.Commands.take(command), wanted.isEmpty() ? 2 : 1);
         }
         QCOMPARE(link.TxNewDate(1, 2, 3, 4), reply == Hex("9300"));
     }
 
-    // The wait goes by the time of day, which falls back at midnight; unless it is to give up in
-    // time, or is ended because it lasts too long.
+    // A wait is measured by the time of day, which starts again at midnight, unless it is to give
+    // up in time or is ended because it lasts too long.
     void WaitAcrossMidnight_data() {
         QTest::addColumn<bool>("answered");
         QTest::addColumn<bool>("givesUp");
@@ -171,7 +150,7 @@ private slots:
         QVERIFY(!erase());
         QCOMPARE(station.dock.Logged("CmdEraseMemory"), 3);
         QVERIFY(!gCommActive);
-        // A memory frame that comes late has the reply's code, but is none.
+        // A late memory frame has the same code as the reply, but is not a reply.
         LineEnd line;
         station.link.ClosePort();
         QVERIFY(station.link.OpenPort(1));
@@ -205,7 +184,7 @@ private slots:
             other.link.ClosePort();
             QVERIFY(link.OpenPort(1));
         }
-        QTRY_VERIFY(!link.comPort().PortOpen()); // the dock has gone, and comes back
+        QTRY_VERIFY(!link.comPort().PortOpen()); // the dock is disconnected, then comes back
         QVERIFY(!link.DetectStation());
         const TestClock clock(Station::Speed);
         const Dock again("");
@@ -215,15 +194,13 @@ private slots:
     }
 
     void SavedNumbers() {
-        const QString section = QStringLiteral("ComPort_Settings");
-        const QString key = QStringLiteral("ComPort");
         QCOMPARE(SavedPortNumber(), 1);
         const QMap<QString, int> numbers{{"8", 8},  {"1", 1}, {"9", 1},    {"0", 1},
                                          {"-3", 1}, {"x", 1}, {"99999", 1}};
         for (auto number = numbers.cbegin(); number != numbers.cend(); ++number) {
-            SaveSetting(SettingsApplication, section, key, number.key());
+            SaveSetting(SettingsApplication, "ComPort_Settings", "ComPort", number.key());
             QCOMPARE(SavedPortNumber(), number.value());
-            QCOMPARE(GetSetting(SettingsApplication, section, key),
+            QCOMPARE(GetSetting(SettingsApplication, "ComPort_Settings", "ComPort"),
                      QString::number(number.value()));
         }
     }

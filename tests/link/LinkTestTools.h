@@ -20,18 +20,18 @@
 #include <stdlib.h>
 #include <unistd.h>
 
-// What the tests of the reader link share: memory images made by hand, the far end of the line (the
-// simulated dock, or a bare pseudo-terminal), and a download that nobody watches.
+// Shared by the tests of the reader link: memory images made by hand, the far end of the line (the
+// simulated dock, or a bare pseudo-terminal), and a download without windows.
 
 inline QByteArray Hex(const char* digits) { return QByteArray::fromHex(digits); }
 
-/// A frame, put together apart from the code under test.
+/// A frame, made without the code under test.
 inline QByteArray FrameOf(const QByteArray& payload) {
     const QByteArray body = Hex("0301035100") + static_cast<char>(payload.size()) + payload;
     return Hex("FFFFFF55") + body + static_cast<char>(std::accumulate(body.begin(), body.end(), 0));
 }
 
-/// The frames of a memory image. `identifier` as it stands on the wire.
+/// The frames of a memory image. `identifier` is in the order of the wire.
 inline QByteArrayList ImageFrames(int count, const QByteArrayList& records, int frames,
                                   const QByteArray& identifier = Hex("A7314B58")) {
     QByteArrayList result;
@@ -62,7 +62,7 @@ inline QString TouchText(const QString& code, DateTime time) {
     return code + time.ToQDate().toString(" d.M.yyyy ") + time.ToQTime().toString("H:mm");
 }
 
-/// The stored touches in the order in which they were stored.
+/// The stored touches, in the order of storing.
 inline QStringList StoredTouches() {
     QStringList rows;
     Recordset events;
@@ -74,7 +74,7 @@ inline QStringList StoredTouches() {
 
 inline void ForgetTouches() { gConn->Execute("DELETE * FROM tblEvents"); }
 
-/// The far end of a line without a dock: what it answers to a command is up to the test.
+/// The far end of a line without a dock. The test says what it answers to each command.
 class LineEnd {
 public:
     LineEnd() : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK)) {
@@ -94,7 +94,7 @@ public:
             throw std::runtime_error("the line is full");
     }
 
-    /// Answers by command payload, and how often each command came.
+    /// The answer to each command payload, and how often each command came.
     QMap<QByteArray, QByteArray> Answers;
     QMap<QByteArray, int> Commands;
 
@@ -121,14 +121,14 @@ private:
     QByteArray m_received;
 };
 
-/// A download without windows that keeps what it was shown.
+/// A download without windows, which records what it was shown.
 class RecordingView : public DownloadView, public TransferView {
 public:
     explicit RecordingView(DockingLink& link) : m_link(link) {}
 
     /// Cancels the next transfer once the reader is known.
     bool CancelAtFirstFrame = false;
-    /// A transfer that runs longer than this, in milliseconds, is cancelled, as an operator would.
+    /// After this many milliseconds a transfer is cancelled, as an operator would do.
     int Patience = 20'000;
 
     TransferResult RunTransfer(TransferPurpose purpose) override {
@@ -154,7 +154,7 @@ public:
     void ClearList() override { Listed = 0; }
     void ShowTouches(const colRawButtons& touches) override { Listed = touches.size(); }
     void ShowLastRow() override {}
-    void ShowStatus(const QString& text) override { Status = text; }
+    void ShowStatus(const QString&) override {}
 
     void ShowText(const QString&) override {}
     void ShowReaderId(const QString&) override {
@@ -168,7 +168,7 @@ public:
     void ShowProgressText(const QString&) override {}
     void Beep() override {}
 
-    QString MessageText, Status;
+    QString MessageText;
     QList<bool> Busy, Warned;
     std::size_t Listed = 0;
     bool ProgressInRange = true, WasCancelled = false, HasAnswered = false;

@@ -189,7 +189,7 @@ private slots:
             TourWith("59", point("1439", "1a40c2") + ',' + point("1321", "1A40C7") + ',' +
                                point("0", "1A40C2")),
             "");
-        row("no JSON", "{\"groups\": [}", "no JSON");
+        row("no JSON", "{\"groups\": [}", "not valid JSON");
         row("no object", "[]", "an object");
         row("unknown list", R"({"Groups":[]})", "\"Groups\" is not known here");
         row("no list", R"({"groups":{}})", "\"groups\" must be a list");

@@ -11,6 +11,7 @@
 #include "frmListEdit.h"
 #include "frmMDISetup.h"
 
+#include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QTabBar>
@@ -57,6 +58,9 @@ class SetupWindowsTest : public QObject {
         auto page = std::make_unique<frmMDISetup>(m_link, nullptr);
         page->resize(800, 500);
         page->show();
+        new QAbstractItemModelTester(Control<QTreeView>(*page, "lvwProgram")->model(),
+                                     QAbstractItemModelTester::FailureReportingMode::QtTest,
+                                     page.get());
         page->Start();
         page->setFocus();
         Control<QTabBar>(*page, "tabSetup")->setCurrentIndex(tab);

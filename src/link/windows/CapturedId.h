@@ -3,15 +3,15 @@
 class QLabel;
 class QPushButton;
 
-/// The controls of a capture dialog that tell whether the identifier may be taken.
+/// The controls of a capture dialog that show whether the identifier may be used.
 struct CapturedIdControls {
     QLabel& img1;       ///< shows the picture "good" or "bad"
-    QLabel& lblMsg;     ///< says what is wrong; its place stays while it is hidden
-    QPushButton& cmdOK; ///< enabled for a good one
+    QLabel& lblMsg;     ///< says what is wrong; keeps its place while it is hidden
+    QPushButton& cmdOK; ///< enabled for a good identifier
 
-    /// As the dialog opens: nothing captured yet.
+    /// When the dialog opens: nothing is captured yet.
     void ShowNone() const;
     void ShowVerdict(bool good) const;
-    /// For the flash on a repeated capture.
+    /// Makes the picture flash when the same identifier is captured again.
     void ClearPicture() const;
 };

@@ -8,7 +8,7 @@ void EditorDialog::reject() {
     } else if (IvMessageBox(Translate("Your changes have not been saved. Discard them?"),
                             MessageKind::Question, MessageButtons::YesNo) == MessageAnswer::Yes) {
         QDialog::reject();
-        // Two windows close at once, and some window managers then lose the keyboard.
+        // Two windows close at the same time. Some window managers then lose the keyboard focus.
         if (parentWidget())
             parentWidget()->activateWindow();
     }

@@ -20,7 +20,7 @@ bool Accept(QLineEdit& field, const QString& fault) {
 bool AcceptName(Named what, QLineEdit& field, const QStringList& existingNames,
                 const QString& received) {
     QString fault = NameFault(what, field.text().trimmed(), existingNames, received);
-    // Where blanks around a name are kept, the name with its blanks may be there too.
+    // Blanks around a name are kept, so a name with the same blanks may exist too.
     if (fault.isEmpty() && field.text() != received)
         fault = NameFault(what, field.text(), existingNames, received);
     return Accept(field, fault);

@@ -5,6 +5,7 @@
 #include "NameField.h"
 #include "WindowTools.h"
 #include "frmManualID.h"
+#include "mErrorHandler.h"
 #include "mTranslations.h"
 #include "ui_frmAddButton.h"
 
@@ -26,10 +27,15 @@ frmAddButton::frmAddButton(DockingLink& link, QWidget* parent)
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmAddButton::cmdOK_Click);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmAddButton::Cancel);
     connect(&m_tmrGetID, &Timer::Tick, this, &frmAddButton::tmrGetID_Timer);
-    m_tmrGetID.SetEnabled(true);
+    Guarded("Form_Load of Form frmAddButton", [this] { Form_Load(); });
 }
 
 frmAddButton::~frmAddButton() = default;
+
+void frmAddButton::Form_Load() {
+    m_tmrGetID.SetEnabled(true);
+    m_capture.ReadCodes();
+}
 
 QStringList frmAddButton::Entered() const {
     return {m_ui->lblID->text(), m_ui->txtName->text(), m_ui->txtDesc->text()};
@@ -44,12 +50,12 @@ int frmAddButton::exec() {
     return EditorDialog::exec();
 }
 
-// No event is handled from here: a click that opened the manual entry from within a tick would keep
-// the timer from ticking on behind it.
+// No event is handled here. A click that opened the manual entry from within a tick would stop the
+// timer until that entry is closed.
 void frmAddButton::tmrGetID_Timer() {
     if (!m_capture.LineIsOpen())
         m_ui->lblHint->setText(
-            Translate("The docking station has gone. Enter the ID by hand, or go "
+            Translate("The docking station is disconnected. Enter the ID by hand, or go "
                       "home to connect again."));
     const QString code = m_capture.TakeCode();
     if (code.isEmpty())

@@ -13,8 +13,8 @@ namespace Ui {
 class frmAddButton;
 }
 
-/// Captures a new button: waits for it to be presented to the docked reader, or takes its code by
-/// hand, and asks for its name.
+/// Captures a new button and asks for its name. The button is presented to the docked reader, or
+/// its code is typed.
 class frmAddButton : public EditorDialog {
     Q_OBJECT
 public:
@@ -23,9 +23,10 @@ public:
 
     std::uint8_t ButtonType = 0; ///< the group's type, for the caller's own use
     QString ButtonName;          ///< the preset name, then the one entered, as typed
-    QString Desc;                ///< likewise
+    QString Desc;                ///< the same for the description
     QStringList ExistingNames;   ///< names that may not be used
-    /// The code captured, six upper-case hexadecimal digits; empty while none that is free was.
+    /// The captured code, six upper-case hexadecimal digits. Empty if there is none or it is in
+    /// use.
     const QString& DallasID() const { return m_dallasId; }
     /// The window's icon, by its name.
     void SetIcon(const QString& name);
@@ -34,6 +35,7 @@ public:
 
 private:
     QStringList Entered() const override;
+    void Form_Load();
     void tmrGetID_Timer();
     void ShowCode(const QString& code);
     void cmdManual_Click();

@@ -73,7 +73,7 @@ void frmAddReader::ShowReader(const QString& readerId) {
 void frmAddReader::cmdOK_Click() {
     if (!AcceptName(Named::Item, *m_ui->txtDesc, ExistingNames))
         return;
-    if (m_ui->lblID->text().isEmpty()) { // a later read failed: there is nothing to teach
+    if (m_ui->lblID->text().isEmpty()) { // a later read failed: there is no reader to add
         IvMessageBox(Translate("Reader ID Download Failed"));
         m_ui->cmdRead->setFocus();
         return;

@@ -11,7 +11,7 @@ namespace Ui {
 class frmAddReader;
 }
 
-/// Teaches a reader: reads the docked reader's identifier and asks for its description.
+/// Adds a reader: reads the identifier of the docked reader and asks for its description.
 class frmAddReader : public EditorDialog {
     Q_OBJECT
 public:

@@ -10,14 +10,14 @@ namespace Ui {
 class frmDownload;
 }
 
-/// The progress dialog of one memory transfer. For one use.
+/// The progress dialog of one memory transfer. Each object is used once.
 class frmDownload : public QDialog, private TransferView {
     Q_OBJECT
 public:
     frmDownload(DockingLink& link, QWidget* parent);
     ~frmDownload() override;
 
-    /// Shows the dialog and runs the transfer to its end.
+    /// Shows the dialog until the transfer has ended.
     TransferResult Run(TransferPurpose purpose);
 
     /// Escape and the close button cancel the transfer.

@@ -12,7 +12,7 @@ class frmFirmwareVersion;
 class frmFirmwareVersion : public QDialog {
     Q_OBJECT
 public:
-    /// `firmware` as the transfer tells it, such as "V06".
+    /// `firmware` is the text from the transfer, such as "V06".
     frmFirmwareVersion(const QString& firmware, QWidget* parent);
     ~frmFirmwareVersion() override;
 

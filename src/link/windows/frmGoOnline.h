@@ -11,27 +11,27 @@ namespace Ui {
 class frmGoOnline;
 }
 
-/// The connect dialog: opens the port, asks whether a docking station answers, and closes by
-/// itself.
+/// The connect dialog: opens the port, checks whether a docking station answers, and closes without
+/// help.
 class frmGoOnline : public QDialog {
     Q_OBJECT
 public:
     frmGoOnline(DockingLink& link, QWidget* parent);
     ~frmGoOnline() override;
 
-    /// Sets the text, or adds a blank and a text to it, and shows it at once.
+    /// Sets the text, or adds a blank and more text, and shows it at once.
     void message(const QString& text);
     void AppendMessage(const QString& text);
 
-    QString MyCommPort;                              ///< number of the port, as text
-    QString MyCommSettings;                          ///< as CommPort::Settings wants them
+    QString MyCommPort;                              ///< the port number, as text
+    QString MyCommSettings;                          ///< for CommPort::Settings
     bool OK() const { return result() == Accepted; } ///< the port is open
     bool DockingDetected = false;                    ///< a docking station answered
-    /// Handed back as it was given, or cleared. Nothing sets it, so every visit to the home page
-    /// connects anew.
+    /// Set by the caller; cleared if the port cannot be opened. It is never set here, so every
+    /// visit to the home page connects again.
     bool Online = false;
 
-    /// Runs by itself; there is nothing to cancel but a wait that lasts too long.
+    /// Cancels only a wait that lasts too long.
     void reject() override;
 
 private:

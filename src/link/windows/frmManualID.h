@@ -8,14 +8,14 @@ namespace Ui {
 class frmManualID;
 }
 
-/// Takes a button code that is typed, for a button that cannot be presented to a reader.
+/// Asks for the code of a button that cannot be presented to a reader.
 class frmManualID : public QDialog {
     Q_OBJECT
 public:
     explicit frmManualID(QWidget* parent);
     ~frmManualID() override;
 
-    /// True once the dialog was closed by OK.
+    /// True if the dialog was closed by OK.
     bool OK() const { return result() == Accepted; }
     QString ID; ///< six upper-case hexadecimal digits
 

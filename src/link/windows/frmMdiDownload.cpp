@@ -1,9 +1,11 @@
 #include "frmMdiDownload.h"
 
 #include "DockingLink.h"
+#include "Format.h"
 #include "WindowTools.h"
 #include "frmDownload.h"
 #include "mDeclareGlobals.h"
+#include "mErrorHandler.h"
 #include "mTranslations.h"
 #include "ui_frmMdiDownload.h"
 
@@ -16,8 +18,15 @@
 
 namespace {
 
-/// Each column's part of the width, in hundredths.
-constexpr int ColumnShares[TouchListModel::ColumnCount] = {10, 15, 10, 10, 20, 35};
+/// Each column's share of the width, in hundredths.
+constexpr int ColumnShares[] = {10, 15, 10, 10, 20, 35};
+
+ListRow RowOf(const cRawButton& touch, qsizetype number) {
+    return {{QString::number(number), Format(touch.DateAndTime, QStringLiteral("Short Date")),
+             Format(touch.DateAndTime, QStringLiteral("hh:mm")), touch.ButtonCode, touch.Name,
+             touch.GroupName},
+            {}};
+}
 
 } // namespace
 
@@ -29,7 +38,7 @@ frmMdiDownload::frmMdiDownload(DockingLink& link, QWidget* parent)
     m_ui->cmdOnline_1->setIcon(ProgramIcon(QStringLiteral("erase")));
     m_ui->lvwDownload->setModel(&m_touches);
     m_ui->lvwDownload->header()->setStretchLastSection(false);
-    // Their places stay while they are hidden, so that nothing else moves.
+    // They keep their places while they are hidden, so that nothing else moves.
     for (QLabel* label : {m_ui->lblMsg, m_ui->lblWarning}) {
         QSizePolicy policy = label->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
@@ -46,6 +55,9 @@ frmMdiDownload::~frmMdiDownload() = default;
 
 void frmMdiDownload::Translate() {
     TranslateWindow(*this, [](const QString& text) { return ::Translate(text); });
+    m_touches.SetColumns({::Translate("Number"), ::Translate("Date"), ::Translate("Time"),
+                          ::Translate("ID"), ::Translate("Button Name"), ::Translate("Group Name")},
+                         {1, 2, 3});
 }
 
 void frmMdiDownload::ShowLink(bool detected) {
@@ -54,12 +66,13 @@ void frmMdiDownload::ShowLink(bool detected) {
 }
 
 void frmMdiDownload::cmdOnline_Click(int index) {
-    if (index == 0) {
-        m_download.Run();
-    } else {
+    Guarded("cmdOnline_Click of Form frmMdiDownload", [&] {
         bool succeeded = false;
-        EraseReader(false, succeeded);
-    }
+        if (index == 0)
+            m_download.Run();
+        else
+            EraseReader(false, succeeded);
+    });
 }
 
 void frmMdiDownload::EraseReader(bool silent, bool& succeeded) {
@@ -92,24 +105,24 @@ void frmMdiDownload::ShowMessageText(const QString& text) {
 
 void frmMdiDownload::ShowWarning(bool visible) { m_ui->lblWarning->setVisible(visible); }
 
-void frmMdiDownload::ClearList() { m_touches.SetTouches({}); }
+void frmMdiDownload::ClearList() { m_touches.SetRows({}); }
 
-void frmMdiDownload::ShowTouches(const colRawButtons& touches) { m_touches.SetTouches(touches); }
-
-void frmMdiDownload::ShowLastRow() {
-    const QModelIndex last = m_touches.index(m_touches.rowCount() - 1, 0);
-    if (!last.isValid())
-        return;
-    m_ui->lvwDownload->setCurrentIndex(last);
-    m_ui->lvwDownload->scrollTo(last);
+void frmMdiDownload::ShowTouches(const colRawButtons& touches) {
+    QList<ListRow> rows;
+    for (const cRawButton& touch : touches)
+        rows += RowOf(touch, rows.size() + 1);
+    m_touches.SetRows(std::move(rows));
 }
+
+void frmMdiDownload::ShowLastRow() { SelectPlace(*m_ui->lvwDownload, m_touches.rowCount() - 1); }
 
 void frmMdiDownload::ShowStatus(const QString& text) { emit StatusChanged(text); }
 
 void frmMdiDownload::SizeColumns() {
     const int hundredth = (TwipsOf(m_ui->lvwDownload->width()) - 240) / 100;
-    for (int column = 0; column < TouchListModel::ColumnCount; ++column)
-        m_ui->lvwDownload->setColumnWidth(column, PixelsOf(ColumnShares[column] * hundredth));
+    int column = 0;
+    for (const int share : ColumnShares)
+        m_ui->lvwDownload->setColumnWidth(column++, PixelsOf(share * hundredth));
 }
 
 void frmMdiDownload::resizeEvent(QResizeEvent* event) {
@@ -119,7 +132,7 @@ void frmMdiDownload::resizeEvent(QResizeEvent* event) {
 
 void frmMdiDownload::closeEvent(QCloseEvent* event) {
     event->setAccepted(!Busy());
-    // A wait that would last until a frame comes must not keep the window open.
+    // A wait that would only end with a frame must not keep the window open.
     if (Busy() && m_link.EndOverdueWait())
         m_closeWhenDone = true;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "MemoryDownload.h"
-#include "TouchListModel.h"
+#include "RowListModel.h"
 
 #include <QWidget>
 
@@ -20,16 +20,16 @@ public:
 
     /// Translates the page's controls.
     void Translate();
-    /// Erases the reader, with or without questions.
+    /// Erases the reader. Unless `silent`, the operator is asked first.
     void EraseReader(bool silent, bool& succeeded);
-    /// Opens or closes the page's buttons, as a docking station comes or goes.
+    /// Enables the page's buttons while there is a docking station.
     void ShowLink(bool detected);
-    /// While a download runs the page may not be left. (If it waits for the dock longer than it
-    /// should, closing it ends the wait, and closes its window after that.)
+    /// The page may not be left while a download runs. (If the download waits too long for the
+    /// dock, closing the page ends the wait, and its window closes after that.)
     bool Busy() const { return m_download.Busy(); }
 
 signals:
-    /// Everything else in the main window is closed while this holds.
+    /// While busy, everything else in the main window is disabled.
     void BusyChanged(bool busy);
     void StatusChanged(const QString& text);
 
@@ -53,6 +53,6 @@ private:
     std::unique_ptr<Ui::frmMdiDownload> m_ui;
     DockingLink& m_link;
     MemoryDownload m_download;
-    TouchListModel m_touches;
+    RowListModel m_touches;
     bool m_closeWhenDone = false;
 };

@@ -27,7 +27,7 @@ frmPrpComms::~frmPrpComms() = default;
 
 void frmPrpComms::Populate() {
     {
-        const QSignalBlocker blocker(m_ui->cboDevice); // the first device of the list is no choice
+        const QSignalBlocker blocker(m_ui->cboDevice); // filling the list is not a choice
         m_ui->cboDevice->addItems(SerialDevices());
     }
     for (int number = 1; number <= LastPort; ++number)

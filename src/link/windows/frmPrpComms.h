@@ -9,18 +9,18 @@ namespace Ui {
 class frmPrpComms;
 }
 
-/// The port choice: a number from 1 to 8, and the device behind it.
+/// The choice of the port, a number from 1 to 8, and of the device for it.
 class frmPrpComms : public QDialog {
     Q_OBJECT
 public:
     explicit frmPrpComms(QWidget* parent);
     ~frmPrpComms() override;
 
-    /// Fills the list and selects the port of comPort.
+    /// Fills the list and selects the port `comPort`.
     void Populate();
 
     int comPort = 1;
-    /// True once the dialog was closed by OK.
+    /// True if the dialog was closed by OK.
     bool OK() const { return result() == Accepted; }
 
 private:
@@ -30,6 +30,6 @@ private:
     int SelectedPort() const;
 
     std::unique_ptr<Ui::frmPrpComms> m_ui;
-    /// What the operator entered for a port, until OK keeps it.
+    /// What the operator entered for each port. OK saves it.
     QMap<int, QString> m_devices;
 };

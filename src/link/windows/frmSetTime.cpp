@@ -20,7 +20,7 @@ frmSetTime::frmSetTime(DockingLink& link, QWidget* parent)
     m_ui->dtpPanelDate->setDisplayFormat(GetShortDateFormat());
     SelectSectionOnFocus(*m_ui->DTPicker1);
     SelectSectionOnFocus(*m_ui->dtpPanelDate);
-    Guarded("Form_Load of Form frmSetTime", [this] { Form_Load(); });
+    Form_Load();
     connect(m_ui->DTPicker1, &QTimeEdit::timeChanged, m_ui->optSetTime_1,
             [this] { m_ui->optSetTime_1->setChecked(true); });
     connect(m_ui->chkSendTimeOnUpload, &QCheckBox::clicked, this,
@@ -58,7 +58,7 @@ ReaderSignals frmSetTime::ChosenSignals() const {
             m_ui->optTime_1->isChecked()};
 }
 
-/// The date stands in its own control, whichever time is chosen.
+/// The date is always taken from its own control, whichever time is chosen.
 DateTime frmSetTime::ChosenMoment() const {
     const QTime time = m_ui->optSetTime_0->isChecked() ? Now().ToQTime() : m_ui->DTPicker1->time();
     return DateTime::FromQt(m_ui->dtpPanelDate->date()) +
@@ -71,7 +71,7 @@ void frmSetTime::SetSending(bool sending) {
          {static_cast<QWidget*>(m_ui->fraClock), static_cast<QWidget*>(m_ui->fraOptions),
           static_cast<QWidget*>(m_ui->cmdSendRealTime)})
         control->setEnabled(!sending);
-    // Not on Cancel, where a key held down would press it.
+    // Not to Cancel: a key that is held down would press it.
     (sending ? static_cast<QWidget*>(this) : m_ui->cmdSendRealTime)->setFocus();
 }
 
@@ -88,7 +88,7 @@ void frmSetTime::Send() {
     std::optional<Hourglass> hourglass(std::in_place);
     SetSending(true);
     const bool clockSet = ClockDateIsUsable(moment) && m_link.SetClock(moment);
-    // Sent even where the clock failed.
+    // Sent even if the clock failed.
     const bool optionsSet = m_link.TxOptions(ChosenSignals().OptionByte());
     SetSending(false);
     hourglass.reset();
@@ -113,10 +113,8 @@ void frmSetTime::reject() {
 }
 
 void frmSetTime::done(int result) {
-    Guarded("Form_Unload of Form frmSetTime", [this] {
-        SaveReaderSignals(ChosenSignals());
-        SaveSetting(SettingsApplication, SettingsSection::Properties, QStringLiteral("AutoSetTime"),
-                    BooleanText(gAutoSetTime));
-    });
+    SaveReaderSignals(ChosenSignals());
+    SaveSetting(SettingsApplication, SettingsSection::Properties, QStringLiteral("AutoSetTime"),
+                BooleanText(gAutoSetTime));
     QDialog::done(result);
 }

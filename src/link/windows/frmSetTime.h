@@ -12,8 +12,8 @@ namespace Ui {
 class frmSetTime;
 }
 
-/// Sends the docked reader a date and time and its signals, in one action, and keeps whether a
-/// download sets the clock.
+/// Sends a date and time and the signals to the docked reader, in one action. Also keeps the choice
+/// whether a download sets the clock.
 class frmSetTime : public QDialog {
     Q_OBJECT
 public:
@@ -23,9 +23,9 @@ public:
     /// Translates the dialog's controls.
     void Translate();
 
-    /// Saves what is chosen, whatever closes the dialog.
+    /// Saves the choices, however the dialog is closed.
     void done(int result) override;
-    /// While a sending runs it is called off, and the dialog closes when that has ended.
+    /// Cancels a sending that is running; the dialog then closes as soon as it has ended.
     void reject() override;
 
 private:

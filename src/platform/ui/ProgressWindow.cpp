@@ -19,7 +19,7 @@ bool ProgressWindow::operator()(int done, int all) {
     m_window.setMaximum(all);
     m_window.setLabelText(m_translate(QStringLiteral("Page")) + u' ' + QString::number(done + 1) +
                           u' ' + m_translate(QStringLiteral("of")) + u' ' + QString::number(all));
-    m_window.setValue(done); // handles events once the window is there
+    m_window.setValue(done); // handles events once the window is visible
     if (m_window.isVisible())
         m_hourglass.reset();
     return !m_window.wasCanceled();

@@ -6,15 +6,15 @@
 
 #include <optional>
 
-/// How far a long work on pages has come, with a button that ends it. It appears only when the work
-/// takes longer than about a second; until then there is the hourglass, and no event is handled.
-/// While it is there, no other window takes a key or a click.
+/// Shows the progress of long work on pages, with a button that cancels it. It appears only if the
+/// work takes longer than about a second; until then the hourglass is shown and no events are
+/// handled. While it is visible, no other window takes keys or clicks.
 class ProgressWindow {
 public:
     /// `title` is in English.
     ProgressWindow(const char* title, TranslateText translate, QWidget* parent);
 
-    /// To be called before each page; false once the operator has ended the work.
+    /// Call it before each page. False once the operator has cancelled the work.
     bool operator()(int done, int all);
 
 private:

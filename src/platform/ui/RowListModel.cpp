@@ -8,7 +8,13 @@
 #include <numeric>
 #include <vector>
 
-void RowListModel::SetColumns(const QStringList& headers) {
+void RowListModel::SetColumns(const QStringList& headers, const QList<int>& centred) {
+    m_centred = centred;
+    if (headers.size() == m_headers.size()) {
+        m_headers = headers;
+        emit headerDataChanged(Qt::Horizontal, 0, static_cast<int>(headers.size()) - 1);
+        return;
+    }
     beginResetModel();
     m_headers = headers;
     m_rows.clear();
@@ -20,11 +26,7 @@ void RowListModel::SetIcon(const QIcon& icon) { m_icon = icon; }
 void RowListModel::SetRows(QList<ListRow> rows) {
     beginResetModel();
     m_rows = std::move(rows);
-    QList<ListRow> sorted;
-    sorted.reserve(m_rows.size());
-    for (const int place : SortedPlaces())
-        sorted += m_rows[place];
-    m_rows = std::move(sorted);
+    Arrange();
     endResetModel();
 }
 
@@ -49,9 +51,18 @@ int RowListModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_headers.size());
 }
 
+int RowListModel::AlignmentOf(int column) const {
+    return static_cast<int>(Qt::AlignVCenter) |
+           static_cast<int>(m_centred.contains(column) ? Qt::AlignHCenter : Qt::AlignLeading);
+}
+
 QVariant RowListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
     if (role == Qt::DisplayRole)
         return m_rows[index.row()].texts.value(index.column());
+    if (role == Qt::TextAlignmentRole)
+        return AlignmentOf(index.column());
     return role == Qt::DecorationRole && index.column() == 0 ? QVariant(m_icon) : QVariant();
 }
 
@@ -59,7 +70,7 @@ QVariant RowListModel::headerData(int section, Qt::Orientation orientation, int 
     if (orientation != Qt::Horizontal)
         return {};
     if (role == Qt::TextAlignmentRole)
-        return static_cast<int>(Qt::AlignVCenter) | static_cast<int>(Qt::AlignLeading);
+        return AlignmentOf(section);
     return role == Qt::DisplayRole ? QVariant(m_headers.value(section)) : QVariant();
 }
 
@@ -70,7 +81,7 @@ QList<int> RowListModel::SortedPlaces() const {
         return places;
     QCollator collator;
     collator.setCaseSensitivity(Qt::CaseInsensitive);
-    std::vector<QCollatorSortKey> keys; // each text is prepared once, not at every comparison
+    std::vector<QCollatorSortKey> keys; // made once for each text, not at every comparison
     keys.reserve(static_cast<std::size_t>(m_rows.size()));
     for (const ListRow& row : m_rows)
         keys.push_back(collator.sortKey(row.texts.value(m_sortColumn)));
@@ -83,10 +94,8 @@ QList<int> RowListModel::SortedPlaces() const {
     return places;
 }
 
-void RowListModel::sort(int column, Qt::SortOrder order) {
-    emit layoutAboutToBeChanged();
-    m_sortColumn = column;
-    m_sortOrder = order;
+/// Sorts the rows. Gives the new place of each old one.
+QList<int> RowListModel::Arrange() {
     const QList<int> places = SortedPlaces();
     QList<ListRow> sorted;
     QList<int> newPlaces(places.size());
@@ -96,6 +105,14 @@ void RowListModel::sort(int column, Qt::SortOrder order) {
         newPlaces[places[i]] = i;
     }
     m_rows = std::move(sorted);
+    return newPlaces;
+}
+
+void RowListModel::sort(int column, Qt::SortOrder order) {
+    emit layoutAboutToBeChanged();
+    m_sortColumn = column;
+    m_sortOrder = order;
+    const QList<int> newPlaces = Arrange();
     const QModelIndexList before = persistentIndexList();
     QModelIndexList after;
     for (const QModelIndex& old : before)
@@ -129,7 +146,7 @@ void SelectPlace(QTreeView& list, int place) {
 
 namespace {
 
-/// Lives beside a list and keeps its columns' parts of the width.
+/// Belongs to a list and keeps the shares of its columns.
 class ColumnShares : public QObject {
 public:
     explicit ColumnShares(QTreeView& list) : QObject(&list), m_list(list) {

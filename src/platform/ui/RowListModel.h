@@ -6,27 +6,29 @@
 
 class QTreeView;
 
-/// A row of texts in a report-style list, with a value that tells what it stands for.
+/// A row of texts in a report-style list, with a value that says what the row is about.
 struct ListRow {
     QStringList texts;
     QVariant tag;
 };
 
-/// A list of rows under column headers, which sorts itself on a column as its view asks. Rows set
-/// later fall into the same order. Thousands of rows are no matter.
+/// A list of rows under column headers. It sorts itself by a column when its view asks for it, and
+/// keeps that order for rows that are set later. Thousands of rows are no problem.
 class RowListModel : public QAbstractTableModel {
     Q_OBJECT
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    void SetColumns(const QStringList& headers);
-    /// The small picture of every row.
+    /// The rows stay unless the number of columns changes. Columns are aligned to the left, or
+    /// centred if their number is in `centred`.
+    void SetColumns(const QStringList& headers, const QList<int>& centred = {});
+    /// The small picture in front of every row.
     void SetIcon(const QIcon& icon);
     void SetRows(QList<ListRow> rows);
 
-    /// The row at a place in the present order.
+    /// The row at a place in the current order.
     const ListRow& Row(int place) const { return m_rows[place]; }
-    /// The place of the row with that tag; -1 where there is none.
+    /// The place of the row with that tag; -1 if there is none.
     int PlaceOf(const QVariant& tag) const;
     /// Every row's text in a column.
     QStringList TextsOf(int column) const;
@@ -35,27 +37,30 @@ public:
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-    /// By text, upper and lower case alike. A column below 0 keeps the order in which rows are.
+    /// By text, ignoring case. A column below 0 keeps the current order.
     void sort(int column, Qt::SortOrder order) override;
 
 private:
     QList<int> SortedPlaces() const;
+    QList<int> Arrange();
+    int AlignmentOf(int column) const;
 
     QStringList m_headers;
+    QList<int> m_centred;
     QIcon m_icon;
     QList<ListRow> m_rows;
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };
 
-/// Joins a list and its rows. While there are rows one of them stays selected, once one was: a
-/// click beside the rows takes no selection away. The selected row stays in sight when the list is
-/// sorted.
+/// Connects a list to its rows. Once a row is selected, one stays selected while there are rows: a
+/// click beside the rows does not clear the selection. The selected row stays in view when the list
+/// is sorted.
 void JoinList(QTreeView& list, RowListModel& rows);
-/// The place of a list's selected row; -1 where none is.
+/// The place of a list's selected row; -1 if there is none.
 int SelectedPlace(const QTreeView& list);
-/// Selects the row at a place, the last one for a place beyond it, and shows it. Below 0 it does
-/// nothing.
+/// Selects the row at a place and scrolls to it. A place beyond the end means the last row; one
+/// below 0 does nothing.
 void SelectPlace(QTreeView& list, int place);
-/// Gives each column its part of the width, in hundredths, now and whenever the list is resized.
+/// Gives each column its share of the width, in hundredths, now and whenever the list is resized.
 void ShareWidth(QTreeView& list, const QList<int>& hundredths);

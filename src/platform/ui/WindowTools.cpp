@@ -20,7 +20,7 @@
 
 namespace {
 
-/// Translates one property; its English text is remembered beside it.
+/// Translates one property. The English text is kept in a second property.
 void TranslateProperty(QObject& object, const char* name, const TranslateText& translate) {
     const QByteArray keyName = QByteArray("english_") + name;
     QVariant key = object.property(keyName.constData());
@@ -33,8 +33,8 @@ void TranslateProperty(QObject& object, const char* name, const TranslateText& t
         object.setProperty(name, translate(english));
 }
 
-/// The active window; where a dialog has just closed and none is active yet, the one left behind
-/// it.
+/// The active window. If a dialog has just closed and no window is active yet, the visible main
+/// window.
 QWidget* WindowToBeOver() {
     if (QWidget* active = QApplication::activeWindow())
         return active;
@@ -77,8 +77,8 @@ QList<MessageAnswer> AnswersOf(MessageButtons buttons) {
 void TranslateWindow(QWidget& window, const TranslateText& translate) {
     TranslateProperty(window, "windowTitle", translate);
     for (QObject* child : window.findChildren<QObject*>()) {
-        // A label that is empty when the window loads is for a value, and never translated; a
-        // button of a toolbar takes its text from its action.
+        // A label that is empty when the window loads shows a value and is never translated. A
+        // button on a toolbar takes its text from its action.
         if (qobject_cast<QLabel*>(child) ||
             (qobject_cast<QAbstractButton*>(child) && !qobject_cast<QToolBar*>(child->parent()))) {
             TranslateProperty(*child, "text", translate);
@@ -97,7 +97,7 @@ void TranslateWindow(QWidget& window, const TranslateText& translate) {
 
 MessageAnswer WindowMessageBoxes::Show(const Message& message) {
     QMessageBox box(WindowToBeOver());
-    if (!box.parentWidget()) // the splash, which is never active, must not cover it
+    if (!box.parentWidget()) // the splash is never active, and must not cover the box
         box.setWindowFlag(Qt::WindowStaysOnTopHint);
     box.setObjectName(QStringLiteral("messageBox"));
     box.setIcon(IconOf(message.kind));
@@ -107,11 +107,11 @@ MessageAnswer WindowMessageBoxes::Show(const Message& message) {
     const QList<MessageAnswer> answers = AnswersOf(message.buttons);
     QList<QAbstractButton*> buttons;
     for (qsizetype i = 0; i < answers.size(); ++i) {
-        // The last of two is the one that Escape presses.
+        // Escape presses the last of two buttons.
         const auto role = i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole;
         buttons += box.addButton(message.buttonTexts.value(i), role);
     }
-    // A question is about what cannot be taken back: Enter alone must not do it.
+    // A question is about something that cannot be undone: Enter alone must not do it.
     const bool question = message.kind == MessageKind::Question;
     box.setDefaultButton(static_cast<QPushButton*>(question ? buttons.last() : buttons.first()));
     box.setEscapeButton(buttons.last());
@@ -127,8 +127,8 @@ class SelectingFilter : public QObject {
 public:
     using QObject::QObject;
     bool eventFilter(QObject* watched, QEvent* event) override {
-        // Behind the event: the mouse press that gave the focus would take the selection back.
-        // Coming back from the field's own menu is no arrival.
+        // Done after the event, because the mouse press that gives the focus also clears the
+        // selection. Not after the field's own menu, which had the focus only for a moment.
         if (event->type() == QEvent::FocusIn &&
             static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
             QTimer::singleShot(0, static_cast<QLineEdit*>(watched), &QLineEdit::selectAll);
@@ -143,7 +143,7 @@ public:
         if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonRelease)
             QTimer::singleShot(0, this,
                                [this] { m_field.setSelectedSection(m_field.currentSection()); });
-        // What is typed over all of it would go into one part only.
+        // If everything were selected, what is typed would still go into one part only.
         const bool selectAll = event->type() == QEvent::KeyPress &&
                                static_cast<QKeyEvent*>(event)->matches(QKeySequence::SelectAll);
         if (selectAll)
@@ -187,7 +187,7 @@ ArrowPointer::~ArrowPointer() {
 QIcon ProgramIcon(const QString& name) {
     const QString path = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");
     QIcon icon(path);
-    icon.addFile(path, {}, QIcon::Selected); // as it is, not tinted with the selection's colour
+    icon.addFile(path, {}, QIcon::Selected); // not tinted with the selection's colour
     return icon;
 }
 

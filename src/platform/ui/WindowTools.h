@@ -12,31 +12,32 @@ class QLabel;
 class QLineEdit;
 class QWidget;
 
-/// What windows share. Text in, text out; no window knows another through this.
+/// Small helpers that several windows use.
 
 using TranslateText = std::function<QString(const QString&)>;
 
-/// Translates a window and all in it: title, captions, tool tips, accessible names, menus. Texts
-/// that are filled by code, list headers among them, are not touched. The English texts are kept,
-/// so that it can be called again in another language.
+/// Translates a window and its controls: title, captions, tool tips, accessible names, menus. Texts
+/// that are set by code, such as list headers, are left alone. The English texts are kept, so it
+/// can be called again for another language.
 void TranslateWindow(QWidget& window, const TranslateText& translate);
 
-/// Real message boxes over the active window.
+/// Real message boxes, over the active window.
 class WindowMessageBoxes : public MessageBoxes {
 public:
     MessageAnswer Show(const Message& message) override;
 };
 
-/// Selects a field's whole text whenever it gets the focus.
+/// Selects all of a field's text whenever the field gets the focus.
 void SelectAllOnFocus(QLineEdit& field);
 
-/// Selects the part of a date or time that gets the focus or is clicked, so that it can be typed.
+/// Selects the part of a date or time that gets the focus or is clicked, so that typing replaces
+/// it.
 void SelectSectionOnFocus(QDateTimeEdit& field);
 
-/// Puts the focus on a field with its text selected, where the mistake is.
+/// Shows the operator where a mistake is: gives the field the focus and selects its text.
 void FocusAndSelect(QLineEdit& field);
 
-/// The hourglass while it lives.
+/// Shows the hourglass while it exists.
 class Hourglass {
 public:
     Hourglass();
@@ -61,11 +62,11 @@ private:
 /// An icon of the program by its name.
 QIcon ProgramIcon(const QString& name);
 
-/// Shows an icon of the program in a label, as large as the label may be.
+/// Shows an icon of the program in a label, in the label's maximum size.
 void ShowIcon(QLabel& label, const QString& name);
 
-/// Shows a picture file in a label, as large as it is drawn (its pixels count double, so that it
-/// stays sharp on a dense screen). Throws RunTimeError where the file cannot be read.
+/// Shows a picture file in a label, at half its size in pixels, so that it is sharp on a dense
+/// screen too. Throws RunTimeError if the file cannot be read.
 void ShowPicture(QLabel& label, const QString& path);
 
 /// Lengths in twips: 1440 to the inch, 15 to a pixel of an ordinary screen.

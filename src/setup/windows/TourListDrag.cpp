@@ -9,7 +9,7 @@ namespace {
 
 constexpr int CueHeight = 4;
 constexpr int ScrollEdge = 14;     ///< pixels from the list's edge within which it scrolls
-constexpr int ScrollInterval = 80; ///< ms a row
+constexpr int ScrollInterval = 80; ///< ms for each row
 
 } // namespace
 
@@ -57,7 +57,7 @@ bool TourListDrag::eventFilter(QObject* watched, QEvent* event) {
             Begin();
         if (m_dragging)
             Follow();
-        return true; // the selection stays on the row that is dragged
+        return true; // the dragged row stays selected
     case QEvent::MouseButtonRelease:
         if (!m_dragging || mouse->button() != Qt::LeftButton) {
             m_source = m_dragging ? m_source : nullptr;
@@ -66,7 +66,7 @@ bool TourListDrag::eventFilter(QObject* watched, QEvent* event) {
         m_pointer = mouse->globalPosition().toPoint();
         Drop();
         return true;
-    case QEvent::ShortcutOverride: // what is dragged must not change on the way
+    case QEvent::ShortcutOverride: // no key may change the rows during a drag
         if (m_dragging)
             event->accept();
         return m_dragging;
@@ -102,7 +102,7 @@ QTreeView* TourListDrag::ListUnder(const QPoint& globalPosition) const {
     return nullptr;
 }
 
-/// The row under the pointer; below the last row, the end.
+/// The position of the row under the pointer; below the last row, the end of the list.
 int TourListDrag::InsertPositionAt(const QPoint& globalPosition) const {
     const QPoint place = m_lvwSelected.viewport()->mapFromGlobal(globalPosition);
     if (place.y() < 0)
@@ -116,13 +116,13 @@ int TourListDrag::InsertPositionAt(const QPoint& globalPosition) const {
 void TourListDrag::Begin() {
     const QModelIndex row =
         m_source->indexAt(m_source->viewport()->mapFromGlobal(m_pressed)).siblingAtColumn(0);
-    if (!row.isValid()) { // it has gone since the button went down
+    if (!row.isValid()) { // the row has been removed since the button was pressed
         m_source = nullptr;
         return;
     }
     m_source->setCurrentIndex(row);
     m_dragging = true;
-    QStringList texts; // what stands in its columns, as far as there is any
+    QStringList texts; // of its columns that are not empty
     for (int column = 0; column < row.model()->columnCount(); ++column)
         if (const QString text = row.siblingAtColumn(column).data().toString(); !text.isEmpty())
             texts += text;

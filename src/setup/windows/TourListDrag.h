@@ -5,16 +5,17 @@
 #include <QTimer>
 #include <QTreeView>
 
-/// Dragging with the mouse between the two lists of the tour editor, and within the second. While
-/// it lasts, a label goes along with the pointer, and a cue in the second list shows where what is
-/// dragged would go. Escape, or another button, calls it off.
+/// Dragging with the mouse between the two lists of the tour editor, and within the second. During
+/// a drag, a label follows the pointer, and a cue in the second list shows where the row would be
+/// inserted. Escape or another mouse button cancels the drag.
 class TourListDrag : public QObject {
     Q_OBJECT
 public:
     TourListDrag(QTreeView& lvwLocations, QTreeView& lvwSelected);
 
 signals:
-    /// `position` is where it is to be inserted, from 0, in the second list; -1 in the first.
+    /// `position` is where to insert the row in the second list, from 0. It is -1 if the row was
+    /// dropped on the first list.
     void Dropped(QTreeView* source, QTreeView* target, int position);
 
 protected:
@@ -36,7 +37,7 @@ private:
     QLabel* m_lblDragDrop;  ///< the window's
     QLabel* m_picInsertPtr; ///< the second list's
     QTimer m_scroll;
-    QTreeView* m_source = nullptr; ///< where the button went down on a row
+    QTreeView* m_source = nullptr; ///< the list in which the mouse button was pressed on a row
     QPoint m_pressed;
     QPoint m_pointer;
     bool m_dragging = false;

@@ -1,0 +1,77 @@
+#include "ReaderErasure.h"
+
+#include "DockingLink.h"
+#include "MemoryDownload.h"
+#include "mDeclareGlobals.h"
+#include "mTranslations.h"
+
+bool ReaderErasure::IsAllowed() {
+    if (gStoreDamaged) {
+        SayWhyNot(Translate("The database is damaged. The reader was not erased."));
+        return false;
+    }
+    switch (m_imageEnd) {
+    case ImageEnd::DataAfterEndMark:
+        SayWhyNot(Translate("The reader's memory goes on after its end mark. What was read is "
+                            "stored, but the reader was not erased."));
+        return false;
+    case ImageEnd::CountDisagrees:
+        SayWhyNot(Translate("The reader does not hold as many records as it says. What was read is "
+                            "stored, but the reader was not erased."));
+        return false;
+    case ImageEnd::Sound:
+        break;
+    }
+    return true;
+}
+
+bool ReaderErasure::Run() {
+    for (;;) {
+        bool succeeded = false;
+        m_link.EraseRequest(succeeded);
+        if (succeeded)
+            return true;
+        if (m_link.ReaderWasRemoved())
+            SayWhyNot(Translate("The reader was taken out of the station. It was not erased."));
+        do {
+            if (gWaitCancelled ||
+                IvMessageBox(Translate("Reader Erase Failed.  Try again?"), MessageKind::Question,
+                             MessageButtons::YesNo) != MessageAnswer::Yes)
+                return false;
+        } while (!RightReaderIsDocked());
+    }
+}
+
+/// The reader may have been exchanged while the question was open, which can be for hours.
+bool ReaderErasure::RightReaderIsDocked() {
+    const TransferResult docked = m_view.RunTransfer(TransferPurpose::Identifier);
+    if (!docked.OK) // the transfer has said why
+        return false;
+    m_link.AwaitQuietLine();
+    if (m_readFrame.isEmpty())
+        return DockedReaderIsConfirmed(docked.PipeID);
+    // If only the reply to an erase was lost, the reader is empty: erasing it again does no harm.
+    const bool sameReader = docked.PipeID == m_readId;
+    if (TellTheSame(m_readFrame, docked.FirstFrame) ||
+        (sameReader && IsEmptyImage(docked.FirstFrame)))
+        return true;
+    SayWhyNot(Translate(sameReader
+                            ? "The reader has been used since it was read. It was not erased."
+                            : "Another reader is in the station. It was not erased."));
+    return false;
+}
+
+/// It is not known which reader was docked at the first try, so the operator is asked about this
+/// one, once.
+bool ReaderErasure::DockedReaderIsConfirmed(const QString& readerId) {
+    if (readerId != m_readId &&
+        IvMessageBox(Translate("Are you sure you want to clear the reader? ") + readerId,
+                     MessageKind::Question, MessageButtons::YesNo) == MessageAnswer::Yes)
+        m_readId = readerId;
+    return readerId == m_readId;
+}
+
+void ReaderErasure::SayWhyNot(const QString& text) {
+    m_saidWhyNot = true;
+    IvMessageBox(text);
+}
