@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Please restore a backup. Until then, no reader is erased.</source>
-        <translation>Bitte eine Sicherung zurückspielen. Bis dahin wird kein Leser gelöscht.</translation>
+        <translation>Bitte eine Sicherung zurückspielen. Bis dahin wird kein Leser geleert.</translation>
     </message>
     <message>
         <source>Another program is using it.</source>
@@ -20,20 +20,20 @@
         <translation>Sie wird von %0:s benutzt (Prozess %1:s).</translation>
     </message>
     <message>
-        <source>It is in use on the computer %2:s, by %0:s (process %1:s).</source>
+        <source>It is in use on computer %2:s by %0:s (process %1:s).</source>
         <translation>Sie wird auf dem Computer %2:s benutzt, von %0:s (Prozess %1:s).</translation>
     </message>
     <message>
-        <source>The touches are stored, but the disk reported a failure. The reader was not erased.</source>
-        <translation>Die Kontakte sind gespeichert, aber der Datenträger meldete einen Fehler. Der Leser wurde nicht gelöscht.</translation>
+        <source>The touches are stored, but the disk reported an error. The reader was not erased.</source>
+        <translation>Die Erfassungen sind gespeichert, aber der Datenträger meldete einen Fehler. Der Leser wurde nicht geleert.</translation>
     </message>
     <message>
-        <source>The disk or the network reported a failure. Please check it, and try again.</source>
+        <source>The disk or the network reported an error. Please check it and try again.</source>
         <translation>Der Datenträger oder das Netz meldete einen Fehler. Bitte prüfen und noch einmal versuchen.</translation>
     </message>
     <message>
         <source>The database is damaged. The reader was not erased.</source>
-        <translation>Die Datenbank ist beschädigt. Der Leser wurde nicht gelöscht.</translation>
+        <translation>Die Datenbank ist beschädigt. Der Leser wurde nicht geleert.</translation>
     </message>
     <message>
         <source>A name or description can have at most 100 characters.</source>
@@ -44,11 +44,11 @@
         <translation>Ein Kennwort darf keine Zeilenumbrüche oder andere Steuerzeichen enthalten.</translation>
     </message>
     <message>
-        <source>The report could not be made. The file error.log says why.</source>
+        <source>The report could not be created. See error.log for the reason.</source>
         <translation>Der Bericht konnte nicht erstellt werden. Der Grund steht in der Datei error.log.</translation>
     </message>
     <message>
-        <source>The file is not there.</source>
+        <source>The file does not exist.</source>
         <translation>Die Datei ist nicht vorhanden.</translation>
     </message>
     <message>
@@ -56,11 +56,11 @@
         <translation>Der Datenträger ist voll.</translation>
     </message>
     <message>
-        <source>You are not permitted to write to this file or its folder.</source>
+        <source>You do not have permission to write to this file or its folder.</source>
         <translation>Für diese Datei oder ihren Ordner fehlt das Schreibrecht.</translation>
     </message>
     <message>
-        <source>It has another password, or it is damaged. If it is damaged, please restore a backup.</source>
+        <source>Its password is different, or it is damaged. If it is damaged, please restore a backup.</source>
         <translation>Sie hat ein anderes Kennwort, oder sie ist beschädigt. Wenn sie beschädigt ist, bitte eine Sicherung zurückspielen.</translation>
     </message>
     <message>
@@ -68,8 +68,8 @@
         <translation>Sie ist beschädigt. Bitte eine Sicherung zurückspielen.</translation>
     </message>
     <message>
-        <source>A journal beside the database did not belong to it. The database was opened without it.</source>
-        <translation>Neben der Datenbank lag ein Journal, das nicht zu ihr gehörte. Die Datenbank wurde ohne es geöffnet.</translation>
+        <source>A journal next to the database did not belong to it. The database was opened without this journal.</source>
+        <translation>Neben der Datenbank lag ein Journal, das nicht zu ihr gehörte. Die Datenbank wurde ohne dieses Journal geöffnet.</translation>
     </message>
     <message>
         <source>It was renamed to:</source>
@@ -109,31 +109,31 @@
     </message>
     <message>
         <source>The touches could not be stored. The reader was not erased.</source>
-        <translation>Die Kontakte konnten nicht gespeichert werden. Der Leser wurde nicht gelöscht.</translation>
+        <translation>Die Erfassungen konnten nicht gespeichert werden. Der Leser wurde nicht geleert.</translation>
     </message>
     <message>
         <source>Touches stored: </source>
-        <translation>Gespeicherte Kontakte: </translation>
+        <translation>Gespeicherte Erfassungen: </translation>
     </message>
     <message>
         <source>The reader was taken out of the station. It was not erased.</source>
-        <translation>Der Leser wurde aus der Dockingstation genommen. Er wurde nicht gelöscht.</translation>
+        <translation>Der Leser wurde aus der Dockingstation genommen. Er wurde nicht geleert.</translation>
     </message>
     <message>
         <source>Another reader is in the station. It was not erased.</source>
-        <translation>In der Dockingstation steckt ein anderer Leser. Er wurde nicht gelöscht.</translation>
+        <translation>In der Dockingstation steckt ein anderer Leser. Er wurde nicht geleert.</translation>
     </message>
     <message>
         <source>The reader has been used since it was read. It was not erased.</source>
-        <translation>Der Leser wurde seit dem Auslesen benutzt. Er wurde nicht gelöscht.</translation>
+        <translation>Der Leser wurde seit dem Auslesen benutzt. Er wurde nicht geleert.</translation>
     </message>
     <message>
-        <source>The reader's memory goes on after its end mark. What was read is stored, but the reader was not erased.</source>
-        <translation>Im Speicher des Lesers stehen nach der Endmarke weitere Daten. Das Gelesene ist gespeichert, der Leser wurde aber nicht gelöscht.</translation>
+        <source>The reader's memory continues after its end mark. The touches that were read are stored, but the reader was not erased.</source>
+        <translation>Im Speicher des Lesers stehen nach der Endmarke weitere Daten. Die gelesenen Erfassungen sind gespeichert, der Leser wurde aber nicht geleert.</translation>
     </message>
     <message>
-        <source>The reader does not hold as many records as it says. What was read is stored, but the reader was not erased.</source>
-        <translation>Der Leser enthält eine andere Anzahl von Datensätzen, als er angibt. Das Gelesene ist gespeichert, der Leser wurde aber nicht gelöscht.</translation>
+        <source>The reader holds a different number of records than it reports. The touches that were read are stored, but the reader was not erased.</source>
+        <translation>Der Leser enthält eine andere Anzahl von Datensätzen, als er angibt. Die gelesenen Erfassungen sind gespeichert, der Leser wurde aber nicht geleert.</translation>
     </message>
     <message>
         <source>The reader's clock can only be set to a date from 1 January 2000 to 6 June 2179. It was not set.</source>
@@ -141,11 +141,11 @@
     </message>
     <message>
         <source>Reader Memory NOT erased!</source>
-        <translation>Leserspeicher NICHT gelöscht!</translation>
+        <translation>Leserspeicher NICHT geleert!</translation>
     </message>
     <message>
         <source>Reader Memory erased</source>
-        <translation>Leserspeicher gelöscht</translation>
+        <translation>Leserspeicher geleert</translation>
     </message>
     <message>
         <source>Reader ID:</source>
@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>Data Readings = </source>
-        <translation>Kontakte = </translation>
+        <translation>Erfassungen = </translation>
     </message>
     <message>
         <source>The Reader was empty</source>
@@ -181,15 +181,15 @@
     </message>
     <message>
         <source>Are you sure you want to clear the reader? </source>
-        <translation>Soll der Leser wirklich gelöscht werden? </translation>
+        <translation>Soll der Speicher des Lesers wirklich geleert werden? </translation>
     </message>
     <message>
         <source>Reader Erase Failed.  Try again?</source>
-        <translation>Der Leser konnte nicht gelöscht werden. Noch einmal versuchen?</translation>
+        <translation>Der Leser konnte nicht geleert werden. Noch einmal versuchen?</translation>
     </message>
     <message>
         <source>Reader Erased</source>
-        <translation>Leser gelöscht</translation>
+        <translation>Leser geleert</translation>
     </message>
     <message>
         <source>Unknown</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>Setup</source>
-        <translation>Einrichten</translation>
+        <translation>Einrichtung</translation>
     </message>
     <message>
         <source>Number</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Button Name</source>
-        <translation>Kontaktstelle</translation>
+        <translation>Kontakt</translation>
     </message>
     <message>
         <source>Group Name</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>Master</source>
-        <translation>Leiter</translation>
+        <translation>Einsatzleiter</translation>
     </message>
     <message>
         <source>User</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Compacting Database...</source>
-        <translation>Datenbank wird verdichtet...</translation>
+        <translation>Datenbank wird komprimiert...</translation>
     </message>
     <message>
         <source>Loading Application...</source>
@@ -384,8 +384,8 @@
         <translation>Fehler beim Anlegen des Rundgangs</translation>
     </message>
     <message>
-        <source>The settings cannot be saved. What you change now is lost when the program ends.</source>
-        <translation>Die Einstellungen können nicht gespeichert werden. Was jetzt gewählt wird, ist nach dem Beenden vergessen.</translation>
+        <source>The settings cannot be saved. Changes you make now are lost when the program ends.</source>
+        <translation>Die Einstellungen können nicht gespeichert werden. Änderungen gehen beim Beenden verloren.</translation>
     </message>
     <message>
         <source>EARLY</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>OUT OF SEQUENCE</source>
-        <translation>FALSCHE FOLGE</translation>
+        <translation>FALSCHE REIHENFOLGE</translation>
     </message>
     <message>
         <source>NOT ON TOUR</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>Connection progress</source>
-        <translation>Stand der Verbindung</translation>
+        <translation>Verbindungsaufbau</translation>
     </message>
     <message>
         <source>&amp;Download Data</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>&amp;Erase Reader</source>
-        <translation>&amp;Leser löschen</translation>
+        <translation>Leser &amp;leeren</translation>
     </message>
     <message>
         <source>Download result</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>Touches read</source>
-        <translation>Gelesene Kontakte</translation>
+        <translation>Gelesene Erfassungen</translation>
     </message>
     <message>
         <source>Communications  Setup</source>
@@ -528,12 +528,12 @@
         <translation>&amp;Gerät:</translation>
     </message>
     <message>
-        <source>The device that this port number stands for</source>
-        <translation>Das Gerät, für das diese Nummer steht</translation>
+        <source>The device for this port number</source>
+        <translation>Das Gerät zu dieser Anschlussnummer</translation>
     </message>
     <message>
-        <source>Leave the device on automatic unless the docking station is on another one.</source>
-        <translation>Das Gerät auf Automatisch lassen, wenn die Dockingstation nicht an einem anderen hängt.</translation>
+        <source>Leave the device set to Automatic unless the docking station uses another one.</source>
+        <translation>Das Gerät auf Automatisch lassen, wenn die Dockingstation kein anderes benutzt.</translation>
     </message>
     <message>
         <source>&amp;OK</source>
@@ -565,7 +565,7 @@
     </message>
     <message>
         <source>&amp;Master</source>
-        <translation>&amp;Leiter</translation>
+        <translation>&amp;Einsatzleiter</translation>
     </message>
     <message>
         <source>&amp;User</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>User Maintenance</source>
-        <translation>Kennwort</translation>
+        <translation>Kennwörter</translation>
     </message>
     <message>
         <source>&amp;Retype Password:</source>
@@ -661,7 +661,7 @@
     </message>
     <message>
         <source>Show All Tour Points</source>
-        <translation>Alle Kontaktstellen zeigen</translation>
+        <translation>Alle Kontrollpunkte zeigen</translation>
     </message>
     <message>
         <source>Only Show Exceptions</source>
@@ -729,15 +729,15 @@
     </message>
     <message>
         <source>Zoom</source>
-        <translation>Größe</translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation>Größer</translation>
+        <translation>Vergrößern</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation>Kleiner</translation>
+        <translation>Verkleinern</translation>
     </message>
     <message>
         <source>Actual size</source>
@@ -780,7 +780,7 @@
         <translation>Andere Uhrzeit</translation>
     </message>
     <message>
-        <source>Time of the PC</source>
+        <source>PC time</source>
         <translation>Uhrzeit des PCs</translation>
     </message>
     <message>
@@ -797,15 +797,15 @@
     </message>
     <message>
         <source>Buzzer Enabled</source>
-        <translation>Summer an</translation>
+        <translation>Summer ein</translation>
     </message>
     <message>
         <source>LED Enabled</source>
-        <translation>LED an</translation>
+        <translation>LED ein</translation>
     </message>
     <message>
         <source>Vibration Enabled</source>
-        <translation>Vibration an</translation>
+        <translation>Vibration ein</translation>
     </message>
     <message>
         <source>Buzzer Duration</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Put the reader into the docking station and read its ID.</source>
-        <translation>Den Leser in die Dockingstation stellen und die Nummer lesen.</translation>
+        <translation>Den Leser in die Dockingstation einsetzen und die Nummer lesen.</translation>
     </message>
     <message>
         <source>Touch the reader in the docking station with the new button, or enter its ID by hand.</source>
@@ -937,7 +937,7 @@
     </message>
     <message>
         <source>Only the master may do this.</source>
-        <translation>Das darf nur der Leiter.</translation>
+        <translation>Das darf nur der Einsatzleiter.</translation>
     </message>
     <message>
         <source>&amp;Add</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Definitions</source>
-        <translation>Festlegungen</translation>
+        <translation>Stammdaten</translation>
     </message>
     <message>
         <source>Sites</source>
@@ -1016,8 +1016,8 @@
         <translation>&amp;Zeit ändern</translation>
     </message>
     <message>
-        <source>Minutes since the point before</source>
-        <translation>Minuten seit der Stelle davor</translation>
+        <source>Minutes since the previous point</source>
+        <translation>Minuten seit dem vorigen Kontrollpunkt</translation>
     </message>
     <message>
         <source>Select Tour to copy</source>
@@ -1045,19 +1045,19 @@
     </message>
     <message>
         <source>Available Locations</source>
-        <translation>Kontaktstellen</translation>
+        <translation>Verfügbare Kontaktstellen</translation>
     </message>
     <message>
         <source>Current Tour Locations</source>
-        <translation>Stellen des Rundgangs</translation>
+        <translation>Kontrollpunkte des Rundgangs</translation>
     </message>
     <message>
         <source>&amp;Add -&gt;</source>
-        <translation>&amp;Hinzu -&gt;</translation>
+        <translation>&amp;Hinzufügen -&gt;</translation>
     </message>
     <message>
         <source>&lt;- &amp;Remove</source>
-        <translation>&lt;- &amp;Weg</translation>
+        <translation>&lt;- &amp;Entfernen</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
@@ -1161,11 +1161,11 @@
     </message>
     <message>
         <source>Cannot find any Tour Points to copy</source>
-        <translation>Der Rundgang hat keine Stellen, die sich kopieren ließen</translation>
+        <translation>Der Rundgang hat keine Kontrollpunkte zum Kopieren</translation>
     </message>
     <message>
         <source>Cannot assign two sequential tour points with the same location</source>
-        <translation>Zwei Stellen nacheinander dürfen nicht dieselbe Kontaktstelle haben</translation>
+        <translation>Zwei Kontrollpunkte nacheinander dürfen nicht dieselbe Kontaktstelle haben</translation>
     </message>
     <message>
         <source>The tolerance value can only range from 0 to 59 minutes</source>
@@ -1180,8 +1180,32 @@
         <translation>Nur Zahlen von 0 bis 1439 sind gültig</translation>
     </message>
     <message>
-        <source>The docking station is disconnected. Enter the ID by hand, or go home to connect again.</source>
-        <translation>Die Dockingstation ist weg. Den Code von Hand eingeben, oder zur Startseite gehen und neu verbinden.</translation>
+        <source>The docking station is no longer connected. Enter the ID by hand, or go to the home page to connect again.</source>
+        <translation>Die Dockingstation ist nicht mehr erreichbar. Den Code von Hand eingeben oder zur Startseite gehen und neu verbinden.</translation>
+    </message>
+    <message>
+        <source>&amp;Archive Events</source>
+        <translation>Ereignisse &amp;archivieren</translation>
+    </message>
+    <message>
+        <source>&amp;Backup</source>
+        <translation>&amp;Sicherung</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>Company &amp;Info</source>
+        <translation>&amp;Firmenangaben</translation>
+    </message>
+    <message>
+        <source>&amp;About </source>
+        <translation>&amp;Über </translation>
+    </message>
+    <message>
+        <source>WK3_ENG.HLP</source>
+        <translation>WK3_ENG.HLP</translation>
     </message>
 </context>
 </TS>

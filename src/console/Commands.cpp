@@ -1,23 +1,24 @@
 #include "Command.h"
 
-// Each command is in the file of its name.
-Command DetectCommand();
-Command DownloadCommand();
 std::vector<Command> ReportCommands();
-Command IdentifyCommand();
-Command FirmwareCommand();
-Command SetClockCommand();
-Command SetOptionsCommand();
-Command EraseCommand();
-Command ExportCommand();
-Command ImportCommand();
 
 std::vector<Command> Commands() {
-    std::vector<Command> commands = {DetectCommand(), DownloadCommand()};
+    std::vector<Command> commands;
+// Each command is in the file of its name: DetectCommand() is in DetectCommand.cpp.
+#define ADD(Name)                                                                                  \
+    extern Command Name##Command();                                                                \
+    commands.push_back(Name##Command());
+    ADD(Detect)
+    ADD(Download)
     for (Command& report : ReportCommands())
         commands.push_back(std::move(report));
-    for (Command (*make)() : {IdentifyCommand, FirmwareCommand, SetClockCommand, SetOptionsCommand,
-                              EraseCommand, ExportCommand, ImportCommand})
-        commands.push_back(make());
+    ADD(Identify)
+    ADD(Firmware)
+    ADD(SetClock)
+    ADD(SetOptions)
+    ADD(Erase)
+    ADD(Export)
+    ADD(Import)
+#undef ADD
     return commands;
 }

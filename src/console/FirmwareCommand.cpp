@@ -12,8 +12,9 @@ bool WriteFirmware(DockingLink& link, const ConsoleBoxes& boxes, bool json) {
     const TransferResult transfer = RunConsoleTransfer(link, TransferPurpose::Firmware);
     const QString& firmware = transfer.tFirmware;
     if (!NamesFirmware(firmware)) {
-        ComplainUnlessSaid(boxes, transfer.OK ? "The reader did not report its firmware version."
-                                              : "Download Failed");
+        ComplainUnlessSaid(
+            boxes, transfer.OK ? QT_TR_NOOP("The reader did not report its firmware version.")
+                               : "Download Failed");
         return false;
     }
     if (json)

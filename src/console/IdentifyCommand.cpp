@@ -10,7 +10,7 @@ namespace {
 bool Identify(DockingLink& link, const ConsoleBoxes& boxes, bool json) {
     const TransferResult transfer = RunConsoleTransfer(link, TransferPurpose::Identifier);
     if (!transfer.OK) {
-        ComplainUnlessSaid(boxes, "Reader ID Download Failed");
+        ComplainUnlessSaid(boxes, QT_TR_NOOP("Reader ID Download Failed"));
         return false;
     }
     const std::optional<Reader> reader = FindReader(transfer.PipeID);

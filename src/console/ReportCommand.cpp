@@ -32,7 +32,7 @@ CommandRun Prepare(const ReportRow& row, CLI::App& options) {
         else if (output->format == ReportFormat::Json)
             WriteOut(JsonMessage(boxes.Last()), output->path);
         if (!report.HasReport() && boxes.Last().isEmpty())
-            Complain(Translate("The report could not be made. The file error.log says why."));
+            Complain(Translate("The report could not be created. See error.log for the reason."));
         return report.HasReport();
     };
 }

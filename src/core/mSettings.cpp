@@ -49,8 +49,8 @@ void ReadRemainingSettings() {
 void ReportLostSettings() {
     InstallSettingsLost([](const QString& path) {
         WriteLog(QStringLiteral("The settings cannot be saved: ") + path);
-        IvMessageBox(Translate("The settings cannot be saved. What you change now is lost when the "
-                               "program ends.") +
+        IvMessageBox(Translate("The settings cannot be saved. Changes you make now are lost when "
+                               "the program ends.") +
                      u'\n' + path);
     });
 }

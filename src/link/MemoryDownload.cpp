@@ -90,7 +90,7 @@ bool MemoryDownload::Store() {
     if (m_outcome.stored)
         return true;
     const bool all = m_outcome.rowsStored == static_cast<int>(m_outcome.touches.size());
-    ShowText(Translate(all ? "The touches are stored, but the disk reported a failure. The reader "
+    ShowText(Translate(all ? "The touches are stored, but the disk reported an error. The reader "
                              "was not erased."
                            : "The touches could not be stored. The reader was not erased.") +
              u'\n' + Translate("Touches stored: ") +

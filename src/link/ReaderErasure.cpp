@@ -12,12 +12,12 @@ bool ReaderErasure::IsAllowed() {
     }
     switch (m_imageEnd) {
     case ImageEnd::DataAfterEndMark:
-        SayWhyNot(Translate("The reader's memory goes on after its end mark. What was read is "
-                            "stored, but the reader was not erased."));
+        SayWhyNot(Translate("The reader's memory continues after its end mark. The touches that "
+                            "were read are stored, but the reader was not erased."));
         return false;
     case ImageEnd::CountDisagrees:
-        SayWhyNot(Translate("The reader does not hold as many records as it says. What was read is "
-                            "stored, but the reader was not erased."));
+        SayWhyNot(Translate("The reader holds a different number of records than it reports. The "
+                            "touches that were read are stored, but the reader was not erased."));
         return false;
     case ImageEnd::Sound:
         break;

@@ -45,13 +45,13 @@ MessageAnswer HarmlessAnswer(MessageButtons buttons) {
 QList<QString> ButtonWords(MessageButtons buttons) {
     switch (buttons) {
     case MessageButtons::OkCancel:
-        return {QStringLiteral("OK"), QStringLiteral("Cancel")};
+        return {QStringLiteral(QT_TR_NOOP("OK")), QStringLiteral(QT_TR_NOOP("Cancel"))};
     case MessageButtons::YesNo:
-        return {QStringLiteral("Yes"), QStringLiteral("No")};
+        return {QStringLiteral(QT_TR_NOOP("Yes")), QStringLiteral(QT_TR_NOOP("No"))};
     case MessageButtons::RetryIgnore:
-        return {QStringLiteral("Retry"), QStringLiteral("Ignore")};
+        return {QStringLiteral(QT_TR_NOOP("Retry")), QStringLiteral(QT_TR_NOOP("Ignore"))};
     case MessageButtons::Ok:
         break;
     }
-    return {QStringLiteral("OK")};
+    return {QStringLiteral(QT_TR_NOOP("OK"))};
 }

@@ -58,7 +58,10 @@ std::optional<int> IntervalFromText(const QString& text);
 std::optional<int> ToleranceFromText(const QString& text);
 
 /// Messages, not yet translated.
-constexpr char NeighbourFault[] = "Cannot assign two sequential tour points with the same location";
-constexpr char TotalTimeFault[] = "The total tour time can only range from 0 to 1439 minutes";
-constexpr char ToleranceFault[] = "The tolerance value can only range from 0 to 59 minutes";
-constexpr char IntervalFault[] = "Only valid numbers from 0 to 1439 can be entered";
+constexpr char NeighbourFault[] =
+    QT_TR_NOOP("Cannot assign two sequential tour points with the same location");
+constexpr char TotalTimeFault[] =
+    QT_TR_NOOP("The total tour time can only range from 0 to 1439 minutes");
+constexpr char ToleranceFault[] =
+    QT_TR_NOOP("The tolerance value can only range from 0 to 59 minutes");
+constexpr char IntervalFault[] = QT_TR_NOOP("Only valid numbers from 0 to 1439 can be entered");

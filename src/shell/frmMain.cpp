@@ -35,10 +35,10 @@ struct ToolbarRow {
 
 /// The page buttons, in the order of frmMain::Page.
 constexpr std::array<ToolbarRow, 4> Toolbar = {{
-    {"home", "Home", &frmMain::GoHome, Qt::Key_1},
-    {"download", "Download", &frmMain::GoOnline, Qt::Key_2},
-    {"reports", "Reports", &frmMain::GoReports, Qt::Key_3},
-    {"setup", "Setup", &frmMain::GoSetup, Qt::Key_4},
+    {"home", QT_TR_NOOP("Home"), &frmMain::GoHome, Qt::Key_1},
+    {"download", QT_TR_NOOP("Download"), &frmMain::GoOnline, Qt::Key_2},
+    {"reports", QT_TR_NOOP("Reports"), &frmMain::GoReports, Qt::Key_3},
+    {"setup", QT_TR_NOOP("Setup"), &frmMain::GoSetup, Qt::Key_4},
 }};
 
 // Twips.

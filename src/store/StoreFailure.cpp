@@ -24,7 +24,7 @@ QString InUse(const LockFile::Holder& holder) {
     const QStringList words = {holder.program, QString::number(holder.process), holder.machine};
     return FormatStr(Translate(holder.machine.isEmpty()
                                    ? "It is in use by %0:s (process %1:s)."
-                                   : "It is in use on the computer %2:s, by %0:s (process %1:s)."),
+                                   : "It is in use on computer %2:s by %0:s (process %1:s)."),
                      words);
 }
 
@@ -36,20 +36,20 @@ QString CauseOf(const RunTimeError& error, const QString& storePath) {
     case Busy:
         return InUse(StoreLock::HolderOf(storePath));
     case RunTimeErrorNumber::FileNotFound:
-        return Translate("The file is not there.");
+        return Translate("The file does not exist.");
     case RunTimeErrorNumber::DiskFull:
     case Full:
         return Translate("The disk is full.");
     case RunTimeErrorNumber::PermissionDenied:
     case ReadOnly:
     case CannotOpen:
-        return Translate("You are not permitted to write to this file or its folder.");
+        return Translate("You do not have permission to write to this file or its folder.");
     case NoDatabase:
-        return Translate("It has another password, or it is damaged. If it is damaged, please "
+        return Translate("Its password is different, or it is damaged. If it is damaged, please "
                          "restore a backup.");
     case InputOutput:
-        return Translate("The disk or the network reported a failure. Please check it, and try "
-                         "again.");
+        return Translate(
+            "The disk or the network reported an error. Please check it and try again.");
     default:
         if (IsDamage(error.Number()))
             return Translate("It is damaged. Please restore a backup.");
@@ -61,8 +61,8 @@ void TellOfForeignJournal(const QString& journalPath) {
     const QString path = QDir::toNativeSeparators(journalPath);
     WriteLog(QStringLiteral("A journal beside the store belonged to another database. It is now ") +
              path);
-    IvMessageBox(Translate("A journal beside the database did not belong to it. The database was "
-                           "opened without it.") +
+    IvMessageBox(Translate("A journal next to the database did not belong to it. The database was "
+                           "opened without this journal.") +
                      u'\n' + Translate("It was renamed to:") + u'\n' + path,
                  MessageKind::Warning, MessageButtons::Ok, ShortTitle);
 }

@@ -241,7 +241,9 @@ private slots:
                                        << QByteArray("Reader Memory NOT erased!") << 3;
         QTest::newRow("end mark in mid-memory")
             << Night + "record 00 00 00 00\ntouch 2026-11-22 00:50 1A40C2"
-            << QByteArray("memory goes on after its end mark. What was read is stored") << 3;
+            << QByteArray(
+                   "memory continues after its end mark. The touches that were read are stored")
+            << 3;
         QTest::newRow("no reader") << Night + "remove\n" << QByteArray("Reader not detected.") << 3;
         QTest::newRow("silent dock")
             << Night + "fault silent\n"

@@ -49,7 +49,7 @@ QStringList Literals(const QString& code) {
 }
 
 void AddTextsOfCode(const QString& code, QSet<QString>& texts) {
-    static const QRegularExpression call("\\b(?:Translate|QT_TR_NOOP)\\(");
+    static const QRegularExpression call("\\b(?:Translate|m_translate|QT_TR_NOOP)\\(");
     for (auto all = call.globalMatch(code); all.hasNext();) {
         const qsizetype from = all.next().capturedEnd();
         for (const QString& text : Literals(code.mid(from, ClosingBracket(code, from) - from)))
@@ -139,8 +139,9 @@ private slots:
             if (MarksOf(entry.key()) != MarksOf(entry.value()))
                 faults += "other marks: " + entry.key();
         }
-        faults.sort();
-        QVERIFY2(faults.isEmpty(), qPrintable(u'\n' + faults.join(u'\n')));
+        for (const QString& fault : faults)
+            qWarning("%s", qPrintable(fault));
+        QVERIFY(faults.isEmpty());
     }
 };
 

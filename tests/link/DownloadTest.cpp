@@ -95,11 +95,11 @@ private slots:
         const auto kept = [&](const char* name, const QByteArray& scenario, int rows,
                               const QString& why) {
             row(name, scenario, rows, 0, Successful(rows, "\nReader Memory NOT erased!"),
-                {why + " What was read is stored, but the reader was not erased."});
+                {why + " The touches that were read are stored, but the reader was not erased."});
         };
-        const QString goesOn = QStringLiteral("The reader's memory goes on after its end mark.");
+        const QString goesOn = QStringLiteral("The reader's memory continues after its end mark.");
         const QString disagrees =
-            QStringLiteral("The reader does not hold as many records as it says.");
+            QStringLiteral("The reader holds a different number of records than it reports.");
         kept("end mark in frame 1", Taught + Touches(20) + end + Touches(130), 20, goesOn);
         kept("end mark, untaught", Untaught + Touches(20) + end + Touches(130), 20, goesOn);
         kept("end mark before the last record", three + end + Touches(1), 150, goesOn);

@@ -94,8 +94,8 @@ private slots:
         TestHome::Close();
         spoil(home.Store());
         const QByteArray before = BytesOf(home.Store());
-        const QString cause = error == 53      ? "The file is not there."
-                              : error == 10026 ? "It has another password, or it is damaged. If "
+        const QString cause = error == 53      ? "The file does not exist."
+                              : error == 10026 ? "Its password is different, or it is damaged. If "
                                                  "it is damaged, please restore a backup."
                                                : "It is damaged. Please restore a backup.";
         const QString number = QStringLiteral(" Failed. Exiting...\nError #%1\n").arg(error);
@@ -294,7 +294,7 @@ private slots:
         QCOMPARE(gConn->QuickCheck(), QString());
         QVERIFY(!QFile::exists(journal) && !QFile::exists(home.Store() + ".trial"));
         QCOMPARE(QDir(home.File({})).entryList({"main.mdb-journal.*"}).size(), 1);
-        QVERIFY(boxes.TakeTexts().value(0).startsWith("A journal beside the database"));
+        QVERIFY(boxes.TakeTexts().value(0).startsWith("A journal next to the database"));
     }
 
     void CompactionKeepsAllButTheWaste() {

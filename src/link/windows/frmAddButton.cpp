@@ -54,9 +54,8 @@ int frmAddButton::exec() {
 // timer until that entry is closed.
 void frmAddButton::tmrGetID_Timer() {
     if (!m_capture.LineIsOpen())
-        m_ui->lblHint->setText(
-            Translate("The docking station is disconnected. Enter the ID by hand, or go "
-                      "home to connect again."));
+        m_ui->lblHint->setText(Translate("The docking station is no longer connected. Enter the ID "
+                                         "by hand, or go to the home page to connect again."));
     const QString code = m_capture.TakeCode();
     if (code.isEmpty())
         return;

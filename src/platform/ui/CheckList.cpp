@@ -7,8 +7,8 @@
 
 CheckList::CheckList(QWidget* parent)
     : QWidget(parent), m_list(new QTreeWidget(this)),
-      m_all(new QPushButton(QStringLiteral("All"), this)),
-      m_none(new QPushButton(QStringLiteral("None"), this)) {
+      m_all(new QPushButton(QStringLiteral(QT_TR_NOOP("All")), this)),
+      m_none(new QPushButton(QStringLiteral(QT_TR_NOOP("None")), this)) {
     m_list->setHeaderHidden(true);
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);

@@ -111,33 +111,36 @@ QAction* frmPreview::AddAction(const char* name, const char* text, const QList<Q
 
 void frmPreview::BuildToolbar() {
     m_toolbar->setIconSize(QSize(22, 22));
-    AddAction("print", "Print", {QKeySequence::Print}, [this] { Print(); });
-    AddAction("pdf", "Export to PDF", {QKeySequence::Save}, [this] { Export(); });
+    AddAction("print", QT_TR_NOOP("Print"), {QKeySequence::Print}, [this] { Print(); });
+    AddAction("pdf", QT_TR_NOOP("Export to PDF"), {QKeySequence::Save}, [this] { Export(); });
     m_toolbar->addSeparator();
-    m_first = AddAction("first", "First page", {Qt::Key_Home}, [this] { GoToPage(0); });
-    m_previous =
-        AddAction("previous", "Previous page", {Qt::Key_PageUp}, [this] { GoToPage(Page() - 1); });
+    m_first = AddAction("first", QT_TR_NOOP("First page"), {Qt::Key_Home}, [this] { GoToPage(0); });
+    m_previous = AddAction("previous", QT_TR_NOOP("Previous page"), {Qt::Key_PageUp},
+                           [this] { GoToPage(Page() - 1); });
     BuildPageField();
-    m_next = AddAction("next", "Next page", {Qt::Key_PageDown}, [this] { GoToPage(Page() + 1); });
-    m_last = AddAction("last", "Last page", {Qt::Key_End},
+    m_next = AddAction("next", QT_TR_NOOP("Next page"), {Qt::Key_PageDown},
+                       [this] { GoToPage(Page() + 1); });
+    m_last = AddAction("last", QT_TR_NOOP("Last page"), {Qt::Key_End},
                        [this] { GoToPage(m_report.PageCount() - 1); });
     m_toolbar->addSeparator();
-    AddAction("zoom-out", "Zoom out", {QKeySequence::ZoomOut}, [this] { m_area->ZoomOut(); });
+    AddAction("zoom-out", QT_TR_NOOP("Zoom out"), {QKeySequence::ZoomOut},
+              [this] { m_area->ZoomOut(); });
     m_zoomText->setObjectName(QStringLiteral("lblZoom"));
     m_zoomText->setAccessibleName(m_translate(QStringLiteral("Zoom")));
     m_zoomText->setAlignment(Qt::AlignCenter);
     m_zoomText->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral(" 000 % ")));
     m_toolbar->addWidget(m_zoomText);
-    AddAction("zoom-in", "Zoom in", {QKeySequence::ZoomIn, QKeySequence(Qt::CTRL | Qt::Key_Equal)},
+    AddAction("zoom-in", QT_TR_NOOP("Zoom in"),
+              {QKeySequence::ZoomIn, QKeySequence(Qt::CTRL | Qt::Key_Equal)},
               [this] { m_area->ZoomIn(); });
-    AddAction("zoom-full", "Actual size", {QKeySequence(Qt::CTRL | Qt::Key_0)},
+    AddAction("zoom-full", QT_TR_NOOP("Actual size"), {QKeySequence(Qt::CTRL | Qt::Key_0)},
               [this] { m_area->SetZoom(1.0); });
-    AddAction("fit-width", "Fit width", {QKeySequence(Qt::CTRL | Qt::Key_1)},
+    AddAction("fit-width", QT_TR_NOOP("Fit width"), {QKeySequence(Qt::CTRL | Qt::Key_1)},
               [this] { m_area->FitWidth(); });
-    AddAction("fit-page", "Whole page", {QKeySequence(Qt::CTRL | Qt::Key_2)},
+    AddAction("fit-page", QT_TR_NOOP("Whole page"), {QKeySequence(Qt::CTRL | Qt::Key_2)},
               [this] { m_area->FitPage(); });
     m_toolbar->addSeparator();
-    AddAction("close", "Close", {Qt::Key_Escape}, [this] { reject(); });
+    AddAction("close", QT_TR_NOOP("Close"), {Qt::Key_Escape}, [this] { reject(); });
     auto* edit = new QAction(this);
     edit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     connect(edit, &QAction::triggered, this, &frmPreview::EditPage);
@@ -211,10 +214,10 @@ void frmPreview::Print() {
     if (dialog.exec() != QDialog::Accepted)
         return;
     try {
-        ProgressWindow progress("Print", m_translate, this);
+        ProgressWindow progress(QT_TR_NOOP("Print"), m_translate, this);
         PrintReport(m_report, printer, Page(), std::ref(progress));
     } catch (const RunTimeError& error) {
-        Tell("The report could not be printed.", error.Description());
+        Tell(QT_TR_NOOP("The report could not be printed."), error.Description());
     }
 }
 
@@ -227,11 +230,11 @@ void frmPreview::Export() {
     if (dialog.exec() != QDialog::Accepted)
         return;
     try {
-        ProgressWindow progress("Export to PDF", m_translate, this);
+        ProgressWindow progress(QT_TR_NOOP("Export to PDF"), m_translate, this);
         ExportPdf(m_report, dialog.selectedFiles().value(0), m_report.Caption(),
                   std::ref(progress));
     } catch (const RunTimeError& error) {
-        Tell("The report could not be exported.", error.Description());
+        Tell(QT_TR_NOOP("The report could not be exported."), error.Description());
     }
 }
 

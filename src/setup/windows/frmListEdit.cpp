@@ -21,9 +21,10 @@ struct TypeWords {
 };
 
 const TypeWords& WordsOf(GroupType type) {
-    static const TypeWords user{"user", "User Group", "Add New User"};
-    static const TypeWords site{"location", "Site", "Add New Location"};
-    static const TypeWords eventBook{"event", "Event Book", "Add New Event"};
+    static const TypeWords user{"user", QT_TR_NOOP("User Group"), QT_TR_NOOP("Add New User")};
+    static const TypeWords site{"location", QT_TR_NOOP("Site"), QT_TR_NOOP("Add New Location")};
+    static const TypeWords eventBook{"event", QT_TR_NOOP("Event Book"),
+                                     QT_TR_NOOP("Add New Event")};
     return type == SiteGroup ? site : type == EventBookGroup ? eventBook : user;
 }
 

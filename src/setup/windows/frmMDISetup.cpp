@@ -21,15 +21,30 @@ const QList<frmMDISetup::Kind>& frmMDISetup::Kinds() {
     static const Actions readers{&Page::ReaderRows, &Page::EditReader, &Page::AddReader,
                                  &Page::DeleteReader};
     static const QList<Kind> kinds = {
-        {"Sites", "location", SiteGroup, {"Name", "Description"}, {40, 59}, groups},
-        {"Event Books", "event", EventBookGroup, {"Name", "Description"}, {40, 59}, groups},
-        {"Tours",
+        {QT_TR_NOOP("Sites"),
+         "location",
+         SiteGroup,
+         {QT_TR_NOOP("Name"), QT_TR_NOOP("Description")},
+         {40, 59},
+         groups},
+        {QT_TR_NOOP("Event Books"),
+         "event",
+         EventBookGroup,
+         {QT_TR_NOOP("Name"), QT_TR_NOOP("Description")},
+         {40, 59},
+         groups},
+        {QT_TR_NOOP("Tours"),
          "tour",
          UserGroup,
-         {"Tour Name", "Start Time", "Description"},
+         {QT_TR_NOOP("Tour Name"), QT_TR_NOOP("Start Time"), QT_TR_NOOP("Description")},
          {40, 15, 44},
          tours},
-        {"Readers", "reader", UserGroup, {"Reader ID", "Description"}, {30, 69}, readers},
+        {QT_TR_NOOP("Readers"),
+         "reader",
+         UserGroup,
+         {QT_TR_NOOP("Reader ID"), QT_TR_NOOP("Description")},
+         {30, 69},
+         readers},
     };
     return kinds;
 }
@@ -190,8 +205,8 @@ void frmMDISetup::EditGroup() {
 
 void frmMDISetup::DeleteGroup() {
     Guarded("DeleteGroup of Form frmMDISetup", [this] {
-        DeleteSelected(GroupHasButtons, "The selected group contains sub-items",
-                       "Are you sure you want to delete it?", ::DeleteGroup);
+        DeleteSelected(GroupHasButtons, QT_TR_NOOP("The selected group contains sub-items"),
+                       QT_TR_NOOP("Are you sure you want to delete it?"), ::DeleteGroup);
     });
 }
 
@@ -314,8 +329,8 @@ bool frmMDISetup::Saved(const Tour& tour, const TourDraft& points) const {
 
 void frmMDISetup::DeleteTour() {
     Guarded("DeleteTour of Form frmMDISetup", [this] {
-        DeleteSelected(TourHasPoints, "The selected Tour contains data.",
-                       "Are you sure you want to delete this tour?", ::DeleteTour);
+        DeleteSelected(TourHasPoints, QT_TR_NOOP("The selected Tour contains data."),
+                       QT_TR_NOOP("Are you sure you want to delete this tour?"), ::DeleteTour);
     });
 }
 

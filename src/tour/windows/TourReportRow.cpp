@@ -31,8 +31,8 @@ std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
 
 ReportRow TourReportRow() {
     return {.key = "NewException",
-            .name = "Tour / Exception Report",
-            .description = "Exception Report",
+            .name = QT_TR_NOOP("Tour / Exception Report"),
+            .description = QT_TR_NOOP("Exception Report"),
             .needs = ReportNeeds::ReaderThenTour,
             .open = LoadTourReport,
             .openLabel = nullptr,
