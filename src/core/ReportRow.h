@@ -28,7 +28,7 @@ struct ReportRow {
     const char* help;         ///< a few words for the command line, in lower case
     const char* example;      ///< options of a call
     ReportNeeds commandNeeds; ///< before the command runs
-    /// Adds the report's options (CommandOptions.h) and gives back what makes the report once they
-    /// are read. That shows the report in the viewer, or has said why not.
+    /// Adds the report's options (CommandOptions.h) and returns the routine that makes the report
+    /// from them. It shows the report in the viewer, or a message that says why not.
     std::function<void(ReportViewer& viewer)> (*addOptions)(CLI::App& options);
 };

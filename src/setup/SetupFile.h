@@ -6,8 +6,7 @@
 /// store:
 ///
 ///     { "groups":  [ { "type": "site", "name": "Quay", "description": "",
-///                      "buttons": [ { "code": "1A40C2", "name": "Crane", "description": "" } ] }
-///                      ],
+///                      "buttons": [ { "code": "1A40C2", "name": "Crane" } ] } ],
 ///       "readers": [ { "id": "4B5831A7", "description": "Night reader" } ],
 ///       "tours":   [ { "name": "Night", "description": "", "start": "22:30", "tolerance": 5,
 ///                      "points": [ { "minutes": 0, "button": "1A40C2" } ] } ] }

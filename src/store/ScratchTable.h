@@ -20,7 +20,7 @@ void DropScratchTable(const QString& name);
 /// with tables in memory. So `build` must show nothing, and change nothing it works on, before its
 /// first table is made.
 void WithScratchTables(const std::function<void()>& build);
-/// For a handler within `build`: throws the failure on if tables in memory would help.
+/// For a handler within `build`: rethrows the failure if tables in memory would help.
 void PassOnIfMemoryHelps(const RunTimeError& error);
 
 /// The one table that is kept between reports, tblReportTemp: makes it if it is not there, and

@@ -20,7 +20,7 @@ bool Accept(QLineEdit& field, const QString& fault) {
 bool AcceptName(Named what, QLineEdit& field, const QStringList& existingNames,
                 const QString& received) {
     QString fault = NameFault(what, field.text().trimmed(), existingNames, received);
-    // Blanks around a name are kept, so a name with the same blanks may exist too.
+    // The add dialogs keep blanks around a name, so a name with the same blanks may exist too.
     if (fault.isEmpty() && field.text() != received)
         fault = NameFault(what, field.text(), existingNames, received);
     return Accept(field, fault);

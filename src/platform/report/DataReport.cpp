@@ -31,19 +31,24 @@ ReportControl& DataReport::Control(QStringView name) {
         QStringLiteral("The layout \"%1\" has no control \"%2\".").arg(m_layout.file, name));
 }
 
+int DataReport::FindColumn(const RowSource& rows, const QString& column,
+                           const QString& user) const {
+    try {
+        return rows.Column(column);
+    } catch (const RunTimeError& error) {
+        throw RunTimeError(error.Number(), QStringLiteral("%1 of layout \"%2\": %3")
+                                               .arg(user, m_layout.file, error.Description()));
+    }
+}
+
 std::vector<int> DataReport::FindColumns(const ReportSection& section,
                                          const RowSource& rows) const {
     std::vector<int> columns;
-    for (const ReportControl& control : section.AllControls()) {
-        try {
-            columns.push_back(
-                control.Kind() == ControlKind::TextBox ? rows.Column(control.DataField()) : -1);
-        } catch (const RunTimeError& error) {
-            throw RunTimeError(error.Number(),
-                               QStringLiteral("Text box \"%1\" of layout \"%2\": %3")
-                                   .arg(control.Name(), m_layout.file, error.Description()));
-        }
-    }
+    for (const ReportControl& control : section.AllControls())
+        columns.push_back(control.Kind() == ControlKind::TextBox
+                              ? FindColumn(rows, control.DataField(),
+                                           QStringLiteral("Text box \"%1\"").arg(control.Name()))
+                              : -1);
     return columns;
 }
 
@@ -56,7 +61,8 @@ void DataReport::SetDataSource(const RowSource* rows) {
             if (HasRow(section.Kind()))
                 columns[static_cast<std::size_t>(section.Kind())] = FindColumns(section, *rows);
         if (!m_layout.groupColumn.isEmpty())
-            groups = GroupStarts(*rows, rows->Column(m_layout.groupColumn));
+            groups = GroupStarts(
+                *rows, FindColumn(*rows, m_layout.groupColumn, QStringLiteral("The group")));
         else if (count > 0)
             groups = {0};
     }

@@ -80,6 +80,8 @@ public:
                      DateTime printedAt, const PageProgress& progress) const;
 
 private:
+    /// `user` is who needs the column, for the message of a failure.
+    int FindColumn(const RowSource& rows, const QString& column, const QString& user) const;
     std::vector<int> FindColumns(const ReportSection& section, const RowSource& rows) const;
 
     ReportLayout m_layout;

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QLocale>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <utility>
@@ -129,7 +130,8 @@ private:
         const auto kind = node.Choice<ControlKind>("type", {{"label", ControlKind::Label},
                                                             {"textBox", ControlKind::TextBox},
                                                             {"line", ControlKind::Line}});
-        if (section.Find(name))
+        const auto has = [&](const ReportSection& other) { return other.Find(name) != nullptr; };
+        if (has(section) || std::any_of(m_layout.sections.begin(), m_layout.sections.end(), has))
             node.Reject(QStringLiteral("there are two of that name"));
 
         ControlStyle style;

@@ -12,7 +12,7 @@
 
 class RowSource;
 
-/// What the placeholders of a caption are replaced by on one page.
+/// The texts that replace the placeholders of a caption on one page.
 struct PageWords {
     QString page;  ///< "%p"
     QString pages; ///< "%P"

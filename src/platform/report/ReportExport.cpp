@@ -3,6 +3,7 @@
 #include "Clock.h"
 #include "Format.h"
 #include "RowSource.h"
+#include "RunTimeError.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -177,7 +178,8 @@ private:
         }
         qsizetype width = 0;
         std::erase_if(pairs, [&](const Pair& pair) {
-            return !pair.hasValue || pair.isPageNumber || pair.value == m_report.Caption();
+            return !pair.hasValue || pair.isPageNumber ||
+                   (pair.label.isEmpty() && pair.value == m_report.Caption());
         });
         for (const Pair& pair : pairs)
             width = std::max(width, pair.label.size() + 2);
@@ -241,6 +243,13 @@ private:
     std::array<std::vector<std::vector<Place>>, SectionKinds> m_lines;
 };
 
+const RowSource& RowsOf(const DataReport& report) {
+    if (!report.DataSource())
+        throw RunTimeError(RunTimeErrorNumber::ObjectClosed,
+                           QStringLiteral("The report has no rows to export."));
+    return *report.DataSource();
+}
+
 } // namespace
 
 /// Not by way of a JSON object, which would order the columns by their names.
@@ -249,10 +258,13 @@ QByteArray JsonText(const QString& text) {
     return wrapped.mid(1, wrapped.size() - 2);
 }
 
-QByteArray ReportText(const DataReport& report) { return TextWriter(report).Write(); }
+QByteArray ReportText(const DataReport& report) {
+    RowsOf(report);
+    return TextWriter(report).Write();
+}
 
 QByteArray ReportCsv(const DataReport& report) {
-    const RowSource& rows = *report.DataSource();
+    const RowSource& rows = RowsOf(report);
     const QStringList& names = rows.Columns();
     QByteArray csv;
     const auto addLine = [&](const std::function<QString(int)>& field) {
@@ -268,7 +280,7 @@ QByteArray ReportCsv(const DataReport& report) {
 }
 
 QByteArray ReportJson(const DataReport& report) {
-    const RowSource& rows = *report.DataSource();
+    const RowSource& rows = RowsOf(report);
     const QString& by = report.Layout().groupColumn;
     QByteArray json;
     if (by.isEmpty()) {

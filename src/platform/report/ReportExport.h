@@ -4,15 +4,16 @@
 
 #include <QByteArray>
 
-/// A report that has its rows and texts, in forms other than pages. All of them are UTF-8.
+/// A report that has its rows and texts, in forms other than pages. All of them are UTF-8. Throws
+/// RunTimeError (ObjectClosed) if the report has no source of rows.
 
 /// Plain text. It follows the layout:
 ///
 /// - the caption, underlined;
-/// - the values of the page header, one a line. If the fixed label that belongs to a value is left
-/// of
-///   it, less than a millimetre away, it comes first. The page number and fixed labels without a
-///   value are left out.
+/// - the values of the page header, one on each line. A fixed label that ends less than a
+/// millimetre
+///   to the left of a value is written before it. The page number and fixed labels without a value
+///   are left out.
 /// - the column headings: the last line of the page header, if it is fixed labels only;
 /// - the rows with the headers and footers of their groups. Each text is placed as on paper, or
 ///   further to the right if there is no room.
@@ -23,7 +24,7 @@ QByteArray ReportText(const DataReport& report);
 QByteArray ReportCsv(const DataReport& report);
 
 /// `{"title": "...", "rows": [...]}`. A row is an object of all columns in their order; a value is
-/// a text or null. Rows of a layout that groups come in blocks, such as
+/// a text or null. If the layout groups its rows, they come in blocks, such as
 /// `{"dtDLDateTime": "...", "ReaderEvents": [...]}`: the value that groups, and the group's rows.
 QByteArray ReportJson(const DataReport& report);
 

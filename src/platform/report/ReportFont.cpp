@@ -7,7 +7,7 @@
 namespace {
 
 constexpr double HundredthsPerPoint = 2540.0 / 72.0;
-/// Pairs of letters may stand a little further apart than their widths tell.
+/// Kerning can make a pair of letters slightly wider than the sum of their widths.
 constexpr qreal KerningReserve = 1.01;
 constexpr qreal UsualOverhang = 0.06;
 

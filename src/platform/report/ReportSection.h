@@ -11,7 +11,7 @@ class Value;
 
 /// The parts of a report layout. All lengths are hundredths of a millimetre.
 
-/// In the order in which they follow each other on paper. A layout that groups its rows has a group
+/// In their order on paper. A layout that groups its rows has a group
 /// header before the rows of each group, a group footer after them, or both.
 enum class SectionKind {
     ReportHeader,

@@ -7,8 +7,8 @@
 class QDateEdit;
 class QTimeEdit;
 
-/// Prepares a field for a date: today in the user's own format, a calendar, and the part that is
-/// clicked selected.
+/// Prepares a date field: it shows today in the user's format, offers a calendar, and selects the
+/// part that is clicked.
 void PrepareDateField(QDateEdit& field);
 
 /// How much of a range's last minute belongs to it: all of it, or its first second only.

@@ -99,7 +99,8 @@ void PreviewArea::resizeEvent(QResizeEvent* event) {
     ApplyFit();
 }
 
-/// At the edge of a page the wheel turns it, a notch a page: a touch pad sends many small steps.
+/// At the edge of a page, one notch of the wheel turns the page. Steps are added up to notches,
+/// because a touch pad sends many small ones.
 bool PreviewArea::TurnPageByWheel(int delta) {
     const QScrollBar* bar = verticalScrollBar();
     const bool atEdge = delta < 0 ? bar->value() == bar->maximum() : bar->value() == bar->minimum();

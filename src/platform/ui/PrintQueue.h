@@ -12,8 +12,7 @@ extern const bool PrintsFiles;
 /// RunTimeError.
 void SendToPrinter(const QPrinter& printer, const QString& path);
 
-/// What the print dialog chose for the printing system beside the printer's own settings: names and
-/// values in turn.
+/// Settings from the print dialog that QPrinter does not hold. Names and values alternate.
 QStringList SystemOptions(const QPrinter& printer);
 
 /// Options that are not passed on. The pages are chosen by us, by the page numbers of the report,

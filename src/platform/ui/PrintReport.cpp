@@ -86,8 +86,8 @@ bool PaintJob(const DataReport& report, QPrinter& printer, const std::vector<int
     return true;
 }
 
-/// The bytes of a painted job. The painter ignores failed writes, so the end of the document is
-/// looked for.
+/// The bytes of a painted job. The painter ignores failed writes, so this checks that the document
+/// is complete.
 QByteArray JobOf(const QPrinter& printer, const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))

@@ -46,8 +46,8 @@ public:
     Hourglass& operator=(const Hourglass&) = delete;
 };
 
-/// The arrow while it lives, if there is an hourglass: for a window that wants an answer in the
-/// middle of work.
+/// Shows the arrow instead of the hourglass while it exists: for a window that needs an answer
+/// during work.
 class ArrowPointer {
 public:
     ArrowPointer();

@@ -103,7 +103,8 @@ void frmEditTour::Populate() {
 }
 
 void frmEditTour::FillSites() {
-    const QSignalBlocker once(m_ui->imgCboSites); // the locations are filled when all is there
+    const QSignalBlocker once(
+        m_ui->imgCboSites); // Populate fills the locations once all sites are in the list
     const QIcon icon = ProgramIcon(QStringLiteral("location"));
     for (const Group& site : SitesByName())
         m_ui->imgCboSites->addItem(icon, site.name, site.id);

@@ -62,7 +62,7 @@ frmMDISetup::frmMDISetup(DockingLink& link, QWidget* parent)
     connect(m_ui->cmdSetup_0, &QPushButton::clicked, this, [this] { Do(&Actions::edit); });
     connect(m_ui->cmdSetup_1, &QPushButton::clicked, this, [this] { Do(&Actions::add); });
     connect(m_ui->cmdSetup_2, &QPushButton::clicked, this, [this] { Do(&Actions::remove); });
-    connect(m_ui->cmdTourCopy, &QPushButton::clicked, this, &frmMDISetup::CopyTour);
+    connect(m_ui->cmdTourCopy, &QPushButton::clicked, this, &frmMDISetup::cmdTourCopy_Click);
     setFocusProxy(m_ui->lvwProgram);
 }
 
@@ -105,6 +105,7 @@ void frmMDISetup::ShowTab() {
     QStringList headers;
     for (const char* column : Present().columns)
         headers += ::Translate(column);
+    m_rows.SetRows({});
     m_rows.SetColumns(headers);
     m_rows.SetIcon(ProgramIcon(QString::fromLatin1(Present().icon)));
     m_ui->lvwProgram->sortByColumn(0, Qt::AscendingOrder);
@@ -334,7 +335,7 @@ void frmMDISetup::DeleteTour() {
     });
 }
 
-void frmMDISetup::CopyTour() {
+void frmMDISetup::cmdTourCopy_Click() {
     frmCopyTour dialog(window());
     dialog.exec();
     if (!dialog.OK())
@@ -347,7 +348,8 @@ void frmMDISetup::CopyTour() {
         FillListAndSelect(::CopyTour(dialog.TourID(), FreshTourName()));
     };
     Trapped(copy, [](const RunTimeError& error) {
-        ReportError(QStringLiteral("CopyTour of Form frmMDISetup"), error, ErrorShow::LogOnly);
+        ReportError(QStringLiteral("cmdTourCopy_Click of Form frmMDISetup"), error,
+                    ErrorShow::LogOnly);
         IvMessageBox(::Translate("Error in creating new Tour"));
     });
 }

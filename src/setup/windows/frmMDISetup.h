@@ -46,7 +46,7 @@ private:
     struct Kind {
         const char* caption;
         const char* icon;
-        GroupType type; ///< only meant for groups
+        GroupType type; ///< used by groups only
         QList<const char*> columns;
         QList<int> widths; ///< of the columns, in hundredths of the list's width
         Actions actions;
@@ -79,7 +79,7 @@ private:
     void AddTour();
     void EditTour();
     void DeleteTour();
-    void CopyTour();
+    void cmdTourCopy_Click();
     /// True if the tour was saved. If not, nothing was changed, and a message said so.
     bool Saved(const Tour& tour, const TourDraft& points) const;
     QString FreshTourName() const;
