@@ -2,6 +2,11 @@
 
 #include <QGuiApplication>
 
+#ifdef Q_OS_WIN
+#include <shellapi.h>
+#include <windows.h>
+#endif
+
 namespace {
 
 /// Keeps a library's remarks, such as on a missing desktop, off standard error, which is for this
@@ -11,17 +16,19 @@ void OnlyTrace(QtMsgType type, const QMessageLogContext& context, const QString&
         fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-QStringList Arguments(int argc, char* argv[]) {
-#ifdef Q_OS_WIN
-    Q_UNUSED(argc)
-    Q_UNUSED(argv)
-    return QGuiApplication::arguments().mid(1); // Unicode, as the system holds them
-#else
+QStringList Arguments([[maybe_unused]] int argc, [[maybe_unused]] char* argv[]) {
     QStringList arguments;
+#ifdef Q_OS_WIN
+    int count = 0;
+    wchar_t** words = CommandLineToArgvW(GetCommandLineW(), &count); // Unicode, which argv is not
+    for (int i = 1; i < count; ++i)
+        arguments += QString::fromWCharArray(words[i]);
+    LocalFree(words);
+#else
     for (int i = 1; i < argc; ++i)
         arguments += QString::fromLocal8Bit(argv[i]);
-    return arguments;
 #endif
+    return arguments;
 }
 
 } // namespace

@@ -21,7 +21,8 @@ struct Command {
     QString description; ///< a few words, in lower case
     QString example;     ///< what follows the words in a call
     Access access;
-    /// Adds the command's options (CommandOptions.h) and gives back what runs once they are read.
+    /// Adds the command's options (CommandOptions.h) and returns the routine that runs after they
+    /// are read.
     std::function<CommandRun(CLI::App& options)> prepare;
 };
 

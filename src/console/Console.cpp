@@ -34,16 +34,16 @@ void AddStationOptions(CLI::App& options, StationOptions& station) {
     AddPath(options, "--home", station.home, "the folder of the store");
     AddChoice<OperatorType>(options, "--operator",
                             {{"master", MasterOperator}, {"user", UserOperator}}, station.login,
-                            "who logs in; else the master");
+                            "the operator who logs in (default: master)");
     StartOptionGroup(options, "Options");
 }
 
-/// Closes the store whatever happens, so that its lock file goes.
+/// Always closes the store, so that its lock file is removed.
 struct StoreCloser {
     ~StoreCloser() { gConn.reset(); }
 };
 
-/// Opens dictionary and store and checks the login; false once it has said why not.
+/// Opens dictionary and store and checks the login. If that fails, says why and returns false.
 bool OpenStation(OperatorType login) {
     ReportLostSettings();
     ReadLanguageSetting();
@@ -95,24 +95,25 @@ QString Overview() {
     for (const Command& command : Commands())
         text +=
             QStringLiteral("  ") + command.words.leftJustified(20) + command.description + u'\n';
-    return text + QStringLiteral("\n"
-                                 "\"wardlockctl COMMAND --help\" lists the options of a command. "
-                                 "They may come before\n"
-                                 "or after the command's words.\n"
-                                 "\n"
-                                 "--home is the folder of the store; else it is the one that the "
-                                 "environment variable\n"
-                                 "WARDLOCK_HOME names, or the program's own. The password of the "
-                                 "operator is read from\n"
-                                 "the environment variable WARDLOCK_PASSWORD. Only the master may "
-                                 "use the reader and\n"
-                                 "setup commands.\n"
-                                 "\n"
-                                 "A docking station that does not answer is given up after 3 "
-                                 "seconds; one that falls\n"
-                                 "silent later, after at most 15.\n"
-                                 "\n"
-                                 "exit status: 0 all done, 1 not or not all done, 2 wrong usage\n");
+    return text +
+           QStringLiteral("\n"
+                          "\"wardlockctl COMMAND --help\" lists the options of a command. "
+                          "They may come before\n"
+                          "or after the command's words.\n"
+                          "\n"
+                          "--home is the folder of the store. Without it, the folder is that "
+                          "of the environment\n"
+                          "variable WARDLOCK_HOME, or the program's own. The environment "
+                          "variable\n"
+                          "WARDLOCK_PASSWORD holds the operator's password. Only the master may "
+                          "use the\n"
+                          "reader and setup commands.\n"
+                          "\n"
+                          "wardlockctl gives up after 3 seconds if the docking station does not "
+                          "answer, and\n"
+                          "after at most 15 if it stops answering later.\n"
+                          "\n"
+                          "exit status: 0 done, 1 failed or only partly done, 2 wrong usage\n");
 }
 
 QString VersionText() {
@@ -137,6 +138,10 @@ int RunWithoutCommand(const QStringList& arguments) {
     StationOptions station;
     AddStationOptions(parser.Options(), station);
     const QStringList words = parser.WordsOf(arguments);
+    // An unknown option in front makes its value look like the command.
+    const QString fault = parser.FaultOf(arguments);
+    if (!fault.isEmpty() && words.value(0) != arguments[0])
+        throw UsageError(fault);
     throw UsageError(
         words.isEmpty() ? QStringLiteral("a command is missing")
                         : QStringLiteral("unknown command \"%1\"").arg(words.mid(0, 2).join(u' ')));

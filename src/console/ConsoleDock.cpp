@@ -13,11 +13,11 @@
 
 namespace {
 
-/// Nobody is there to press Cancel if the dock never answers. Milliseconds from the start of the
+/// Nobody can press Cancel if the dock never answers. Milliseconds from the start of the
 /// transfer, whose own pauses take 1.3 seconds.
 constexpr int SilenceLimit = 6500;
 
-/// Progress that nobody looks at.
+/// Discards the progress.
 class NoTransferView : public TransferView {
     void ShowText(const QString&) override {}
     void ShowReaderId(const QString&) override {}
@@ -27,8 +27,8 @@ class NoTransferView : public TransferView {
     void Beep() override {}
 };
 
-/// Opens the port and asks for the station; false once it has said why not. `device` is the path
-/// of a serial device, or COM1 to COM8.
+/// Opens the port and looks for the docking station. If that fails, says why and returns false.
+/// `device` is the path of a serial device, or COM1 to COM8.
 bool Connect(DockingLink& link, const QString& device) {
     static const QRegularExpression portName(QStringLiteral("^COM([1-8]):?$"),
                                              QRegularExpression::CaseInsensitiveOption);

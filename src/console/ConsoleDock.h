@@ -14,7 +14,7 @@ CommandRun
 JsonDockRun(CLI::App& options,
             std::function<bool(DockingLink& link, const ConsoleBoxes& boxes, bool json)> work);
 
-/// Runs a transfer that nobody watches, and gives it up if nothing answers at all.
+/// Runs a transfer without a window. Cancels it if nothing answers at all.
 TransferResult RunConsoleTransfer(DockingLink& link, TransferPurpose purpose);
 
 /// A download or an erasure without windows: only its last message is kept.

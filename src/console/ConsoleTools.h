@@ -17,7 +17,7 @@ void WriteOut(const QByteArray& bytes, const QString& path = {});
 void WriteLine(const QString& text);
 void WriteJson(const QJsonObject& object);
 
-/// While it lives, notices go to standard error, one line each. Questions get the answer that
+/// While it exists, notices go to standard error, one line each. Questions get the answer that
 /// changes nothing; the command itself then says what was not done.
 class ConsoleBoxes : public MessageBoxes {
 public:

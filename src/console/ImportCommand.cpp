@@ -20,7 +20,7 @@ bool ImportFrom(const QString& path) {
 
 Command ImportCommand() {
     return {QStringLiteral("setup import"),
-            QStringLiteral("adds the definitions of such a file: all, or none if one is wrong"),
+            QStringLiteral("adds the definitions from such an export; if one is wrong, adds none"),
             QStringLiteral("site.json"), Access::MasterOnly, [](CLI::App& options) {
                 const auto path = std::make_shared<QString>();
                 AddFile(options, *path, "the file to read");

@@ -32,7 +32,7 @@ CommandRun Prepare(CLI::App& options) {
         JsonDockRun(options, [time](DockingLink& link, const ConsoleBoxes&, bool json) {
             return SetClock(link, time->value_or(Now()), json);
         });
-    AddMoment(options, "--time", *time, "the time to set; else that of this machine");
+    AddMoment(options, "--time", *time, "the time to set (default: this computer's time)");
     return run;
 }
 

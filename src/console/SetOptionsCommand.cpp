@@ -44,20 +44,21 @@ CommandRun Prepare(CLI::App& options) {
         JsonDockRun(options, [wanted](DockingLink& link, const ConsoleBoxes&, bool json) {
             return SetOptions(link, *wanted, json);
         });
-    AddYesNo(options, "--buzzer", "--no-buzzer", wanted->buzzer, "sounds at a touch",
-             "stays silent");
-    AddYesNo(options, "--led", "--no-led", wanted->led, "lights up at a touch", "stays dark");
-    AddYesNo(options, "--vibration", "--no-vibration", wanted->vibration, "vibrates at a touch",
-             "does not vibrate");
-    AddYesNo(options, "--long", "--short", wanted->longBuzzer, "gives long signals",
-             "gives short signals");
+    AddYesNo(options, "--buzzer", "--no-buzzer", wanted->buzzer, "buzz at each touch",
+             "do not buzz");
+    AddYesNo(options, "--led", "--no-led", wanted->led, "light up at each touch",
+             "do not light up");
+    AddYesNo(options, "--vibration", "--no-vibration", wanted->vibration, "vibrate at each touch",
+             "do not vibrate");
+    AddYesNo(options, "--long", "--short", wanted->longBuzzer, "buzz for long", "buzz briefly");
     return run;
 }
 
 } // namespace
 
 Command SetOptionsCommand() {
-    return {QStringLiteral("reader set-options"),
-            QStringLiteral("sets how the docked reader answers a touch; the rest stays as it was"),
-            QStringLiteral("--device COM1 --no-buzzer --led"), Access::MasterOnly, Prepare};
+    return {
+        QStringLiteral("reader set-options"),
+        QStringLiteral("sets the signals of the docked reader; those not given stay as they are"),
+        QStringLiteral("--device COM1 --no-buzzer --led"), Access::MasterOnly, Prepare};
 }

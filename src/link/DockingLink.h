@@ -52,7 +52,7 @@ public:
     bool EndOverdueWait() const;
 
     /// From here on, a status frame "no reader" is noticed: it means that the reader that is docked
-    /// now was taken out. The watch includes what the buffer holds.
+    /// now was taken out. Bytes already in the buffer count too.
     void WatchForRemoval();
     bool ReaderWasRemoved();
     /// Pauses until nothing but noise arrives. If only the first frame of a memory was wanted, all

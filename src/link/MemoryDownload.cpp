@@ -10,6 +10,8 @@
 #include "mErrorHandler.h"
 #include "mTranslations.h"
 
+#include <QScopeGuard>
+
 void MemoryDownload::Run() {
     m_outcome = {};
     m_saidWhyNotErased = false;
@@ -132,9 +134,8 @@ bool MemoryDownload::EraseIfSure(ReaderErasure& erasure, bool silent) {
     }
     // Events are handled meanwhile: nothing else may be started, and the page may not be left.
     SetBusy(true);
+    const auto free = qScopeGuard([this] { SetBusy(false); });
     m_link.InBuffer().Clear();
     m_link.WatchForRemoval();
-    const bool erased = erasure.Run();
-    SetBusy(false);
-    return erased;
+    return erasure.Run();
 }

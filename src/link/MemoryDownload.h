@@ -42,7 +42,7 @@ public:
     /// failure the operator may try again, silent or not.
     void EraseReader(bool silent, bool& succeeded);
 
-    /// True while a download runs, or an erase on its own.
+    /// True while a download runs, or a separate erase.
     bool Busy() const { return m_busy; }
 
     /// What the last Run did.

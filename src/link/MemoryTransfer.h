@@ -18,7 +18,7 @@ public:
     virtual void ShowText(const QString& text) = 0;
     virtual void ShowReaderId(const QString& readerId) = 0;
     virtual void ShowWarning(bool visible) = 0;
-    /// `value` always lies from 0 to `maximum`.
+    /// `value` is always between 0 and `maximum`.
     virtual void ShowProgress(int value, int maximum) = 0;
     virtual void ShowProgressText(const QString& text) = 0;
     virtual void Beep() = 0;

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-/// How a reader answers a touch.
+/// How a reader signals a touch.
 struct ReaderSignals {
     bool buzzer = true;
     bool led = true;
@@ -15,7 +15,7 @@ struct ReaderSignals {
     std::uint8_t OptionByte() const;
 };
 
-/// If all three signals are off, tells the operator and gives false: a guard could not notice
+/// If all three signals are off, tells the operator and gives false: a guard could not tell
 /// whether a touch was read.
 bool SignalsAreUsable(const ReaderSignals& readerSignals);
 

@@ -27,7 +27,7 @@ void DoEvents();
 void DoEventsWithoutInput();
 
 /// A repeating timer on the interface thread, stopped at first. Starting it again begins a new
-/// interval. If the handler of a tick calls DoEvents, no further tick comes in there.
+/// interval. If the handler of a tick calls DoEvents, the timer does not tick during that call.
 class Timer : public QObject {
     Q_OBJECT
 public:

@@ -119,7 +119,7 @@ void Statement::Bind(int position, const Value& value) {
 
 void Statement::Bind(const Values& values) {
     if (sqlite3_bind_parameter_count(m_statement.get()) != static_cast<int>(values.size()))
-        Throw(SQLITE_RANGE, QStringLiteral("The statement needs another number of values."));
+        Throw(SQLITE_RANGE, QStringLiteral("The statement needs a different number of values."));
     int position = 0;
     for (const Value& value : values)
         Bind(++position, value);

@@ -24,7 +24,7 @@ qint64 PagesBefore(const QString& journalPath) {
     return qFromBigEndian<quint32>(head.constData() + 16);
 }
 
-/// A copy of the store, beside it. It is removed in the end.
+/// A copy of the store, beside it. It is removed when the trial ends.
 class Trial {
 public:
     explicit Trial(const QString& storePath)

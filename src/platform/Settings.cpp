@@ -38,7 +38,7 @@ int ToWholeNumber(const QString& text) {
 QString GetSetting(const QString& application, const QString& section, const QString& key,
                    const QString& fallback) {
     const QVariant value = Open(application).value(section + u'/' + key, fallback);
-    // If somebody wrote a text with a comma into the file by hand, it is read as a list.
+    // A text with a comma that was edited by hand is read as a list.
     return value.typeId() == QMetaType::QStringList
                ? value.toStringList().join(QStringLiteral(", "))
                : value.toString();

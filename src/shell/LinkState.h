@@ -2,9 +2,9 @@
 
 #include "DockingLink.h"
 
-/// The main window's docking link and its state. Only this class changes the state. Whatever needs
-/// a docking station is enabled or disabled on Changed, or reads gDockingDetected, which this class
-/// keeps up to date.
+/// The main window's docking link, whether it is online, and whether a docking station has
+/// answered. Only this class changes these two. Whatever needs a docking station is enabled or
+/// disabled on Changed, or reads gDockingDetected, which this class keeps up to date.
 class LinkState : public QObject {
     Q_OBJECT
 public:

@@ -14,8 +14,8 @@ void ShowRunTimeError(const RunTimeError& error) {
 
 StationApplication::StationApplication(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("Wardlock")); // the title of a box without a caption
-    setQuitOnLastWindowClosed(
-        false); // closing the login must not end it; closing the main window does
+    // Closing the login must not end the program. Closing the main window does.
+    setQuitOnLastWindowClosed(false);
     InstallMessageBoxes(&m_boxes);
 }
 

@@ -79,8 +79,10 @@ void frmMain::mnuToolsClearPipe_Click() {
     GoOnline();
     if (!m_downloadPage)
         return;
-    bool succeeded = false;
-    m_downloadPage->EraseReader(false, succeeded);
+    Guarded("mnuToolsClearPipe_Click of Form frmMain", [this] {
+        bool succeeded = false;
+        m_downloadPage->EraseReader(false, succeeded);
+    });
 }
 
 void frmMain::mnuToolsReaderFW_Click() {

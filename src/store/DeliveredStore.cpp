@@ -29,7 +29,7 @@ void MakeDeliveredStore(const QString& path, StoreContent content) {
     if (QFileInfo::exists(path))
         throw RunTimeError(
             RunTimeErrorNumber::FileInUse,
-            QStringLiteral("The file '%1' exists already.").arg(QDir::toNativeSeparators(path)));
+            QStringLiteral("The file '%1' already exists.").arg(QDir::toNativeSeparators(path)));
     const QString part = path + QStringLiteral(".part");
     QFile::remove(part); // left by a program that was killed
     QFile::remove(part + QStringLiteral("-journal"));

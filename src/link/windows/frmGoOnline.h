@@ -11,8 +11,8 @@ namespace Ui {
 class frmGoOnline;
 }
 
-/// The connect dialog: opens the port, checks whether a docking station answers, and closes without
-/// help.
+/// The connect dialog: opens the port, checks whether a docking station answers, and then
+/// closes by itself.
 class frmGoOnline : public QDialog {
     Q_OBJECT
 public:

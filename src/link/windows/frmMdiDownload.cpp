@@ -66,13 +66,13 @@ void frmMdiDownload::ShowLink(bool detected) {
 }
 
 void frmMdiDownload::cmdOnline_Click(int index) {
-    Guarded("cmdOnline_Click of Form frmMdiDownload", [&] {
-        bool succeeded = false;
-        if (index == 0)
-            m_download.Run();
-        else
+    if (index == 0)
+        m_download.Run();
+    else
+        Guarded("cmdOnline_Click of Form frmMdiDownload", [this] {
+            bool succeeded = false;
             EraseReader(false, succeeded);
-    });
+        });
 }
 
 void frmMdiDownload::EraseReader(bool silent, bool& succeeded) {

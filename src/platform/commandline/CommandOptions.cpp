@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Stores a value, or gives what was expected in its place.
+/// Stores a value. If it is unsuitable, returns what was expected.
 using Convert = std::function<std::optional<QString>(const QString& value)>;
 
 void AddValue(CLI::App& options, const char* name, const char* kind, const char* help,
@@ -135,5 +135,5 @@ void AddJson(CLI::App& options, bool& value) {
 }
 
 void AddOutput(CLI::App& options, QString& value) {
-    AddPath(options, "--output", value, "writes into this file; else to standard output");
+    AddPath(options, "--output", value, "writes to this file instead of standard output");
 }

@@ -25,7 +25,7 @@ void StartOptionGroup(CLI::App& options, const char* heading);
 
 /// True if it is given. It takes no value.
 void AddFlag(CLI::App& options, const char* name, bool& value, const char* help);
-/// As a flag, but the call means nothing without it.
+/// A flag that must be given.
 void AddRequiredFlag(CLI::App& options, const char* name, const char* help);
 /// Two flags that exclude each other.
 void AddYesNo(CLI::App& options, const char* yes, const char* no, std::optional<bool>& value,

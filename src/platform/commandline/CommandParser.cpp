@@ -72,12 +72,15 @@ bool CommandParser::IsCalledBy(const QStringList& arguments) const {
 }
 
 bool CommandParser::AsksForHelp(const QStringList& arguments) {
-    return arguments.contains(QStringLiteral("--help"));
+    return arguments.mid(0, arguments.indexOf(QStringLiteral("--")))
+        .contains(QStringLiteral("--help"));
 }
 
 QStringList CommandParser::WordsOf(const QStringList& arguments) const {
     return Read(arguments).words;
 }
+
+QString CommandParser::FaultOf(const QStringList& arguments) const { return Read(arguments).fault; }
 
 void CommandParser::Parse(const QStringList& arguments) const {
     const Call call = Read(arguments);

@@ -10,7 +10,7 @@ namespace CLI {
 class App;
 }
 
-/// A call that makes no sense. what() says why, in UTF-8.
+/// Wrong usage. what() says why, in UTF-8.
 class UsageError : public std::runtime_error {
 public:
     explicit UsageError(const QString& reason) : std::runtime_error(reason.toStdString()) {}
@@ -36,6 +36,8 @@ public:
     static bool AsksForHelp(const QStringList& arguments);
     /// The call's words, without options and their values.
     QStringList WordsOf(const QStringList& arguments) const;
+    /// The first fault in the call's options; empty if there is none.
+    QString FaultOf(const QStringList& arguments) const;
 
     /// Stores the options and the further words of a call of this command. Throws UsageError.
     void Parse(const QStringList& arguments) const;

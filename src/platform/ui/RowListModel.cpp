@@ -63,7 +63,8 @@ QVariant RowListModel::data(const QModelIndex& index, int role) const {
         return m_rows[index.row()].texts.value(index.column());
     if (role == Qt::TextAlignmentRole)
         return AlignmentOf(index.column());
-    return role == Qt::DecorationRole && index.column() == 0 ? QVariant(m_icon) : QVariant();
+    const bool hasIcon = index.column() == 0 && !m_icon.isNull();
+    return role == Qt::DecorationRole && hasIcon ? QVariant(m_icon) : QVariant();
 }
 
 QVariant RowListModel::headerData(int section, Qt::Orientation orientation, int role) const {
