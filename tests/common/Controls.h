@@ -18,12 +18,7 @@ T* Control(QWidget& window, const char* name) {
 
 /// The step of a script that fills a field of the window with that name, once it is shown.
 inline void Type(Script& script, const QString& window, const char* field, const QString& text) {
-    script.Then([=] {
-        auto* edit = Script::Find<QLineEdit>(window, QString::fromLatin1(field));
-        if (edit)
-            edit->setText(text);
-        return edit != nullptr;
-    });
+    script.With<QLineEdit>(window, field, [=](QLineEdit& edit) { edit.setText(text); });
 }
 
 /// A list's rows. Each row is a text, its columns separated by "|".

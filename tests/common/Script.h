@@ -51,6 +51,17 @@ public:
         });
     }
 
+    /// Waits until a control of the window with that name can be found, and acts on it.
+    template <typename T, typename Action>
+    void With(const QString& window, const QString& control, Action action) {
+        Then([=] {
+            T* found = Find<T>(window, control);
+            if (found)
+                action(*found);
+            return found != nullptr;
+        });
+    }
+
     template <typename T>
     static T* Find(const QString& window, const QString& control) {
         for (QWidget* top : QApplication::topLevelWidgets()) {

@@ -185,10 +185,7 @@ private slots:
         const QString given = QString::fromLatin1(QTest::currentDataTag());
         const bool typed = given.startsWith('>'), option = given.startsWith("--");
         QTemporaryDir folder;
-        QFile file(folder.filePath("scenario"));
-        QVERIFY(file.open(QIODevice::WriteOnly) &&
-                file.write(typed || option ? "remove" : given.toLatin1()) > 0);
-        file.close();
+        WriteBytes(folder.filePath("scenario"), typed || option ? "remove" : given.toLatin1());
         QProcess process;
         process.setWorkingDirectory(folder.path());
         process.start(DOCKSIM, QStringList{"--scenario", "scenario"} +

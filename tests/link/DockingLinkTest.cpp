@@ -58,16 +58,11 @@ private slots:
     }
 
     void Replies_data() {
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<QByteArray>("reply"); // empty: none is received
-        QTest::addColumn<QByteArray>("replyOfAnyCode");
+        const TestTable<QByteArray, QByteArray, QByteArray> row( // empty: none is received
+            "answer", "reply", "replyOfAnyCode");
         const QByteArray none, done = FrameOf(Hex("9300"));
         const QByteArray other = FrameOf(Hex("8000")), button = FrameOf(Hex("2400010203"));
         const QByteArray memory = ImageFrames(0, {}, 1).first();
-        const auto row = [](const char* name, const QByteArray& answer, const QByteArray& reply,
-                            const QByteArray& ofAnyCode) {
-            QTest::newRow(name) << answer << reply << ofAnyCode;
-        };
         row("nothing", none, none, none);
         row("done", done, Hex("9300"), Hex("9300"));
         row("without status", FrameOf(Hex("93")), Hex("93"), Hex("93"));
@@ -103,11 +98,10 @@ private slots:
     // A wait is measured by the time of day, which starts again at midnight, unless it is to give
     // up in time or is ended because it lasts too long.
     void WaitAcrossMidnight_data() {
-        QTest::addColumn<bool>("answered");
-        QTest::addColumn<bool>("givesUp");
-        QTest::newRow("answered") << true << false;
-        QTest::newRow("gives up") << false << true;
-        QTest::newRow("ended") << false << false;
+        const TestTable<bool, bool> row("answered", "givesUp");
+        row("answered", true, false);
+        row("gives up", false, true);
+        row("ended", false, false);
     }
     void WaitAcrossMidnight() {
         QFETCH(bool, answered);

@@ -97,37 +97,30 @@ private slots:
         }
     }
 
-    // One packet is taken after each chunk; "" adds no bytes.
+    // One packet is taken after each chunk, "" if there is none. A chunk of "" adds no bytes.
     void Buffer_data() {
-        QTest::addColumn<QByteArrayList>("chunks");
-        QTest::addColumn<QByteArrayList>("packets"); // empty if there is none
-        QTest::addColumn<QByteArray>("left");
-        QTest::addColumn<int>("lost");
-        const auto row = [](const char* name, const QByteArrayList& chunks,
-                            const QByteArrayList& packets, const QByteArray& left = {},
-                            qsizetype lost = 0) {
-            QTest::newRow(name) << chunks << packets << left << static_cast<int>(lost);
-        };
+        const TestTable<QByteArrayList, QByteArrayList, QByteArray, qsizetype> row(
+            "chunks", "packets", "left", "lost");
         const qsizetype junk = Junk.size();
-        row("junk stays", {Junk}, {""}, Junk);
+        row("junk stays", {Junk}, {""}, Junk, 0);
         row("four preamble bytes", {'\xFF' + Good, ""}, {"", Good}, {}, 1);
         row("preamble without sync", {Hex("FFFFFF00") + Good, ""}, {"", Good}, {}, 4);
         row("junk, frame, two bytes", {Junk + Good + "ab"}, {Good}, "ab", junk);
         row("junk, frame, one byte", {Junk + Good + "a"}, {Good}, {}, junk + 1);
         row("that byte begins a frame", {Good + Other.left(1), Other.mid(1)}, {Good, ""},
             Other.mid(1), 1);
-        row("two frames in one piece", {Good + Other, ""}, {Good, Other});
+        row("two frames in one piece", {Good + Other, ""}, {Good, Other}, {}, 0);
         row("wrong checksum before a frame", {Bad + Good, ""}, {"", Good}, {}, Bad.size());
         row("wrong checksum and one byte", {Bad + "a"}, {""}, {}, Bad.size() + 1);
         const QByteArray least = FrameOf(Hex("11"));
-        row("11 of 12 bytes", {least.left(11), least.right(1)}, {"", least});
+        row("11 of 12 bytes", {least.left(11), least.right(1)}, {"", least}, {}, 0);
         row("cut preamble", {Junk + Good.left(2), Good.mid(2)}, {"", Good}, {}, junk);
         const QByteArray hollow = FrameOf({});
-        row("no payload", {hollow, Good, ""}, {"", hollow, Good});
+        row("no payload", {hollow, Good, ""}, {"", hollow, Good}, {}, 0);
         const QByteArray longest = FrameOf(QByteArray(244, '\x01'));
-        row("longest", {longest.chopped(1), longest.right(1)}, {"", longest});
+        row("longest", {longest.chopped(1), longest.right(1)}, {"", longest}, {}, 0);
         const QByteArray tooLong = FrameOf(QByteArray(245, '\x01')) + Good;
-        row("too long blocks the buffer", {tooLong, ""}, {"", ""}, tooLong);
+        row("too long blocks the buffer", {tooLong, ""}, {"", ""}, tooLong, 0);
     }
     void Buffer() {
         QFETCH(QByteArrayList, chunks);
@@ -143,7 +136,7 @@ private slots:
         }
         QTEST(buffer.Buffer(), "left");
         QCOMPARE(buffer.Count(), std::max<qsizetype>(0, buffer.Buffer().size() - 1));
-        QTEST(static_cast<int>(buffer.Lost()), "lost");
+        QTEST(qsizetype{buffer.Lost()}, "lost");
         buffer.Clear();
         QVERIFY(buffer.Buffer().isEmpty() && buffer.Lost() == 0);
     }
@@ -161,15 +154,7 @@ private slots:
     }
 
     void Decoding_data() {
-        QTest::addColumn<QByteArrayList>("records");
-        QTest::addColumn<QString>("touches");
-        const auto row = [](const char* name, std::initializer_list<const char*> records,
-                            const char* touches) {
-            QByteArrayList bytes;
-            for (const char* record : records)
-                bytes += Hex(record);
-            QTest::newRow(name) << bytes << QString::fromLatin1(touches);
-        };
+        const TestTable<QByteArrayList, QString> row("records", "touches");
         row("empty", {}, "");
         row("marker and touch", {"0F0100AA", "3412002A"}, "001234 2.1.2000 15:42");
         row("marker alone", {"0F0100AA"}, "");
@@ -188,6 +173,8 @@ private slots:
     }
     void Decoding() {
         QFETCH(QByteArrayList, records);
+        for (QByteArray& record : records)
+            record = QByteArray::fromHex(record);
         QTEST(Text(Decode(ImageFrames(0, records, 1))), "touches");
     }
 

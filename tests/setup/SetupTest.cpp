@@ -5,6 +5,7 @@
 #include "ScriptedBoxes.h"
 #include "SetupFile.h"
 #include "TestHome.h"
+#include "TestTable.h"
 #include "TourDraft.h"
 #include "cTourReport.h"
 #include "mOperators.h"
@@ -25,12 +26,7 @@ TourDraft DraftOf(const QList<std::pair<int, const char*>>& points) {
 
 /// What an import of this document says; empty if it succeeds.
 QString FaultOf(const QByteArray& document) {
-    try {
-        ImportSetup(document);
-    } catch (const RunTimeError& error) {
-        return error.Description();
-    }
-    return {};
+    return DescriptionOf([&] { ImportSetup(document); });
 }
 
 QByteArray Groups(const QByteArray& groups) { return "{\"groups\":[" + groups + "]}"; }
@@ -174,11 +170,8 @@ private slots:
     }
 
     void ImportFaults_data() {
-        QTest::addColumn<QByteArray>("document");
-        QTest::addColumn<QString>("fault"); // a part of it; empty: the import succeeds
-        const auto row = [](const char* name, const QByteArray& document, const char* fault) {
-            QTest::newRow(name) << document << QString::fromUtf8(fault);
-        };
+        // A part of the fault; empty: the import succeeds.
+        const TestTable<QByteArray, QString> row("document", "fault");
         const auto point = [](const char* minutes, const QByteArray& code, const char* more = "") {
             return "{\"minutes\":" + QByteArray(minutes) + ",\"button\":\"" + code + '"' + more +
                    '}';

@@ -4,6 +4,7 @@
 #include "DockingLink.h"
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
+#include "TestTable.h"
 #include "frmAddButton.h"
 #include "frmEditButton.h"
 #include "frmEditTime.h"
@@ -245,12 +246,8 @@ private slots:
         // A tour without points cannot be copied; one with points can, under a fresh name.
         for (const int tour : {2, 1}) {
             Script script;
-            script.Then([&] {
-                auto* tours = Script::Find<QComboBox>("frmCopyTour", "cboTours");
-                if (tours)
-                    tours->setCurrentIndex(tour);
-                return tours != nullptr;
-            });
+            script.With<QComboBox>("frmCopyTour", "cboTours",
+                                   [=](QComboBox& tours) { tours.setCurrentIndex(tour); });
             script.Click("frmCopyTour", "cmdOK");
             script.Start();
             Control<QPushButton>(*page, "cmdTourCopy")->click();
@@ -447,29 +444,18 @@ private slots:
     }
 
     void TourEditorChecks_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("tolerance");
-        QTest::addColumn<bool>("neighbours"); // the main gate is moved beside itself
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QString>("focus");
+        // `neighbours`: the main gate is moved beside itself.
+        const TestTable<QString, QString, bool, QString, QString> row(
+            "name", "tolerance", "neighbours", "message", "focus");
         const QString used = "That name is already used.  Please enter another name.",
                       none = "You must enter a name for this group",
                       range = "The tolerance value can only range from 0 to 59 minutes",
                       twice = "Cannot assign two sequential tour points with the same location";
-        QTest::newRow("new name, edge") << " Late round "
-                                        << "59" << false << ""
-                                        << "";
-        QTest::newRow("half a minute") << "Night round"
-                                       << "5.5" << false << ""
-                                       << "";
-        QTest::newRow("used") << "Day round "
-                              << "60" << true << used << "txtName";
-        QTest::newRow("no name") << "  "
-                                 << "60" << false << none << "txtName";
-        QTest::newRow("neighbours") << "Night round"
-                                    << "x" << true << twice << "lvwSelected";
-        QTest::newRow("tolerance") << "Night round"
-                                   << "60" << false << range << "txtTolerance";
+        row("new name, half a minute", " Late round ", "5.5", false, "", "");
+        row("used", "Day round ", "60", true, used, "txtName");
+        row("no name", "  ", "60", false, none, "txtName");
+        row("neighbours", "Night round", "x", true, twice, "lvwSelected");
+        row("tolerance", "Night round", "60", false, range, "txtTolerance");
     }
     void TourEditorChecks() {
         QFETCH(QString, name);
@@ -493,7 +479,7 @@ private slots:
         QCOMPARE(Control<QLineEdit>(*editor, "txtName")->text(), name);
         if (editor->OK()) {
             QCOMPARE(editor->ListName, name.trimmed());
-            QCOMPARE(editor->Tolerance, tolerance == u"5.5" ? 6 : tolerance.toInt());
+            QCOMPARE(editor->Tolerance, 6);
         } else {
             QTEST(editor->focusWidget()->objectName(), "focus");
         }

@@ -5,15 +5,16 @@
 #include "Connection.h"
 #include "DeliveredStore.h"
 #include "FileReplacement.h"
+#include "Files.h"
 #include "ForkedChild.h"
 #include "InstanceLock.h"
 #include "OutputFile.h"
 #include "Rows.h"
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
+#include "TestTable.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
@@ -35,21 +36,11 @@ void AddEvents(int count) {
             .arg(count));
 }
 
-QByteArray BytesOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void Write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
 /// Changes one bit of a file.
 void Damage(const QString& path, qsizetype at) {
     QByteArray bytes = BytesOf(path);
     bytes[at] = static_cast<char>(bytes[at] ^ 1);
-    Write(path, bytes);
+    WriteBytes(path, bytes);
 }
 
 ino_t FileNumber(const QString& path) {
@@ -68,16 +59,11 @@ private slots:
     void cleanup() { qunsetenv("XDG_CACHE_HOME"); }
 
     void DoesNotOpen_data() {
-        QTest::addColumn<std::function<void(const QString&)>>("spoil");
-        QTest::addColumn<int>("error");
-        const auto row = [](const char* name, int error,
-                            std::function<void(const QString&)> spoil) {
-            QTest::newRow(name) << std::move(spoil) << error;
-        };
+        const TestTable<int, std::function<void(const QString&)>> row("error", "spoil");
         row("missing", 53, [](auto& path) { QFile::remove(path); });
         row("a folder", 53, [](auto& path) { QFile::remove(path) && QDir().mkdir(path); });
         row("empty", 10026, [](auto& path) { QFile::resize(path, 0); });
-        row("garbage", 10026, [](auto& path) { Write(path, QByteArray(20'000, 'g')); });
+        row("garbage", 10026, [](auto& path) { WriteBytes(path, QByteArray(20'000, 'g')); });
         row("cut in half", 10011,
             [](auto& path) { QFile::resize(path, QFileInfo(path).size() / 2); });
         row("cut to its first bytes", 10026, [](auto& path) { QFile::resize(path, 100); });
@@ -195,7 +181,7 @@ private slots:
               QByteArray::number(::getpid()) + "\nwardlock\n", // in a container numbers recur
               QByteArray("1\nwardlock\nelse\n")}) {            // on another machine
             TestHome::Close();
-            Write(home.File("main.ldb"), content);
+            WriteBytes(home.File("main.ldb"), content);
             QVERIFY2(home.Open(), qPrintable(home.TakeLog()));
         }
     }
@@ -226,7 +212,7 @@ private slots:
         OutputFile(folder + "/night.pdf");
         Connection byText;
         byText.Open(ConnectionText(target, StorePassword));
-        Write(folder + "/temp.mdb", "left over");
+        WriteBytes(folder + "/temp.mdb", "left over");
         gDatabasePath = home.Store();
         RemoveLeftoverCopy(home.Temp());
         QVERIFY(!QFile::exists(folder + "/temp.mdb"));
@@ -238,7 +224,7 @@ private slots:
         MakeDeliveredStore(path, StoreContent::Demo);
         QVERIFY(ErrorOf([&] { MakeDeliveredStore(path, StoreContent::Empty); }) != 0);
         const QByteArray whole = BytesOf(path);
-        Write(home.File("other"), "other");
+        WriteBytes(home.File("other"), "other");
         QVERIFY(ErrorOf([&] { PlaceNewFile(home.File("other"), path); }) != 0);
         QVERIFY(BytesOf(path) == whole && BytesOf(home.File("other")) == "other");
         QCOMPARE(QDir(home.File({})).entryList(QDir::Files).size(), 2);
@@ -247,9 +233,9 @@ private slots:
     // A program is killed within a transaction, and then the store is replaced by a backup: an
     // older one, when the journal holds all pages, or one of the same session, when it holds some.
     void JournalOfAnotherFile_data() {
-        QTest::addColumn<QString>("halfDone");
-        QTest::newRow("older") << "UPDATE tblEvents SET tButtonDesc = 'half done'";
-        QTest::newRow("same session") << "DELETE FROM tblEvents WHERE ID > 1000 AND ID < 1800";
+        const TestTable<QString> row("halfDone");
+        row("older", "UPDATE tblEvents SET tButtonDesc = 'half done'");
+        row("same session", "DELETE FROM tblEvents WHERE ID > 1000 AND ID < 1800");
     }
     void JournalOfAnotherFile() {
         QFETCH(QString, halfDone);
@@ -309,8 +295,8 @@ private slots:
         const qint64 size = QFileInfo(home.Store()).size();
         const auto readable = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
         QVERIFY(QFile::setPermissions(home.Store(), readable));
-        Write(home.Temp(), "left over");
-        Write(home.Temp() + "-journal", "left over");
+        WriteBytes(home.Temp(), "left over");
+        WriteBytes(home.Temp() + "-journal", "left over");
         home.Compact();
         QVERIFY(!QFile::exists(home.Temp()) && !QFile::exists(home.Temp() + "-journal"));
         QVERIFY(QFileInfo(home.Store()).size() < size * 3 / 4);
@@ -346,7 +332,7 @@ private slots:
         QVERIFY(QDir().mkdir(home.Temp())); // no room for the copy
         home.Compact();
         QVERIFY(gStoreDamaged);
-        Write(home.Store(), whole);
+        WriteBytes(home.Store(), whole);
         home.Compact();
         QVERIFY(BytesOf(home.Store()) == whole && !gStoreDamaged);
         QVERIFY(home.Open());
