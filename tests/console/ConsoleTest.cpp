@@ -75,18 +75,15 @@ private slots:
             {"detect --device x --device=y", "--device is given twice"},
             {"detect --device x --operator guest", "--operator guest: expected one of"},
             {"detect --device x -d", "unexpected argument"},
-            {"detect --dev x", "unknown option --dev"},
             {"detect --device \xff", "not UTF-8"},
             {"detect --device x \x1b]0;x\x07\n", "unexpected argument \"?]0;x?"},
             {"frobnicate --device /dev/null", "unknown command \"frobnicate"},
-            {longWord, "unknown command \"9999"},
             {"-platform frob detect", "unknown command \"-platform frob\""},
             {"download --device x --tour 1", "unknown option --tour"},
             {"download --device x --keep=yes", "--keep takes no value"},
             {report + "--format text", "--date is required"},
             {report + "--date 21.11.2026", "--date 21.11.2026: expected a date"},
             {report + "--date 2026-02-30", "--date 2026-02-30: expected a date"},
-            {report + "--date 2026-11-21 --format html", "--format html: expected one of"},
             {"report tour --tour " + longWord, "--tour 9999"},
             {"report tour --tour 1 --reader x')UNION/**/SELECT", "eight hexadecimal digits"},
             {"reader erase --device x", "--yes is required"},
@@ -94,7 +91,6 @@ private slots:
             {"reader set-clock --device x --time 1999-12-31T23:59", "expected a time"},
             {"reader set-options --device x --led --no-led", "--led excludes --no-led"},
             {"setup export", "FILE is required"},
-            {"setup export ", "FILE is empty"},
             {"setup export a b", "unexpected argument \"b\""}};
         const Office office;
         for (const auto& [words, reason] : calls) {

@@ -119,9 +119,7 @@ private slots:
         const TestTable<int, QByteArray, int, QByteArray, QString> row(
             "count", "identifier", "frame", "before", "verdict");
         const QString stored = QStringLiteral("stored"), error = QStringLiteral("Download Error");
-        row("1 frame", 40, Taught, 1, {}, stored);
         row("1 frame, untaught", 58, Untaught, 1, {}, stored);
-        row("2 frames", 59, Taught, 1, {}, stored);
         row("2 frames, untaught", 118, Untaught, 1, {}, stored);
         row("5 frames", 270, Taught, 1, {}, stored);
         const QByteArray button = FrameOf(Hex("2400C2401A"));

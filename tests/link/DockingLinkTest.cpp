@@ -97,36 +97,32 @@ private slots:
 
     // A wait is measured by the time of day, which starts again at midnight, unless it is to give
     // up in time or is ended because it lasts too long.
-    void WaitAcrossMidnight_data() {
-        const TestTable<bool, bool> row("answered", "givesUp");
-        row("answered", true, false);
-        row("gives up", false, true);
-        row("ended", false, false);
-    }
     void WaitAcrossMidnight() {
-        QFETCH(bool, answered);
-        const TestClock clock(
-            DateTime::FromQt(QDateTime(QDate(2026, 3, 1), QTime(23, 59, 58, 700))), 10);
-        LineEnd line;
-        DockingLink link;
-        QVERIFY(link.OpenPort(1));
-        QFETCH(bool, givesUp);
-        link.GivesUpInTime = givesUp;
-        bool endedEarly = false, ended = false;
-        QTimer::singleShot(60, &link, [&] { endedEarly = link.EndOverdueWait(); });
-        QTimer::singleShot(600, &link, [&] {
-            if (answered)
-                line.Send(FrameOf(Hex("80")));
-            else
-                ended = link.EndOverdueWait();
-        });
-        QElapsedTimer timer;
-        timer.start();
-        QCOMPARE(link.DetectStation(), answered);
-        QVERIFY(!endedEarly && gWaitCancelled == ended && ended == (!answered && !givesUp));
-        QVERIFY2(givesUp ? timer.elapsed() < 600 : timer.elapsed() >= 600,
-                 qPrintable(QString::number(timer.elapsed())));
-        QCOMPARE(line.Commands.value(CmdDetect()), 1);
+        for (const auto& [answered, givesUp] :
+             {std::pair(true, false), std::pair(false, true), std::pair(false, false)}) {
+            gWaitCancelled = false;
+            const TestClock clock(
+                DateTime::FromQt(QDateTime(QDate(2026, 3, 1), QTime(23, 59, 58, 700))), 10);
+            LineEnd line;
+            DockingLink link;
+            QVERIFY(link.OpenPort(1));
+            link.GivesUpInTime = givesUp;
+            bool endedEarly = false, ended = false;
+            QTimer::singleShot(60, &link, [&] { endedEarly = link.EndOverdueWait(); });
+            QTimer::singleShot(600, &link, [&, answered = answered] {
+                if (answered)
+                    line.Send(FrameOf(Hex("80")));
+                else
+                    ended = link.EndOverdueWait();
+            });
+            QElapsedTimer timer;
+            timer.start();
+            QCOMPARE(link.DetectStation(), answered);
+            QVERIFY(!endedEarly && gWaitCancelled == ended && ended == (!answered && !givesUp));
+            QVERIFY2(givesUp ? timer.elapsed() < 600 : timer.elapsed() >= 600,
+                     qPrintable(QString::number(timer.elapsed())));
+            QCOMPARE(line.Commands.value(CmdDetect()), 1);
+        }
     }
 
     void Erases() {

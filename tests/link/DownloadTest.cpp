@@ -100,7 +100,6 @@ private slots:
         bad("count of 0, untaught", Untaught + Touches(30) + "count 0");
         bad("count beyond the records, untaught", Untaught + Touches(150) + "count 160");
         bad("no marker in front, untaught", Untaught + "record EF CD AB 3C");
-        good("in single bytes", Taught + Touches(57) + "single-byte", 57);
         good("in single bytes, three frames", three + "single-byte\ngap 40", 150);
         good("in two pieces", three + "cut 10", 150);
         for (const char* loss : {"vanish-after-frame 0", "vanish-after-frame 1",
@@ -160,31 +159,25 @@ private slots:
         QCOMPARE(station.dock.Logged("CmdSetClock") + station.dock.Logged("CmdEraseMemory"), 0);
     }
 
-    // Only the first frame is read, of a reader that is not taught.
-    void FirstFrameAlone_data() {
-        const TestTable<QByteArray, bool> row("scenario", "believed");
-        const QByteArray many = Touches(150), noMarker = "record EF CD AB 3C\n";
-        row("three frames", many, true);
-        row("noise", Touches(20) + "noise 5", true);
-        row("three frames, noise", many + "noise 5", false);
-        row("no marker", noMarker, true);
-        row("no marker, noise", noMarker + "noise 5", false);
-        row("first frame lost", many + "drop-bytes 0 252", false);
-        row("invalid memory, noise", many + "count -1\nnoise 5", false);
-    }
+    // Only the first frame is read, of a reader that is not taught, and no touches are decoded.
     void FirstFrameAlone() {
-        QFETCH(QByteArray, scenario);
-        QFETCH(bool, believed);
-        Station station(Untaught + scenario);
-        for (const auto purpose : {TransferPurpose::Identifier, TransferPurpose::Firmware}) {
-            const TransferResult result = station.view.RunTransfer(purpose);
-            QCOMPARE(result.OK, believed);
-            QVERIFY(result.Buttons.empty()); // no touches are decoded
-            QCOMPARE(station.view.Texts.contains("Downloading data from reader"),
-                     purpose == TransferPurpose::Identifier);
-            QCOMPARE(result.PipeID + result.tFirmware, believed ? "0BADCAFEV06" : "");
-            QCOMPARE(m_boxes.TakeTexts(), believed ? QStringList() : QStringList{Error});
-            station.link.AwaitQuietLine();
+        const QByteArray many = Touches(150), noMarker = "record EF CD AB 3C\n";
+        for (const auto& [scenario, believed] :
+             {std::pair(many, true), std::pair(Touches(20) + "noise 5", true),
+              std::pair(many + "noise 5", false), std::pair(noMarker, true),
+              std::pair(noMarker + "noise 5", false), std::pair(many + "drop-bytes 0 252", false),
+              std::pair(many + "count -1\nnoise 5", false)}) {
+            Station station(Untaught + scenario);
+            for (const auto purpose : {TransferPurpose::Identifier, TransferPurpose::Firmware}) {
+                const TransferResult result = station.view.RunTransfer(purpose);
+                QVERIFY2(result.OK == believed && result.Buttons.empty(),
+                         scenario.right(20).constData());
+                QCOMPARE(result.PipeID + result.tFirmware, believed ? "0BADCAFEV06" : "");
+                QCOMPARE(m_boxes.TakeTexts(), believed ? QStringList() : QStringList{Error});
+                QCOMPARE(station.view.Texts.contains("Downloading data from reader"),
+                         purpose == TransferPurpose::Identifier);
+                station.link.AwaitQuietLine();
+            }
         }
     }
 

@@ -14,7 +14,6 @@
 
 #include <QEventLoop>
 #include <QSocketNotifier>
-#include <QTest>
 
 #include <fcntl.h>
 #include <stdexcept>

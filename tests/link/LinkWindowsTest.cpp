@@ -3,7 +3,6 @@
 #include "Controls.h"
 #include "Format.h"
 #include "LinkTestTools.h"
-#include "WindowTestTools.h"
 #include "frmDownload.h"
 #include "frmGoOnline.h"
 #include "frmMdiDownload.h"
@@ -110,7 +109,7 @@ private slots:
             if (!dialog.isVisible() || !reached)
                 return false;
             if (means == u"Cancel")
-                Control<QPushButton>(dialog, "cmdCancel")->click();
+                Press(dialog, "cmdCancel");
             else if (means == u"Escape")
                 QTest::keyClick(&dialog, Qt::Key_Escape);
             else
@@ -237,20 +236,16 @@ private slots:
     }
 
     void Connecting() {
-        struct Case {
-            const char* scenario; // null: there is no device
-            bool detected;
-            QString text;
-        };
         const QString checking = QStringLiteral("Checking Docking Station...\n\n ");
+        const QString closed =
+            "Opening COM port...\n\n Could Not Open Com 3\nPlease try another COM "
+            "port or check that the COM port is not in use by another program.";
         const TestClock clock(Station::Speed);
         for (const auto& [scenario, detected, text] :
-             {Case{"remove", true, checking + "OK"}, Case{"silent", false, checking + "Failed"},
-              Case{nullptr, false,
-                   "Opening COM port...\n\n Could Not Open Com 3\nPlease try another COM port or "
-                   "check that the COM port is not in use by another program."}}) {
+             {std::tuple("remove", true, checking + "OK"),
+              std::tuple("silent", false, checking + "Failed"), std::tuple("", false, closed)}) {
             std::optional<Dock> dock;
-            if (scenario)
+            if (*scenario) // else there is no device
                 dock.emplace(scenario);
             OverrideDevice(dock ? dock->Device() : m_home.File("nothing"));
             DockingLink link;
@@ -280,7 +275,7 @@ private slots:
             frmPrpComms dialog(nullptr);
             dialog.comPort = port;
             dialog.Populate();
-            Control<QPushButton>(dialog, "cmdSetupOK")->click();
+            Press(dialog, "cmdSetupOK");
             QCOMPARE(dialog.comPort, selected);
         }
 
@@ -297,7 +292,7 @@ private slots:
             QTest::keyClicks(device->lineEdit(), "/dev/four");
             ports->setCurrentIndex(2);
             QCOMPARE(device->currentText() + ChosenDevice(3), "/dev/three");
-            Control<QPushButton>(dialog, ok ? "cmdSetupOK" : "cmdSetupCancel")->click();
+            Press(dialog, ok ? "cmdSetupOK" : "cmdSetupCancel");
             QCOMPARE(dialog.OK(), ok);
             QCOMPARE(dialog.comPort, ok ? 3 : 1);
             QCOMPARE(ChosenDevice(3) + ChosenDevice(4) + ChosenDevice(1),
@@ -308,7 +303,7 @@ private slots:
         dialog.comPort = 3;
         dialog.Populate();
         Control<QComboBox>(dialog, "cboDevice")->setEditText({});
-        Control<QPushButton>(dialog, "cmdSetupOK")->click();
+        Press(dialog, "cmdSetupOK");
         QCOMPARE(DeviceOfPort(3), AutomaticDevice(3));
     }
 };

@@ -4,7 +4,6 @@
 #include "Controls.h"
 #include "LinkTestTools.h"
 #include "Settings.h"
-#include "WindowTestTools.h"
 #include "cReaderOptions.h"
 #include "frmAddButton.h"
 #include "frmAddReader.h"
@@ -29,12 +28,7 @@ public:
         return Find<T>(m_window, QString::fromLatin1(name));
     }
     void Do(std::function<void()> action) {
-        Then([this, action = std::move(action)] {
-            const bool shown = Control<QPushButton>("cmdCancel");
-            if (shown)
-                action();
-            return shown;
-        });
+        With<QPushButton>(m_window, "cmdCancel", [=](QPushButton&) { action(); });
     }
     void WaitForText(const char* label, const QString& text) {
         Then([this, label, text] {

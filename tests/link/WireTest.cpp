@@ -37,21 +37,6 @@ class WireTest : public QObject {
     TestHome m_home{TestHome::DemoSite};
 
 private slots:
-    void Commands() {
-        const auto frame = [](const QByteArray& payload) {
-            return QString::fromLatin1(
-                BuildPacket(0x03, 0x01, 0x03, 0x51, 0x00, payload).toHex(' ').toUpper());
-        };
-        const QMap<QByteArray, QString> frames{
-            {CmdDetect(), "00 01 11 6A"},
-            {CmdSetClock(0, 0, 0, 0), "00 07 12 88 88 00 00 00 00 81"},
-            {CmdSetClock(23, 59, 0x01, 0x02), "00 07 12 88 88 17 3B 01 02 D6"},
-            {CmdEraseMemory(), "00 04 72 88 88 FF DD"},
-            {CmdReadMemory(), "00 06 72 88 88 00 00 00 E0"}};
-        for (auto expected = frames.cbegin(); expected != frames.cend(); ++expected)
-            QCOMPARE(frame(expected.key()), "FF FF FF 55 03 01 03 51 " + expected.value());
-    }
-
     // The header bytes and the length together must fit one byte.
     void LongPayloads() {
         ScriptedBoxes boxes;
@@ -64,17 +49,6 @@ private slots:
         QVERIFY(boxes.Messages.isEmpty());
         QVERIFY_THROWS_EXCEPTION(RunTimeError, build(257));
         QCOMPARE(boxes.TakeTexts(), {"Illegal value in Build packet : Data too long"});
-    }
-
-    void Texts() {
-        QCOMPARE(Hex00(0), "00");
-        QCOMPARE(Hex00(10), "0A");
-        QCOMPARE(Hex00(255), "FF");
-        QCOMPARE(BytesToHex({}), QString());
-        QCOMPARE(BytesToHex(Hex("01AB")), "01 AB ");
-        const QByteArray first = ImageFrames(-1, {}, 1, Hex("11223344")).first();
-        QCOMPARE(ReaderIdOf(first), "33442211");
-        QCOMPARE(FirmwareTextOf(first), "V06");
     }
 
     void DateCodes() {

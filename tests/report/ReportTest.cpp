@@ -2,6 +2,7 @@
 // other formats.
 
 #include "Clock.h"
+#include "Files.h"
 #include "ReportExport.h"
 #include "ReportPdf.h"
 #include "SmallReport.h"
@@ -10,13 +11,8 @@
 #include "TourExceptionTable.h"
 #include "darTourException.h"
 
-#include <QBuffer>
-#include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <cmath>
 #include <random>
@@ -44,10 +40,7 @@ QImage Painted(const DataReport& report, int page) {
 
 /// The inked part of a horizontal strip of the paper; all in millimetres.
 struct Ink {
-    double left = 1000;
-    double right = 0;
-    double top = 1000;
-    double bottom = 0;
+    double left = 1000, right = 0, top = 1000, bottom = 0;
 };
 Ink InkWithin(const QImage& paper, int top, int height) {
     Ink ink;
@@ -188,28 +181,26 @@ private slots:
     }
 
     void FaultyLayoutsAreNamed() {
-        struct Fault {
-            const char *from, *to, *named;
-        };
-        for (const Fault& fault : std::initializer_list<Fault>{
-                 {"{", "[", "test.json"},
-                 {"\"detail\"", "\"tail\"", "Row"},
-                 {"\"detail\"", "\"groupHeader\"", "\"group\""}, // no column that groups
-                 {"\"textBox\"", "\"box\"", "txtName"},
-                 {"\"field\": \"tName\",", "", "txtName"},
-                 {"\"width\": 60", "\"width\": \"x\"", "lblHead"},
-                 {"\"field\"", "\"feild\"", "txtName"},
-                 {"\"width\": 60", "\"width\": 101", "lblHead"}, // beyond its section
-                 {"\"top\": 0", "\"top\": -1", "lblHead"},
-                 {"\"Top\"", "\"head\"", "head"},               // two of a name
-                 {"\"pageHeader\"", "\"reportHeader\"", "Top"}, // two of a kind
-                 {"\"label\"", "\"textBox\"", "lblHead"},       // there is no row
-                 {"\"width\": 100", "\"width\": 211", "page"},  // wider than the paper
-                 {"\"detail\", \"height\": 10", "\"detail\", \"height\": 500", "test.json"}}) {
-            const QByteArray json = SmallLayout().replace(fault.from, fault.to);
+        const std::tuple<const char*, const char*, const char*> faults[] = {
+            {"{", "[", "test.json"},
+            {"\"detail\"", "\"tail\"", "Row"},
+            {"\"detail\"", "\"groupHeader\"", "\"group\""}, // no column that groups
+            {"\"textBox\"", "\"box\"", "txtName"},
+            {"\"field\": \"tName\",", "", "txtName"},
+            {"\"width\": 60", "\"width\": \"x\"", "lblHead"},
+            {"\"field\"", "\"feild\"", "txtName"},
+            {"\"width\": 60", "\"width\": 101", "lblHead"}, // beyond its section
+            {"\"top\": 0", "\"top\": -1", "lblHead"},
+            {"\"Top\"", "\"head\"", "head"},               // two of a name
+            {"\"pageHeader\"", "\"reportHeader\"", "Top"}, // two of a kind
+            {"\"label\"", "\"textBox\"", "lblHead"},       // there is no row
+            {"\"width\": 100", "\"width\": 211", "page"},  // wider than the paper
+            {"\"detail\", \"height\": 10", "\"detail\", \"height\": 500", "test.json"}};
+        for (const auto& [from, to, named] : faults) {
+            const QByteArray json = SmallLayout().replace(from, to);
             const QString text = DescriptionOf([&] { ReadReportLayout(json, "test.json"); });
-            QVERIFY2(text.contains("test.json") && text.contains(QString::fromUtf8(fault.named)),
-                     qPrintable(fault.to + (": " + text)));
+            QVERIFY2(text.contains("test.json") && text.contains(QString::fromUtf8(named)),
+                     qPrintable(to + (": " + text)));
         }
     }
 
@@ -301,12 +292,10 @@ private slots:
             return ink.bottom - ink.top;
         };
         const double plain = inkOf(1);
-        struct Case {
-            int letters;
-            double height; // of the ink, as a part of a short text's
-        };
+        // The height of the ink, as a part of a short text's.
         for (const auto& [letters, height] :
-             {Case{20, 1.0}, {30, 1.0}, {40, 0.85}, {70, 1.72}, {200, 1.44}}) {
+             {std::pair(20, 1.0), std::pair(30, 1.0), std::pair(40, 0.85), std::pair(70, 1.72),
+              std::pair(200, 1.44)}) {
             const double part = inkOf(letters) / plain;
             QVERIFY2(std::abs(part - height) < 0.12, qPrintable(QString::number(part)));
             if (HasPdfTool()) // only the longest is shortened
@@ -348,11 +337,10 @@ private slots:
         QTemporaryDir folder;
         const QString path = folder.filePath("none/report.pdf");
         QVERIFY(DescriptionOf([&] { ExportPdf(*report, path, {}); }).contains("report.pdf"));
-        QFile older(folder.filePath("older.pdf"));
-        QVERIFY(older.open(QIODevice::WriteOnly) && older.write("older") == 5);
-        older.close();
-        QVERIFY(!ExportPdf(*report, older.fileName(), {}, [](int, int) { return false; }));
-        QCOMPARE(older.size(), 5);
+        const QString older = folder.filePath("older.pdf");
+        WriteBytes(older, "older");
+        QVERIFY(!ExportPdf(*report, older, {}, [](int, int) { return false; }));
+        QCOMPARE(BytesOf(older), "older");
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("older.pdf"));
         if (QFile::exists("/dev/full")) {
             QFile full("/dev/full");

@@ -1,7 +1,6 @@
 #include "Clock.h"
 #include "CommPort.h"
 #include "Controls.h"
-#include "DemoStore.h"
 #include "Dock.h"
 #include "InstanceLock.h"
 #include "LookUps.h"
@@ -340,9 +339,7 @@ private slots:
         QVERIFY(gDockingDetected); // the home page has connected again
         QVERIFY(Script::Find<QLabel>("frmMdiMenu", "lblMainTitle"));
 
-        Script erase;
-        for (const char* answer : {"No", "Yes", "OK"})
-            erase.Answer(answer);
+        Script erase({"No", "Yes", "OK"});
         erase.Start();
         trigger("mnuToolsClearPipe");
         QCOMPARE(dock.Erasures(), 0);
@@ -394,8 +391,7 @@ private slots:
         auto* ok = Control<QPushButton>(dialog, "cmdOK");
         Control<QLineEdit>(dialog, "txtPassword")->setText("Lantern");
         second->setText("lantern");
-        Script script;
-        script.Answer("OK");
+        Script script({"OK"});
         script.Start();
         ok->click();
         QCOMPARE(script.Texts(), QStringList{"The passwords do not match, please re-enter"});
@@ -448,8 +444,7 @@ private slots:
             number = 0;
             return true;
         });
-        Script offline;
-        offline.Answer("OK");
+        Script offline({"OK"});
         offline.Start();
         Action("mnuToolsLanguage")->trigger();
         QCOMPARE(file->title(), "&File");
@@ -483,8 +478,7 @@ private slots:
 
     void BadStarts() {
         const auto box = [] {
-            Script script;
-            script.Answer("OK");
+            Script script({"OK"});
             script.Start();
             const StartOutcome outcome = Main({});
             return outcome == StartOutcome::Failed ? script.Texts().join(u'|') : QString();
@@ -501,8 +495,7 @@ private slots:
 
     void UnknownLanguageFallsBack() {
         Save(SettingsSection::Properties, "Language", "77");
-        Script script;
-        script.Answer("OK");
+        Script script({"OK"});
         script.Click("frmLogin", "cmdCancel");
         script.Start();
         QCOMPARE(Main("x-debugging"), StartOutcome::Cancelled);

@@ -5,12 +5,10 @@
 #include "Connection.h"
 #include "DateTime.h"
 #include "SqlDate.h"
-#include "SqlTranslator.h"
 #include "TestHome.h"
 #include "TestTable.h"
 
 #include <QDate>
-#include <QTest>
 
 #include <memory>
 

@@ -5,17 +5,14 @@
 #include "Connection.h"
 #include "Engine.h"
 #include "ForkedChild.h"
+#include "ResourceLimit.h"
 #include "TableExists.h"
 #include "TestTable.h"
 #include "TourReportBuilder.h"
 #include "TourSite.h"
 #include "cTourReport.h"
 
-#include <QTest>
-
-#include <csignal>
 #include <sqlcipher/sqlite3.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace TourSite;
@@ -243,17 +240,11 @@ private slots:
         AddTouches("08:06 A, 08:07 A, 08:31 B");
         const QString before = Report(tour);
         gConn->Execute("CREATE TABLE tblXXXException (tItem VARCHAR NULL)");
-        rlimit limit{};
-        getrlimit(RLIMIT_FSIZE, &limit);
-        const auto handler = signal(SIGXFSZ, SIG_IGN);
-        const rlimit none{0, limit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &none);
-        const int error = ErrorOf([] { gConn->Execute("CREATE TABLE tblMore (a TEXT)"); });
-        const QString full = Report(tour);
-        setrlimit(RLIMIT_FSIZE, &limit);
-        signal(SIGXFSZ, handler);
-        QVERIFY(error != 0);
-        QCOMPARE(full, before);
+        {
+            const ResourceLimit limit(RLIMIT_FSIZE, 0);
+            QVERIFY(ErrorOf([] { gConn->Execute("CREATE TABLE tblMore (a TEXT)"); }) != 0);
+            QCOMPARE(Report(tour), before);
+        }
         QCOMPARE(Report(tour), before);
         QVERIFY(before.contains("LATE") && !TableExists("tblXXXException"));
     }
