@@ -93,8 +93,8 @@ QString Overview() {
         "       wardlockctl --help | --version\n"
         "\n");
     for (const Command& command : Commands())
-        text +=
-            QStringLiteral("  ") + command.words.leftJustified(20) + command.description + u'\n';
+        text += QLatin1String(command.access == Access::MasterOnly ? "* " : "  ") +
+                command.words.leftJustified(20) + command.description + u'\n';
     return text +
            QStringLiteral("\n"
                           "\"wardlockctl COMMAND --help\" lists the options of a command. "
@@ -106,8 +106,8 @@ QString Overview() {
                           "variable WARDLOCK_HOME, or the program's own. The environment "
                           "variable\n"
                           "WARDLOCK_PASSWORD holds the operator's password. Only the master may "
-                          "use the\n"
-                          "reader and setup commands.\n"
+                          "use a\n"
+                          "command with a \"*\".\n"
                           "\n"
                           "wardlockctl gives up after 3 seconds if the docking station does not "
                           "answer, and\n"

@@ -64,7 +64,7 @@ CommandRun
 JsonDockRun(CLI::App& options,
             std::function<bool(DockingLink& link, const ConsoleBoxes& boxes, bool json)> work) {
     const auto json = std::make_shared<bool>(false);
-    const CommandRun run = DockRun(
+    CommandRun run = DockRun(
         options, [json, work = std::move(work)](DockingLink& link, const ConsoleBoxes& boxes) {
             return work(link, boxes, *json);
         });

@@ -26,7 +26,7 @@ bool Erase(DockingLink& link, const ConsoleBoxes&, bool json) {
 }
 
 CommandRun Prepare(CLI::App& options) {
-    const CommandRun run = JsonDockRun(options, Erase);
+    CommandRun run = JsonDockRun(options, Erase);
     AddRequiredFlag(options, "--yes", "confirms that the touches in the reader will be lost");
     return [run](const ConsoleBoxes& boxes) {
         CheckStoreBeforeErasing();

@@ -28,7 +28,7 @@ bool SetClock(DockingLink& link, DateTime moment, bool json) {
 
 CommandRun Prepare(CLI::App& options) {
     const auto time = std::make_shared<std::optional<DateTime>>();
-    const CommandRun run =
+    CommandRun run =
         JsonDockRun(options, [time](DockingLink& link, const ConsoleBoxes&, bool json) {
             return SetClock(link, time->value_or(Now()), json);
         });

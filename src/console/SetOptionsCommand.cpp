@@ -40,7 +40,7 @@ bool SetOptions(DockingLink& link, const WantedSignals& wanted, bool json) {
 
 CommandRun Prepare(CLI::App& options) {
     const auto wanted = std::make_shared<WantedSignals>();
-    const CommandRun run =
+    CommandRun run =
         JsonDockRun(options, [wanted](DockingLink& link, const ConsoleBoxes&, bool json) {
             return SetOptions(link, *wanted, json);
         });

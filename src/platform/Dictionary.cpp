@@ -48,7 +48,7 @@ void Dictionary::Open() {
     QFile list(u':' + Root + QStringLiteral("/languages.json"));
     if (!list.open(QIODevice::ReadOnly))
         ThrowUnreadable(QDir::toNativeSeparators(FileName));
-    for (const QJsonValue& entry : QJsonDocument::fromJson(list.readAll()).array())
+    for (const auto& entry : QJsonDocument::fromJson(list.readAll()).array())
         m_languages += {entry[u"englishName"].toString(), entry[u"nativeName"].toString(),
                         entry[u"locale"].toString()};
     const int number = language < 0 ? SystemLanguage() : language;

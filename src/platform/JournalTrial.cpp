@@ -73,8 +73,8 @@ QString SetForeignJournalAside(const QString& storePath, const QString& password
     const bool tooShort = store.size() < PagesBefore(JournalOf(path)) * PageBytes;
     if ((!tooShort && trial.IsSound(password)) || !trial.Copy(false) || !trial.IsSound(password))
         return {};
-    const QString aside = JournalOf(path) + u'.' +
-                          QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    QString aside = JournalOf(path) + u'.' +
+                    QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     if (!QFile::rename(JournalOf(path), aside))
         throw RunTimeError(RunTimeErrorNumber::PermissionDenied,
                            QStringLiteral("Could not move file '%1'.").arg(JournalOf(path)));

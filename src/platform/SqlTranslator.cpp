@@ -129,11 +129,10 @@ SelectShape ShapeOf(const QList<Token>& tokens) {
             --depth;
         else if (IsWord(token, u"JOIN"))
             shape.oneTable = false;
-        else if (depth == 0 &&
-                 (IsWord(token, u"GROUP") || IsWord(token, u"UNION") || IsWord(token, u"DISTINCT")))
-            shape.plainRows = false;
-        else if (shape.from < 0 && (IsWord(token, u"COUNT") || IsWord(token, u"MAX") ||
-                                    IsWord(token, u"MIN") || IsWord(token, u"SUM")))
+        else if ((depth == 0 && (IsWord(token, u"GROUP") || IsWord(token, u"UNION") ||
+                                 IsWord(token, u"DISTINCT"))) ||
+                 (shape.from < 0 && (IsWord(token, u"COUNT") || IsWord(token, u"MAX") ||
+                                     IsWord(token, u"MIN") || IsWord(token, u"SUM"))))
             shape.plainRows = false;
         else if (depth == 0 && IsWord(token, u"FROM") && shape.from < 0)
             shape.from = i;

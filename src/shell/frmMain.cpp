@@ -34,12 +34,12 @@ struct ToolbarRow {
 };
 
 /// The page buttons, in the order of frmMain::Page.
-constexpr std::array<ToolbarRow, 4> Toolbar = {{
+constexpr auto Toolbar = std::to_array<ToolbarRow>({
     {"home", QT_TR_NOOP("Home"), &frmMain::GoHome, Qt::Key_1},
     {"download", QT_TR_NOOP("Download"), &frmMain::GoOnline, Qt::Key_2},
     {"reports", QT_TR_NOOP("Reports"), &frmMain::GoReports, Qt::Key_3},
     {"setup", QT_TR_NOOP("Setup"), &frmMain::GoSetup, Qt::Key_4},
-}};
+});
 
 // Twips.
 constexpr int LeastWidth = 8000, LeastHeight = 6585;

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "Clock.h"
 #include "Script.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QTreeView>
+
+#include <optional>
 
 /// Finds the controls of a window by name, types into them and reads them.
 
@@ -16,14 +19,13 @@ T* Control(QWidget& window, const char* name) {
     return control;
 }
 
+inline void Press(QWidget& window, const char* button) {
+    Control<QAbstractButton>(window, button)->click();
+}
+
 /// The step of a script that fills a field of the window with that name, once it is shown.
 inline void Type(Script& script, const QString& window, const char* field, const QString& text) {
-    script.Then([=] {
-        auto* edit = Script::Find<QLineEdit>(window, QString::fromLatin1(field));
-        if (edit)
-            edit->setText(text);
-        return edit != nullptr;
-    });
+    script.With<QLineEdit>(window, field, [=](QLineEdit& edit) { edit.setText(text); });
 }
 
 /// A list's rows. Each row is a text, its columns separated by "|".
@@ -37,3 +39,23 @@ inline QStringList RowsIn(const QTreeView& list) {
     }
     return rows;
 }
+
+/// When a label was first painted in the wanted state.
+class PaintSpy : public QObject {
+public:
+    PaintSpy(QLabel& label, std::function<bool(const QLabel&)> wanted)
+        : m_label(label), m_wanted(std::move(wanted)) {
+        label.installEventFilter(this);
+    }
+    std::optional<DateTime> At;
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint && !At && m_wanted(m_label))
+            At = Now();
+        return false;
+    }
+
+    QLabel& m_label;
+    std::function<bool(const QLabel&)> m_wanted;
+};

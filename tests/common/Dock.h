@@ -1,20 +1,20 @@
 #pragma once
 
-#include <QFile>
+#include "Files.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include <csignal>
-#include <stdexcept>
 #include <sys/prctl.h>
 
 /// The simulated docking station, started as a program with a scenario.
 class Dock {
 public:
     explicit Dock(const QByteArray& scenario) : m_log(m_folder.filePath("log")) {
-        Write(scenario);
+        WriteBytes(Scenario(), scenario);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         // If the test dies, the dock ends too.
         m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
@@ -30,7 +30,7 @@ public:
     void Say(const QByteArray& line) { m_process.write(line + '\n'); }
     /// Replaces the station and the reader.
     void Load(const QByteArray& scenario) {
-        Write(scenario);
+        WriteBytes(Scenario(), scenario);
         Say("load " + Scenario().toUtf8());
         State();
     }
@@ -42,21 +42,13 @@ public:
     int Erasures() { return State()["erased"].toInt(); }
     QString Clock() { return State()["clock"].toString(); }
     /// How often the log contains this text so far.
-    qsizetype Logged(const char* text) const {
-        QFile file(m_log);
-        return file.open(QIODevice::ReadOnly) ? file.readAll().count(text) : -1;
-    }
+    qsizetype Logged(const char* text) const { return BytesOf(m_log).count(text); }
     bool HasEnded() {
         return m_process.state() == QProcess::NotRunning || m_process.waitForFinished();
     }
 
 private:
     QString Scenario() const { return m_folder.filePath("scenario"); }
-    void Write(const QByteArray& scenario) const {
-        QFile file(Scenario());
-        if (!file.open(QIODevice::WriteOnly) || file.write(scenario) < 0)
-            throw std::runtime_error("no scenario");
-    }
     QByteArray ReadLine() {
         while (!m_process.canReadLine() && m_process.waitForReadyRead(5000))
             ;

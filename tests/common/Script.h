@@ -18,7 +18,10 @@ class Script : public QObject {
 public:
     using Step = std::function<bool()>;
 
-    Script() {
+    /// Presses these buttons of the message boxes that come.
+    explicit Script(const QStringList& answers = {}) {
+        for (const QString& answer : answers)
+            Answer(answer);
         m_timer.setInterval(5);
         QObject::connect(&m_timer, &QTimer::timeout, this, &Script::Poll);
     }
@@ -51,6 +54,17 @@ public:
         });
     }
 
+    /// Waits until a control of the window with that name can be found, and acts on it.
+    template <typename T, typename Action>
+    void With(const QString& window, const QString& control, Action action) {
+        Then([=] {
+            T* found = Find<T>(window, control);
+            if (found)
+                action(*found);
+            return found != nullptr;
+        });
+    }
+
     template <typename T>
     static T* Find(const QString& window, const QString& control) {
         for (QWidget* top : QApplication::topLevelWidgets()) {
@@ -72,7 +86,6 @@ public:
         return QTest::qWaitFor([this] { return m_next >= m_steps.size(); }, 30'000);
     }
     const QStringList& Texts() const { return m_texts; }
-    std::size_t StepsDone() const { return m_next; }
 
 private:
     void Poll() {

@@ -2,10 +2,10 @@
 
 #include "Application.h"
 #include "DemoStore.h"
+#include "Files.h"
 #include "Recordset.h"
 #include "Schema.h"
 
-#include <QFile>
 #include <QSettings>
 #include <QTest>
 
@@ -28,11 +28,8 @@ TestHome::~TestHome() {
 }
 
 QString TestHome::TakeLog() const {
-    QFile log(File("error.log"));
-    if (!log.open(QIODevice::ReadOnly))
-        return {};
-    QStringList lines = QString::fromUtf8(log.readAll()).split(u'\n');
-    log.remove();
+    QStringList lines = QString::fromUtf8(BytesOf(File("error.log"))).split(u'\n');
+    QFile::remove(File("error.log"));
     for (QString& line : lines)
         line = line.mid(line.indexOf(u'\t') + 1);
     return lines.join(u'\n').trimmed();

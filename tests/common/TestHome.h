@@ -40,13 +40,21 @@ QStringList RowsOf(const QString& query);
 /// All tables of gConn with all their rows, including the engine's own record of IDs.
 QStringList ContentOfStore();
 
-/// The number of the RunTimeError that the body throws, or 0.
+/// What the body throws, or an error of number 0 and without a text.
 template <typename Body>
-int ErrorOf(Body&& body) {
+RunTimeError ThrownBy(Body&& body) {
     try {
         body();
     } catch (const RunTimeError& error) {
-        return error.Number();
+        return error;
     }
-    return 0;
+    return {0, {}};
+}
+template <typename Body>
+int ErrorOf(Body&& body) {
+    return ThrownBy(body).Number();
+}
+template <typename Body>
+QString DescriptionOf(Body&& body) {
+    return ThrownBy(body).Description();
 }

@@ -1,5 +1,6 @@
 #include "FuzzBodies.h"
 
+#include "Frames.h"
 #include "MemoryImage.h"
 #include "TestHome.h"
 #include "cInBuffer.h"
@@ -41,15 +42,6 @@ private:
     const std::uint8_t* m_data;
     std::size_t m_size;
 };
-
-QByteArray FrameOf(const QByteArray& payload) {
-    QByteArray body = QByteArray::fromHex("0301035100") + static_cast<char>(payload.size());
-    body += payload;
-    char sum = 0;
-    for (const char byte : body)
-        sum = static_cast<char>(sum + byte);
-    return QByteArray::fromHex("FFFFFF55") + body + sum;
-}
 
 void CheckFrame(const QByteArray& frame) {
     Promise(frame.size() >= 11 && frame.size() <= 255, "a frame has 11 to 255 bytes");

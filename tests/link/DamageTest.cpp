@@ -115,35 +115,26 @@ private slots:
 
     // Streams that are good although bytes were added, and some that are not.
     void Streams_data() {
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QByteArray>("identifier");
-        QTest::addColumn<QByteArray>("before"); // is sent before the frame with this number
-        QTest::addColumn<int>("frame");
-        QTest::addColumn<QString>("verdict");
+        // `before` is sent before the frame with this number.
+        const TestTable<int, QByteArray, int, QByteArray, QString> row(
+            "count", "identifier", "frame", "before", "verdict");
         const QString stored = QStringLiteral("stored"), error = QStringLiteral("Download Error");
-        const auto row = [](const char* name, int count, const QByteArray& identifier, int frame,
-                            const QByteArray& before, const QString& verdict) {
-            QTest::newRow(name) << count << identifier << before << frame << verdict;
-        };
-        row("1 frame", 40, Taught, 1, {}, stored);
         row("1 frame, untaught", 58, Untaught, 1, {}, stored);
-        row("2 frames", 59, Taught, 1, {}, stored);
         row("2 frames, untaught", 118, Untaught, 1, {}, stored);
         row("5 frames", 270, Taught, 1, {}, stored);
         const QByteArray button = FrameOf(Hex("2400C2401A"));
         for (const QByteArray& identifier : {Taught, Untaught}) {
-            const auto rows = [&](const char* name, const QByteArray& bytes) {
+            const QString reader = identifier == Taught ? "taught" : "untaught";
+            const auto rows = [&](const QString& name, const QByteArray& bytes) {
                 for (int place = 1; place <= 3; ++place)
-                    QTest::addRow("%s at frame %d, %s", name, place,
-                                  identifier == Taught ? "taught" : "untaught")
-                        << 100 << identifier << bytes << place << stored;
+                    row(QStringLiteral("%1 at frame %2, %3").arg(name).arg(place).arg(reader), 100,
+                        identifier, place, bytes, stored);
             };
             rows("noise", Hex("FF00FFFF1755FFFFFF0055AA"));
             rows("CR LF", "\r\n");
             rows("a button frame", button);
             for (const int part : {4, 5, 9, 15})
-                rows(qPrintable(QStringLiteral("%1 bytes of a button frame").arg(part)),
-                     button.left(part));
+                rows(QStringLiteral("%1 bytes of a button frame").arg(part), button.left(part));
             rows("most noise", QByteArray(125, 'x'));
         }
         row("too much noise, untaught", 100, Untaught, 1, QByteArray(126, 'x'), error);
@@ -194,11 +185,10 @@ private slots:
     }
 
     void EverySingleByte_data() {
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QByteArray>("identifier");
-        QTest::newRow("1 frame") << 40 << Taught;
-        QTest::newRow("2 frames") << 100 << Untaught;
-        QTest::newRow("5 frames") << 260 << Taught;
+        const TestTable<int, QByteArray> row("count", "identifier");
+        row("1 frame", 40, Taught);
+        row("2 frames", 100, Untaught);
+        row("5 frames", 260, Taught);
     }
     void EverySingleByte() {
         QFETCH(int, count);

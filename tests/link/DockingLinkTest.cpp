@@ -58,16 +58,11 @@ private slots:
     }
 
     void Replies_data() {
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<QByteArray>("reply"); // empty: none is received
-        QTest::addColumn<QByteArray>("replyOfAnyCode");
+        const TestTable<QByteArray, QByteArray, QByteArray> row( // empty: none is received
+            "answer", "reply", "replyOfAnyCode");
         const QByteArray none, done = FrameOf(Hex("9300"));
         const QByteArray other = FrameOf(Hex("8000")), button = FrameOf(Hex("2400010203"));
         const QByteArray memory = ImageFrames(0, {}, 1).first();
-        const auto row = [](const char* name, const QByteArray& answer, const QByteArray& reply,
-                            const QByteArray& ofAnyCode) {
-            QTest::newRow(name) << answer << reply << ofAnyCode;
-        };
         row("nothing", none, none, none);
         row("done", done, Hex("9300"), Hex("9300"));
         row("without status", FrameOf(Hex("93")), Hex("93"), Hex("93"));
@@ -102,37 +97,32 @@ private slots:
 
     // A wait is measured by the time of day, which starts again at midnight, unless it is to give
     // up in time or is ended because it lasts too long.
-    void WaitAcrossMidnight_data() {
-        QTest::addColumn<bool>("answered");
-        QTest::addColumn<bool>("givesUp");
-        QTest::newRow("answered") << true << false;
-        QTest::newRow("gives up") << false << true;
-        QTest::newRow("ended") << false << false;
-    }
     void WaitAcrossMidnight() {
-        QFETCH(bool, answered);
-        const TestClock clock(
-            DateTime::FromQt(QDateTime(QDate(2026, 3, 1), QTime(23, 59, 58, 700))), 10);
-        LineEnd line;
-        DockingLink link;
-        QVERIFY(link.OpenPort(1));
-        QFETCH(bool, givesUp);
-        link.GivesUpInTime = givesUp;
-        bool endedEarly = false, ended = false;
-        QTimer::singleShot(60, &link, [&] { endedEarly = link.EndOverdueWait(); });
-        QTimer::singleShot(600, &link, [&] {
-            if (answered)
-                line.Send(FrameOf(Hex("80")));
-            else
-                ended = link.EndOverdueWait();
-        });
-        QElapsedTimer timer;
-        timer.start();
-        QCOMPARE(link.DetectStation(), answered);
-        QVERIFY(!endedEarly && gWaitCancelled == ended && ended == (!answered && !givesUp));
-        QVERIFY2(givesUp ? timer.elapsed() < 600 : timer.elapsed() >= 600,
-                 qPrintable(QString::number(timer.elapsed())));
-        QCOMPARE(line.Commands.value(CmdDetect()), 1);
+        for (const auto& [answered, givesUp] :
+             {std::pair(true, false), std::pair(false, true), std::pair(false, false)}) {
+            gWaitCancelled = false;
+            const TestClock clock(
+                DateTime::FromQt(QDateTime(QDate(2026, 3, 1), QTime(23, 59, 58, 700))), 10);
+            LineEnd line;
+            DockingLink link;
+            QVERIFY(link.OpenPort(1));
+            link.GivesUpInTime = givesUp;
+            bool endedEarly = false, ended = false;
+            QTimer::singleShot(60, &link, [&] { endedEarly = link.EndOverdueWait(); });
+            QTimer::singleShot(600, &link, [&, answered = answered] {
+                if (answered)
+                    line.Send(FrameOf(Hex("80")));
+                else
+                    ended = link.EndOverdueWait();
+            });
+            QElapsedTimer timer;
+            timer.start();
+            QCOMPARE(link.DetectStation(), answered);
+            QVERIFY(!endedEarly && gWaitCancelled == ended && ended == (!answered && !givesUp));
+            QVERIFY2(givesUp ? timer.elapsed() < 600 : timer.elapsed() >= 600,
+                     qPrintable(QString::number(timer.elapsed())));
+            QCOMPARE(line.Commands.value(CmdDetect()), 1);
+        }
     }
 
     void Erases() {

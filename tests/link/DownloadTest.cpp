@@ -69,17 +69,10 @@ private slots:
     }
 
     void Outcomes_data() {
-        QTest::addColumn<QByteArray>("scenario");
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<int>("erased");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("messages");
-        const auto row = [](const char* name, const QByteArray& scenario, int rows, int erased,
-                            const QString& text, const QStringList& messages = {}) {
-            QTest::newRow(name) << scenario << rows << erased << text << messages;
-        };
+        const TestTable<QByteArray, int, int, QString, QStringList> row(
+            "scenario", "rows", "erased", "text", "messages");
         const auto good = [&](const char* name, const QByteArray& scenario, int rows) {
-            row(name, scenario, rows, 1, Successful(rows));
+            row(name, scenario, rows, 1, Successful(rows), {});
         };
         const auto bad = [&](const char* name, const QByteArray& scenario,
                              const QStringList& messages = {Error}) {
@@ -88,10 +81,7 @@ private slots:
         const QByteArray three = Taught + Touches(150); // frames
         const QByteArray end = "record 00 00 00 00\n";
 
-        row("empty reader", Untaught, 0, 1, "The Reader was empty\nReader Memory erased");
-        good("one unknown button", Untaught + "touch 2026-03-01 08:30 ABCDEF", 1);
-        good("three frames", three, 150);
-        good("full frame", Untaught + Touches(57), 57);
+        row("empty reader", Untaught, 0, 1, "The Reader was empty\nReader Memory erased", {});
         const auto kept = [&](const char* name, const QByteArray& scenario, int rows,
                               const QString& why) {
             row(name, scenario, rows, 0, Successful(rows, "\nReader Memory NOT erased!"),
@@ -110,7 +100,6 @@ private slots:
         bad("count of 0, untaught", Untaught + Touches(30) + "count 0");
         bad("count beyond the records, untaught", Untaught + Touches(150) + "count 160");
         bad("no marker in front, untaught", Untaught + "record EF CD AB 3C");
-        good("in single bytes", Taught + Touches(57) + "single-byte", 57);
         good("in single bytes, three frames", three + "single-byte\ngap 40", 150);
         good("in two pieces", three + "cut 10", 150);
         for (const char* loss : {"vanish-after-frame 0", "vanish-after-frame 1",
@@ -126,8 +115,8 @@ private slots:
         row("erase unanswered", three + "silent erase", 150, 0, notErased, {EraseFailed});
         row("clock refused", three + "refuse clock 1", 150, 1, Successful(150), {ClockFailed});
         for (const char* gap : {"", "\ngap 130"}) // after the stream, and just before the erase
-            row(qPrintable("taken out" + QString(gap)), three + "no-reader 3" + gap, 150, 0,
-                notErased, {Removed, EraseFailed});
+            row("taken out" + QString(gap), three + "no-reader 3" + gap, 150, 0, notErased,
+                {Removed, EraseFailed});
         bad("no reader", three + "remove", {"Reader not detected. Check reader and try again."});
     }
     void Outcomes() {
@@ -170,42 +159,32 @@ private slots:
         QCOMPARE(station.dock.Logged("CmdSetClock") + station.dock.Logged("CmdEraseMemory"), 0);
     }
 
-    // Only the first frame is read, of a reader that is not taught.
-    void FirstFrameAlone_data() {
-        QTest::addColumn<QByteArray>("scenario");
-        QTest::addColumn<bool>("believed");
-        const auto row = [](const char* name, const QByteArray& scenario, bool believed) {
-            QTest::newRow(name) << scenario << believed;
-        };
-        const QByteArray many = Touches(150), noMarker = "record EF CD AB 3C\n";
-        row("three frames", many, true);
-        row("noise", Touches(20) + "noise 5", true);
-        row("three frames, noise", many + "noise 5", false);
-        row("no marker", noMarker, true);
-        row("no marker, noise", noMarker + "noise 5", false);
-        row("first frame lost", many + "drop-bytes 0 252", false);
-        row("invalid memory, noise", many + "count -1\nnoise 5", false);
-    }
+    // Only the first frame is read, of a reader that is not taught, and no touches are decoded.
     void FirstFrameAlone() {
-        QFETCH(QByteArray, scenario);
-        QFETCH(bool, believed);
-        Station station(Untaught + scenario);
-        for (const auto purpose : {TransferPurpose::Identifier, TransferPurpose::Firmware}) {
-            const TransferResult result = station.view.RunTransfer(purpose);
-            QCOMPARE(result.OK, believed);
-            QCOMPARE(result.PipeID + result.tFirmware, believed ? "0BADCAFEV06" : "");
-            QCOMPARE(m_boxes.TakeTexts(), believed ? QStringList() : QStringList{Error});
-            station.link.AwaitQuietLine();
+        const QByteArray many = Touches(150), noMarker = "record EF CD AB 3C\n";
+        for (const auto& [scenario, believed] :
+             {std::pair(many, true), std::pair(Touches(20) + "noise 5", true),
+              std::pair(many + "noise 5", false), std::pair(noMarker, true),
+              std::pair(noMarker + "noise 5", false), std::pair(many + "drop-bytes 0 252", false),
+              std::pair(many + "count -1\nnoise 5", false)}) {
+            Station station(Untaught + scenario);
+            for (const auto purpose : {TransferPurpose::Identifier, TransferPurpose::Firmware}) {
+                const TransferResult result = station.view.RunTransfer(purpose);
+                QVERIFY2(result.OK == believed && result.Buttons.empty(),
+                         scenario.right(20).constData());
+                QCOMPARE(result.PipeID + result.tFirmware, believed ? "0BADCAFEV06" : "");
+                QCOMPARE(m_boxes.TakeTexts(), believed ? QStringList() : QStringList{Error});
+                QCOMPARE(station.view.Texts.contains("Downloading data from reader"),
+                         purpose == TransferPurpose::Identifier);
+                station.link.AwaitQuietLine();
+            }
         }
     }
 
     // What happens to the reader while the operator is asked whether to try again.
     void ReaderExchanged_data() {
-        QTest::addColumn<QByteArray>("reader"); // a scenario, or a line to the dock
-        QTest::addColumn<QStringList>("messages");
-        QTest::addColumn<int>("touchesLeft");
-        const auto row = [](const char* name, const QByteArray& reader, const QStringList& messages,
-                            int left) { QTest::newRow(name) << reader << messages << left; };
+        // A scenario, or a line to the dock; then the messages that follow.
+        const TestTable<QByteArray, QStringList, int> row("reader", "messages", "touchesLeft");
         const QString another = "Another reader is in the station. It was not erased.";
         const QString used = "The reader has been used since it was read. It was not erased.";
         row("another one", "reader 0A0B0C0D\n" + Touches(150), {another, EraseFailed}, 150);
@@ -264,21 +243,18 @@ private slots:
 
     // The message is still true after a restart, and finally no touch is stored twice.
     void StoringFails_data() {
-        QTest::addColumn<QString>("trouble");
-        QTest::addColumn<QString>("remedy");
-        QTest::addColumn<int>("rows"); // that stay, of 900
-        QTest::addColumn<QString>("cause");
-        QTest::addColumn<bool>("sameAgain");
+        const TestTable<QString, QString, int, QString, bool> row( // rows that stay, of 900
+            "trouble", "remedy", "rows", "cause", "sameAgain");
         const QString trigger =
             QStringLiteral("CREATE TRIGGER refuse BEFORE INSERT ON tblEvents WHEN %1 "
                            "BEGIN SELECT RAISE(ABORT, 'no room'); END");
         const QString row20 = trigger.arg("(SELECT count(*) FROM tblEvents) = 20");
         const QString remedy = QStringLiteral("DROP TRIGGER refuse");
-        QTest::newRow("a row") << row20 << remedy << 20 << "no room" << true;
-        QTest::newRow("a row, other touches next") << row20 << remedy << 20 << "no room" << false;
-        QTest::newRow("the first row") << trigger.arg("1") << remedy << 0 << "no room" << true;
-        QTest::newRow("disk full") << "PRAGMA max_page_count = 1"
-                                   << "PRAGMA max_page_count = 1000000" << 0 << "full" << true;
+        row("a row", row20, remedy, 20, "no room", true);
+        row("a row, other touches next", row20, remedy, 20, "no room", false);
+        row("the first row", trigger.arg("1"), remedy, 0, "no room", true);
+        row("disk full", "PRAGMA max_page_count = 1", "PRAGMA max_page_count = 1000000", 0, "full",
+            true);
     }
     void StoringFails() {
         QFETCH(QString, trouble);
@@ -318,11 +294,10 @@ private slots:
     // The dock goes on sending after a Cancel, so the next transfer begins in the middle of the old
     // stream. No frame of the old stream may be taken for the first of the new one.
     void BegunAgainWhileTheOldStreamRuns_data() {
-        QTest::addColumn<QByteArray>("scenario");
-        QTest::addColumn<bool>("stored");
-        QTest::newRow("taught") << Taught << false;
-        QTest::newRow("untaught") << Untaught << false;
-        QTest::newRow("taught, old stream stopped") << Taught + "abort-on-command\n" << true;
+        const TestTable<QByteArray, bool> row("scenario", "stored");
+        row("taught", Taught, false);
+        row("untaught", Untaught, false);
+        row("taught, old stream stopped", Taught + "abort-on-command\n", true);
     }
     void BegunAgainWhileTheOldStreamRuns() {
         QFETCH(QByteArray, scenario);

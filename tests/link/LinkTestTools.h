@@ -4,32 +4,24 @@
 #include "CommPort.h"
 #include "Dock.h"
 #include "DockingLink.h"
+#include "Frames.h"
 #include "MemoryDownload.h"
 #include "MemoryTransfer.h"
 #include "Recordset.h"
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
+#include "TestTable.h"
 
 #include <QEventLoop>
 #include <QSocketNotifier>
-#include <QTest>
 
 #include <fcntl.h>
-#include <numeric>
 #include <stdexcept>
 #include <stdlib.h>
 #include <unistd.h>
 
 // Shared by the tests of the reader link: memory images made by hand, the far end of the line (the
 // simulated dock, or a bare pseudo-terminal), and a download without windows.
-
-inline QByteArray Hex(const char* digits) { return QByteArray::fromHex(digits); }
-
-/// A frame, made without the code under test.
-inline QByteArray FrameOf(const QByteArray& payload) {
-    const QByteArray body = Hex("0301035100") + static_cast<char>(payload.size()) + payload;
-    return Hex("FFFFFF55") + body + static_cast<char>(std::accumulate(body.begin(), body.end(), 0));
-}
 
 /// The frames of a memory image. `identifier` is in the order of the wire.
 inline QByteArrayList ImageFrames(int count, const QByteArrayList& records, int frames,
@@ -135,6 +127,7 @@ public:
         MemoryTransfer transfer(m_link, *this);
         transfer.SetPurpose(purpose);
         m_transfer = &transfer;
+        Texts.clear();
         WasCancelled = false;
         QEventLoop loop;
         QObject::connect(&transfer, &MemoryTransfer::Closed, &loop, &QEventLoop::quit);
@@ -156,7 +149,7 @@ public:
     void ShowLastRow() override {}
     void ShowStatus(const QString&) override {}
 
-    void ShowText(const QString&) override {}
+    void ShowText(const QString& text) override { Texts += text; }
     void ShowReaderId(const QString&) override {
         if (std::exchange(CancelAtFirstFrame, false))
             m_transfer->Cancel();
@@ -169,6 +162,8 @@ public:
     void Beep() override {}
 
     QString MessageText;
+    /// What the last transfer showed.
+    QStringList Texts;
     QList<bool> Busy, Warned;
     std::size_t Listed = 0;
     bool ProgressInRange = true, WasCancelled = false, HasAnswered = false;

@@ -3,21 +3,15 @@
 #include "Controls.h"
 #include "Format.h"
 #include "LinkTestTools.h"
-#include "WindowTestTools.h"
 #include "frmDownload.h"
 #include "frmGoOnline.h"
 #include "frmMdiDownload.h"
 #include "frmPrpComms.h"
 
 #include <QAbstractItemModelTester>
-#include <QApplication>
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTreeView>
 
 namespace {
 
@@ -89,49 +83,24 @@ private slots:
         QVERIFY(Control(dialog, "lblWarning")->isHidden());
     }
 
-    // If only one of these is wanted, no touches are decoded.
-    void IdentifierAndFirmware() {
-        Station station(ManyTouches + "firmware 08");
-        for (const auto purpose : {TransferPurpose::Identifier, TransferPurpose::Firmware}) {
-            frmDownload dialog(station.link, nullptr);
-            const Watcher downloading(
-                [&] { return TextOf(dialog, "lblMsgs") == u"Downloading data from reader"; });
-            const TransferResult result = dialog.Run(purpose);
-            QVERIFY(result.OK && result.Buttons.empty());
-            QCOMPARE(downloading.Seen(), purpose == TransferPurpose::Identifier);
-            if (purpose == TransferPurpose::Identifier)
-                QCOMPARE(result.PipeID, "4B5831A7");
-            else
-                QCOMPARE(result.tFirmware, "V06"); // shown for 08
-        }
-        QCOMPARE(station.dock.Logged("CmdEraseMemory"), 0);
-    }
-
     void Cancel_data() {
-        QTest::addColumn<QByteArray>("scenario");
-        QTest::addColumn<QString>("stage"); // a text of lblMsgs, "request" or "reader"
-        QTest::addColumn<int>("reads");     // that were sent
-        QTest::addColumn<int>("means");
-        const char* const means[] = {"Cancel", "Escape", "close button"};
-        for (int i = 0; i < 3; ++i) {
-            const auto row = [&](const char* name, const char* scenario, const char* stage,
-                                 int reads = 1) {
-                QTest::addRow("%s, %s", name, means[i])
-                    << TwoTouches + scenario << QString::fromLatin1(stage) << reads << i;
-            };
-            row("at once", "", "", 0);
-            row("before the request", "", "Downloading data from reader", 0);
-            row("no answer", "silent read", "request");
-            row("in the transfer", "count 200\nstop-after 1", "reader");
-            row("read", "", "Download Completed");
-            row("decoding", "", "Processing Data");
+        // `stage`: a text of lblMsgs, "request" or "reader". `reads`: the requests sent.
+        const TestTable<QByteArray, QString, int, QString> row("scenario", "stage", "reads",
+                                                               "means");
+        for (const QString means : {"Cancel", "Escape", "close button"}) {
+            row("at once, " + means, "", "", 0, means);
+            row("before the request, " + means, "", "Downloading data from reader", 0, means);
+            row("no answer, " + means, "silent read", "request", 1, means);
+            row("in the transfer, " + means, "count 200\nstop-after 1", "reader", 1, means);
+            row("read, " + means, "", "Download Completed", 1, means);
+            row("decoding, " + means, "", "Processing Data", 1, means);
         }
     }
     void Cancel() {
         QFETCH(QByteArray, scenario);
         QFETCH(QString, stage);
-        QFETCH(int, means);
-        Station station(scenario);
+        QFETCH(QString, means);
+        Station station(TwoTouches + scenario);
         frmDownload dialog(station.link, nullptr);
         const Watcher watcher([&] {
             const bool reached = stage == u"reader"    ? !TextOf(dialog, "lblPipeID").isEmpty()
@@ -139,9 +108,9 @@ private slots:
                                                        : TextOf(dialog, "lblMsgs") == stage;
             if (!dialog.isVisible() || !reached)
                 return false;
-            if (means == 0)
-                Control<QPushButton>(dialog, "cmdCancel")->click();
-            else if (means == 1)
+            if (means == u"Cancel")
+                Press(dialog, "cmdCancel");
+            else if (means == u"Escape")
                 QTest::keyClick(&dialog, Qt::Key_Escape);
             else
                 dialog.close();
@@ -191,21 +160,16 @@ private slots:
         QAbstractItemModel& model = *list->model();
         const QAbstractItemModelTester tester(
             &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        const auto cells = [&](int row) {
-            QStringList texts;
-            for (int column = 0; column < model.columnCount(); ++column)
-                texts += (row < 0 ? model.headerData(column, Qt::Horizontal)
-                                  : model.index(row, column).data())
-                             .toString();
-            return texts.join(u'|');
-        };
-        QCOMPARE(cells(-1), "Number|Date|Time|ID|Button Name|Group Name");
+        QStringList headings;
+        for (int column = 0; column < model.columnCount(); ++column)
+            headings += model.headerData(column, Qt::Horizontal).toString();
+        QCOMPARE(headings.join(u'|'), "Number|Date|Time|ID|Button Name|Group Name");
         const auto date = [](int month, int day) {
             return Format(DateTime::FromQt(QDate(2026, month, day)), "Short Date");
         };
-        QCOMPARE(model.rowCount(), 2);
-        QCOMPARE(cells(0), "1|" + date(2, 28) + "|23:59|1A40C2|Main gate|Harbour Warehouse");
-        QCOMPARE(cells(1), "2|" + date(3, 1) + "|00:05|ABCDEF|Unknown|");
+        QCOMPARE(RowsIn(*list),
+                 (QStringList{"1|" + date(2, 28) + "|23:59|1A40C2|Main gate|Harbour Warehouse",
+                              "2|" + date(3, 1) + "|00:05|ABCDEF|Unknown|"}));
         QCOMPARE(list->currentIndex().row(), 1);
         QVERIFY(list->selectionModel()->isRowSelected(1));
         const int shares[] = {10, 15, 10, 10, 20, 35};
@@ -271,64 +235,49 @@ private slots:
         QVERIFY(Now() > BeforeMidnight + DateTime::FromMilliseconds(1900));
     }
 
-    void Connecting_data() {
-        QTest::addColumn<QByteArray>("scenario"); // empty: there is no device
-        QTest::addColumn<bool>("ok");
-        QTest::addColumn<bool>("detected");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char* name, const char* scenario, bool ok, bool detected,
-                            const QString& text) {
-            QTest::newRow(name) << QByteArray(scenario) << ok << detected << text;
-        };
-        const QString checking = QStringLiteral("Checking Docking Station...\n\n ");
-        row("detected", "remove", true, true, checking + "OK");
-        row("not detected", "silent", true, false, checking + "Failed");
-        row("no device", "", false, false,
-            "Opening COM port...\n\n Could Not Open Com 3\nPlease try another COM port or check "
-            "that the COM port is not in use by another program.");
-    }
     void Connecting() {
-        QFETCH(QByteArray, scenario);
-        QFETCH(bool, ok);
+        const QString checking = QStringLiteral("Checking Docking Station...\n\n ");
+        const QString closed =
+            "Opening COM port...\n\n Could Not Open Com 3\nPlease try another COM "
+            "port or check that the COM port is not in use by another program.";
         const TestClock clock(Station::Speed);
-        std::unique_ptr<Dock> dock;
-        OverrideDevice(m_home.File("nothing"));
-        if (!scenario.isEmpty()) {
-            dock = std::make_unique<Dock>(scenario);
-            OverrideDevice(dock->Device());
+        for (const auto& [scenario, detected, text] :
+             {std::tuple("remove", true, checking + "OK"),
+              std::tuple("silent", false, checking + "Failed"), std::tuple("", false, closed)}) {
+            std::optional<Dock> dock;
+            if (*scenario) // else there is no device
+                dock.emplace(scenario);
+            OverrideDevice(dock ? dock->Device() : m_home.File("nothing"));
+            DockingLink link;
+            frmGoOnline dialog(link, nullptr);
+            dialog.MyCommPort = QStringLiteral("3");
+            dialog.MyCommSettings = DockingLink::CommSettings;
+            dialog.Online = true;
+            const Watcher impatient([&] {
+                if (dialog.isVisible())
+                    QTest::keyClick(&dialog, Qt::Key_Escape); // there is nothing to cancel
+                return false;
+            });
+            dialog.exec();
+            QCOMPARE(TextOf(dialog, "lblMsgs"), text);
+            QCOMPARE(dialog.DockingDetected, detected);
+            const bool ok = dock.has_value();
+            QVERIFY(dialog.OK() == ok && link.comPort().PortOpen() == ok);
+            QCOMPARE(dialog.Online, ok); // handed back, or cleared
         }
-        DockingLink link;
-        frmGoOnline dialog(link, nullptr);
-        dialog.MyCommPort = QStringLiteral("3");
-        dialog.MyCommSettings = DockingLink::CommSettings;
-        dialog.Online = true;
-        const Watcher impatient([&] {
-            if (dialog.isVisible())
-                QTest::keyClick(&dialog, Qt::Key_Escape); // there is nothing to cancel
-            return false;
-        });
-        dialog.exec();
-        QCOMPARE(dialog.OK(), ok);
-        QCOMPARE(link.comPort().PortOpen(), ok);
-        QCOMPARE(dialog.Online, ok); // handed back, or cleared
-        QTEST(dialog.DockingDetected, "detected");
-        QTEST(TextOf(dialog, "lblMsgs"), "text");
     }
 
     void PortChoice() {
         OverrideDevice({});
-        const QMap<int, int> selected{{0, 2}, {1, 1}, {8, 8}, {9, 2}};
-        for (auto port = selected.cbegin(); port != selected.cend(); ++port) {
+        // A port that cannot be chosen is replaced.
+        for (const auto& [port, selected] :
+             {std::pair(0, 2), std::pair(1, 1), std::pair(8, 8), std::pair(9, 2)}) {
             frmPrpComms dialog(nullptr);
-            dialog.comPort = port.key();
+            dialog.comPort = port;
             dialog.Populate();
-            QCOMPARE(Control<QComboBox>(dialog, "cboLocalPort")->currentText(),
-                     QStringLiteral("COM%1:").arg(port.value()));
-            Control<QPushButton>(dialog, "cmdSetupOK")->click();
-            QVERIFY(dialog.OK());
-            QCOMPARE(dialog.comPort, port.value());
+            Press(dialog, "cmdSetupOK");
+            QCOMPARE(dialog.comPort, selected);
         }
-        QVERIFY(ChosenDevice(3).isEmpty());
 
         // Each device is for its own port, and only OK saves them.
         for (const bool ok : {false, true}) {
@@ -343,7 +292,7 @@ private slots:
             QTest::keyClicks(device->lineEdit(), "/dev/four");
             ports->setCurrentIndex(2);
             QCOMPARE(device->currentText() + ChosenDevice(3), "/dev/three");
-            Control<QPushButton>(dialog, ok ? "cmdSetupOK" : "cmdSetupCancel")->click();
+            Press(dialog, ok ? "cmdSetupOK" : "cmdSetupCancel");
             QCOMPARE(dialog.OK(), ok);
             QCOMPARE(dialog.comPort, ok ? 3 : 1);
             QCOMPARE(ChosenDevice(3) + ChosenDevice(4) + ChosenDevice(1),
@@ -354,7 +303,7 @@ private slots:
         dialog.comPort = 3;
         dialog.Populate();
         Control<QComboBox>(dialog, "cboDevice")->setEditText({});
-        Control<QPushButton>(dialog, "cmdSetupOK")->click();
+        Press(dialog, "cmdSetupOK");
         QCOMPARE(DeviceOfPort(3), AutomaticDevice(3));
     }
 };

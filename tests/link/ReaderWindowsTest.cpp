@@ -1,10 +1,9 @@
 // The dialogs that act on a docked reader, operated by the names of their controls, with the
 // simulated dock.
 
+#include "Controls.h"
 #include "LinkTestTools.h"
-#include "Script.h"
 #include "Settings.h"
-#include "WindowTestTools.h"
 #include "cReaderOptions.h"
 #include "frmAddButton.h"
 #include "frmAddReader.h"
@@ -12,8 +11,6 @@
 
 #include <QCheckBox>
 #include <QDateEdit>
-#include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QTimeEdit>
 
@@ -31,12 +28,7 @@ public:
         return Find<T>(m_window, QString::fromLatin1(name));
     }
     void Do(std::function<void()> action) {
-        Then([this, action = std::move(action)] {
-            const bool shown = Control<QPushButton>("cmdCancel");
-            if (shown)
-                action();
-            return shown;
-        });
+        With<QPushButton>(m_window, "cmdCancel", [=](QPushButton&) { action(); });
     }
     void WaitForText(const char* label, const QString& text) {
         Then([this, label, text] {
@@ -44,13 +36,7 @@ public:
             return found && found->isVisible() && found->text() == text;
         });
     }
-    void Type(const char* field, const QString& text) {
-        Do([this, field, text] {
-            Control<QLineEdit>(field)->selectAll();
-            QTest::keyClick(Control<QLineEdit>(field), Qt::Key_Delete);
-            QTest::keyClicks(Control<QLineEdit>(field), text);
-        });
-    }
+    void Type(const char* field, const QString& text) { ::Type(*this, m_window, field, text); }
     void Click(const char* button) { Script::Click(m_window, QString::fromLatin1(button)); }
 
     /// Runs the dialog until it closes; true if all steps were done by then.
@@ -90,14 +76,9 @@ private slots:
 
     // The options are sent even if the clock failed.
     void Sending_data() {
-        QTest::addColumn<QByteArray>("fault");
-        QTest::addColumn<QStringList>("messages");
-        QTest::addColumn<bool>("clock"); // the reader took it
-        QTest::addColumn<bool>("options");
-        const auto row = [](const char* name, const char* fault, const QStringList& messages,
-                            bool clock, bool options) {
-            QTest::newRow(name) << QByteArray(fault) << messages << clock << options;
-        };
+        // `clock` and `options`: the reader took them.
+        const TestTable<QByteArray, QStringList, bool, bool> row("fault", "messages", "clock",
+                                                                 "options");
         const QStringList good{Successful + "07:15  02 Mar 2026"}, failed{Failed};
         row("silent to two tries", "silent clock 2\nsilent options 2", good, true, true);
         row("clock refused", "refuse clock 1", failed, false, true);
@@ -197,13 +178,10 @@ private slots:
     }
 
     void SavedOptions() {
-        const QMap<QString, QString> settings{{"EnableLED", "False"},
-                                              {"EnableLongDuration", "True"},
-                                              {"PcCodeMSB", "7"},
-                                              {"PcCodeLSB", "256"}}; // too large for a byte
-        for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
-            SaveSetting(SettingsApplication, SettingsSection::Reader, setting.key(),
-                        setting.value());
+        for (const auto& [key, text] :
+             {std::pair("EnableLED", "False"), std::pair("EnableLongDuration", "True"),
+              std::pair("PcCodeMSB", "7"), std::pair("PcCodeLSB", "256")}) // too large for a byte
+            SaveSetting(SettingsApplication, SettingsSection::Reader, key, text);
         {
             const TestClock clock(DateTime::FromQt(QDate(2026, 3, 2)), 1);
             cReaderOptions options;
@@ -213,10 +191,9 @@ private slots:
                      QDate(2000, 1, 1).daysTo(QDate(2026, 3, 1)));
             options.DallasOption = 255;
         }
-        QStringList saved;
-        for (const char* key : {"DallasOption", "PcCodeLSB", "EnableLED"})
-            saved += Saved(key, SettingsSection::Reader);
-        QCOMPARE(saved, (QStringList{"255", "136", "False"}));
+        const QString section = SettingsSection::Reader;
+        QCOMPARE(Saved("DallasOption", section) + Saved("PcCodeLSB", section), "255136");
+        QCOMPARE(Saved("EnableLED", section), "False");
     }
 
     // A read that fails clears the identifier, so OK has nothing to save.
@@ -319,13 +296,7 @@ private slots:
         Operator guard("frmAddButton");
         const QString manual = QStringLiteral("frmManualID");
         const auto type = [&](const char* code) {
-            guard.Then([&, code] {
-                auto* field = Script::Find<QLineEdit>(manual, "txtID");
-                if (!field)
-                    return false;
-                field->setText(QString::fromLatin1(code));
-                return true;
-            });
+            Type(guard, manual, "txtID", code);
             guard.Script::Click(manual, "cmdOK");
         };
         guard.Click("cmdManual");

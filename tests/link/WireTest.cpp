@@ -37,21 +37,6 @@ class WireTest : public QObject {
     TestHome m_home{TestHome::DemoSite};
 
 private slots:
-    void Commands() {
-        const auto frame = [](const QByteArray& payload) {
-            return QString::fromLatin1(
-                BuildPacket(0x03, 0x01, 0x03, 0x51, 0x00, payload).toHex(' ').toUpper());
-        };
-        const QMap<QByteArray, QString> frames{
-            {CmdDetect(), "00 01 11 6A"},
-            {CmdSetClock(0, 0, 0, 0), "00 07 12 88 88 00 00 00 00 81"},
-            {CmdSetClock(23, 59, 0x01, 0x02), "00 07 12 88 88 17 3B 01 02 D6"},
-            {CmdEraseMemory(), "00 04 72 88 88 FF DD"},
-            {CmdReadMemory(), "00 06 72 88 88 00 00 00 E0"}};
-        for (auto expected = frames.cbegin(); expected != frames.cend(); ++expected)
-            QCOMPARE(frame(expected.key()), "FF FF FF 55 03 01 03 51 " + expected.value());
-    }
-
     // The header bytes and the length together must fit one byte.
     void LongPayloads() {
         ScriptedBoxes boxes;
@@ -64,17 +49,6 @@ private slots:
         QVERIFY(boxes.Messages.isEmpty());
         QVERIFY_THROWS_EXCEPTION(RunTimeError, build(257));
         QCOMPARE(boxes.TakeTexts(), {"Illegal value in Build packet : Data too long"});
-    }
-
-    void Texts() {
-        QCOMPARE(Hex00(0), "00");
-        QCOMPARE(Hex00(10), "0A");
-        QCOMPARE(Hex00(255), "FF");
-        QCOMPARE(BytesToHex({}), QString());
-        QCOMPARE(BytesToHex(Hex("01AB")), "01 AB ");
-        const QByteArray first = ImageFrames(-1, {}, 1, Hex("11223344")).first();
-        QCOMPARE(ReaderIdOf(first), "33442211");
-        QCOMPARE(FirmwareTextOf(first), "V06");
     }
 
     void DateCodes() {
@@ -97,37 +71,30 @@ private slots:
         }
     }
 
-    // One packet is taken after each chunk; "" adds no bytes.
+    // One packet is taken after each chunk, "" if there is none. A chunk of "" adds no bytes.
     void Buffer_data() {
-        QTest::addColumn<QByteArrayList>("chunks");
-        QTest::addColumn<QByteArrayList>("packets"); // empty if there is none
-        QTest::addColumn<QByteArray>("left");
-        QTest::addColumn<int>("lost");
-        const auto row = [](const char* name, const QByteArrayList& chunks,
-                            const QByteArrayList& packets, const QByteArray& left = {},
-                            qsizetype lost = 0) {
-            QTest::newRow(name) << chunks << packets << left << static_cast<int>(lost);
-        };
+        const TestTable<QByteArrayList, QByteArrayList, QByteArray, qsizetype> row(
+            "chunks", "packets", "left", "lost");
         const qsizetype junk = Junk.size();
-        row("junk stays", {Junk}, {""}, Junk);
+        row("junk stays", {Junk}, {""}, Junk, 0);
         row("four preamble bytes", {'\xFF' + Good, ""}, {"", Good}, {}, 1);
         row("preamble without sync", {Hex("FFFFFF00") + Good, ""}, {"", Good}, {}, 4);
         row("junk, frame, two bytes", {Junk + Good + "ab"}, {Good}, "ab", junk);
         row("junk, frame, one byte", {Junk + Good + "a"}, {Good}, {}, junk + 1);
         row("that byte begins a frame", {Good + Other.left(1), Other.mid(1)}, {Good, ""},
             Other.mid(1), 1);
-        row("two frames in one piece", {Good + Other, ""}, {Good, Other});
+        row("two frames in one piece", {Good + Other, ""}, {Good, Other}, {}, 0);
         row("wrong checksum before a frame", {Bad + Good, ""}, {"", Good}, {}, Bad.size());
         row("wrong checksum and one byte", {Bad + "a"}, {""}, {}, Bad.size() + 1);
         const QByteArray least = FrameOf(Hex("11"));
-        row("11 of 12 bytes", {least.left(11), least.right(1)}, {"", least});
+        row("11 of 12 bytes", {least.left(11), least.right(1)}, {"", least}, {}, 0);
         row("cut preamble", {Junk + Good.left(2), Good.mid(2)}, {"", Good}, {}, junk);
         const QByteArray hollow = FrameOf({});
-        row("no payload", {hollow, Good, ""}, {"", hollow, Good});
+        row("no payload", {hollow, Good, ""}, {"", hollow, Good}, {}, 0);
         const QByteArray longest = FrameOf(QByteArray(244, '\x01'));
-        row("longest", {longest.chopped(1), longest.right(1)}, {"", longest});
+        row("longest", {longest.chopped(1), longest.right(1)}, {"", longest}, {}, 0);
         const QByteArray tooLong = FrameOf(QByteArray(245, '\x01')) + Good;
-        row("too long blocks the buffer", {tooLong, ""}, {"", ""}, tooLong);
+        row("too long blocks the buffer", {tooLong, ""}, {"", ""}, tooLong, 0);
     }
     void Buffer() {
         QFETCH(QByteArrayList, chunks);
@@ -143,7 +110,7 @@ private slots:
         }
         QTEST(buffer.Buffer(), "left");
         QCOMPARE(buffer.Count(), std::max<qsizetype>(0, buffer.Buffer().size() - 1));
-        QTEST(static_cast<int>(buffer.Lost()), "lost");
+        QTEST(qsizetype{buffer.Lost()}, "lost");
         buffer.Clear();
         QVERIFY(buffer.Buffer().isEmpty() && buffer.Lost() == 0);
     }
@@ -161,15 +128,7 @@ private slots:
     }
 
     void Decoding_data() {
-        QTest::addColumn<QByteArrayList>("records");
-        QTest::addColumn<QString>("touches");
-        const auto row = [](const char* name, std::initializer_list<const char*> records,
-                            const char* touches) {
-            QByteArrayList bytes;
-            for (const char* record : records)
-                bytes += Hex(record);
-            QTest::newRow(name) << bytes << QString::fromLatin1(touches);
-        };
+        const TestTable<QByteArrayList, QString> row("records", "touches");
         row("empty", {}, "");
         row("marker and touch", {"0F0100AA", "3412002A"}, "001234 2.1.2000 15:42");
         row("marker alone", {"0F0100AA"}, "");
@@ -188,6 +147,8 @@ private slots:
     }
     void Decoding() {
         QFETCH(QByteArrayList, records);
+        for (QByteArray& record : records)
+            record = QByteArray::fromHex(record);
         QTEST(Text(Decode(ImageFrames(0, records, 1))), "touches");
     }
 

@@ -1,7 +1,7 @@
 // The preview window, driven by its keys and its wheel, and printing.
 
-#include "MessageBox.h"
 #include "PrintReport.h"
+#include "ScriptedBoxes.h"
 #include "SmallReport.h"
 #include "frmPreview.h"
 
@@ -14,7 +14,6 @@
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -56,17 +55,6 @@ public:
     std::unique_ptr<DataReport> report;
     std::unique_ptr<frmPreview> window;
     QScrollArea* page = nullptr;
-};
-
-class KeptMessages : public MessageBoxes {
-public:
-    KeptMessages() { InstallMessageBoxes(this); }
-    ~KeptMessages() override { InstallMessageBoxes(nullptr); }
-    MessageAnswer Show(const Message& message) override {
-        texts += message.text;
-        return HarmlessAnswer(message.buttons);
-    }
-    QStringList texts;
 };
 
 /// Exports under a name typed into the file dialog; gives the name that the dialog proposed.
@@ -150,9 +138,9 @@ private slots:
         const Shown preview(rows);
         const QTemporaryDir folder;
         const QString path = folder.filePath("typed name");
-        KeptMessages messages;
+        ScriptedBoxes boxes;
         QCOMPARE(Export(preview, path), "A report.pdf");
-        QCOMPARE(messages.texts, QStringList());
+        QCOMPARE(boxes.TakeTexts(), QStringList());
         QFile file(path + QStringLiteral(".pdf"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.readAll().endsWith("%%EOF\n"));
@@ -165,9 +153,9 @@ private slots:
         };
         const Shown preview(rows); // shows the failure instead of the page
         const QTemporaryDir folder;
-        KeptMessages messages;
+        ScriptedBoxes boxes;
         Export(preview, folder.filePath("report"));
-        QCOMPARE(messages.texts, QStringList{"The report could not be exported.\r\nis closed"});
+        QCOMPARE(boxes.TakeTexts(), QStringList{"The report could not be exported.\r\nis closed"});
         QVERIFY(QDir(folder.path()).isEmpty());
     }
 
@@ -257,7 +245,7 @@ private slots:
             return QString();
         };
         const QTemporaryDir folder;
-        KeptMessages messages;
+        ScriptedBoxes boxes;
         bool othersBlocked = false;
         QTimer watch;
         connect(&watch, &QTimer::timeout, [&] {
@@ -274,7 +262,7 @@ private slots:
         Export(preview, folder.filePath("report"));
         QVERIFY(elapsed.elapsed() < 4'000); // all of it would take longer
         QVERIFY(othersBlocked);
-        QCOMPARE(messages.texts, QStringList());
+        QCOMPARE(boxes.TakeTexts(), QStringList());
         QVERIFY(QDir(folder.path()).isEmpty());
     }
 };

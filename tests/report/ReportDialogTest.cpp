@@ -1,15 +1,21 @@
-// What the dialogs of the reports share: the range of time, the list with check boxes, the buttons.
+// What the dialogs of the reports share: the range of time, the list with check boxes, the buttons;
+// and what a report needs before its dialog opens.
 
 #include "CheckList.h"
 #include "Clock.h"
 #include "DateTimeRange.h"
+#include "RecordingViewer.h"
 #include "ReportButtons.h"
+#include "ScriptedBoxes.h"
+#include "TestHome.h"
+#include "frmMdiReports.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QPushButton>
 #include <QTest>
 #include <QTimeEdit>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -85,6 +91,33 @@ private slots:
         dialog.setResult(QDialog::Accepted);
         QTest::mouseClick(&cancel, Qt::LeftButton);
         QVERIFY(!dialog.isVisible() && dialog.result() == QDialog::Rejected);
+    }
+
+    // A report needs a reader, then a tour, before its dialog opens.
+    void AsksForAReaderThenATour() {
+        const TestHome home(TestHome::EmptyStore);
+        ScriptedBoxes boxes;
+        RecordingViewer viewer;
+        frmMdiReports page(viewer, nullptr);
+        const auto* list = page.findChild<QTreeWidget*>("lvwReports");
+        const QTreeWidgetItem* row = list->topLevelItem(0);
+        const auto open = [&] {
+            page.ReportParamShow("NewException", row->text(0));
+            return boxes.TakeTexts().join(u'/');
+        };
+        QCOMPARE(open(), "You must add at least one reader before this report can be used");
+        gConn->Execute("INSERT INTO tblReaders (tReaderId) VALUES ('4B5831A7')");
+        QCOMPARE(open(), "You must add at least one tour before this report can be used");
+        gConn->Execute("INSERT INTO tblTours (tName) VALUES ('Night')");
+        QString title;
+        QTimer::singleShot(100, [&] {
+            if (QWidget* dialog = QApplication::activeModalWidget()) {
+                title = dialog->windowTitle();
+                dialog->close();
+            }
+        });
+        QCOMPARE(open(), "");
+        QCOMPARE(title, "Tour / Exception Report");
     }
 };
 

@@ -5,12 +5,12 @@
 #include "ScriptedBoxes.h"
 #include "SetupFile.h"
 #include "TestHome.h"
+#include "TestTable.h"
 #include "TourDraft.h"
 #include "cTourReport.h"
 #include "mOperators.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 namespace {
 
@@ -25,12 +25,7 @@ TourDraft DraftOf(const QList<std::pair<int, const char*>>& points) {
 
 /// What an import of this document says; empty if it succeeds.
 QString FaultOf(const QByteArray& document) {
-    try {
-        ImportSetup(document);
-    } catch (const RunTimeError& error) {
-        return error.Description();
-    }
-    return {};
+    return DescriptionOf([&] { ImportSetup(document); });
 }
 
 QByteArray Groups(const QByteArray& groups) { return "{\"groups\":[" + groups + "]}"; }
@@ -59,21 +54,16 @@ class SetupTest : public QObject {
 private slots:
     void TypedMinutes() {
         constexpr int none = -1;
-        struct Row {
-            QString text;
-            int interval, tolerance;
-        };
-        QList<Row> rows{{"0", 0, 0},        {" 59 ", 59, 59},       {"59.4", 59, none},
-                        {"60", 60, none},   {"5.5", 6, 6},          {"4.5", 4, 4},
-                        {"0.5", 0, 0},      {"1439.4", 1439, none}, {"1439.5", none, none},
-                        {"-1", none, none}, {"-0.4", none, none},   {"1e1", 10, 10}};
+        QList<std::tuple<QString, int, int>> rows{
+            {"0", 0, 0},        {" 59 ", 59, 59},       {"59.4", 59, none},
+            {"60", 60, none},   {"5.5", 6, 6},          {"4.5", 4, 4},
+            {"0.5", 0, 0},      {"1439.4", 1439, none}, {"1439.5", none, none},
+            {"-1", none, none}, {"-0.4", none, none},   {"1e1", 10, 10}};
         for (const char* text : {"", " ", "abc", "5 5", "5m", "0x10", "nan", "inf", "5,5"})
-            rows += Row{QString::fromLatin1(text), none, none};
-        for (const Row& row : rows) {
-            QVERIFY2(IntervalFromText(row.text).value_or(none) == row.interval,
-                     qPrintable(row.text));
-            QVERIFY2(ToleranceFromText(row.text).value_or(none) == row.tolerance,
-                     qPrintable(row.text));
+            rows += {QString::fromLatin1(text), none, none};
+        for (const auto& [text, interval, tolerance] : rows) {
+            QVERIFY2(IntervalFromText(text).value_or(none) == interval, qPrintable(text));
+            QVERIFY2(ToleranceFromText(text).value_or(none) == tolerance, qPrintable(text));
         }
         QLocale::setDefault(QLocale(QLocale::German)); // the user's own decimal sign
         QCOMPARE(ToleranceFromText("5,5"), 6);
@@ -174,11 +164,8 @@ private slots:
     }
 
     void ImportFaults_data() {
-        QTest::addColumn<QByteArray>("document");
-        QTest::addColumn<QString>("fault"); // a part of it; empty: the import succeeds
-        const auto row = [](const char* name, const QByteArray& document, const char* fault) {
-            QTest::newRow(name) << document << QString::fromUtf8(fault);
-        };
+        // A part of the fault; empty: the import succeeds.
+        const TestTable<QByteArray, QString> row("document", "fault");
         const auto point = [](const char* minutes, const QByteArray& code, const char* more = "") {
             return "{\"minutes\":" + QByteArray(minutes) + ",\"button\":\"" + code + '"' + more +
                    '}';

@@ -4,6 +4,7 @@
 #include "DockingLink.h"
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
+#include "TestTable.h"
 #include "frmAddButton.h"
 #include "frmEditButton.h"
 #include "frmEditTime.h"
@@ -153,7 +154,7 @@ private slots:
         SelectPlace(*list, 2);
         m_boxes.Answers = {MessageAnswer::Yes, MessageAnswer::Yes, MessageAnswer::Yes};
         for (int i = 0; i < 3; ++i)
-            Control<QPushButton>(*page, "cmdSetup_2")->click();
+            Press(*page, "cmdSetup_2");
         QCOMPARE(m_boxes.TakeTexts().first(),
                  "The selected group contains sub-items\nAre you sure you want to delete it?");
         QVERIFY(RowsIn(*list).isEmpty());
@@ -183,7 +184,7 @@ private slots:
         QCOMPARE(RowsIn(*list).first(), "0A0B0C0D|Day reader");
         QCOMPARE(m_boxes.TakeTexts().size(), 2);
         m_boxes.Answers = {MessageAnswer::Yes};
-        Control<QPushButton>(*page, "cmdSetup_2")->click();
+        Press(*page, "cmdSetup_2");
         QCOMPARE(m_boxes.TakeTexts(), {"Are you sure you want to delete this reader? 0A0B0C0D"});
         QCOMPARE(RowsIn(*list).size(), 1);
     }
@@ -240,20 +241,16 @@ private slots:
     void TourPage() {
         const auto page = Page(TourTab);
         auto* list = Control<QTreeView>(*page, "lvwProgram");
-        Control<QPushButton>(*page, "cmdSetup_1")->click();
+        Press(*page, "cmdSetup_1");
         QCOMPARE(RowsIn(*list).last(), "Tour 001|00:00| ");
         // A tour without points cannot be copied; one with points can, under a fresh name.
         for (const int tour : {2, 1}) {
             Script script;
-            script.Then([&] {
-                auto* tours = Script::Find<QComboBox>("frmCopyTour", "cboTours");
-                if (tours)
-                    tours->setCurrentIndex(tour);
-                return tours != nullptr;
-            });
+            script.With<QComboBox>("frmCopyTour", "cboTours",
+                                   [=](QComboBox& tours) { tours.setCurrentIndex(tour); });
             script.Click("frmCopyTour", "cmdOK");
             script.Start();
-            Control<QPushButton>(*page, "cmdTourCopy")->click();
+            Press(*page, "cmdTourCopy");
             QVERIFY(script.Finish());
         }
         QCOMPARE(m_boxes.TakeTexts(), {"Cannot find any Tour Points to copy"});
@@ -263,11 +260,11 @@ private slots:
             (QStringList{"1A40C2", "1A40C7", "1A41D0", "1A422B", "1A40C2"}));
         QCOMPARE(RowsOf("SELECT tDesc, iTolerance, dtStartTime FROM tblTours WHERE ID = 4"),
                  QStringList(" |5|0"));
-        Control<QPushButton>(*page, "cmdSetup_2")->click();
+        Press(*page, "cmdSetup_2");
         QCOMPARE(m_boxes.TakeTexts(), {"The selected Tour contains data.\nAre you sure you want to "
                                        "delete this tour?"});
         gConn->Execute("DELETE * FROM tblButtons");
-        Control<QPushButton>(*page, "cmdSetup_0")->click();
+        Press(*page, "cmdSetup_0");
         QCOMPARE(m_boxes.TakeTexts(),
                  {"You must add at least one location before you can define a tour"});
     }
@@ -283,8 +280,7 @@ private slots:
             return points.join(u' ');
         };
         const auto move = [&](int button) {
-            Control<QPushButton>(*editor, qPrintable(QStringLiteral("cmdMove_%1").arg(button)))
-                ->click();
+            Press(*editor, qPrintable(QStringLiteral("cmdMove_%1").arg(button)));
         };
         QCOMPARE(RowsIn(*selected).last(), "25|Harbour Warehouse|Main gate|00:40");
         QCOMPARE(tour(), "0Ma 20Lo 20Co 20Qu 25Ma");
@@ -372,14 +368,14 @@ private slots:
             script.Then([] { return true; });
         }
         script.Start();
-        Control<QPushButton>(*editor, "cmdEditTime")->click();
+        Press(*editor, "cmdEditTime");
         QVERIFY(script.Finish());
         QCOMPARE(m_boxes.TakeTexts(),
                  QStringList(3, "Only valid numbers from 0 to 1439 can be entered"));
         QCOMPARE(RowsIn(*Control<QTreeView>(*editor, "lvwSelected"))[1],
                  "90|Harbour Warehouse|Loading bay 2|00:45");
         editor = Editor();
-        Control<QPushButton>(*editor, "cmdMove_0")->click();
+        Press(*editor, "cmdMove_0");
         QVERIFY(RowsIn(*Control<QTreeView>(*editor, "lvwSelected")).last().startsWith("90|"));
     }
 
@@ -410,10 +406,10 @@ private slots:
                      QStringList(2, "Your changes have not been saved. Discard them?"));
         }
         const auto moved = Editor();
-        Control<QPushButton>(*moved, "cmdMove_3")->click(); // a moved point is a change too
+        Press(*moved, "cmdMove_3"); // a moved point is a change too
         moved->close();
         QCOMPARE(m_boxes.TakeTexts().size(), 1);
-        Control<QPushButton>(*moved, "cmdCancel")->click();
+        Press(*moved, "cmdCancel");
         QVERIFY(!moved->isVisible() && m_boxes.TakeTexts().isEmpty());
     }
 
@@ -438,7 +434,7 @@ private slots:
         });
         script.Click(editor, "cmdOK");
         script.Start();
-        Control<QPushButton>(*page, "cmdSetup_0")->click();
+        Press(*page, "cmdSetup_0");
         QVERIFY(script.Finish());
         QVERIFY(m_boxes.TakeTexts().join(u'|').startsWith(
             "The tour could not be saved. Nothing was changed.\n"));
@@ -447,29 +443,18 @@ private slots:
     }
 
     void TourEditorChecks_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("tolerance");
-        QTest::addColumn<bool>("neighbours"); // the main gate is moved beside itself
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QString>("focus");
+        // `neighbours`: the main gate is moved beside itself.
+        const TestTable<QString, QString, bool, QString, QString> row(
+            "name", "tolerance", "neighbours", "message", "focus");
         const QString used = "That name is already used.  Please enter another name.",
                       none = "You must enter a name for this group",
                       range = "The tolerance value can only range from 0 to 59 minutes",
                       twice = "Cannot assign two sequential tour points with the same location";
-        QTest::newRow("new name, edge") << " Late round "
-                                        << "59" << false << ""
-                                        << "";
-        QTest::newRow("half a minute") << "Night round"
-                                       << "5.5" << false << ""
-                                       << "";
-        QTest::newRow("used") << "Day round "
-                              << "60" << true << used << "txtName";
-        QTest::newRow("no name") << "  "
-                                 << "60" << false << none << "txtName";
-        QTest::newRow("neighbours") << "Night round"
-                                    << "x" << true << twice << "lvwSelected";
-        QTest::newRow("tolerance") << "Night round"
-                                   << "60" << false << range << "txtTolerance";
+        row("new name, half a minute", " Late round ", "5.5", false, "", "");
+        row("used", "Day round ", "60", true, used, "txtName");
+        row("no name", "  ", "60", false, none, "txtName");
+        row("neighbours", "Night round", "x", true, twice, "lvwSelected");
+        row("tolerance", "Night round", "60", false, range, "txtTolerance");
     }
     void TourEditorChecks() {
         QFETCH(QString, name);
@@ -482,9 +467,9 @@ private slots:
         if (neighbours) {
             SelectPlace(*Control<QTreeView>(*editor, "lvwSelected"), 4);
             for (int i = 0; i < 3; ++i)
-                Control<QPushButton>(*editor, "cmdMove_2")->click();
+                Press(*editor, "cmdMove_2");
         }
-        Control<QPushButton>(*editor, "cmdOK")->click();
+        Press(*editor, "cmdOK");
         QCOMPARE(m_boxes.TakeTexts().join(u'|'), message);
         QCOMPARE(editor->OK(), message.isEmpty());
         if (message.startsWith(u"Cannot"))
@@ -493,7 +478,7 @@ private slots:
         QCOMPARE(Control<QLineEdit>(*editor, "txtName")->text(), name);
         if (editor->OK()) {
             QCOMPARE(editor->ListName, name.trimmed());
-            QCOMPARE(editor->Tolerance, tolerance == u"5.5" ? 6 : tolerance.toInt());
+            QCOMPARE(editor->Tolerance, 6);
         } else {
             QTEST(editor->focusWidget()->objectName(), "focus");
         }

@@ -5,11 +5,10 @@
 #include "Connection.h"
 #include "DateTime.h"
 #include "SqlDate.h"
-#include "SqlTranslator.h"
 #include "TestHome.h"
+#include "TestTable.h"
 
 #include <QDate>
-#include <QTest>
 
 #include <memory>
 
@@ -44,52 +43,51 @@ private slots:
 
     // Statements in the dialect, one a line. The last one asks for the result.
     void Dialect_data() {
-        QTest::addColumn<QString>("statements");
-        QTest::addColumn<QStringList>("rows");
-        QTest::newRow("delete all")
-            << "INSERT INTO tblReaders VALUES ('1', 'a')\n"
-               "INSERT INTO tblReaders VALUES ('2', 'b')\n"
-               "delete * FROM tblReaders WHERE tReaderId = '1' ;\nSELECT * FROM tblReaders ;"
-            << QStringList{"2|b"};
-        QTest::newRow("quotes")
-            << "INSERT INTO tblReaders VALUES (\"Keeper's\", \"a \"\"b\"\" 'c'\")\n"
-               "INSERT INTO tblReaders VALUES ('it''s', '#1999-01-01# memo \"x\" ORDER BY ;')\n"
-               "SELECT * FROM tblReaders WHERE tReaderId = \"Keeper's\" OR tReaderId = 'it''s'"
-            << QStringList{"Keeper's|a \"b\" 'c'", "it's|#1999-01-01# memo \"x\" ORDER BY ;"};
-        QTest::newRow("numbers are not used twice")
-            << "CREATE TABLE tblT( ID autoincrement, Field0 memo)\n"
-               "INSERT INTO tblT (Field0) VALUES ('x')\nDELETE * FROM tblT\n"
-               "INSERT INTO tblT (Field0) VALUES ('y')\nSELECT * FROM tblT"
-            << QStringList{"2|y"};
+        const TestTable<QString, QStringList> row("statements", "rows");
+        row("delete all",
+            "INSERT INTO tblReaders VALUES ('1', 'a')\n"
+            "INSERT INTO tblReaders VALUES ('2', 'b')\n"
+            "delete * FROM tblReaders WHERE tReaderId = '1' ;\nSELECT * FROM tblReaders ;",
+            {"2|b"});
+        row("quotes",
+            "INSERT INTO tblReaders VALUES (\"Keeper's\", \"a \"\"b\"\" 'c'\")\n"
+            "INSERT INTO tblReaders VALUES ('it''s', '#1999-01-01# memo \"x\" ORDER BY ;')\n"
+            "SELECT * FROM tblReaders WHERE tReaderId = \"Keeper's\" OR tReaderId = 'it''s'",
+            {"Keeper's|a \"b\" 'c'", "it's|#1999-01-01# memo \"x\" ORDER BY ;"});
+        row("numbers are not used twice",
+            "CREATE TABLE tblT( ID autoincrement, Field0 memo)\n"
+            "INSERT INTO tblT (Field0) VALUES ('x')\nDELETE * FROM tblT\n"
+            "INSERT INTO tblT (Field0) VALUES ('y')\nSELECT * FROM tblT",
+            {"2|y"});
         const QString dates = "INSERT INTO tblTours (tName, dtStartTime) VALUES "
                               "('a', #2026-03-01#), ('b', #2026-3-1 08:30#), "
                               "('c', #2026-03-01 08:30:01#), ('d', #1899-12-29 12:00:00#)\n"
                               "SELECT tName FROM tblTours WHERE dtStartTime ";
-        QTest::newRow(">=") << dates + ">= #2026-03-01 08:30:00#" << QStringList{"b", "c"};
-        QTest::newRow(">") << dates + ">#2026-03-01 08:30:00#" << QStringList{"c"};
-        QTest::newRow("<=") << dates + "<=#2026-03-01 00:00:00#" << QStringList{"a", "d"};
-        QTest::newRow("<>") << dates + "<> #2026-03-01 08:30:00#" << QStringList{"a", "c", "d"};
-        QTest::newRow("before day zero") << dates + "= -0.5" << QStringList{"d"};
+        row(">=", dates + ">= #2026-03-01 08:30:00#", {"b", "c"});
+        row(">", dates + ">#2026-03-01 08:30:00#", {"c"});
+        row("<=", dates + "<=#2026-03-01 00:00:00#", {"a", "d"});
+        row("<>", dates + "<> #2026-03-01 08:30:00#", {"a", "c", "d"});
+        row("before day zero", dates + "= -0.5", {"d"});
         const QString names = "INSERT INTO tblListItems (wType, tName) VALUES (1, 'c'), (1, 'B'), "
                               "(1, 'Zug'), (2, 'b'), (1, 'Öl'), (1, 'a'), (2, 'B'), (1, 'ob')\n"
                               "SELECT wType, tName FROM tblListItems ";
         const QStringList ordered{"1|a", "1|B", "2|b", "2|B", "1|c", "1|ob", "1|Öl", "1|Zug"};
-        QTest::newRow("as people order") << names + "ORDER BY tName ;" << ordered;
-        QTest::newRow("backwards, ties in turn")
-            << names + "WHERE wType = 2 ORDER BY tName DESC" << QStringList{"2|b", "2|B"};
-        QTest::newRow("two columns") << names + "WHERE tName < 'a' ORDER BY wType DESC, tName"
-                                     << QStringList{"2|B", "1|B", "1|Zug"};
-        QTest::newRow("ties in turn, whatever the index")
-            << "INSERT INTO tblEvents (dtDateTime) VALUES (2), (1), (2)\n"
-               "SELECT ID FROM tblEvents ORDER BY dtDateTime DESC"
-            << QStringList{"1", "3", "2"};
-        QTest::newRow("exact equality") << names + "WHERE tName = 'B'" << QStringList{"1|B", "2|B"};
-        QTest::newRow("no table") << "SELECT 1 AS a, 'b' AS b" << QStringList{"1|b"};
-        QTest::newRow("order of storing, whatever the index")
-            << "INSERT INTO tblEvents (tPipeID, dtDateTime) VALUES ('R', 30), ('R', 20), "
-               "('S', 25), ('R', 10), ('R', 20)\nSELECT dtDateTime FROM tblEvents "
-               "WHERE tPipeID = 'R' AND dtDateTime >= 10 AND dtDateTime <= 30"
-            << QStringList{"30", "20", "10", "20"};
+        row("as people order", names + "ORDER BY tName ;", ordered);
+        row("backwards, ties in turn", names + "WHERE wType = 2 ORDER BY tName DESC",
+            {"2|b", "2|B"});
+        row("two columns", names + "WHERE tName < 'a' ORDER BY wType DESC, tName",
+            {"2|B", "1|B", "1|Zug"});
+        row("ties in turn, whatever the index",
+            "INSERT INTO tblEvents (dtDateTime) VALUES (2), (1), (2)\n"
+            "SELECT ID FROM tblEvents ORDER BY dtDateTime DESC",
+            {"1", "3", "2"});
+        row("exact equality", names + "WHERE tName = 'B'", {"1|B", "2|B"});
+        row("no table", "SELECT 1 AS a, 'b' AS b", {"1|b"});
+        row("order of storing, whatever the index",
+            "INSERT INTO tblEvents (tPipeID, dtDateTime) VALUES ('R', 30), ('R', 20), "
+            "('S', 25), ('R', 10), ('R', 20)\nSELECT dtDateTime FROM tblEvents "
+            "WHERE tPipeID = 'R' AND dtDateTime >= 10 AND dtDateTime <= 30",
+            {"30", "20", "10", "20"});
     }
     void Dialect() {
         QFETCH(QString, statements);
@@ -212,11 +210,7 @@ private slots:
 
     void WrongUse_data() {
         using Use = std::function<void(Recordset&)>;
-        QTest::addColumn<Use>("use");
-        QTest::addColumn<int>("error");
-        const auto row = [](const char* name, int error, const Use& use) {
-            QTest::newRow(name) << use << error;
-        };
+        const TestTable<int, Use> row("error", "use");
         const auto opened = [](const QString& sql, const Use& use) -> Use {
             return [=](Recordset& rows) {
                 rows.Open(sql, *gConn);

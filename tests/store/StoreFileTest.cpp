@@ -5,19 +5,18 @@
 #include "Connection.h"
 #include "DeliveredStore.h"
 #include "FileReplacement.h"
+#include "Files.h"
 #include "ForkedChild.h"
 #include "InstanceLock.h"
 #include "OutputFile.h"
 #include "Rows.h"
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
+#include "TestTable.h"
 
 #include <QElapsedTimer>
-#include <QFile>
-#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTest>
 
 #include <random>
 #include <sys/stat.h>
@@ -35,21 +34,11 @@ void AddEvents(int count) {
             .arg(count));
 }
 
-QByteArray BytesOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void Write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
 /// Changes one bit of a file.
 void Damage(const QString& path, qsizetype at) {
     QByteArray bytes = BytesOf(path);
     bytes[at] = static_cast<char>(bytes[at] ^ 1);
-    Write(path, bytes);
+    WriteBytes(path, bytes);
 }
 
 ino_t FileNumber(const QString& path) {
@@ -68,16 +57,11 @@ private slots:
     void cleanup() { qunsetenv("XDG_CACHE_HOME"); }
 
     void DoesNotOpen_data() {
-        QTest::addColumn<std::function<void(const QString&)>>("spoil");
-        QTest::addColumn<int>("error");
-        const auto row = [](const char* name, int error,
-                            std::function<void(const QString&)> spoil) {
-            QTest::newRow(name) << std::move(spoil) << error;
-        };
+        const TestTable<int, std::function<void(const QString&)>> row("error", "spoil");
         row("missing", 53, [](auto& path) { QFile::remove(path); });
         row("a folder", 53, [](auto& path) { QFile::remove(path) && QDir().mkdir(path); });
         row("empty", 10026, [](auto& path) { QFile::resize(path, 0); });
-        row("garbage", 10026, [](auto& path) { Write(path, QByteArray(20'000, 'g')); });
+        row("garbage", 10026, [](auto& path) { WriteBytes(path, QByteArray(20'000, 'g')); });
         row("cut in half", 10011,
             [](auto& path) { QFile::resize(path, QFileInfo(path).size() / 2); });
         row("cut to its first bytes", 10026, [](auto& path) { QFile::resize(path, 100); });
@@ -195,7 +179,7 @@ private slots:
               QByteArray::number(::getpid()) + "\nwardlock\n", // in a container numbers recur
               QByteArray("1\nwardlock\nelse\n")}) {            // on another machine
             TestHome::Close();
-            Write(home.File("main.ldb"), content);
+            WriteBytes(home.File("main.ldb"), content);
             QVERIFY2(home.Open(), qPrintable(home.TakeLog()));
         }
     }
@@ -208,14 +192,15 @@ private slots:
         QVERIFY(QDir().mkdir(folder));
         const QString target = folder + "/night.mdb";
         QVERIFY(QFile::rename(home.Store(), target) && QFile::link(target, home.Store()));
-        QVERIFY(QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner));
+        const auto permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
+        QVERIFY(QFile::setPermissions(target, permissions));
         if (::geteuid() == 0)
             QCOMPARE(::chown(QFile::encodeName(target).constData(), 12345, 54321), 0);
         const ino_t before = FileNumber(target);
         home.Compact();
         QVERIFY(QFileInfo(home.Store()).isSymLink() && FileNumber(target) != before);
         const QFileInfo compacted(target);
-        QVERIFY(!compacted.permission(QFile::ReadGroup) && !compacted.permission(QFile::ReadOther));
+        QVERIFY(compacted.permission(permissions) && !compacted.permission(QFile::ReadOther));
         if (::geteuid() == 0)
             QCOMPARE(std::pair(compacted.ownerId(), compacted.groupId()),
                      std::pair(12345U, 54321U));
@@ -226,7 +211,7 @@ private slots:
         OutputFile(folder + "/night.pdf");
         Connection byText;
         byText.Open(ConnectionText(target, StorePassword));
-        Write(folder + "/temp.mdb", "left over");
+        WriteBytes(folder + "/temp.mdb", "left over");
         gDatabasePath = home.Store();
         RemoveLeftoverCopy(home.Temp());
         QVERIFY(!QFile::exists(folder + "/temp.mdb"));
@@ -238,7 +223,7 @@ private slots:
         MakeDeliveredStore(path, StoreContent::Demo);
         QVERIFY(ErrorOf([&] { MakeDeliveredStore(path, StoreContent::Empty); }) != 0);
         const QByteArray whole = BytesOf(path);
-        Write(home.File("other"), "other");
+        WriteBytes(home.File("other"), "other");
         QVERIFY(ErrorOf([&] { PlaceNewFile(home.File("other"), path); }) != 0);
         QVERIFY(BytesOf(path) == whole && BytesOf(home.File("other")) == "other");
         QCOMPARE(QDir(home.File({})).entryList(QDir::Files).size(), 2);
@@ -247,13 +232,13 @@ private slots:
     // A program is killed within a transaction, and then the store is replaced by a backup: an
     // older one, when the journal holds all pages, or one of the same session, when it holds some.
     void JournalOfAnotherFile_data() {
-        QTest::addColumn<QString>("halfDone");
-        QTest::newRow("older") << "UPDATE tblEvents SET tButtonDesc = 'half done'";
-        QTest::newRow("same session") << "DELETE FROM tblEvents WHERE ID > 1000 AND ID < 1800";
+        const TestTable<bool, QString> row("sameSession", "halfDone");
+        row("older", false, "UPDATE tblEvents SET tButtonDesc = 'half done'");
+        row("same session", true, "DELETE FROM tblEvents WHERE ID > 1000 AND ID < 1800");
     }
     void JournalOfAnotherFile() {
         QFETCH(QString, halfDone);
-        const bool sameSession = halfDone.startsWith(u"DELETE");
+        QFETCH(bool, sameSession);
         const TestHome home(TestHome::DemoSite);
         AddEvents(3000);
         TestHome::Close();
@@ -307,15 +292,11 @@ private slots:
         const QStringList before = ContentOfStore();
         TestHome::Close();
         const qint64 size = QFileInfo(home.Store()).size();
-        const auto readable = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
-        QVERIFY(QFile::setPermissions(home.Store(), readable));
-        Write(home.Temp(), "left over");
-        Write(home.Temp() + "-journal", "left over");
+        WriteBytes(home.Temp(), "left over");
+        WriteBytes(home.Temp() + "-journal", "left over");
         home.Compact();
         QVERIFY(!QFile::exists(home.Temp()) && !QFile::exists(home.Temp() + "-journal"));
         QVERIFY(QFileInfo(home.Store()).size() < size * 3 / 4);
-        QVERIFY(QFile::permissions(home.Store()).testFlag(QFile::ReadGroup) &&
-                !QFile::permissions(home.Store()).testFlag(QFile::ReadOther));
         QVERIFY(home.Open());
         QCOMPARE(ContentOfStore(), before);
         QCOMPARE(RowsOf("SELECT sql FROM sqlite_master ORDER BY name"), schema);
@@ -346,7 +327,7 @@ private slots:
         QVERIFY(QDir().mkdir(home.Temp())); // no room for the copy
         home.Compact();
         QVERIFY(gStoreDamaged);
-        Write(home.Store(), whole);
+        WriteBytes(home.Store(), whole);
         home.Compact();
         QVERIFY(BytesOf(home.Store()) == whole && !gStoreDamaged);
         QVERIFY(home.Open());

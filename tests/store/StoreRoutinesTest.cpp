@@ -32,18 +32,14 @@ private slots:
     }
 
     void Passwords() {
-        struct Row {
-            const char *stored, *entered;
-            bool accepted;
-        };
-        const Row rows[] = {{"'sEcret1'", "SeCRET1", true},
-                            {"'größe'", "GRÖSSE", true},
-                            {"'a b'", "  a b ", true},
-                            {"'ab '", "ab ", false},
-                            {"'secret'", "secre", false},
-                            {"''", "  ", true},
-                            {"NULL", "", true},
-                            {"'x'", "", false}};
+        const std::tuple<const char*, const char*, bool> rows[] = {{"'sEcret1'", "SeCRET1", true},
+                                                                   {"'größe'", "GRÖSSE", true},
+                                                                   {"'a b'", "  a b ", true},
+                                                                   {"'ab '", "ab ", false},
+                                                                   {"'secret'", "secre", false},
+                                                                   {"''", "  ", true},
+                                                                   {"NULL", "", true},
+                                                                   {"'x'", "", false}};
         for (const auto& [stored, entered, accepted] : rows) {
             const TestHome home(TestHome::EmptyStore);
             gConn->Execute("INSERT INTO tblOperators VALUES ('keeper', 'other'), ('KEEPER', " +

@@ -168,12 +168,13 @@ bool PagePainter::PaintPlainly(const ControlStyle& style, const QRectF& box,
 void PagePainter::PaintFitted(const ControlStyle& style, const QRectF& box,
                               const QStringList& lines) {
     const std::pair key(&style, lines.join(u'\n'));
-    FittedText* text = m_fitted.object(key);
-    if (!text) {
-        text = new FittedText(FontOf(style), lines, box.size(), style.alignment);
-        m_fitted.insert(key, text);
+    if (const FittedText* kept = m_fitted.object(key)) {
+        kept->Paint(m_painter, box.topLeft());
+        return;
     }
+    auto text = std::make_unique<FittedText>(FontOf(style), lines, box.size(), style.alignment);
     text->Paint(m_painter, box.topLeft());
+    m_fitted.insert(key, text.release());
 }
 
 const ReportFont& PagePainter::FontOf(const ControlStyle& style) const {

@@ -289,10 +289,12 @@ QByteArray ReportJson(const DataReport& report) {
         const int column = rows.Column(by);
         const Pagination& pages = report.Pages();
         json = JsonList(static_cast<qsizetype>(pages.GroupCount()), [&](qsizetype group) {
-            const auto [first, count] = pages.RowsOf(static_cast<std::size_t>(group));
-            return '{' + JsonText(by) + ": " + JsonValue(by, rows.ValueAt(first, column)) + ", " +
-                   JsonText(report.Layout().groupRows) + ": " +
-                   JsonList(count, [&](qsizetype row) { return JsonRow(rows, first + row); }) + '}';
+            const Pagination::Rows run = pages.RowsOf(static_cast<std::size_t>(group));
+            return '{' + JsonText(by) + ": " + JsonValue(by, rows.ValueAt(run.first, column)) +
+                   ", " + JsonText(report.Layout().groupRows) + ": " +
+                   JsonList(run.count,
+                            [&](qsizetype row) { return JsonRow(rows, run.first + row); }) +
+                   '}';
         });
     }
     return "{\"title\": " + JsonText(report.Caption()) + ", \"rows\": " + json + "}\n";

@@ -36,6 +36,7 @@ void CheckList::NameParts(const QString& name) {
 
 void CheckList::SetHeader(const QString& text) {
     m_list->setHeaderLabel(text);
+    m_list->setAccessibleName(text);
     m_list->setHeaderHidden(false);
 }
 
