@@ -35,9 +35,8 @@ QStringList Arguments([[maybe_unused]] int argc, [[maybe_unused]] char* argv[]) 
 
 int main(int argc, char* argv[]) {
     qInstallMessageHandler(OnlyTrace);
-    // A report's page needs fonts but no display.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A report's page needs fonts but no display, whatever the desktop has set.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     // Qt sees none of the arguments; it would take some for its own, such as a value "-style".
     int programOnly = 1;
     const QGuiApplication app(programOnly, argv);
