@@ -82,7 +82,7 @@ QByteArray cInBuffer::Parse() {
     }
     if (length >= TooLong)
         return {};
-    const QByteArray frame = m_bytes.mid(start, length + Wire::Overhead);
+    QByteArray frame = m_bytes.mid(start, length + Wire::Overhead);
     Cut(start + frame.size());
     m_lost += start;
     if (m_bytes.size() == 1) { // a single byte after a frame is always dropped
@@ -102,7 +102,7 @@ void cInBuffer::DropBrokenFrame() {
     if (next < 0 || m_bytes.size() <= start + Wire::LengthOffset)
         return;
     const int length = ByteAt(m_bytes, static_cast<int>(start) + Wire::LengthOffset);
-    const QByteArray frame = m_bytes.mid(start, length + Wire::Overhead);
+    QByteArray frame = m_bytes.mid(start, length + Wire::Overhead);
     const bool arriving = frame.size() < length + Wire::Overhead && length < TooLong;
     if (next >= start + frame.size() || arriving || ChecksumHolds(frame))
         return;
