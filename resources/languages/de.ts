@@ -428,6 +428,18 @@
         <translation>EREIGNIS</translation>
     </message>
     <message>
+        <source>Generating Report</source>
+        <translation>Bericht wird erstellt</translation>
+    </message>
+    <message>
+        <source>Please wait, generating report (this may take a few minutes)</source>
+        <translation>Bitte warten, der Bericht wird erstellt (das kann einige Minuten dauern)</translation>
+    </message>
+    <message>
+        <source>Date Range:   From %0:s to %1:s</source>
+        <translation>Zeitraum:   von %0:s bis %1:s</translation>
+    </message>
+    <message>
         <source>No Data on the report</source>
         <translation>Keine Daten für den Bericht</translation>
     </message>

@@ -3,17 +3,33 @@
 #include "Clock.h"
 #include "Format.h"
 #include "ReportViewer.h"
+#include "darReport.h"
 #include "mDeclareGlobals.h"
+#include "mTranslations.h"
 
 QString CompanyText() {
     return gCompanyInfo[0] + QStringLiteral("\r\n") + gCompanyInfo[1] + QStringLiteral("\r\n") +
            gCompanyInfo[2] + QStringLiteral("\r\n") + gCompanyInfo[3];
 }
 
-QString PrintDateText(int blanks) {
-    const DateTime now = Now();
-    return Format(now, QStringLiteral("Short Date")) + QString(blanks, u' ') +
-           Format(now, QStringLiteral("Hh:Nn"));
+QString MomentText(DateTime moment, int blanks) {
+    return Format(moment, QStringLiteral("Short Date")) + QString(blanks, u' ') +
+           Format(moment, QStringLiteral("Hh:Nn"));
+}
+
+QString PrintDateText(int blanks) { return MomentText(Now(), blanks); }
+
+QString DateRangeText(DateTime from, DateTime to) {
+    return FormatStr(Translate("Date Range:   From %0:s to %1:s"),
+                     {MomentText(from, 1), MomentText(to, 1)});
+}
+
+void SetFrameText(darReport& report, QStringView printDate, QStringView product, QStringView page,
+                  QStringView endOfReport) {
+    report.SetText({{printDate, Translate("Print Date:")},
+                    {product, GetReportsTitle()},
+                    {page, Translate("Page")},
+                    {endOfReport, Translate("End Of Report")}});
 }
 
 void ShowLayoutFrame(DataReport& report, ReportViewer& viewer) { viewer.Show(report); }

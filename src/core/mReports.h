@@ -1,17 +1,29 @@
 #pragma once
 
+#include "DateTime.h"
+
 #include <QString>
 
 class DataReport;
 class ReportViewer;
+class darReport;
 
 /// What all reports print or do in the same way. The product title is GetReportsTitle.
 
 /// The four lines of gCompanyInfo, joined. Empty lines are kept.
 QString CompanyText();
 
-/// The time of printing in the head of a report: today's date and the time, `blanks` apart.
+/// A date and its time in hours and minutes, `blanks` apart.
+QString MomentText(DateTime moment, int blanks);
+/// The time of printing in the head of a report.
 QString PrintDateText(int blanks);
+/// "Date Range:   From ... to ...", translated.
+QString DateRangeText(DateTime from, DateTime to);
+
+/// Sets the labels that every layout has, under names of its own: the title of the print date, the
+/// product title, the title of the page number, and the end of the report.
+void SetFrameText(darReport& report, QStringView printDate, QStringView product, QStringView page,
+                  QStringView endOfReport);
 
 /// Shows a report that has its rows and its texts. Returns when the viewer is closed.
 void ShowLayoutFrame(DataReport& report, ReportViewer& viewer);

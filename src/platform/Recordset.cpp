@@ -103,6 +103,8 @@ void Recordset::FetchAll() {
         for (int column = 0; column < count; ++column)
             AppendColumn(m_rows, m_reader.Handle(), column);
         m_rows.EndRow();
+        if (OnFetch && !OnFetch())
+            break;
     }
     m_reader = {};
 }

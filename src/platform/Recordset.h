@@ -9,6 +9,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -38,6 +39,9 @@ public:
     Recordset& operator=(const Recordset&) = delete;
 
     CursorLocationKind CursorLocation = adUseServer;
+    /// If set, called for each row that a client cursor fetches. False ends the fetching: the
+    /// recordset is open with the rows that it has so far.
+    std::function<bool()> OnFetch;
 
     /// `values` replace the "?" in the source, in order. No value from the operator or the store
     /// may become part of the source itself.

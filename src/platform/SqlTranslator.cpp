@@ -113,8 +113,7 @@ QString Rendered(const Token& token) {
 struct SelectShape {
     qsizetype from = -1;
     qsizetype orderBy = -1;
-    QString firstTable;
-    bool oneTable = true;
+    QStringList tables;    ///< in the order in which they are named
     bool plainRows = true; ///< the rows of the table itself, not sums or groups
 };
 
@@ -127,8 +126,6 @@ SelectShape ShapeOf(const QList<Token>& tokens) {
             ++depth;
         else if (IsSign(token, u")"))
             --depth;
-        else if (IsWord(token, u"JOIN"))
-            shape.oneTable = false;
         else if ((depth == 0 && (IsWord(token, u"GROUP") || IsWord(token, u"UNION") ||
                                  IsWord(token, u"DISTINCT"))) ||
                  (shape.from < 0 && (IsWord(token, u"COUNT") || IsWord(token, u"MAX") ||
@@ -138,10 +135,11 @@ SelectShape ShapeOf(const QList<Token>& tokens) {
             shape.from = i;
         else if (depth == 0 && IsWord(token, u"ORDER") && shape.orderBy < 0)
             shape.orderBy = i;
-        else if (shape.from >= 0 && shape.firstTable.isEmpty() && token.kind == TokenKind::Word)
-            shape.firstTable = token.text;
+        else if (shape.from >= 0 && token.kind == TokenKind::Word &&
+                 (shape.tables.isEmpty() || IsWord(tokens[i - 1], u"JOIN")))
+            shape.tables += token.text;
     }
-    if (shape.firstTable.isEmpty())
+    if (shape.tables.isEmpty())
         shape.plainRows = false;
     return shape;
 }
@@ -153,16 +151,16 @@ bool IsTextColumn(const QString& name) {
 }
 
 QString OrderTail(const QList<Token>& tokens, const SelectShape& shape) {
-    const QString key = shape.firstTable + QStringLiteral(".rowid");
+    const QString keys = shape.tables.join(QStringLiteral(".rowid, ")) + QStringLiteral(".rowid");
     if (shape.orderBy < 0)
-        return QStringLiteral(" ORDER BY ") + key;
+        return QStringLiteral(" ORDER BY ") + keys;
     QString tail = QStringLiteral(" ORDER BY");
     for (qsizetype i = shape.orderBy + 2; i < tokens.size(); ++i) {
         tail += u' ' + Rendered(tokens[i]);
         if (tokens[i].kind == TokenKind::Word && IsTextColumn(tokens[i].text))
             tail += QStringLiteral(" COLLATE ") + QLatin1String(PeopleCollation);
     }
-    return tail + QStringLiteral(", ") + key;
+    return tail + QStringLiteral(", ") + keys;
 }
 
 } // namespace
@@ -175,8 +173,8 @@ EngineSql TranslateSql(const QString& statement, bool withRowKey) {
     const bool isSelect = IsWord(tokens[0], u"SELECT");
     const SelectShape shape = isSelect ? ShapeOf(tokens) : SelectShape{};
     const bool ordered = isSelect && shape.plainRows;
-    if (ordered && shape.oneTable) {
-        result.table = shape.firstTable;
+    if (ordered && shape.tables.size() == 1) {
+        result.table = shape.tables.first();
         result.hasRowKey = withRowKey;
     }
 

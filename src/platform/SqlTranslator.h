@@ -15,6 +15,9 @@
 /// | `memo`, `VARCHAR`          | `TEXT`                                             |
 /// | `ORDER BY tName`           | ignoring case, equal texts in the order of storing  |
 /// | a SELECT with no ORDER BY  | the order of storing                               |
+///
+/// The order of storing is, for a join, that of its tables as they are named: the first table's
+/// rows in their order, for each of them the second's, and so on.
 struct EngineSql {
     QByteArray text;
     /// The table that a recordset on the statement writes to: the one after FROM. Empty for a join

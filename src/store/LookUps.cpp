@@ -63,6 +63,18 @@ bool GroupHasButtons(int id) { return ButtonsOfGroup(id).Any(); }
 
 QList<Button> ButtonsOf(int groupId) { return All(ButtonsOfGroup(groupId), ButtonOf); }
 
+QList<EventButton> EventButtons() {
+    QList<EventButton> events;
+    for (Rows rows(QStringLiteral(
+             "SELECT tblListItems.tName, tblButtons.ID, tblButtons.tButtonCode, "
+             "tblButtons.tButtonName, tblButtons.tButtonDesc FROM tblListItems INNER JOIN "
+             "tblButtons ON tblListItems.ID = tblButtons.lParentID "
+             "WHERE (((tblListItems.wType)=2));"));
+         !rows.Eof(); rows.MoveNext())
+        events += {ButtonOf(rows), rows.Text(u"tName")};
+    return events;
+}
+
 QSet<QString> ButtonCodes() {
     QSet<QString> codes;
     for (Rows rows(QStringLiteral("SELECT tButtonCode FROM tblButtons ;")); !rows.Eof();
@@ -95,6 +107,12 @@ std::optional<ButtonData> FindButton(const QString& code) {
 
 QList<Reader> Readers() {
     return All(Rows(QStringLiteral("SELECT * FROM tblReaders ;")), ReaderOf);
+}
+
+QList<Reader> ReadersById() {
+    return All(Rows(QStringLiteral("SELECT tblReaders.tReaderId, tblReaders.tDescription FROM "
+                                   "tblReaders ORDER BY tblReaders.tReaderId;")),
+               ReaderOf);
 }
 
 QList<Reader> ReadersByDescription() {

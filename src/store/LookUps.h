@@ -31,6 +31,12 @@ struct Button {
     QString description;
 };
 QList<Button> ButtonsOf(int groupId);
+/// An event with its event book.
+struct EventButton : Button {
+    QString groupName;
+};
+/// The events of all event books, book by book.
+QList<EventButton> EventButtons();
 /// The codes of all buttons.
 QSet<QString> ButtonCodes();
 /// True if any site has a button.
@@ -56,6 +62,7 @@ inline QString ReaderText(const Reader& reader) {
     return reader.id + QStringLiteral(" - ") + reader.description;
 }
 QList<Reader> Readers();
+QList<Reader> ReadersById();
 QList<Reader> ReadersByDescription();
 /// Nothing if the reader has not been taught.
 std::optional<Reader> FindReader(const QString& id);

@@ -7,8 +7,11 @@
 /// Throws RunTimeError.
 class Rows : public Recordset {
 public:
-    explicit Rows(const QString& statement, const Values& values = {}) {
+    /// `onFetch`: see Recordset::OnFetch.
+    explicit Rows(const QString& statement, const Values& values = {},
+                  std::function<bool()> onFetch = {}) {
         CursorLocation = adUseClient;
+        OnFetch = std::move(onFetch);
         Open(statement, values, *gConn);
     }
     bool Any() { return RecordCount() > 0; }

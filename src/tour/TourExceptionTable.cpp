@@ -42,10 +42,9 @@ bool TourExceptionTable::ResetTempTourTable() {
 
 void TourExceptionTable::Drop() { DropScratchTable(Table); }
 
-void TourExceptionTable::Open() {
-    m_rows.CursorLocation = adUseClient;
-    m_rows.Open(QStringLiteral("SELECT * FROM tblXXXException"), *gConn, adOpenStatic,
-                adLockOptimistic, adCmdText);
+bool TourExceptionTable::Fill(const std::function<bool()>& make,
+                              const std::function<bool()>& write) {
+    return FillScratchTable(Table, m_rows, make, [&](Recordset&) { return write(); });
 }
 
 void TourExceptionTable::Close() {

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <functional>
+
 /// The scratch table of the tour report. A row is one line of the report and fills only the columns
 /// of its kind. It exists while a report is built and shown.
 class TourExceptionTable {
@@ -18,7 +20,9 @@ public:
     /// Drops the table if it exists.
     static void Drop();
 
-    void Open();
+    /// `make` creates the table; `write` then writes the lines. All of it is one transaction. If
+    /// one of the two gives false, nothing is left of it, and the result is false.
+    bool Fill(const std::function<bool()>& make, const std::function<bool()>& write);
     /// A separator, then the tour line.
     void WriteTourLine(int item, const QString& time, const QString& range, const QString& place,
                        const QString& status);
@@ -28,7 +32,7 @@ public:
     void WriteSeparator();
     void Close();
 
-    /// The rows written. The last one is pending until the recordset moves.
+    /// The rows written.
     Recordset& Rows() { return m_rows; }
 
 private:

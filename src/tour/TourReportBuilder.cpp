@@ -146,21 +146,20 @@ bool LoadTour(cTourReport& tour) {
     return true;
 }
 
-/// Creates the scratch table and writes all lines in one transaction. False after a message box.
+/// Creates the scratch table and writes all lines. False after a message box.
 bool WriteTable(cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table) {
-    Transaction transaction(*gConn);
-    if (!TourExceptionTable::ResetTempTourTable()) {
-        ShowFailure("<ERROR #0005>");
-        return false;
-    }
-    table.Open();
-    if (!LineWriter(tour, request, table).WriteAll()) {
-        ShowFailure("<ERROR #0006>");
-        return false;
-    }
-    table.Rows().MoveFirst(); // writes the row that is still pending
-    transaction.Commit();
-    return true;
+    const auto make = [] {
+        const bool made = TourExceptionTable::ResetTempTourTable();
+        if (!made)
+            ShowFailure("<ERROR #0005>");
+        return made;
+    };
+    return table.Fill(make, [&] {
+        const bool written = LineWriter(tour, request, table).WriteAll();
+        if (!written)
+            ShowFailure("<ERROR #0006>");
+        return written;
+    });
 }
 
 void Print(const cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table,
@@ -175,17 +174,14 @@ void Print(const cTourReport& tour, const TourReportRequest& request, TourExcept
                            {u"lblTolerance", QString::number(tour.Tolerance)},
                            {u"lblCompanyInfo", CompanyText()},
                            {u"lblOptions", Translate(request.IncludeEvents ? "Yes" : "No")}});
-    report.SetText({{u"Label17", Translate("Print Date:")},
-                    {u"Label19", GetReportsTitle()},
-                    {u"Label16", Translate("Page")},
-                    {u"lblTitleReaderID", Translate("Reader ID:")},
+    SetFrameText(report, u"Label17", u"Label19", u"Label16", u"lblEndOfReport");
+    report.SetText({{u"lblTitleReaderID", Translate("Reader ID:")},
                     {u"lblDate", Translate("Tour Date:")},
                     {u"lblTitleTourName", Translate("Tour Name:")},
                     {u"lblTitleTolerance", Translate("Tolerance (min):")},
                     {u"lblTitleTourTime", Translate("Time")},
                     {u"lblSite", Translate("Site/Location")},
                     {u"lblActualTime", Translate("Status")},
-                    {u"lblEndOfReport", Translate("End Of Report")},
                     {u"lblShowEvents", Translate("Show Events:")}});
     ShowLayoutFrame(report, viewer);
 }

@@ -1,5 +1,7 @@
 // The command line as scripts use it: the built programs, a store file and a simulated dock.
 
+#include "CommandOptions.h"
+#include "CommandParser.h"
 #include "Dock.h"
 #include "TestHome.h"
 #include "TestTable.h"
@@ -102,6 +104,27 @@ private slots:
             QVERIFY(outcome.err.count('\n') == 1 && outcome.err.size() < 500);
             QVERIFY(!outcome.err.contains('\x1b') && !outcome.err.contains('\x07'));
         }
+    }
+
+    void ReadsRepeatedOptionsAndAnyMinute() {
+        CommandParser parser("wardlockctl", "do");
+        QStringList readers;
+        DateTime to;
+        AddReaders(parser.Options(), "--reader", readers, "");
+        AddMinute(parser.Options(), "--to", to, "");
+        parser.Parse({"--reader", "4b5831a7", "do", "--to=9999-12-31T23:59", "--reader=00000001",
+                      "--reader", "4B5831A7"});
+        QCOMPARE(readers, (QStringList{"4B5831A7", "00000001"}));
+        QCOMPARE(to, DateTime::FromQt(QDate(9999, 12, 31)) + DateTime::FromTime(23, 59));
+        parser.Parse({"do", "--to", "0100-01-01T00:00"});
+        QCOMPARE(to.ToQDate(), QDate(100, 1, 1));
+        for (const char* wrong :
+             {"--to 0099-12-31T23:59", "--to 10000-01-01T00:00", "--to 2026-11-21T24:00",
+              "--to 2026-11-21T10:00:00", "--to 2026-11-21T10:00 --reader 4B5831A7 00000001",
+              "--to 2026-11-21T10:00 --reader 4B5831A7 --reader x"})
+            QVERIFY_THROWS_EXCEPTION(
+                UsageError,
+                parser.Parse(QStringList{"do"} + QString::fromLatin1(wrong).split(u' ')));
     }
 
     // An example that is wrong usage would end with 2; without a store it ends with 1.

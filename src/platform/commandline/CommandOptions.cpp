@@ -11,20 +11,63 @@ namespace {
 /// Stores a value. If it is unsuitable, returns what was expected.
 using Convert = std::function<std::optional<QString>(const QString& value)>;
 
-void AddValue(CLI::App& options, const char* name, const char* kind, const char* help,
-              Presence presence, const Convert& convert) {
+CLI::Option* AddValue(CLI::App& options, const char* name, const char* kind, const char* help,
+                      Presence presence, const Convert& convert) {
     const auto store = [name, convert](const CLI::results_t& given) {
-        const QString value = QString::fromStdString(given.front());
-        const QString option = QString::fromUtf8(name);
-        if (value.isEmpty())
-            throw UsageError(option + QStringLiteral(" is empty"));
-        if (const std::optional<QString> expected = convert(value))
-            throw UsageError(option + u' ' + value + QStringLiteral(": expected ") + *expected);
+        for (const std::string& text : given) {
+            const QString value = QString::fromStdString(text);
+            const QString option = QString::fromUtf8(name);
+            if (value.isEmpty())
+                throw UsageError(option + QStringLiteral(" is empty"));
+            if (const std::optional<QString> expected = convert(value))
+                throw UsageError(option + u' ' + value + QStringLiteral(": expected ") + *expected);
+        }
         return true;
     };
-    options.add_option(name, store, help)
+    return options.add_option(name, store, help)
         ->type_name(kind)
         ->required(presence == Presence::Required);
+}
+
+/// A code of `digits` hexadecimal digits, as the store writes it.
+struct CodeKind {
+    const char* name;
+    int digits;
+    const char* expected;
+};
+constexpr CodeKind ReaderId{"ID", 8, "eight hexadecimal digits"};
+constexpr CodeKind ButtonCode{"CODE", 6, "six hexadecimal digits"};
+
+CLI::Option* AddHexadecimal(CLI::App& options, const char* name, const CodeKind& kind,
+                            const char* help, Presence presence,
+                            const std::function<void(const QString& code)>& store) {
+    return AddValue(options, name, kind.name, help, presence,
+                    [kind, store](const QString& text) -> std::optional<QString> {
+                        static const QRegularExpression hexadecimal(
+                            QStringLiteral("\\A[0-9A-Fa-f]+\\z"));
+                        if (text.size() != kind.digits || !hexadecimal.match(text).hasMatch())
+                            return QString::fromUtf8(kind.expected);
+                        store(text.toUpper());
+                        return {};
+                    });
+}
+
+void AddHexadecimals(CLI::App& options, const char* name, const CodeKind& kind, QStringList& values,
+                     const char* help) {
+    AddHexadecimal(options, name, kind, help, Presence::Optional, [&values](const QString& code) {
+        if (!values.contains(code))
+            values += code;
+    })->take_all();
+}
+
+/// Nothing if the text is not a minute. Date and time are read apart: the computer's summer time
+/// must not matter, so every hour of every day exists.
+std::optional<DateTime> MinuteOf(const QString& text, const QDate& first, const QDate& last) {
+    const QDate date = QDate::fromString(text.left(10), QStringLiteral("yyyy-MM-dd"));
+    const QTime time = QTime::fromString(text.mid(10), QStringLiteral("THH:mm"));
+    if (!date.isValid() || !time.isValid() || date < first || date > last)
+        return {};
+    return DateTime::FromQt(date) + DateTime::FromTime(time.hour(), time.minute());
 }
 
 } // namespace
@@ -96,27 +139,55 @@ void AddMoment(CLI::App& options, const char* name, std::optional<DateTime>& val
                const char* help) {
     AddValue(options, name, "YYYY-MM-DDTHH:MM", help, Presence::Optional,
              [&value](const QString& text) -> std::optional<QString> {
-                 // Date and time are read apart: a reader's clock has no summer time, so every
-                 // hour of every day exists.
-                 const QDate date = QDate::fromString(text.left(10), QStringLiteral("yyyy-MM-dd"));
-                 const QTime time = QTime::fromString(text.mid(10), QStringLiteral("THH:mm"));
-                 if (!date.isValid() || !time.isValid() || date < QDate(2000, 1, 1) ||
-                     date > QDate(2179, 6, 6))
+                 const std::optional<DateTime> moment =
+                     MinuteOf(text, QDate(2000, 1, 1), QDate(2179, 6, 6));
+                 if (!moment)
                      return QStringLiteral("a time as YYYY-MM-DDTHH:MM, from 2000 to 2179");
-                 value = DateTime::FromQt(date) + DateTime::FromTime(time.hour(), time.minute());
+                 value = moment;
+                 return {};
+             });
+}
+
+void AddMinute(CLI::App& options, const char* name, DateTime& value, const char* help) {
+    AddValue(options, name, "YYYY-MM-DDTHH:MM", help, Presence::Required,
+             [&value](const QString& text) -> std::optional<QString> {
+                 const std::optional<DateTime> minute =
+                     MinuteOf(text, QDate(100, 1, 1), QDate(9999, 12, 31));
+                 if (!minute)
+                     return QStringLiteral("a time as YYYY-MM-DDTHH:MM, from 0100 to 9999");
+                 value = *minute;
                  return {};
              });
 }
 
 void AddReader(CLI::App& options, const char* name, QString& value, const char* help) {
-    AddValue(options, name, "ID", help, Presence::Required,
-             [&value](const QString& text) -> std::optional<QString> {
-                 static const QRegularExpression identifier(QStringLiteral("\\A[0-9A-Fa-f]{8}\\z"));
-                 if (!identifier.match(text).hasMatch())
-                     return QStringLiteral("eight hexadecimal digits");
-                 value = text.toUpper();
-                 return {};
-             });
+    AddHexadecimal(options, name, ReaderId, help, Presence::Required,
+                   [&value](const QString& id) { value = id; });
+}
+
+void AddOptionalReader(CLI::App& options, const char* name, QString& value, const char* help) {
+    AddHexadecimal(options, name, ReaderId, help, Presence::Optional,
+                   [&value](const QString& id) { value = id; });
+}
+
+void AddReaders(CLI::App& options, const char* name, QStringList& values, const char* help) {
+    AddHexadecimals(options, name, ReaderId, values, help);
+}
+
+void AddOptionalCode(CLI::App& options, const char* name, QString& value, const char* help) {
+    AddHexadecimal(options, name, ButtonCode, help, Presence::Optional,
+                   [&value](const QString& code) { value = code; });
+}
+
+void AddCodes(CLI::App& options, const char* name, QStringList& values, const char* help) {
+    AddHexadecimals(options, name, ButtonCode, values, help);
+}
+
+void AddOptionalText(CLI::App& options, const char* name, QString& value, const char* help) {
+    AddValue(options, name, "NAME", help, Presence::Optional, [&value](const QString& text) {
+        value = text;
+        return std::nullopt;
+    });
 }
 
 void AddWord(CLI::App& options, const char* name, const QStringList& words,

@@ -2,7 +2,7 @@
 
 #include "DateTime.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <initializer_list>
@@ -43,8 +43,20 @@ void AddDate(CLI::App& options, const char* name, DateTime& value, const char* h
 /// A minute, as YYYY-MM-DDTHH:MM, from 2000 to 2179: the range of a reader's clock.
 void AddMoment(CLI::App& options, const char* name, std::optional<DateTime>& value,
                const char* help);
+/// A required minute, as YYYY-MM-DDTHH:MM, of the years 100 to 9999.
+void AddMinute(CLI::App& options, const char* name, DateTime& value, const char* help);
 /// A required reader: its identifier of eight hexadecimal digits, stored in upper case.
 void AddReader(CLI::App& options, const char* name, QString& value, const char* help);
+void AddOptionalReader(CLI::App& options, const char* name, QString& value, const char* help);
+/// Readers: the option may be given any number of times. Each reader is stored once, in the order
+/// of the call.
+void AddReaders(CLI::App& options, const char* name, QStringList& values, const char* help);
+/// A button's code of six hexadecimal digits, stored in upper case.
+void AddOptionalCode(CLI::App& options, const char* name, QString& value, const char* help);
+/// Codes, any number of times, as AddReaders does.
+void AddCodes(CLI::App& options, const char* name, QStringList& values, const char* help);
+/// A name, such as that of a site.
+void AddOptionalText(CLI::App& options, const char* name, QString& value, const char* help);
 
 /// One of several words; `store` takes the number of the chosen one.
 void AddWord(CLI::App& options, const char* name, const QStringList& words,

@@ -52,7 +52,8 @@ CommandParser::Call CommandParser::Read(const QStringList& arguments) const {
         const bool takesValue = option && option->get_items_expected_max() > 0;
         if (!option)
             fault(QStringLiteral("unknown option ") + name);
-        else if (names.contains(name))
+        else if (names.contains(name) &&
+                 option->get_multi_option_policy() != CLI::MultiOptionPolicy::TakeAll)
             fault(name + QStringLiteral(" is given twice"));
         else if (!takesValue && equals >= 0)
             fault(name + QStringLiteral(" takes no value"));

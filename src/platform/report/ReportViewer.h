@@ -1,5 +1,7 @@
 #pragma once
 
+#include "WorkProgress.h"
+
 class DataReport;
 
 /// Shows finished reports: in the station's preview window, or as a file of the command line.
@@ -9,4 +11,9 @@ public:
     /// Shows a report and returns when the user has closed it. The report and its rows must outlive
     /// the call.
     virtual void Show(DataReport& report) = 0;
+    /// To be called while the rows of a report are made (RowProgress). What it shows goes away with
+    /// the last copy of the function.
+    virtual WorkProgress Progress() {
+        return [](int, int) { return true; };
+    }
 };

@@ -6,8 +6,11 @@ constexpr int AppearsAfter = 1000; // milliseconds
 
 } // namespace
 
-ProgressWindow::ProgressWindow(const char* title, TranslateText translate, QWidget* parent)
-    : m_translate(std::move(translate)), m_window(parent) {
+ProgressWindow::ProgressWindow(const char* title, TranslateText translate, QWidget* parent,
+                               const char* text)
+    : m_translate(std::move(translate)), m_countsPages(!text), m_window(parent) {
+    if (text)
+        m_window.setLabelText(m_translate(QString::fromUtf8(text)));
     m_window.setWindowTitle(m_translate(QString::fromUtf8(title)));
     m_window.setCancelButtonText(m_translate(QStringLiteral("Cancel")));
     m_window.setWindowModality(Qt::ApplicationModal);
@@ -17,8 +20,10 @@ ProgressWindow::ProgressWindow(const char* title, TranslateText translate, QWidg
 
 bool ProgressWindow::operator()(int done, int all) {
     m_window.setMaximum(all);
-    m_window.setLabelText(m_translate(QStringLiteral("Page")) + u' ' + QString::number(done + 1) +
-                          u' ' + m_translate(QStringLiteral("of")) + u' ' + QString::number(all));
+    if (m_countsPages)
+        m_window.setLabelText(m_translate(QStringLiteral("Page")) + u' ' +
+                              QString::number(done + 1) + u' ' + m_translate(QStringLiteral("of")) +
+                              u' ' + QString::number(all));
     m_window.setValue(done); // handles events once the window is visible
     if (m_window.isVisible())
         m_hourglass.reset();

@@ -6,19 +6,22 @@
 
 #include <optional>
 
-/// Shows the progress of long work on pages, with a button that cancels it. It appears only if the
+/// Shows the progress of long work, with a button that cancels it. It appears only if the
 /// work takes longer than about a second; until then the hourglass is shown and no events are
 /// handled. While it is visible, no other window takes keys or clicks.
 class ProgressWindow {
 public:
-    /// `title` is in English.
-    ProgressWindow(const char* title, TranslateText translate, QWidget* parent);
+    /// Both texts are in English. Without `text` it shows "Page 3 of 12".
+    ProgressWindow(const char* title, TranslateText translate, QWidget* parent,
+                   const char* text = nullptr);
 
-    /// Call it before each page. False once the operator has cancelled the work.
+    /// A WorkProgress: call it before each page, or now and then. False once the operator has
+    /// cancelled the work.
     bool operator()(int done, int all);
 
 private:
     TranslateText m_translate;
+    bool m_countsPages;
     std::optional<Hourglass> m_hourglass{std::in_place};
     QProgressDialog m_window;
 };

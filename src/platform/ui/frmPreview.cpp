@@ -239,8 +239,19 @@ void frmPreview::Export() {
 }
 
 void PreviewViewer::Show(DataReport& report) {
-    QWidget* over = QApplication::activeModalWidget();
-    frmPreview window(report, m_translate, over ? over : m_parent);
+    frmPreview window(report, m_translate, Over());
     const ArrowPointer arrow;
     window.exec();
+}
+
+WorkProgress PreviewViewer::Progress() {
+    const auto window = std::make_shared<ProgressWindow>(
+        QT_TR_NOOP("Generating Report"), m_translate, Over(),
+        QT_TR_NOOP("Please wait, generating report (this may take a few minutes)"));
+    return [window](int done, int all) { return (*window)(done, all); };
+}
+
+QWidget* PreviewViewer::Over() const {
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal ? modal : m_parent;
 }

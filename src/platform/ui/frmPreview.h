@@ -65,8 +65,13 @@ public:
     PreviewViewer(QWidget* parent, TranslateText translate)
         : m_parent(parent), m_translate(std::move(translate)) {}
     void Show(DataReport& report) override;
+    /// A ProgressWindow.
+    WorkProgress Progress() override;
 
 private:
+    /// The window over which the next one is shown.
+    QWidget* Over() const;
+
     QWidget* m_parent;
     TranslateText m_translate;
 };
