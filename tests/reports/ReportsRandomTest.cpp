@@ -175,7 +175,7 @@ class ReportsRandomTest : public QObject {
         if (kind < 5)
             return {m_day - Upto(1) * Day, m_day + (2 + Upto(2)) * Day + 86'340};
         if (kind == 5)
-            return {Seconds{36'526} * Day, Seconds{102'000} * Day}; // 2000 and 2179
+            return {Seconds{-657'434} * Day, Seconds{2'958'466} * Day - 60}; // years 100 to 9999
         const Seconds from = minute();
         return {from, kind == 6 ? from : minute()};
     }
