@@ -187,7 +187,9 @@ class ReportsRandomTest : public QObject {
         m_day = OneOf(QList<Seconds>{46'109, 46'319, 45'350, 46'022, 36'526}) * Day;
         int id = 0;
         for (int count = OneIn(12) ? 0 : 2 + Upto(4); count > 0; --count)
-            site.groups += {id += 1 + Upto(1), Maybe(OneOf(QList<int>{0, 1, 1, 1, 2, 2, 2, 7})),
+            site.groups += {id += 1 + Upto(1),
+                            Maybe(OneIn(3) ? OneOf(QList<int>{0, 1, 2, 7})
+                                           : static_cast<int>(site.groups.size() % 2) + 1),
                             Name(), Name()};
         QStringList codes = m_codes;
         std::shuffle(codes.begin(), codes.end(), m_random);
