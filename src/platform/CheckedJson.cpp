@@ -87,6 +87,13 @@ CheckedJson CheckedJson::Child(const char* key) {
             PlaceOf(QStringLiteral("\"%1\"").arg(QLatin1String(key)))};
 }
 
+void CheckedJson::AddDefaults(const QJsonObject& defaults, const QString& origin) {
+    for (auto property = defaults.begin(); property != defaults.end(); ++property)
+        if (!m_object.contains(property.key()))
+            m_object.insert(property.key(), property.value());
+    m_place = PlaceOf(origin);
+}
+
 std::vector<CheckedJson> CheckedJson::List(const char* key, const char* what, const char* nameKey) {
     std::vector<CheckedJson> entries;
     if (!Has(key))

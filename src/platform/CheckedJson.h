@@ -50,6 +50,9 @@ public:
     /// The objects of a list; none if it is not there. Messages call them by `what`, their number
     /// from 1, and the text under `nameKey`, if they have one.
     std::vector<CheckedJson> List(const char* key, const char* what, const char* nameKey);
+    /// Adds the properties of `defaults` that this object does not have. `origin` says in messages
+    /// where they are from.
+    void AddDefaults(const QJsonObject& defaults, const QString& origin);
     /// Unchecked; undefined if it is not there.
     QJsonValue Value(const char* key) { return m_object.take(QLatin1String(key)); }
 

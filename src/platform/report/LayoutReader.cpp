@@ -47,15 +47,31 @@ bool CountryUsesLetter() {
     }
 }
 
+QString PathOf(const QString& name) { return QStringLiteral(":/layouts/%1.json").arg(name); }
+
+QByteArray ContentsOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
+                           QStringLiteral("The report layout \"%1\" cannot be read: %2")
+                               .arg(path, file.errorString()));
+    return file.readAll();
+}
+
 class LayoutReader {
 public:
     explicit LayoutReader(const QString& file) { m_layout.file = file; }
 
     ReportLayout Read(const QByteArray& json) {
-        CheckedJson top =
-            CheckedJson::Parse(json, QStringLiteral("Layout \"%1\"").arg(m_layout.file));
-        ReadPage(top.Child("page"));
-        ReadFont(top.Child("font"));
+        CheckedJson top = Parse(json, m_layout.file);
+        if (top.Has("family")) {
+            const QString path = PathOf(top.Text("family"));
+            CheckedJson family = Parse(ContentsOf(path), path);
+            ReadShared(family);
+            family.RejectLeftOvers();
+        } else {
+            ReadShared(top);
+        }
         top.Require("sections");
         for (CheckedJson& section : top.List("sections", "section", "name"))
             ReadSection(section);
@@ -66,6 +82,27 @@ public:
     }
 
 private:
+    static CheckedJson Parse(const QByteArray& json, const QString& file) {
+        return CheckedJson::Parse(json, QStringLiteral("Layout \"%1\"").arg(file));
+    }
+
+    /// What a family of layouts can share.
+    void ReadShared(CheckedJson& node) {
+        ReadPage(node.Child("page"));
+        ReadFont(node.Child("font"));
+        m_styles = node.Value("styles").toObject();
+    }
+
+    /// Adds what the style says that the section or control names.
+    void ApplyStyle(CheckedJson& node) const {
+        if (!node.Has("style"))
+            return;
+        const QString name = node.Text("style");
+        if (!m_styles.value(name).isObject())
+            node.Reject(QStringLiteral("there is no style \"%1\"").arg(name));
+        node.AddDefaults(m_styles.value(name).toObject(), QStringLiteral("style \"%1\"").arg(name));
+    }
+
     void ReadPage(CheckedJson node) {
         enum class Paper { ByCountry, A4, Letter };
         const Paper paper = node.Choice<Paper>(
@@ -88,10 +125,12 @@ private:
         if (m_layout.fontFamilies.isEmpty())
             node.Reject(QStringLiteral("\"families\" is empty"));
         m_defaultPoints = node.Number("size", SmallestPoints, LargestPoints);
+        m_defaultColour = Colour(node, Qt::black);
         node.RejectLeftOvers();
     }
 
     void ReadSection(CheckedJson& node) {
+        ApplyStyle(node);
         const auto kind =
             node.Choice<SectionKind>("kind", {{"reportHeader", SectionKind::ReportHeader},
                                               {"pageHeader", SectionKind::PageHeader},
@@ -126,6 +165,7 @@ private:
     }
 
     void ReadControl(CheckedJson& node, ReportSection& section) {
+        ApplyStyle(node);
         const QString name = NameOf(node);
         const auto kind = node.Choice<ControlKind>("type", {{"label", ControlKind::Label},
                                                             {"textBox", ControlKind::TextBox},
@@ -135,12 +175,15 @@ private:
             node.Reject(QStringLiteral("there are two of that name"));
 
         ControlStyle style;
-        style.box = QRect(Length(node, "left"), Length(node, "top"), Length(node, "width"),
-                          Length(node, "height"));
-        if (style.box.left() + style.box.width() > m_layout.contentWidth ||
+        style.box = QRect(Length(node, "left"), 0, Length(node, "width"), Length(node, "height"));
+        if (node.Has("bottom"))
+            style.box.moveTop(section.Height() - Length(node, "bottom") - style.box.height());
+        else
+            style.box.moveTop(Length(node, "top"));
+        if (style.box.left() + style.box.width() > m_layout.contentWidth || style.box.top() < 0 ||
             style.box.top() + style.box.height() > section.Height())
             node.Reject(QStringLiteral("it reaches beyond its section"));
-        style.colour = Colour(node);
+        style.colour = Colour(node, m_defaultColour);
 
         QString caption;
         QString dataField;
@@ -182,8 +225,8 @@ private:
         return name;
     }
 
-    static QColor Colour(CheckedJson& node) {
-        const QString text = node.Text("colour", QStringLiteral("#000000"));
+    static QColor Colour(CheckedJson& node, const QColor& otherwise) {
+        const QString text = node.Text("colour", otherwise.name());
         const QColor colour(text);
         if (!colour.isValid())
             node.Reject(QStringLiteral("\"%1\" is not a colour").arg(text));
@@ -212,7 +255,9 @@ private:
     }
 
     ReportLayout m_layout;
+    QJsonObject m_styles;
     double m_defaultPoints = 0;
+    QColor m_defaultColour;
 };
 
 } // namespace
@@ -234,11 +279,6 @@ ReportLayout ReadReportLayout(const QByteArray& json, const QString& file) {
 }
 
 ReportLayout LoadReportLayout(const QString& name) {
-    const QString path = QStringLiteral(":/layouts/%1.json").arg(name);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                           QStringLiteral("The report layout \"%1\" cannot be read: %2")
-                               .arg(path, file.errorString()));
-    return ReadReportLayout(file.readAll(), path);
+    const QString path = PathOf(name);
+    return ReadReportLayout(ContentsOf(path), path);
 }

@@ -38,10 +38,17 @@ struct ReportLayout {
 ///
 ///     { "page": { "size": "A4 or Letter", "width": 178, "marginTop": 12, "marginBottom": 12 },
 ///       "font": { "families": ["Liberation Sans", "Arial"], "size": 9 },
+///       "styles": { "value": { "type": "label", "width": 40, "height": 5, "bold": true } },
 ///       "sections": [
 ///         { "name": "Section2", "kind": "pageHeader", "height": 30, "controls": [
-///           { "name": "lblPage", "type": "label", "left": 0, "top": 0, "width": 40, "height": 5,
-///             "caption": "%p / %P", "align": "right" } ] } ] }
+///           { "name": "lblPage", "style": "value", "left": 0, "top": 0, "caption": "%p / %P" }
+///           ] } ] }
+///
+/// Layouts that must look the same share a family: with "family": "family", page, font and styles
+/// are those of family.json. Such a layout has none of its own.
+///
+/// A section or a control may name a style. It has the properties of the style, except those that
+/// it gives itself. A style has any properties that a section or a control can have, but no style.
 ///
 /// Page size: "A4", "Letter", or "A4 or Letter", which is Letter where the user's country uses it.
 /// Width: of the sections, which are centred on the paper. Section kinds: reportHeader, pageHeader,
@@ -51,11 +58,15 @@ struct ReportLayout {
 /// "rows": what an export calls the rows of one group }. The rows of the source are ordered by that
 /// column.
 ///
+/// A control's place is given by its "left", and by its "top" or by "bottom": the distance of its
+/// lower edge from the lower edge of the section.
+///
 /// Control types: label ("caption"), textBox ("field", the column; in the detail and in the header
 /// and footer of a group), line ("thickness"; its width or its height is 0). Texts also have
 /// "size", "bold", "italic", "colour" ("#rrggbb"), "align" (left, centre, right), "verticalAlign"
 /// (top, centre, bottom). A text that is too large for its box is made to fit (FittedText.h). A
-/// text of nothing but underscores is drawn as one rule.
+/// text of nothing but underscores is drawn as one rule. The font's size and colour are the
+/// default.
 ReportLayout LoadReportLayout(const QString& name);
 
 /// The same from bytes; `file` is what messages call them.
