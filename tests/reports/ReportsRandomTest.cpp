@@ -256,29 +256,25 @@ class ReportsRandomTest : public QObject {
         Outcome expected;
     };
 
-    /// Some of the list, each as a value of the option.
-    QStringList SomeOf(const QStringList& list, const QString& option, QStringList& options) {
-        QStringList some;
+    /// Some of the list in any order, each as a value of the option.
+    QStringList SomeOf(QStringList list, const QString& option, QStringList& options) {
+        std::shuffle(list.begin(), list.end(), m_random);
+        list.resize(Upto(static_cast<int>(list.size())));
         for (const QString& value : list)
-            if (OneIn(3)) {
-                some += value;
-                options += {option, value};
-            }
-        return some;
+            options += {option, value};
+        return list;
     }
 
     Call RandomCall(const Site& site, const QString& word) {
         Call call{word, {}, {}};
         QStringList& options = call.options;
-        Range range = RandomRange();
+        const Range range = RandomRange();
         if (word != u"schedule" && word != u"hardware")
             options = {"--from", Moment(range.from), "--to", Moment(range.to)};
         const Range wholeMinute{range.from, range.to + 59};
         if (word == u"incident") {
-            const QStringList readers =
-                OneIn(2) ? QStringList() : SomeOf(m_readerIds, "--reader", options);
-            const QStringList codes =
-                OneIn(2) ? QStringList() : SomeOf(EventCodes(site), "--event", options);
+            const QStringList readers = SomeOf(m_readerIds, "--reader", options);
+            const QStringList codes = SomeOf(EventCodes(site), "--event", options);
             call.expected = Incident(site, wholeMinute, readers, codes);
         } else if (word == u"incident-sites") {
             QString code, place, reader;
