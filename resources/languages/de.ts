@@ -288,6 +288,66 @@
         <translation>Rundgangs- / Abweichungsbericht</translation>
     </message>
     <message>
+        <source>Patrol Schedule</source>
+        <translation>Rundgangsplan</translation>
+    </message>
+    <message>
+        <source>Lists the times and places for a tour</source>
+        <translation>Listet die Zeiten und Orte eines Rundgangs auf</translation>
+    </message>
+    <message>
+        <source>Patrol Schedule Report</source>
+        <translation>Rundgangsplan</translation>
+    </message>
+    <message>
+        <source>Select the tour from which the tour schedule will be created.</source>
+        <translation>Den Rundgang wählen, für den der Plan erstellt wird.</translation>
+    </message>
+    <message>
+        <source>Tour Description:</source>
+        <translation>Beschreibung:</translation>
+    </message>
+    <message>
+        <source>Tour Tolerance:</source>
+        <translation>Toleranz:</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Hardware List Report</source>
+        <translation>Hardwareliste</translation>
+    </message>
+    <message>
+        <source>List all the defined buttons</source>
+        <translation>Listet alle angelegten Kontakte auf</translation>
+    </message>
+    <message>
+        <source>Select the options for the hardware report</source>
+        <translation>Auswählen, was die Hardwareliste enthält</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>Locations</source>
+        <translation>Kontaktstellen</translation>
+    </message>
+    <message>
+        <source>Incidents</source>
+        <translation>Vorfälle</translation>
+    </message>
+    <message>
+        <source>Hardware Code</source>
+        <translation>Hardware-Code</translation>
+    </message>
+    <message>
         <source>You must add at least one reader before this report can be used</source>
         <translation>Für diesen Bericht muss mindestens ein Leser angelegt sein</translation>
     </message>

@@ -1,12 +1,16 @@
 #include "ReportCatalogue.h"
 
+#include "HardwareListRow.h"
 #include "LookUps.h"
+#include "PatrolScheduleRow.h"
 #include "TourReportRow.h"
 #include "mTranslations.h"
 
 const std::vector<ReportRow>& ReportCatalogue() {
     static const std::vector<ReportRow> rows = {
         TourReportRow(),
+        HardwareListRow(),
+        PatrolScheduleRow(),
     };
     return rows;
 }

@@ -58,9 +58,9 @@ void frmMdiReports::AddReportItem(const QString& key, const QString& name,
 }
 
 void frmMdiReports::SizeColumns() {
-    const int hundredth = (TwipsOf(m_ui->lvwReports->width()) - 240) / 100;
-    m_ui->lvwReports->setColumnWidth(0, PixelsOf(hundredth * 50));
-    m_ui->lvwReports->setColumnWidth(1, PixelsOf(hundredth * 50));
+    const int half = ColumnWidth(m_ui->lvwReports->width(), 50);
+    m_ui->lvwReports->setColumnWidth(0, half);
+    m_ui->lvwReports->setColumnWidth(1, half);
 }
 
 void frmMdiReports::resizeEvent(QResizeEvent* event) {

@@ -72,3 +72,8 @@ void ShowPicture(QLabel& label, const QString& path);
 /// Lengths in twips: 1440 to the inch, 15 to a pixel of an ordinary screen.
 constexpr int PixelsOf(int twips) { return twips / 15; }
 constexpr int TwipsOf(int pixels) { return pixels * 15; }
+/// The width, in pixels, of a column that takes that many hundredths of a list, apart from a margin
+/// of the list.
+constexpr int ColumnWidth(int listWidth, int hundredths) {
+    return PixelsOf((TwipsOf(listWidth) - 240) / 100 * hundredths);
+}
