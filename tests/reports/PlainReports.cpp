@@ -256,7 +256,7 @@ Outcome PlainReports::Schedule(const Site& site, int id) {
     if (id < 1 || tour == site.tours.end())
         return Refused("Error in creating new Tour");
     if (tour->tolerance > 59)
-        return Refused("", "Error 13");
+        return Refused("Error 13", "Error 13");
     const Seconds tolerance = tour->tolerance.value_or(0) * 60;
     QList<Point> points = tour->points;
     std::stable_sort(points.begin(), points.end(),
