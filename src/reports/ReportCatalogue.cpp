@@ -1,12 +1,14 @@
 #include "ReportCatalogue.h"
 
 #include "LookUps.h"
+#include "ReaderReportRow.h"
 #include "TourReportRow.h"
 #include "mTranslations.h"
 
 const std::vector<ReportRow>& ReportCatalogue() {
     static const std::vector<ReportRow> rows = {
         TourReportRow(),
+        ReaderReportRow(),
     };
     return rows;
 }

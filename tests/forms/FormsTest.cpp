@@ -24,6 +24,7 @@
 #include "frmMdiReports.h"
 #include "frmPreview.h"
 #include "frmPrpComms.h"
+#include "frmRptReaderReport.h"
 #include "frmRptTour.h"
 #include "frmSetTime.h"
 #include "frmSplash.h"
@@ -108,6 +109,7 @@ const std::map<QString, Maker>& Makers() {
         {"frmMdiMenu", Plain<frmMdiMenu>()},
         {"frmMdiReports", WithViewer<frmMdiReports>()},
         {"frmPrpComms", Plain<frmPrpComms>()},
+        {"frmRptReaderReport", WithViewer<frmRptReaderReport>()},
         {"frmRptTour", WithViewer<frmRptTour>()},
         {"frmSetTime", WithLink<frmSetTime>()},
         {"frmSplash", [](DockingLink&, ReportViewer&) { return std::make_unique<frmSplash>(); }},
