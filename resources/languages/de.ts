@@ -504,6 +504,34 @@
         <translation>Keine Daten für den Bericht</translation>
     </message>
     <message>
+        <source>There is no data to show for these parameters</source>
+        <translation>Für diese Angaben sind keine Daten vorhanden</translation>
+    </message>
+    <message>
+        <source>The start date cannot be later than the end date</source>
+        <translation>Der Anfang darf nicht nach dem Ende liegen</translation>
+    </message>
+    <message>
+        <source>Reader Download Report</source>
+        <translation>Auslesebericht</translation>
+    </message>
+    <message>
+        <source>Lists details of each download to the PC for a reader</source>
+        <translation>Zeigt alles, was aus einem Leser ausgelesen wurde</translation>
+    </message>
+    <message>
+        <source>Download Time:</source>
+        <translation>Ausgelesen am:</translation>
+    </message>
+    <message>
+        <source>Date / Time</source>
+        <translation>Datum / Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
         <source>Print Date:</source>
         <translation>Druckdatum:</translation>
     </message>
@@ -710,6 +738,14 @@
     <message>
         <source>Select the tour and start date to create the report</source>
         <translation>Rundgang und Datum für den Bericht wählen</translation>
+    </message>
+    <message>
+        <source>Select the date range and reader ID to create the Reader Download Report</source>
+        <translation>Zeitraum und Leser für den Bericht wählen</translation>
+    </message>
+    <message>
+        <source>Reset Dates</source>
+        <translation>Auf heute setzen</translation>
     </message>
     <message>
         <source>Parameters</source>

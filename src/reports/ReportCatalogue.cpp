@@ -3,12 +3,14 @@
 #include "HardwareListRow.h"
 #include "LookUps.h"
 #include "PatrolScheduleRow.h"
+#include "ReaderReportRow.h"
 #include "TourReportRow.h"
 #include "mTranslations.h"
 
 const std::vector<ReportRow>& ReportCatalogue() {
     static const std::vector<ReportRow> rows = {
         TourReportRow(),
+        ReaderReportRow(),
         HardwareListRow(),
         PatrolScheduleRow(),
     };

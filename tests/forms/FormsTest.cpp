@@ -26,6 +26,7 @@
 #include "frmPrpComms.h"
 #include "frmRptHardwareListParam.h"
 #include "frmRptPatrolSchedule.h"
+#include "frmRptReaderReport.h"
 #include "frmRptTour.h"
 #include "frmSetTime.h"
 #include "frmSplash.h"
@@ -112,6 +113,7 @@ const std::map<QString, Maker>& Makers() {
         {"frmPrpComms", Plain<frmPrpComms>()},
         {"frmRptHardwareListParam", WithViewer<frmRptHardwareListParam>()},
         {"frmRptPatrolSchedule", WithViewer<frmRptPatrolSchedule>()},
+        {"frmRptReaderReport", WithViewer<frmRptReaderReport>()},
         {"frmRptTour", WithViewer<frmRptTour>()},
         {"frmSetTime", WithLink<frmSetTime>()},
         {"frmSplash", [](DockingLink&, ReportViewer&) { return std::make_unique<frmSplash>(); }},
