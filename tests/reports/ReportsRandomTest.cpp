@@ -195,7 +195,7 @@ class ReportsRandomTest : public QObject {
         QStringList codes = m_codes;
         std::shuffle(codes.begin(), codes.end(), m_random);
         id = 0;
-        for (int count = OneIn(12) ? 0 : 3 + Upto(6); count > 0; --count) {
+        for (int count = OneIn(15) ? 0 : 5 + Upto(5); count > 0; --count) {
             const QString code = OneIn(8) ? OneOf(m_codes) : codes[count % codes.size()];
             const int group = site.groups.isEmpty() || OneIn(12) ? 99 : OneOf(site.groups).id;
             site.buttons += {id += 1 + Upto(1), Maybe(group), MaybeText(code), Name(), Name()};
