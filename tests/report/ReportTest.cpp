@@ -11,8 +11,11 @@
 #include "TourExceptionTable.h"
 #include "darTourException.h"
 
+#include <QBuffer>
 #include <QImage>
 #include <QPainter>
+#include <QRegularExpression>
+#include <QStringDecoder>
 
 #include <cmath>
 #include <random>
@@ -25,7 +28,7 @@ const DateTime Evening = DateTime::FromQt(QDate(2026, 11, 5)) + DateTime::FromTi
 QString PdfText(const DataReport& report) {
     QTemporaryDir folder;
     const QString path = folder.filePath("report.pdf");
-    ExportPdf(report, path, "Title");
+    ExportPdf(report, path);
     return TextOfPdf(path);
 }
 
@@ -315,6 +318,44 @@ private slots:
         QVERIFY(text.count("Beginning") == 1 && text.contains("3 / 3"));
     }
 
+    // Read as a viewer does: from the end, by the last table of places and what it names.
+    void PdfHasItsProperties() {
+        const TestClock clock(Evening, 0.001);
+        const auto pdf = [](const QString& title, const QString& author) {
+            const auto report = SmallReport();
+            report->SetCaption(title);
+            report->SetAuthor(author);
+            report->SetLanguage("de");
+            QByteArray bytes;
+            QBuffer buffer(&bytes);
+            buffer.open(QIODevice::WriteOnly);
+            ExportPdf(*report, buffer);
+            return bytes;
+        };
+        const QString title = "Nacht (1\\2) č\u0D0A", author = "Wächter) 🔒 حارس \\";
+        const QByteArray bytes = pdf(title, author);
+        QCOMPARE(pdf(title, author), bytes);
+        QVERIFY(!pdf(title, {}).contains("/Author"));
+        const auto match = [](const QByteArray& text, const QString& pattern) {
+            return QRegularExpression(pattern).match(QString::fromLatin1(text)).captured(1);
+        };
+        const QByteArray table = bytes.mid(match(bytes, "startxref\n(\\d+)\n%%EOF\n$").toInt());
+        const auto object = [&](const QString& key) {
+            const QString number = match(table, key + " (\\d+) 0 R");
+            const int place = match(table, '\n' + number + " 1\n(\\d{10}) 00000 n \n").toInt();
+            const QByteArray text = bytes.mid(place, 1000);
+            return text.startsWith(number.toLatin1() + " 0 obj\n") ? text : QByteArray();
+        };
+        const QByteArray info = object("/Info");
+        for (const auto& [key, text] : {std::pair("/Title", title), std::pair("/Author", author)}) {
+            const QString digits = match(info, key + QStringLiteral(" <FEFF([0-9A-F]+)>"));
+            QStringDecoder decode(QStringDecoder::Utf16BE);
+            QCOMPARE(QString(decode(QByteArray::fromHex(digits.toLatin1()))), text);
+        }
+        QVERIFY(!match(info, "/CreationDate \\((D:20261105220758[+-]\\d\\d'00')\\)\n").isEmpty());
+        QVERIFY(object("/Root").contains("/Lang (de)\n"));
+    }
+
     void PlaceholdersAreTheLayoutsOnly() {
         if (!HasPdfTool())
             QSKIP("pdftotext is not there");
@@ -336,16 +377,16 @@ private slots:
         const auto report = SmallReport();
         QTemporaryDir folder;
         const QString path = folder.filePath("none/report.pdf");
-        QVERIFY(DescriptionOf([&] { ExportPdf(*report, path, {}); }).contains("report.pdf"));
+        QVERIFY(DescriptionOf([&] { ExportPdf(*report, path); }).contains("report.pdf"));
         const QString older = folder.filePath("older.pdf");
         WriteBytes(older, "older");
-        QVERIFY(!ExportPdf(*report, older, {}, [](int, int) { return false; }));
+        QVERIFY(!ExportPdf(*report, older, [](int, int) { return false; }));
         QCOMPARE(BytesOf(older), "older");
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("older.pdf"));
         if (QFile::exists("/dev/full")) {
             QFile full("/dev/full");
             QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-            QVERIFY_THROWS_EXCEPTION(RunTimeError, ExportPdf(*report, full, {}));
+            QVERIFY_THROWS_EXCEPTION(RunTimeError, ExportPdf(*report, full));
         }
     }
 };
