@@ -2,6 +2,7 @@
 #include "CommPort.h"
 #include "Controls.h"
 #include "Dock.h"
+#include "Files.h"
 #include "InstanceLock.h"
 #include "LookUps.h"
 #include "RecordingViewer.h"
@@ -10,10 +11,12 @@
 #include "TableExists.h"
 #include "TestHome.h"
 #include "TourReportBuilder.h"
+#include "frmAbout.h"
 #include "frmMain.h"
 #include "frmUserMaintenance.h"
 #include "mMain.h"
 #include "mOperators.h"
+#include "mSettings.h"
 #include "mTranslations.h"
 
 #include <QComboBox>
@@ -256,8 +259,8 @@ private slots:
         QCOMPARE(Control<QMenu>(*MainWindow(), "mnuTools")->menuAction()->isVisible(), tools);
         QVERIFY(Action("mnuFileExit")->isEnabled());
         QCOMPARE(Action("setup")->isVisible(), tools);
-        for (const char* unbuilt : {"mnuFileArchive", "mnuFileBackup", "mnuFileRestore",
-                                    "mnuToolCompany", "mnuHelpAbout"})
+        QVERIFY(Action("mnuHelpAbout")->isVisible() && Action("mnuHelpAbout")->isEnabled());
+        for (const char* unbuilt : {"mnuFileArchive", "mnuFileBackup", "mnuFileRestore"})
             QVERIFY2(!Action(unbuilt)->isVisible(), unbuilt);
         for (const char* noDock : {"mnuToolsPipeOptions", "mnuToolsClearPipe", "mnuToolsReaderFW"})
             QVERIFY2(!Action(noDock)->isEnabled(), noDock);
@@ -401,6 +404,75 @@ private slots:
         QVERIFY(!dialog.isVisible());
         QCOMPARE(CheckOperator(UserOperator, " LANTERN "), UserOperator);
         QCOMPARE(CheckOperator(UserOperator, "crew"), NoOperator);
+    }
+
+    void CompanyLinesAreKeptAsTyped() {
+        QVERIFY(Start(nullptr));
+        const QString typed(60, u'W');
+        const auto edit = [](const QString& text, const QStringList& buttons,
+                             const char* answer = nullptr) {
+            Script script;
+            Type(script, "frmCompany", "txtLine_3", text);
+            for (const QString& button : buttons) {
+                script.Click("frmCompany", button);
+                if (answer && button == u"cmdOK")
+                    script.Answer(answer);
+            }
+            script.Start();
+            Action("mnuToolCompany")->trigger();
+            return script.Finish() ? script.Texts().join(u'|') : QStringLiteral("stuck");
+        };
+        QCOMPARE(edit("Old, \"@x ", {"cmdOK"}), "");
+        QCOMPARE(edit("lost", {"cmdCancel"}), "");
+        QCOMPARE(Saved(SettingsSection::Properties, "CompanyInfo4"), "Old, \"@x ");
+        const QString config = m_home->File("config");
+        QVERIFY(QFile::rename(config, config + 'x') && QFile::copy(m_home->Store(), config));
+        QVERIFY(edit("lost", {"cmdOK", "cmdCancel"}, "OK").contains("The company info cannot"));
+        QCOMPARE(gCompanyInfo[3], "Old, \"@x ");
+        QVERIFY(QFile::remove(config) && QFile::rename(config + 'x', config));
+        Save(SettingsSection::Info, "LastLogin", "1");
+        QCOMPARE(Saved(SettingsSection::Properties, "CompanyInfo4"), "Old, \"@x ");
+        QCOMPARE(edit(typed, {"cmdOK"}), "");
+        QCOMPARE(gCompanyInfo[3], typed);
+        ReadRemainingSettings();
+        QCOMPARE(gCompanyInfo[3], typed.left(50));
+        QCOMPARE(Saved(SettingsSection::Properties, "CompanyInfo4"), typed);
+    }
+
+    void AboutShowsTheInstallersText() {
+        QVERIFY(Start(nullptr, "crew", "optUser_1"));
+        QString title;
+        const auto about = [&title] {
+            QString build, contact;
+            Script script;
+            script.With<QLabel>("frmAbout", "lblBuild", [&](QLabel& label) {
+                title = label.window()->windowTitle();
+                build = label.text();
+            });
+            script.With<QLabel>("frmAbout", "lblCustom",
+                                [&](QLabel& label) { contact = label.text(); });
+            script.Click("frmAbout", "cmdOK");
+            script.Start();
+            Action("mnuHelpAbout")->trigger();
+            return script.Finish() ? build + u'|' + contact : QString();
+        };
+        QVERIFY(about().startsWith("Build 0001|Help, Contents"));
+        QCOMPARE(title, "About - KV-88 Wardlock Reports");
+        const QString path = m_home->File("contact.txt");
+        const std::pair<QByteArray, QString> files[] = {
+            {"B\xC3\xBCro <b>", "Büro <b>"},
+            {"B\xFCro", "Büro"},
+            {QByteArray(4096, 'x'), QString(2048, u'x')},
+            {QByteArray(4097, 'x'), {}}};
+        for (const auto& [bytes, text] : files) {
+            WriteBytes(path, bytes);
+            QCOMPARE(frmAbout::TextFromFile(path), text);
+            QVERIFY(about().contains(u'|' + (text.isEmpty() ? "Help, Contents" : text)));
+        }
+        QVERIFY(QFile::remove(path) && QDir().mkdir(path));
+        m_home->TakeLog();
+        QCOMPARE(frmAbout::TextFromFile(path), "");
+        QVERIFY(m_home->TakeLog().contains("TextFromFile of Form frmAbout"));
     }
 
     void WindowKeepsItsPlace() {
