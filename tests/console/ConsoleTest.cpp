@@ -215,6 +215,42 @@ private slots:
         QCOMPARE(failed.err.count('\n'), 1);
     }
 
+    // What a script needs to make a call: IDs for names.
+    void ListsWhatACallCanName() {
+        const Office office("crew");
+        const auto list = [](const Office& where, const QString& words) {
+            const Outcome outcome = where.Ctl(words + " --operator user");
+            return outcome.status == 0 && outcome.err.isEmpty() ? outcome.out : "failed";
+        };
+        QCOMPARE(list(office, "list tours"),
+                 "ID  NAME         DESCRIPTION                       START  TOLERANCE\n"
+                 " 1  Day round    Office Tower, once a day          14:00          5\n"
+                 " 2  Night round  Harbour Warehouse, over midnight  23:15          5\n");
+        const auto first = [&](const char* what) {
+            const QByteArray json = list(office, QString::fromLatin1(what) + " --json");
+            return QJsonDocument::fromJson(json).array()[0].toObject();
+        };
+        QCOMPARE(first("list tours"), (QJsonObject{{"id", 1},
+                                                   {"name", "Day round"},
+                                                   {"description", "Office Tower, once a day"},
+                                                   {"start", "14:00"},
+                                                   {"tolerance", 5}}));
+        QCOMPARE(first("list readers").keys(), (QStringList{"description", "id"}));
+        QCOMPARE(first("list sites")[u"name"].toString(), "Harbour Warehouse");
+        QCOMPARE(first("list events"), (QJsonObject{{"id", 9},
+                                                    {"code", "7E0001"},
+                                                    {"name", "Door found open"},
+                                                    {"group", "Incidents"}}));
+        QCOMPARE(first("report list"), (QJsonObject{{"word", "tour"},
+                                                    {"name", "Tour / Exception Report"},
+                                                    {"description", "Exception Report"}}));
+        QFile::remove(office.Store());
+        QCOMPARE(office.Run(MKSTORE, {office.Store()}).status, 0);
+        office.Ctl("report list --operator user"); // makes the operator known
+        QCOMPARE(list(office, "list events"), "ID  CODE  NAME  GROUP\n");
+        QCOMPARE(list(office, "list readers --json"), "[]\n");
+    }
+
     void Commands_data() {
         // `output` is its beginning, or "!" and that of the message; `state`, values of the dock.
         const TestTable<QByteArray, QString, QByteArray, QJsonObject> row("scenario", "words",
