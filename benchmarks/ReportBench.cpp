@@ -154,7 +154,7 @@ void Pdf(const DataReport& report) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    ExportPdf(report, buffer, report.Caption());
+    ExportPdf(report, buffer);
 }
 
 /// Opens a preview and waits until its first page is painted.

@@ -1312,6 +1312,58 @@
         <translation>&amp;Über </translation>
     </message>
     <message>
+        <source>Company Info</source>
+        <translation>Firmenangaben</translation>
+    </message>
+    <message>
+        <source>These lines are printed at the head of each report. After the next start, only the first 50 characters of a line are printed.</source>
+        <translation>Diese Zeilen stehen am Kopf jedes Berichts. Nach dem nächsten Start werden nur noch die ersten 50 Zeichen einer Zeile gedruckt.</translation>
+    </message>
+    <message>
+        <source>Line &amp;1:</source>
+        <translation>Zeile &amp;1:</translation>
+    </message>
+    <message>
+        <source>Line &amp;2:</source>
+        <translation>Zeile &amp;2:</translation>
+    </message>
+    <message>
+        <source>Line &amp;3:</source>
+        <translation>Zeile &amp;3:</translation>
+    </message>
+    <message>
+        <source>Line &amp;4:</source>
+        <translation>Zeile &amp;4:</translation>
+    </message>
+    <message>
+        <source>The company info cannot be saved. This file cannot be written:</source>
+        <translation>Die Firmenangaben können nicht gespeichert werden. Diese Datei ist nicht beschreibbar:</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <translation>Sie dürfen dieses Programm benutzen, ändern und weitergeben, solange der Lizenztext beiliegt.</translation>
+    </message>
+    <message>
+        <source>It comes without any warranty.</source>
+        <translation>Es wird keine Gewähr übernommen.</translation>
+    </message>
+    <message>
+        <source>Help, Contents (F1) describes the program.</source>
+        <translation>Hilfe, Inhalt (F1) beschreibt das Programm.</translation>
+    </message>
+    <message>
+        <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>
+        <translation>Wenn etwas nicht funktioniert, melden Sie es der Person, die diese Installation betreut. Nennen Sie die Version und den Build, die oben stehen, und senden Sie diese Datei:</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>Ansprechpartner</translation>
+    </message>
+    <message>
         <source>WK3_ENG.HLP</source>
         <translation>WK3_ENG.HLP</translation>
     </message>

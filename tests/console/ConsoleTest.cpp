@@ -215,6 +215,36 @@ private slots:
         QCOMPARE(failed.err.count('\n'), 1);
     }
 
+    // What a script needs to make a call: IDs for names.
+    void ListsWhatACallCanName() {
+        const Office office("crew");
+        const auto list = [&office](const char* words) {
+            return office.Ctl(QLatin1String(words) + " --operator user").out;
+        };
+        QCOMPARE(list("list tours"),
+                 "ID  NAME         DESCRIPTION                       START  TOLERANCE\n"
+                 " 1  Day round    Office Tower, once a day          14:00          5\n"
+                 " 2  Night round  Harbour Warehouse, over midnight  23:15          5\n");
+        const std::pair<const char*, const char*> firsts[] = {
+            {"list readers", R"({"description":"Night reader","id":"4B5831A7"})"},
+            {"list sites",
+             R"({"description":"Pier 4, north side","id":1,"name":"Harbour Warehouse"})"},
+            {"list events",
+             R"({"code":"7E0001","group":"Incidents","id":9,"name":"Door found open"})"},
+            {"report list", R"({"description":"Exception Report","name":"Tour / Exception Report",)"
+                            R"("word":"tour"})"}};
+        for (const auto& [words, first] : firsts) {
+            const auto json =
+                QJsonDocument::fromJson(list(qPrintable(words + QStringLiteral(" --json"))));
+            QCOMPARE(QJsonDocument(json[0].toObject()).toJson(QJsonDocument::Compact), first);
+        }
+        QFile::remove(office.Store());
+        QCOMPARE(office.Run(MKSTORE, {office.Store()}).status, 0);
+        list("list tours"); // makes the operator known
+        QCOMPARE(list("list events"), "ID  CODE  NAME  GROUP\n");
+        QCOMPARE(list("list readers --json"), "[]\n");
+    }
+
     void Commands_data() {
         // `output` is its beginning, or "!" and that of the message; `state`, values of the dock.
         const TestTable<QByteArray, QString, QByteArray, QJsonObject> row("scenario", "words",

@@ -3,8 +3,10 @@
 #include "ReportViewer.h"
 #include "TestHome.h"
 #include "cReaderOptions.h"
+#include "frmAbout.h"
 #include "frmAddButton.h"
 #include "frmAddReader.h"
+#include "frmCompany.h"
 #include "frmCopyTour.h"
 #include "frmDownload.h"
 #include "frmEditButton.h"
@@ -73,8 +75,15 @@ Maker WithViewer() {
 
 const std::map<QString, Maker>& Makers() {
     static const std::map<QString, Maker> makers = {
+        {"frmAbout",
+         [](DockingLink&, ReportViewer&) {
+             auto form = std::make_unique<frmAbout>(nullptr);
+             form->Populate();
+             return form;
+         }},
         {"frmAddButton", WithLink<frmAddButton>()},
         {"frmAddReader", WithLink<frmAddReader>()},
+        {"frmCompany", Plain<frmCompany>()},
         {"frmCopyTour", Plain<frmCopyTour>()},
         {"frmDownload", WithLink<frmDownload>()},
         {"frmEditButton", Plain<frmEditButton>()},
