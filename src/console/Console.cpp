@@ -94,7 +94,7 @@ QString Overview() {
         "\n");
     for (const Command& command : Commands())
         text += QLatin1String(command.access == Access::MasterOnly ? "* " : "  ") +
-                command.words.leftJustified(20) + command.description + u'\n';
+                command.words.leftJustified(23) + command.description + u'\n';
     return text +
            QStringLiteral("\n"
                           "\"wardlockctl COMMAND --help\" lists the options of a command. "

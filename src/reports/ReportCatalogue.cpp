@@ -1,5 +1,7 @@
 #include "ReportCatalogue.h"
 
+#include "IncidentReportRow.h"
+#include "IncidentSitesRow.h"
 #include "LookUps.h"
 #include "TourReportRow.h"
 #include "mTranslations.h"
@@ -7,6 +9,8 @@
 const std::vector<ReportRow>& ReportCatalogue() {
     static const std::vector<ReportRow> rows = {
         TourReportRow(),
+        IncidentReportRow(),
+        IncidentSitesRow(),
     };
     return rows;
 }

@@ -24,6 +24,8 @@
 #include "frmMdiReports.h"
 #include "frmPreview.h"
 #include "frmPrpComms.h"
+#include "frmRptIncidentNew.h"
+#include "frmRptIncidentParam.h"
 #include "frmRptTour.h"
 #include "frmSetTime.h"
 #include "frmSplash.h"
@@ -108,6 +110,8 @@ const std::map<QString, Maker>& Makers() {
         {"frmMdiMenu", Plain<frmMdiMenu>()},
         {"frmMdiReports", WithViewer<frmMdiReports>()},
         {"frmPrpComms", Plain<frmPrpComms>()},
+        {"frmRptIncidentNew", WithViewer<frmRptIncidentNew>()},
+        {"frmRptIncidentParam", WithViewer<frmRptIncidentParam>()},
         {"frmRptTour", WithViewer<frmRptTour>()},
         {"frmSetTime", WithLink<frmSetTime>()},
         {"frmSplash", [](DockingLink&, ReportViewer&) { return std::make_unique<frmSplash>(); }},
