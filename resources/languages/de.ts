@@ -800,6 +800,94 @@
         <translation>Keine</translation>
     </message>
     <message>
+        <source>Incident Report</source>
+        <translation>Ereignisbericht</translation>
+    </message>
+    <message>
+        <source>List Incidents for a range of dates and readers</source>
+        <translation>Ereignisse eines Zeitraums und bestimmter Leser</translation>
+    </message>
+    <message>
+        <source>Incident Report with Sites</source>
+        <translation>Ereignisbericht mit Objekten</translation>
+    </message>
+    <message>
+        <source>List Incidents for a range of dates and readers with sites</source>
+        <translation>Ereignisse eines Zeitraums und bestimmter Leser, mit Objekten</translation>
+    </message>
+    <message>
+        <source>&amp;Readers:</source>
+        <translation>&amp;Leser:</translation>
+    </message>
+    <message>
+        <source>&amp;Events:</source>
+        <translation>&amp;Ereignisse:</translation>
+    </message>
+    <message>
+        <source>Select Incident/s</source>
+        <translation>Ereignisse wählen</translation>
+    </message>
+    <message>
+        <source>%0:s [%1:s] -- %2:s</source>
+        <translation>%0:s [%1:s] -- %2:s</translation>
+    </message>
+    <message>
+        <source>There must be at least one reader selected to create a report</source>
+        <translation>Für den Bericht muss mindestens ein Leser gewählt sein</translation>
+    </message>
+    <message>
+        <source>There must be at least one event selected to create a report</source>
+        <translation>Für den Bericht muss mindestens ein Ereignis gewählt sein</translation>
+    </message>
+    <message>
+        <source>No incidents of this type were recorded</source>
+        <translation>Kein Ereignis dieser Art wurde aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>%0:s, %1:s,  %2:s</source>
+        <translation>%0:s, %1:s,  %2:s</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Von:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Bis:</translation>
+    </message>
+    <message>
+        <source>No event has the code %0:s.</source>
+        <translation>Kein Ereignis hat den Code %0:s.</translation>
+    </message>
+    <message>
+        <source>There is no site named %0:s.</source>
+        <translation>Es gibt kein Objekt mit dem Namen %0:s.</translation>
+    </message>
+    <message>
+        <source>Select the date and other filters to create the Incident report</source>
+        <translation>Zeitraum und Filter für den Ereignisbericht wählen</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>Incidents And Locations Report</source>
+        <translation>Bericht über Ereignisse und Kontaktstellen</translation>
+    </message>
+    <message>
+        <source>Date / Time</source>
+        <translation>Datum / Zeit</translation>
+    </message>
+    <message>
+        <source>Reader Name</source>
+        <translation>Lesername</translation>
+    </message>
+    <message>
+        <source>Incident</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
         <source>&amp;Print Preview</source>
         <translation>&amp;Vorschau</translation>
     </message>

@@ -1,6 +1,8 @@
 #include "ReportCatalogue.h"
 
 #include "HardwareListRow.h"
+#include "IncidentReportRow.h"
+#include "IncidentSitesRow.h"
 #include "LookUps.h"
 #include "PatrolScheduleRow.h"
 #include "ReaderReportRow.h"
@@ -9,10 +11,8 @@
 
 const std::vector<ReportRow>& ReportCatalogue() {
     static const std::vector<ReportRow> rows = {
-        TourReportRow(),
-        ReaderReportRow(),
-        HardwareListRow(),
-        PatrolScheduleRow(),
+        TourReportRow(),   IncidentReportRow(), IncidentSitesRow(),
+        ReaderReportRow(), HardwareListRow(),   PatrolScheduleRow(),
     };
     return rows;
 }

@@ -27,6 +27,8 @@
 #include "frmPreview.h"
 #include "frmPrpComms.h"
 #include "frmRptHardwareListParam.h"
+#include "frmRptIncidentNew.h"
+#include "frmRptIncidentParam.h"
 #include "frmRptPatrolSchedule.h"
 #include "frmRptReaderReport.h"
 #include "frmRptTour.h"
@@ -123,6 +125,8 @@ const std::map<QString, Maker>& Makers() {
         {"frmRptHardwareListParam", WithViewer<frmRptHardwareListParam>()},
         {"frmRptPatrolSchedule", WithViewer<frmRptPatrolSchedule>()},
         {"frmRptReaderReport", WithViewer<frmRptReaderReport>()},
+        {"frmRptIncidentNew", WithViewer<frmRptIncidentNew>()},
+        {"frmRptIncidentParam", WithViewer<frmRptIncidentParam>()},
         {"frmRptTour", WithViewer<frmRptTour>()},
         {"frmSetTime", WithLink<frmSetTime>()},
         {"frmSplash", [](DockingLink&, ReportViewer&) { return std::make_unique<frmSplash>(); }},
