@@ -1,5 +1,6 @@
 #include "ReportCatalogue.h"
 
+#include "DatabaseReportRow.h"
 #include "LookUps.h"
 #include "ReaderReportRow.h"
 #include "TourReportRow.h"
@@ -9,6 +10,7 @@ const std::vector<ReportRow>& ReportCatalogue() {
     static const std::vector<ReportRow> rows = {
         TourReportRow(),
         ReaderReportRow(),
+        DatabaseReportRow(),
     };
     return rows;
 }

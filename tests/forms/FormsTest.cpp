@@ -1,5 +1,6 @@
 #include "DataReport.h"
 #include "DockingLink.h"
+#include "Recordset.h"
 #include "ReportViewer.h"
 #include "TestHome.h"
 #include "cReaderOptions.h"
@@ -24,11 +25,13 @@
 #include "frmMdiReports.h"
 #include "frmPreview.h"
 #include "frmPrpComms.h"
+#include "frmRptCustomParam.h"
 #include "frmRptReaderReport.h"
 #include "frmRptTour.h"
 #include "frmSetTime.h"
 #include "frmSplash.h"
 #include "frmUserMaintenance.h"
+#include "frmWaitReport.h"
 #include "mHelp.h"
 #include "mTranslations.h"
 
@@ -109,11 +112,17 @@ const std::map<QString, Maker>& Makers() {
         {"frmMdiMenu", Plain<frmMdiMenu>()},
         {"frmMdiReports", WithViewer<frmMdiReports>()},
         {"frmPrpComms", Plain<frmPrpComms>()},
+        {"frmRptCustomParam", WithViewer<frmRptCustomParam>()},
         {"frmRptReaderReport", WithViewer<frmRptReaderReport>()},
         {"frmRptTour", WithViewer<frmRptTour>()},
         {"frmSetTime", WithLink<frmSetTime>()},
         {"frmSplash", [](DockingLink&, ReportViewer&) { return std::make_unique<frmSplash>(); }},
         {"frmUserMaintenance", Plain<frmUserMaintenance>()},
+        {"frmWaitReport",
+         [](DockingLink&, ReportViewer&) {
+             static Recordset rows;
+             return std::make_unique<frmWaitReport>(rows, nullptr);
+         }},
     };
     return makers;
 }
