@@ -532,6 +532,22 @@
         <translation>Gruppe</translation>
     </message>
     <message>
+        <source>Database Report</source>
+        <translation>Datenbankbericht</translation>
+    </message>
+    <message>
+        <source>Raw data from database</source>
+        <translation>Rohdaten aus der Datenbank</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
         <source>Print Date:</source>
         <translation>Druckdatum:</translation>
     </message>
@@ -746,6 +762,30 @@
     <message>
         <source>Reset Dates</source>
         <translation>Auf heute setzen</translation>
+    </message>
+    <message>
+        <source>Select the date range to create the report</source>
+        <translation>Zeitraum für den Bericht wählen</translation>
+    </message>
+    <message>
+        <source>Presets:</source>
+        <translation>Vorgaben:</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Last 7 Days</source>
+        <translation>Letzte 7 Tage</translation>
+    </message>
+    <message>
+        <source>Last30 Days</source>
+        <translation>Letzte 30 Tage</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Parameters</source>

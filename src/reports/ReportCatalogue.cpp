@@ -1,5 +1,6 @@
 #include "ReportCatalogue.h"
 
+#include "DatabaseReportRow.h"
 #include "HardwareListRow.h"
 #include "IncidentReportRow.h"
 #include "IncidentSitesRow.h"
@@ -11,8 +12,9 @@
 
 const std::vector<ReportRow>& ReportCatalogue() {
     static const std::vector<ReportRow> rows = {
-        TourReportRow(),   IncidentReportRow(), IncidentSitesRow(),
-        ReaderReportRow(), HardwareListRow(),   PatrolScheduleRow(),
+        TourReportRow(),     IncidentReportRow(), IncidentSitesRow(),
+        TourReportRow(),     ReaderReportRow(),   HardwareListRow(),
+        PatrolScheduleRow(), ReaderReportRow(),   DatabaseReportRow(),
     };
     return rows;
 }

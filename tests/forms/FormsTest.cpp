@@ -1,5 +1,6 @@
 #include "DataReport.h"
 #include "DockingLink.h"
+#include "Recordset.h"
 #include "ReportViewer.h"
 #include "TestHome.h"
 #include "cReaderOptions.h"
@@ -26,6 +27,7 @@
 #include "frmMdiReports.h"
 #include "frmPreview.h"
 #include "frmPrpComms.h"
+#include "frmRptCustomParam.h"
 #include "frmRptHardwareListParam.h"
 #include "frmRptIncidentNew.h"
 #include "frmRptIncidentParam.h"
@@ -35,6 +37,7 @@
 #include "frmSetTime.h"
 #include "frmSplash.h"
 #include "frmUserMaintenance.h"
+#include "frmWaitReport.h"
 #include "mHelp.h"
 #include "mTranslations.h"
 
@@ -124,6 +127,7 @@ const std::map<QString, Maker>& Makers() {
         {"frmPrpComms", Plain<frmPrpComms>()},
         {"frmRptHardwareListParam", WithViewer<frmRptHardwareListParam>()},
         {"frmRptPatrolSchedule", WithViewer<frmRptPatrolSchedule>()},
+        {"frmRptCustomParam", WithViewer<frmRptCustomParam>()},
         {"frmRptReaderReport", WithViewer<frmRptReaderReport>()},
         {"frmRptIncidentNew", WithViewer<frmRptIncidentNew>()},
         {"frmRptIncidentParam", WithViewer<frmRptIncidentParam>()},
@@ -131,6 +135,11 @@ const std::map<QString, Maker>& Makers() {
         {"frmSetTime", WithLink<frmSetTime>()},
         {"frmSplash", [](DockingLink&, ReportViewer&) { return std::make_unique<frmSplash>(); }},
         {"frmUserMaintenance", Plain<frmUserMaintenance>()},
+        {"frmWaitReport",
+         [](DockingLink&, ReportViewer&) {
+             static Recordset rows;
+             return std::make_unique<frmWaitReport>(rows, nullptr);
+         }},
     };
     return makers;
 }
