@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <string>
 #include <vector>
 
 /// Measured figures, each with a baseline from the same run. Machines are noisy, so only the ratio
@@ -12,7 +13,7 @@
 class Figures {
 public:
     /// Runs both alternately, several times, and prints a line with the medians.
-    void Compare(const char* name, double limit, const std::function<void()>& ours,
+    void Compare(const std::string& name, double limit, const std::function<void()>& ours,
                  const std::function<void()>& baseline, int rounds = 5) {
         std::vector<double> oursTimes, baselineTimes;
         for (int round = 0; round < rounds; ++round) {
@@ -21,10 +22,11 @@ public:
         }
         Report(name, "ms", Median(oursTimes), Median(baselineTimes), limit);
     }
-    void Report(const char* name, const char* unit, double ours, double baseline, double limit) {
+    void Report(const std::string& name, const char* unit, double ours, double baseline,
+                double limit) {
         const double ratio = ours / baseline;
-        std::printf("%-48s %10.1f %s against %10.1f   ratio %5.2f   at most %.1f%s\n", name, ours,
-                    unit, baseline, ratio, limit, ratio > limit ? "   TOO MUCH" : "");
+        std::printf("%-50s %10.1f %s against %10.1f   ratio %5.2f   at most %.1f%s\n", name.c_str(),
+                    ours, unit, baseline, ratio, limit, ratio > limit ? "   TOO MUCH" : "");
         std::fflush(stdout);
         m_failed = m_failed || ratio > limit;
     }

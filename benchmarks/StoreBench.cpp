@@ -1,7 +1,9 @@
 // Compares the store's code with the bare engine: storing a download, reading many rows, the tour
-// report in a large store, compaction.
+// report and the database report in a large store, compaction.
 
 #include "Connection.h"
+#include "DataReport.h"
+#include "DatabaseReportBuilder.h"
 #include "Engine.h"
 #include "Figures.h"
 #include "MemoryImage.h"
@@ -337,37 +339,47 @@ qint64 ResidentBytes() {
     return file.readAll().split(' ').value(1).toLongLong() * ::sysconf(_SC_PAGESIZE);
 }
 
-/// Runs in a child process, so that memory freed by earlier benchmarks does not hide what is used.
-void BenchMemory(Figures& figures, const QString& path) {
+/// Reports the memory that `measure` gives, and its baseline, in bytes. It runs in a child process,
+/// so that memory freed by earlier benchmarks does not hide what is used.
+void CompareMemory(Figures& figures, const char* name,
+                   const std::function<std::pair<double, double>()>& measure) {
     int ends[2];
     if (::pipe(ends) != 0)
         qFatal("no pipe");
-    double result[2] = {0, 0};
+    std::pair<double, double> result;
     if (::fork() == 0) {
+        result = measure();
+        (void)!::write(ends[1], &result, sizeof result);
+        ::_exit(0);
+    }
+    if (::read(ends[0], &result, sizeof result) != sizeof result)
+        qFatal("memory could not be measured");
+    ::wait(nullptr);
+    figures.Report(name, "MB", result.first / 1e6, result.second / 1e6, 3.0);
+}
+
+void BenchMemory(Figures& figures, const QString& path) {
+    CompareMemory(figures, "the memory of a recordset of 1,000,000 events", [&] {
         if (!ADOInit(path, StorePassword))
             ::_exit(1);
         const qint64 before = ResidentBytes();
         Recordset rows;
         rows.CursorLocation = adUseClient;
         rows.Open("SELECT * FROM tblEvents", *gConn);
-        result[0] = static_cast<double>(ResidentBytes() - before);
+        const auto taken = static_cast<double>(ResidentBytes() - before);
         const auto counted = static_cast<double>(rows.MemoryBytes());
-        if (counted < result[0] * 0.9 || counted > result[0] * 1.1)
-            qFatal("%.0f bytes counted, %.0f taken", counted, result[0]);
+        if (counted < taken * 0.9 || counted > taken * 1.1)
+            qFatal("%.0f bytes counted, %.0f taken", counted, taken);
         // The baseline: dates take eight bytes, the key four, the type one, a text its length.
+        double bare = 0;
         for (; !rows.Eof(); rows.MoveNext()) {
-            result[1] += 8 + 8 + 4 + 1;
+            bare += 8 + 8 + 4 + 1;
             for (const auto* name : {u"tPipeID", u"tButtonCode", u"tButtonName", u"tButtonDesc",
                                      u"tGroupName", u"tGroupDesc"})
-                result[1] += static_cast<double>(rows.Text(name).toUtf8().size());
+                bare += static_cast<double>(rows.Text(name).toUtf8().size());
         }
-        (void)!::write(ends[1], result, sizeof result);
-        ::_exit(0);
-    }
-    if (::read(ends[0], result, sizeof result) != sizeof result)
-        qFatal("memory could not be measured");
-    ::wait(nullptr);
-    figures.Report("the memory of that recordset", "MB", result[0] / 1e6, result[1] / 1e6, 3.0);
+        return std::pair(taken, bare);
+    });
 }
 
 class NoViewer : public ReportViewer {
@@ -396,6 +408,79 @@ void BenchTour(Figures& figures, const QString& path, const QString& fewPath) {
     if (viewer.Shown != 2 * 9 * 21)
         qFatal("%d reports were shown", viewer.Shown);
     gConn.reset();
+}
+
+/// What the wait window and the command line do, without showing anything.
+void BuildDatabase(ReportViewer& viewer) {
+    const auto copy = [](const EventQuery& query, Recordset& rows) {
+        return CopyEvents(query, rows, [](int, int) { return true; }) == CopyResult::Copied;
+    };
+    BuildDatabaseReport({DateTime(), TourDay + DateTime::FromDays(1)}, copy, viewer);
+}
+
+void BenchDatabase(Figures& figures, const QString& path) {
+    if (!ADOInit(path, StorePassword))
+        qFatal("the store does not open");
+    Bare bare(path);
+    NoViewer viewer;
+    const Side ours{[] {}, [&] { BuildDatabase(viewer); }};
+    const Side baseline{
+        [] {},
+        [&] {
+            bare.Run("BEGIN IMMEDIATE");
+            bare.Run("DROP TABLE tblCustom");
+            bare.Run("CREATE TABLE tblCustom (tDateTime TEXT, tButtonCode TEXT, tButtonName TEXT, "
+                     "tLocationDesc TEXT, tGroupName TEXT, tType TEXT)");
+            sqlite3_stmt* walk =
+                bare.Prepare("SELECT tButtonCode, tButtonName, tButtonDesc, tGroupName FROM "
+                             "tblEvents WHERE dtDateTime >= 0 AND dtDateTime <= 50000 ORDER BY "
+                             "dtDateTime, ID");
+            sqlite3_stmt* insert =
+                bare.Prepare("INSERT INTO tblCustom VALUES ('15/06/2026 12:00:00', ?, ?, ?, ?, "
+                             "'Location')");
+            while (sqlite3_step(walk) == SQLITE_ROW) {
+                for (int column = 0; column < 4; ++column)
+                    sqlite3_bind_value(insert, column + 1, sqlite3_column_value(walk, column));
+                if (sqlite3_step(insert) != SQLITE_DONE)
+                    qFatal("a row cannot be written");
+                sqlite3_reset(insert);
+            }
+            sqlite3_finalize(walk);
+            sqlite3_finalize(insert);
+            bare.Run("COMMIT");
+        }};
+    BuildDatabase(viewer); // both find a table to drop
+    Compare(figures, "database report of 1,000,000 events", 3, 1.6, ours, baseline);
+    if (viewer.Shown != 4)
+        qFatal("%d reports were shown", viewer.Shown);
+    gConn.reset();
+}
+
+/// Measures the memory while a report is shown, and the bytes of its values.
+class MeasuringViewer : public ReportViewer {
+public:
+    void Show(DataReport& report) override {
+        taken = static_cast<double>(ResidentBytes() - m_before);
+        const RowSource& rows = *report.DataSource();
+        for (qsizetype row = 0; row < rows.RowCount(); ++row)
+            for (int column = 0; column < rows.Columns().size(); ++column)
+                bare += static_cast<double>(rows.TextAt(row, column).toUtf8().size());
+    }
+    double taken = 0, bare = 0;
+
+private:
+    qint64 m_before = ResidentBytes();
+};
+
+void BenchDatabaseMemory(Figures& figures, const QString& path, int argc, char* argv[]) {
+    CompareMemory(figures, "the memory of the database report", [&] {
+        const QGuiApplication app(argc, argv); // reports need fonts
+        if (!ADOInit(path, StorePassword))
+            ::_exit(1);
+        MeasuringViewer viewer;
+        BuildDatabase(viewer);
+        return std::pair(viewer.taken, viewer.bare);
+    });
 }
 
 void BenchCompaction(Figures& figures, const QTemporaryDir& folder, const QString& path) {
@@ -432,10 +517,12 @@ int main(int argc, char* argv[]) {
     MakeStore(many, EventCount);
     MakeStore(few, FewEvents);
     BenchMemory(figures, many);
+    BenchDatabaseMemory(figures, many, argc, argv);
     const QGuiApplication app(argc, argv); // reports need fonts
     BenchDownload(figures, folder);
     BenchWalk(figures, many);
     BenchTour(figures, many, few);
+    BenchDatabase(figures, many);
     BenchCompaction(figures, folder, many);
     return figures.ExitStatus();
 }

@@ -532,6 +532,22 @@
         <translation>Gruppe</translation>
     </message>
     <message>
+        <source>Database Report</source>
+        <translation>Datenbankbericht</translation>
+    </message>
+    <message>
+        <source>Raw data from database</source>
+        <translation>Rohdaten aus der Datenbank</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
         <source>Print Date:</source>
         <translation>Druckdatum:</translation>
     </message>
@@ -748,6 +764,30 @@
         <translation>Auf heute setzen</translation>
     </message>
     <message>
+        <source>Select the date range to create the report</source>
+        <translation>Zeitraum für den Bericht wählen</translation>
+    </message>
+    <message>
+        <source>Presets:</source>
+        <translation>Vorgaben:</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Last 7 Days</source>
+        <translation>Letzte 7 Tage</translation>
+    </message>
+    <message>
+        <source>Last30 Days</source>
+        <translation>Letzte 30 Tage</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
         <source>Parameters</source>
         <translation>Angaben</translation>
     </message>
@@ -798,6 +838,94 @@
     <message>
         <source>None</source>
         <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Incident Report</source>
+        <translation>Ereignisbericht</translation>
+    </message>
+    <message>
+        <source>List Incidents for a range of dates and readers</source>
+        <translation>Ereignisse eines Zeitraums und bestimmter Leser</translation>
+    </message>
+    <message>
+        <source>Incident Report with Sites</source>
+        <translation>Ereignisbericht mit Objekten</translation>
+    </message>
+    <message>
+        <source>List Incidents for a range of dates and readers with sites</source>
+        <translation>Ereignisse eines Zeitraums und bestimmter Leser, mit Objekten</translation>
+    </message>
+    <message>
+        <source>&amp;Readers:</source>
+        <translation>&amp;Leser:</translation>
+    </message>
+    <message>
+        <source>&amp;Events:</source>
+        <translation>&amp;Ereignisse:</translation>
+    </message>
+    <message>
+        <source>Select Incident/s</source>
+        <translation>Ereignisse wählen</translation>
+    </message>
+    <message>
+        <source>%0:s [%1:s] -- %2:s</source>
+        <translation>%0:s [%1:s] -- %2:s</translation>
+    </message>
+    <message>
+        <source>There must be at least one reader selected to create a report</source>
+        <translation>Für den Bericht muss mindestens ein Leser gewählt sein</translation>
+    </message>
+    <message>
+        <source>There must be at least one event selected to create a report</source>
+        <translation>Für den Bericht muss mindestens ein Ereignis gewählt sein</translation>
+    </message>
+    <message>
+        <source>No incidents of this type were recorded</source>
+        <translation>Kein Ereignis dieser Art wurde aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>%0:s, %1:s,  %2:s</source>
+        <translation>%0:s, %1:s,  %2:s</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Von:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Bis:</translation>
+    </message>
+    <message>
+        <source>No event has the code %0:s.</source>
+        <translation>Kein Ereignis hat den Code %0:s.</translation>
+    </message>
+    <message>
+        <source>There is no site named %0:s.</source>
+        <translation>Es gibt kein Objekt mit dem Namen %0:s.</translation>
+    </message>
+    <message>
+        <source>Select the date and other filters to create the Incident report</source>
+        <translation>Zeitraum und Filter für den Ereignisbericht wählen</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>Incidents And Locations Report</source>
+        <translation>Bericht über Ereignisse und Kontaktstellen</translation>
+    </message>
+    <message>
+        <source>Date / Time</source>
+        <translation>Datum / Zeit</translation>
+    </message>
+    <message>
+        <source>Reader Name</source>
+        <translation>Lesername</translation>
+    </message>
+    <message>
+        <source>Incident</source>
+        <translation>Ereignis</translation>
     </message>
     <message>
         <source>&amp;Print Preview</source>
@@ -1310,6 +1438,58 @@
     <message>
         <source>&amp;About </source>
         <translation>&amp;Über </translation>
+    </message>
+    <message>
+        <source>Company Info</source>
+        <translation>Firmenangaben</translation>
+    </message>
+    <message>
+        <source>These lines are printed at the head of each report. After the next start, only the first 50 characters of a line are printed.</source>
+        <translation>Diese Zeilen stehen am Kopf jedes Berichts. Nach dem nächsten Start werden nur noch die ersten 50 Zeichen einer Zeile gedruckt.</translation>
+    </message>
+    <message>
+        <source>Line &amp;1:</source>
+        <translation>Zeile &amp;1:</translation>
+    </message>
+    <message>
+        <source>Line &amp;2:</source>
+        <translation>Zeile &amp;2:</translation>
+    </message>
+    <message>
+        <source>Line &amp;3:</source>
+        <translation>Zeile &amp;3:</translation>
+    </message>
+    <message>
+        <source>Line &amp;4:</source>
+        <translation>Zeile &amp;4:</translation>
+    </message>
+    <message>
+        <source>The company info cannot be saved. This file cannot be written:</source>
+        <translation>Die Firmenangaben können nicht gespeichert werden. Diese Datei ist nicht beschreibbar:</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <translation>Sie dürfen dieses Programm benutzen, ändern und weitergeben, solange der Lizenztext beiliegt.</translation>
+    </message>
+    <message>
+        <source>It comes without any warranty.</source>
+        <translation>Es wird keine Gewähr übernommen.</translation>
+    </message>
+    <message>
+        <source>Help, Contents (F1) describes the program.</source>
+        <translation>Hilfe, Inhalt (F1) beschreibt das Programm.</translation>
+    </message>
+    <message>
+        <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>
+        <translation>Wenn etwas nicht funktioniert, melden Sie es der Person, die diese Installation betreut. Nennen Sie die Version und den Build, die oben stehen, und senden Sie diese Datei:</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>Ansprechpartner</translation>
     </message>
     <message>
         <source>WK3_ENG.HLP</source>

@@ -1,5 +1,6 @@
 #include "Command.h"
 
+std::vector<Command> ListCommands();
 std::vector<Command> ReportCommands();
 
 std::vector<Command> Commands() {
@@ -10,8 +11,8 @@ std::vector<Command> Commands() {
     commands.push_back(Name##Command());
     ADD(Detect)
     ADD(Download)
-    for (Command& report : ReportCommands())
-        commands.push_back(std::move(report));
+    for (const std::vector<Command>& more : {ListCommands(), ReportCommands()})
+        commands.insert(commands.end(), more.begin(), more.end());
     ADD(Identify)
     ADD(Firmware)
     ADD(SetClock)

@@ -92,9 +92,13 @@ QString Overview() {
         "       wardlockctl COMMAND --help\n"
         "       wardlockctl --help | --version\n"
         "\n");
-    for (const Command& command : Commands())
+    const std::vector<Command> commands = Commands();
+    qsizetype width = 0;
+    for (const Command& command : commands)
+        width = std::max(width, command.words.size() + 2);
+    for (const Command& command : commands)
         text += QLatin1String(command.access == Access::MasterOnly ? "* " : "  ") +
-                command.words.leftJustified(20) + command.description + u'\n';
+                command.words.leftJustified(width) + command.description + u'\n';
     return text +
            QStringLiteral("\n"
                           "\"wardlockctl COMMAND --help\" lists the options of a command. "

@@ -19,7 +19,7 @@ void ConsoleReport::Show(DataReport& report) {
     case ReportFormat::Pdf: {
         QBuffer buffer(&m_bytes);
         buffer.open(QIODevice::WriteOnly);
-        ExportPdf(report, buffer, report.Caption());
+        ExportPdf(report, buffer);
         break;
     }
     }

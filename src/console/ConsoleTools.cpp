@@ -10,13 +10,15 @@
 #include <algorithm>
 #include <cstdio>
 
-void Complain(const QString& text) {
-    QString plain = text.simplified();
-    // A terminal would obey an escape sequence.
+QString WithoutControls(QString text) {
     std::replace_if(
-        plain.begin(), plain.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
+        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
         u'?');
-    const QByteArray line = (plain + u'\n').toUtf8();
+    return text;
+}
+
+void Complain(const QString& text) {
+    const QByteArray line = (WithoutControls(text.simplified()) + u'\n').toUtf8();
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
 

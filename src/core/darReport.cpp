@@ -1,6 +1,12 @@
 #include "darReport.h"
 
-darReport::darReport(const QString& layout) : DataReport(LoadReportLayout(layout)) {}
+#include "mDeclareGlobals.h"
+#include "mTranslations.h"
+
+darReport::darReport(const QString& layout) : DataReport(LoadReportLayout(layout)) {
+    SetAuthor(gCompanyInfo[0].trimmed());
+    SetLanguage(PresentLocale());
+}
 
 void darReport::SetReportParam(const ReportTexts& values) {
     for (const auto& [name, value] : values) {

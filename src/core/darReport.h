@@ -9,7 +9,8 @@
 using ReportTexts = std::vector<std::pair<QStringView, QString>>;
 
 /// What all report layouts have in common. A layout is a class derived from this one; it names its
-/// file and translates nothing.
+/// file and translates nothing. The author of a report is the first company line; its language is
+/// the program's.
 class darReport : public DataReport {
 public:
     /// `layout` is the name of the file in the program's resources. Throws RunTimeError if it is

@@ -8,6 +8,8 @@ namespace {
 
 constexpr int CompanyLineLength = 50;
 
+QString CompanyKey(std::size_t line) { return QStringLiteral("CompanyInfo%1").arg(line + 1); }
+
 template <typename T>
 T SavedOption(const QString& section, const QString& key, T fallback, const QString& fallbackText,
               T (*convert)(const QString&)) {
@@ -41,9 +43,20 @@ void ReadLanguageSetting() {
 void ReadRemainingSettings() {
     gAutoSetTime = SavedBoolean(SettingsSection::Properties, QStringLiteral("AutoSetTime"), true);
     for (std::size_t line = 0; line < gCompanyInfo.size(); ++line)
-        gCompanyInfo[line] = GetSetting(SettingsApplication, SettingsSection::Properties,
-                                        QStringLiteral("CompanyInfo%1").arg(line + 1))
-                                 .left(CompanyLineLength);
+        gCompanyInfo[line] =
+            GetSetting(SettingsApplication, SettingsSection::Properties, CompanyKey(line))
+                .left(CompanyLineLength);
+}
+
+void SaveCompanyInfo(const QStringList& lines) {
+    std::array<QString, 4> info;
+    QMap<QString, QString> values;
+    for (std::size_t line = 0; line < info.size(); ++line) {
+        info[line] = lines.value(static_cast<qsizetype>(line));
+        values[CompanyKey(line)] = info[line];
+    }
+    SaveSettings(SettingsApplication, SettingsSection::Properties, values);
+    gCompanyInfo = info;
 }
 
 void ReportLostSettings() {

@@ -2,7 +2,7 @@
 
 #include "Settings.h"
 
-#include <QString>
+#include <QStringList>
 
 /// The saved options. If a saved value cannot be read, only that one falls back to its default, and
 /// the log names it.
@@ -16,6 +16,9 @@ bool SavedBoolean(const QString& section, const QString& key, bool fallback);
 void ReadLanguageSetting();
 /// Reads gAutoSetTime, and gCompanyInfo with each line cut to 50 characters.
 void ReadRemainingSettings();
+/// Saves the company lines as they are and makes them gCompanyInfo. If they cannot be saved, throws
+/// RunTimeError with the path of the settings and changes nothing.
+void SaveCompanyInfo(const QStringList& lines);
 
 /// From now on, if the settings can no longer be written, a box and a line in the log say so: once,
 /// not at every write.

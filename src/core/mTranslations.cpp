@@ -11,6 +11,8 @@ QString Translate(const QString& text) { return gDictionary ? gDictionary->Trans
 
 QString Translate(const char* text) { return Translate(QString::fromUtf8(text)); }
 
+QString PresentLocale() { return gDictionary ? gDictionary->Locale() : Dictionary::LocaleOfKeys; }
+
 MessageAnswer IvMessageBox(const QString& text, MessageKind kind, MessageButtons buttons,
                            const QString& caption) {
     return gDictionary ? gDictionary->IvMessageBox(text, caption, kind, buttons)
@@ -22,6 +24,10 @@ QString FormatStr(const QString& pattern, const QStringList& values) {
 }
 
 QString GetReportsTitle() { return Translate("KV-88 Wardlock Reports"); }
+
+QString LegalNotice() {
+    return Translate("Copyright © 2026 the Wardlock authors. Free software under the MIT licence.");
+}
 
 QString GetVersionString() {
     return Guarded("GetVersionString of Module mTranslations", ErrorShow::Dialog, [] {

@@ -11,6 +11,9 @@
 QString Translate(const QString& text);
 QString Translate(const char* text);
 
+/// The language of what Translate returns, such as "de".
+QString PresentLocale();
+
 /// A message box with its buttons in the present language. The text is already translated.
 MessageAnswer IvMessageBox(const QString& text, MessageKind kind = MessageKind::Warning,
                            MessageButtons buttons = MessageButtons::Ok,
@@ -24,6 +27,8 @@ inline const QString ShortTitle = QStringLiteral("Wardlock Lite");
 
 /// The product title in the present language.
 QString GetReportsTitle();
+/// The copyright and the licence, in one line.
+QString LegalNotice();
 /// Major and minor number, "1.00".
 QString GetVersionString();
 /// The product title with the version, for the main window and the splash window.

@@ -100,6 +100,10 @@ QString Dictionary::Translate(const QString& text) const {
     return translated.isEmpty() ? text : translated;
 }
 
+QString Dictionary::Locale() const {
+    return m_translator ? m_translator->language() : LocaleOfKeys;
+}
+
 bool Dictionary::SelectLanguage(int& number) { return m_chooser && m_chooser(*this, number); }
 
 MessageAnswer Dictionary::IvMessageBox(const QString& text, const QString& caption,

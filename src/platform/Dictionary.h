@@ -46,6 +46,10 @@ public:
 
     QString Translate(const QString& text) const;
 
+    /// The language of what Translate returns, such as "de".
+    QString Locale() const;
+    static inline const QString LocaleOfKeys = QStringLiteral("en");
+
     /// Lets the operator choose. If a language was chosen, gives true and sets `number`. Does
     /// nothing if no chooser is installed.
     bool SelectLanguage(int& number);

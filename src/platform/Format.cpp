@@ -3,6 +3,8 @@
 #include <QLocale>
 #include <QRegularExpression>
 
+#include <array>
+
 namespace {
 
 const QString TimeOfDefaultText = QStringLiteral("HH:mm:ss");
@@ -21,18 +23,39 @@ QString WithoutSeconds(QString pattern) {
     return pattern.remove(seconds);
 }
 
+/// What the present locale says, kept because it is asked for each row of a report.
+struct LocaleTexts {
+    explicit LocaleTexts(const QLocale& from = {})
+        : locale(from), shortDate(WithFourDigitYear(from.dateFormat(QLocale::ShortFormat))) {
+        for (int number = 0; number < 60; ++number)
+            twoDigits[static_cast<std::size_t>(number)] =
+                from.toString(QTime(0, 0, number), QStringLiteral("ss"));
+    }
+
+    QLocale locale;
+    QString shortDate;
+    std::array<QString, 60> twoDigits;
+    DateTime day;    ///< the day that was last asked for,
+    QString dayText; ///< and its text; empty if none was
+};
+
+LocaleTexts& Texts() {
+    static LocaleTexts texts;
+    if (texts.locale != QLocale())
+        texts = LocaleTexts();
+    return texts;
+}
+
 QString Padded(int value, int width) {
     return QStringLiteral("%1").arg(value, width, 10, QLatin1Char('0'));
 }
 
 } // namespace
 
-QString GetShortDateFormat() {
-    return WithFourDigitYear(QLocale().dateFormat(QLocale::ShortFormat));
-}
+QString GetShortDateFormat() { return Texts().shortDate; }
 
 QString Format(DateTime value, const QString& pattern) {
-    if (Is(pattern, u"Short Date"))
+    if (Is(pattern, u"Short Date") || pattern == Texts().shortDate)
         return QLocale().toString(value.ToQDate(), GetShortDateFormat());
     if (Is(pattern, u"Medium Date"))
         return QLocale().toString(value.ToQDate(), QStringLiteral("dd-MMM-yyyy"));
@@ -80,16 +103,31 @@ QString Format(long long value, const QString& pattern) {
 }
 
 QString DefaultDateTimeText(DateTime value) {
-    return Format(value, QStringLiteral("Short Date")) + u' ' +
-           QLocale().toString(value.ToQTime(), TimeOfDefaultText);
+    LocaleTexts& texts = Texts();
+    if (texts.dayText.isEmpty() || texts.day != value.DatePart()) {
+        texts.day = value.DatePart();
+        texts.dayText = texts.locale.toString(value.ToQDate(), texts.shortDate);
+    }
+    const auto seconds = static_cast<std::size_t>(value.TimePart().Milliseconds() / 1000);
+    return texts.dayText + u' ' + texts.twoDigits[seconds / 3600] + u':' +
+           texts.twoDigits[seconds / 60 % 60] + u':' + texts.twoDigits[seconds % 60];
 }
 
 std::optional<DateTime> DateTimeFromText(const QString& text) {
-    const qsizetype parting = text.lastIndexOf(u' ');
+    const LocaleTexts& texts = Texts();
+    QLocale reader = texts.locale;
+    QString readable = text;
+    if (reader.zeroDigit().size() > 1) {
+        // Qt does not read such digits. The dates of these languages have no words.
+        for (std::size_t digit = 0; digit < 10; ++digit)
+            readable.replace(texts.twoDigits[digit].right(2), QString::number(digit));
+        reader = QLocale::c();
+    }
+    const qsizetype parting = readable.lastIndexOf(u' ');
     if (parting < 0)
         return {};
-    const QDate date = QLocale().toDate(text.left(parting), GetShortDateFormat());
-    const QTime time = QLocale().toTime(text.mid(parting + 1), TimeOfDefaultText);
+    const QDate date = reader.toDate(readable.left(parting), texts.shortDate);
+    const QTime time = reader.toTime(readable.mid(parting + 1), TimeOfDefaultText);
     if (!date.isValid() || !time.isValid())
         return {};
     return DateTime::FromQt(date) + DateTime::FromMilliseconds(time.msecsSinceStartOfDay());

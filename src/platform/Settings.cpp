@@ -55,6 +55,28 @@ void SaveSetting(const QString& application, const QString& section, const QStri
         g_settingsLost(QDir::toNativeSeparators(settings.fileName()));
 }
 
+void SaveSettings(const QString& application, const QString& section,
+                  const QMap<QString, QString>& values) {
+    QSettings settings = Open(application);
+    settings.beginGroup(section);
+    QMap<QString, QVariant> before;
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        before[value.key()] = settings.value(value.key());
+        settings.setValue(value.key(), value.value());
+    }
+    settings.sync();
+    if (settings.status() != QSettings::AccessError)
+        return;
+    // Otherwise they would be written together with the next value that can be saved.
+    for (auto value = before.begin(); value != before.end(); ++value)
+        if (value->isValid())
+            settings.setValue(value.key(), *value);
+        else
+            settings.remove(value.key());
+    throw RunTimeError(RunTimeErrorNumber::PermissionDenied,
+                       QDir::toNativeSeparators(settings.fileName()));
+}
+
 void InstallSettingsLost(SettingsLost handler) {
     g_settingsLost = handler;
     g_lost = false;

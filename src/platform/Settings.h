@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QString>
 
 /// The settings of the user: texts by application, section and key.
@@ -13,6 +14,11 @@ QString GetSetting(const QString& application, const QString& section, const QSt
 /// Never throws; InstallSettingsLost says what happens if the value cannot be written.
 void SaveSetting(const QString& application, const QString& section, const QString& key,
                  const QString& value);
+
+/// Saves several values of a section at once. If they cannot be written, throws RunTimeError with
+/// the path of the settings, and none is changed. For a caller that lets the user try again.
+void SaveSettings(const QString& application, const QString& section,
+                  const QMap<QString, QString>& values);
 
 /// Gets the path of the file that cannot be written.
 using SettingsLost = void (*)(const QString& path);

@@ -1,6 +1,9 @@
 #include "ReportCatalogue.h"
 
+#include "DatabaseReportRow.h"
 #include "HardwareListRow.h"
+#include "IncidentReportRow.h"
+#include "IncidentSitesRow.h"
 #include "LookUps.h"
 #include "PatrolScheduleRow.h"
 #include "ReaderReportRow.h"
@@ -9,10 +12,9 @@
 
 const std::vector<ReportRow>& ReportCatalogue() {
     static const std::vector<ReportRow> rows = {
-        TourReportRow(),
-        ReaderReportRow(),
-        HardwareListRow(),
-        PatrolScheduleRow(),
+        TourReportRow(),     IncidentReportRow(), IncidentSitesRow(),
+        TourReportRow(),     ReaderReportRow(),   HardwareListRow(),
+        PatrolScheduleRow(), ReaderReportRow(),   DatabaseReportRow(),
     };
     return rows;
 }

@@ -5,6 +5,8 @@
 #include "WindowTools.h"
 #include "cReaderOptions.h"
 #include "deMain.h"
+#include "frmAbout.h"
+#include "frmCompany.h"
 #include "frmMDISetup.h"
 #include "frmMdiDownload.h"
 #include "frmMdiMenu.h"
@@ -87,8 +89,7 @@ void frmMain::MDIForm_Load() {
 
 /// Hides the menu items whose dialogs do not exist yet.
 void frmMain::HideUnbuilt() {
-    for (QAction* action : {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore,
-                            m_ui->mnuToolCompany, m_ui->mnuHelpAbout})
+    for (QAction* action : {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore})
         action->setVisible(false);
 }
 
@@ -105,7 +106,13 @@ void frmMain::ConnectMenu() {
         ChangeLanguage();
         GoHome();
     });
+    connect(m_ui->mnuToolCompany, &QAction::triggered, this, [this] { frmCompany(this).exec(); });
     connect(m_ui->mnuHelpContents, &QAction::triggered, this, &frmMain::mnuHelpContents_Click);
+    connect(m_ui->mnuHelpAbout, &QAction::triggered, this, [this] {
+        frmAbout dialog(this);
+        dialog.Populate();
+        dialog.exec();
+    });
 }
 
 void frmMain::InitToolbar() {

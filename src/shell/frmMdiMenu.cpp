@@ -38,8 +38,7 @@ void frmMdiMenu::Translate() {
     TranslateWindow(*this, [](const QString& text) { return ::Translate(text); });
     m_ui->lblMainTitle->setText(GetReportsTitle());
     m_ui->lblVersionMsg->setText(::Translate("Version") + u' ' + GetVersionString());
-    m_ui->lblCopyright->setText(
-        ::Translate("Copyright © 2026 the Wardlock authors. Free software under the MIT licence."));
+    m_ui->lblCopyright->setText(LegalNotice());
     ResizeForm();
 }
 

@@ -11,6 +11,7 @@
 
 TestHome::TestHome(Content content) {
     SetAppPath(m_folder.path());
+    gConnectionString = ConnectionText(Store(), StorePassword);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("config"));
     if (content == NoStore)
         return;

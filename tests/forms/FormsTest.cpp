@@ -1,10 +1,13 @@
 #include "DataReport.h"
 #include "DockingLink.h"
+#include "Recordset.h"
 #include "ReportViewer.h"
 #include "TestHome.h"
 #include "cReaderOptions.h"
+#include "frmAbout.h"
 #include "frmAddButton.h"
 #include "frmAddReader.h"
+#include "frmCompany.h"
 #include "frmCopyTour.h"
 #include "frmDownload.h"
 #include "frmEditButton.h"
@@ -24,13 +27,17 @@
 #include "frmMdiReports.h"
 #include "frmPreview.h"
 #include "frmPrpComms.h"
+#include "frmRptCustomParam.h"
 #include "frmRptHardwareListParam.h"
+#include "frmRptIncidentNew.h"
+#include "frmRptIncidentParam.h"
 #include "frmRptPatrolSchedule.h"
 #include "frmRptReaderReport.h"
 #include "frmRptTour.h"
 #include "frmSetTime.h"
 #include "frmSplash.h"
 #include "frmUserMaintenance.h"
+#include "frmWaitReport.h"
 #include "mHelp.h"
 #include "mTranslations.h"
 
@@ -73,8 +80,15 @@ Maker WithViewer() {
 
 const std::map<QString, Maker>& Makers() {
     static const std::map<QString, Maker> makers = {
+        {"frmAbout",
+         [](DockingLink&, ReportViewer&) {
+             auto form = std::make_unique<frmAbout>(nullptr);
+             form->Populate();
+             return form;
+         }},
         {"frmAddButton", WithLink<frmAddButton>()},
         {"frmAddReader", WithLink<frmAddReader>()},
+        {"frmCompany", Plain<frmCompany>()},
         {"frmCopyTour", Plain<frmCopyTour>()},
         {"frmDownload", WithLink<frmDownload>()},
         {"frmEditButton", Plain<frmEditButton>()},
@@ -113,11 +127,19 @@ const std::map<QString, Maker>& Makers() {
         {"frmPrpComms", Plain<frmPrpComms>()},
         {"frmRptHardwareListParam", WithViewer<frmRptHardwareListParam>()},
         {"frmRptPatrolSchedule", WithViewer<frmRptPatrolSchedule>()},
+        {"frmRptCustomParam", WithViewer<frmRptCustomParam>()},
         {"frmRptReaderReport", WithViewer<frmRptReaderReport>()},
+        {"frmRptIncidentNew", WithViewer<frmRptIncidentNew>()},
+        {"frmRptIncidentParam", WithViewer<frmRptIncidentParam>()},
         {"frmRptTour", WithViewer<frmRptTour>()},
         {"frmSetTime", WithLink<frmSetTime>()},
         {"frmSplash", [](DockingLink&, ReportViewer&) { return std::make_unique<frmSplash>(); }},
         {"frmUserMaintenance", Plain<frmUserMaintenance>()},
+        {"frmWaitReport",
+         [](DockingLink&, ReportViewer&) {
+             static Recordset rows;
+             return std::make_unique<frmWaitReport>(rows, nullptr);
+         }},
     };
     return makers;
 }

@@ -132,6 +132,10 @@ private slots:
             QVERIFY2(date.count("2026") == 1 && date.contains("29"),
                      qPrintable(locale.name() + u' ' + date));
             QVERIFY(LatinDigits(DefaultDateTimeText(night)).contains("02:07:58"));
+            for (const DateTime moment : {night, night.DatePart(), night.TimePart()}) {
+                QCOMPARE(DateTimeFromText(DefaultDateTimeText(moment)), moment);
+                QCOMPARE(Format(moment, GetShortDateFormat()), Format(moment, "Short Date"));
+            }
         }
     }
 

@@ -6,6 +6,7 @@
 #include "DateTimeRange.h"
 #include "RecordingViewer.h"
 #include "ReportButtons.h"
+#include "ReportCatalogue.h"
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
 #include "frmMdiReports.h"
@@ -93,31 +94,50 @@ private slots:
         QVERIFY(!dialog.isVisible() && dialog.result() == QDialog::Rejected);
     }
 
-    // A report needs a reader, then a tour, before its dialog opens.
+    // What each report asks for before its dialog opens: a reader (r), then a tour (t).
     void AsksForAReaderThenATour() {
+        const QHash<QString, QString> needs{{"NewException", "rt"},     {"IncidentReport", "r"},
+                                            {"IncidentReportOld", "r"}, {"ReaderReport", "r"},
+                                            {"HardwareListReport", ""}, {"PatrolSchedule", "t"},
+                                            {"CustomReport", ""}};
         const TestHome home(TestHome::EmptyStore);
         ScriptedBoxes boxes;
         RecordingViewer viewer;
         frmMdiReports page(viewer, nullptr);
-        const auto* list = page.findChild<QTreeWidget*>("lvwReports");
-        const QTreeWidgetItem* row = list->topLevelItem(0);
-        const auto open = [&] {
-            page.ReportParamShow("NewException", row->text(0));
-            return boxes.TakeTexts().join(u'/');
-        };
-        QCOMPARE(open(), "You must add at least one reader before this report can be used");
-        gConn->Execute("INSERT INTO tblReaders (tReaderId) VALUES ('4B5831A7')");
-        QCOMPARE(open(), "You must add at least one tour before this report can be used");
-        gConn->Execute("INSERT INTO tblTours (tName) VALUES ('Night')");
-        QString title;
-        QTimer::singleShot(100, [&] {
-            if (QWidget* dialog = QApplication::activeModalWidget()) {
-                title = dialog->windowTitle();
-                dialog->close();
+        auto* list = page.findChild<QTreeWidget*>("lvwReports");
+        for (const QString defined : {"", "t", "rt", "r"}) {
+            gConn->Execute("DELETE FROM tblReaders");
+            gConn->Execute("DELETE FROM tblTours");
+            if (defined.contains(u'r'))
+                gConn->Execute("INSERT INTO tblReaders (tReaderId) VALUES ('4B5831A7')");
+            if (defined.contains(u't'))
+                gConn->Execute("INSERT INTO tblTours (tName) VALUES ('Night')");
+            int place = 0;
+            for (const ReportRow& report : ReportCatalogue()) {
+                QString missing = needs[report.key];
+                for (const QChar thing : defined)
+                    missing.remove(thing);
+                const char* message =
+                    missing.isEmpty() ? ""
+                    : missing[0] == u'r'
+                        ? "You must add at least one reader before this report can be used"
+                        : "You must add at least one tour before this report can be used";
+                QVERIFY(needs.contains(report.key));
+                QString title;
+                QTimer closer;
+                closer.callOnTimeout([&] {
+                    if (QWidget* dialog = QApplication::activeModalWidget()) {
+                        title = dialog->windowTitle();
+                        dialog->close();
+                    }
+                });
+                closer.start(20);
+                list->setCurrentItem(list->topLevelItem(place++));
+                page.ReportParamShow(report.key, report.name);
+                QCOMPARE(boxes.TakeTexts().join(u'/'), message);
+                QCOMPARE(title, missing.isEmpty() ? report.name : "");
             }
-        });
-        QCOMPARE(open(), "");
-        QCOMPARE(title, "Tour / Exception Report");
+        }
     }
 };
 

@@ -11,8 +11,11 @@
 #include "TourExceptionTable.h"
 #include "darTourException.h"
 
+#include <QBuffer>
 #include <QImage>
 #include <QPainter>
+#include <QRegularExpression>
+#include <QStringDecoder>
 
 #include <cmath>
 #include <random>
@@ -25,7 +28,7 @@ const DateTime Evening = DateTime::FromQt(QDate(2026, 11, 5)) + DateTime::FromTi
 QString PdfText(const DataReport& report) {
     QTemporaryDir folder;
     const QString path = folder.filePath("report.pdf");
-    ExportPdf(report, path, "Title");
+    ExportPdf(report, path);
     return TextOfPdf(path);
 }
 
@@ -315,6 +318,43 @@ private slots:
         QVERIFY(text.count("Beginning") == 1 && text.contains("3 / 3"));
     }
 
+    // Read as a viewer does: from the end, by the last table of places and what it names.
+    void PdfHasItsProperties() {
+        const TestClock clock(Evening, 0.001);
+        const auto report = SmallReport();
+        report->SetCaption("Nacht (1\\2) č\u0D0A");
+        report->SetLanguage("de");
+        const auto pdf = [&](const QString& author) {
+            report->SetAuthor(author);
+            QBuffer buffer;
+            buffer.open(QIODevice::WriteOnly);
+            ExportPdf(*report, buffer);
+            return buffer.data();
+        };
+        QVERIFY(!pdf({}).contains("/Author"));
+        const QByteArray bytes = pdf("Wächter) 🔒 حارس \\");
+        QCOMPARE(pdf(report->Author()), bytes);
+        const auto match = [](const QByteArray& text, const QString& pattern) {
+            return QRegularExpression(pattern).match(QString::fromLatin1(text)).captured(1);
+        };
+        const QByteArray table = bytes.mid(match(bytes, "startxref\n(\\d+)\n%%EOF\n$").toInt());
+        const auto object = [&](const QString& key) {
+            const QString number = match(table, key + " (\\d+) 0 R");
+            const int place = match(table, '\n' + number + " 1\n(\\d{10}) 00000 n \n").toInt();
+            const QByteArray text = bytes.mid(place, 1000);
+            return text.startsWith(number.toLatin1() + " 0 obj\n") ? text : QByteArray();
+        };
+        const auto text = [&](const QString& key) {
+            const QString digits = match(object("/Info"), key + " <FEFF([0-9A-F]+)>");
+            QStringDecoder decode(QStringDecoder::Utf16BE);
+            return QString(decode(QByteArray::fromHex(digits.toLatin1())));
+        };
+        QCOMPARE(text("/Title"), report->Caption());
+        QCOMPARE(text("/Author"), report->Author());
+        QVERIFY(!match(object("/Info"), "(D:20261105220758[+-]\\d\\d'00')\\)").isEmpty());
+        QVERIFY(object("/Root").contains("/Lang (de)\n"));
+    }
+
     void PlaceholdersAreTheLayoutsOnly() {
         if (!HasPdfTool())
             QSKIP("pdftotext is not there");
@@ -336,16 +376,16 @@ private slots:
         const auto report = SmallReport();
         QTemporaryDir folder;
         const QString path = folder.filePath("none/report.pdf");
-        QVERIFY(DescriptionOf([&] { ExportPdf(*report, path, {}); }).contains("report.pdf"));
+        QVERIFY(DescriptionOf([&] { ExportPdf(*report, path); }).contains("report.pdf"));
         const QString older = folder.filePath("older.pdf");
         WriteBytes(older, "older");
-        QVERIFY(!ExportPdf(*report, older, {}, [](int, int) { return false; }));
+        QVERIFY(!ExportPdf(*report, older, [](int, int) { return false; }));
         QCOMPARE(BytesOf(older), "older");
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("older.pdf"));
         if (QFile::exists("/dev/full")) {
             QFile full("/dev/full");
             QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-            QVERIFY_THROWS_EXCEPTION(RunTimeError, ExportPdf(*report, full, {}));
+            QVERIFY_THROWS_EXCEPTION(RunTimeError, ExportPdf(*report, full));
         }
     }
 };

@@ -2,6 +2,7 @@
 #include "CommPort.h"
 #include "Controls.h"
 #include "Dock.h"
+#include "Files.h"
 #include "InstanceLock.h"
 #include "LookUps.h"
 #include "RecordingViewer.h"
@@ -10,10 +11,12 @@
 #include "TableExists.h"
 #include "TestHome.h"
 #include "TourReportBuilder.h"
+#include "frmAbout.h"
 #include "frmMain.h"
 #include "frmUserMaintenance.h"
 #include "mMain.h"
 #include "mOperators.h"
+#include "mSettings.h"
 #include "mTranslations.h"
 
 #include <QComboBox>
@@ -256,8 +259,8 @@ private slots:
         QCOMPARE(Control<QMenu>(*MainWindow(), "mnuTools")->menuAction()->isVisible(), tools);
         QVERIFY(Action("mnuFileExit")->isEnabled());
         QCOMPARE(Action("setup")->isVisible(), tools);
-        for (const char* unbuilt : {"mnuFileArchive", "mnuFileBackup", "mnuFileRestore",
-                                    "mnuToolCompany", "mnuHelpAbout"})
+        QVERIFY(Action("mnuHelpAbout")->isVisible() && Action("mnuHelpAbout")->isEnabled());
+        for (const char* unbuilt : {"mnuFileArchive", "mnuFileBackup", "mnuFileRestore"})
             QVERIFY2(!Action(unbuilt)->isVisible(), unbuilt);
         for (const char* noDock : {"mnuToolsPipeOptions", "mnuToolsClearPipe", "mnuToolsReaderFW"})
             QVERIFY2(!Action(noDock)->isEnabled(), noDock);
@@ -401,6 +404,63 @@ private slots:
         QVERIFY(!dialog.isVisible());
         QCOMPARE(CheckOperator(UserOperator, " LANTERN "), UserOperator);
         QCOMPARE(CheckOperator(UserOperator, "crew"), NoOperator);
+    }
+
+    void CompanyLinesAreKeptAsTyped() {
+        QVERIFY(Start(nullptr));
+        const auto edit = [](const QString& text, const QStringList& buttons) {
+            Script script;
+            Type(script, "frmCompany", "txtLine_3", text);
+            for (const QString& button : buttons)
+                button == "OK" ? script.Answer(button) : script.Click("frmCompany", button);
+            script.Start();
+            Action("mnuToolCompany")->trigger();
+            QVERIFY(script.Finish());
+        };
+        const QString first = "Old, \"@x ", second(60, u'W'), config = m_home->File("config");
+        edit(first, {"cmdOK"});
+        edit("lost", {"cmdCancel"});
+        QVERIFY(QFile::rename(config, config + 'x') && QFile::copy(m_home->Store(), config));
+        edit("lost", {"cmdOK", "OK", "cmdCancel"}); // a box, and the dialog stays
+        QCOMPARE(gCompanyInfo[3], first);
+        QVERIFY(QFile::remove(config) && QFile::rename(config + 'x', config));
+        Save(SettingsSection::Info, "LastLogin", "1"); // does not save the cancelled line too
+        QCOMPARE(Saved(SettingsSection::Properties, "CompanyInfo4"), first);
+        edit(second, {"cmdOK"});
+        QCOMPARE(gCompanyInfo[3], second);
+        ReadRemainingSettings();
+        QCOMPARE(gCompanyInfo[3], second.left(50));
+        QCOMPARE(Saved(SettingsSection::Properties, "CompanyInfo4"), second);
+    }
+
+    void AboutShowsTheInstallersText() {
+        QVERIFY(Start(nullptr, "crew", "optUser_1"));
+        QString shown;
+        const auto about = [&shown] {
+            Script script;
+            script.With<QLabel>("frmAbout", "lblCustom", [&](QLabel& contact) {
+                shown = Control(*contact.window(), "lblBuild")->text() + u'|' + contact.text();
+            });
+            script.Click("frmAbout", "cmdOK");
+            script.Start();
+            Action("mnuHelpAbout")->trigger();
+            return script.Finish() ? shown : QString();
+        };
+        QVERIFY(about().startsWith("Build 0001|Help, Contents"));
+        const QString path = m_home->File("contact.txt");
+        const std::pair<QByteArray, QString> files[] = {
+            {QByteArray(4097, 'x'), {}},
+            {QByteArray(4096, 'x'), QString(2048, u'x')},
+            {"B\xC3\xBCro", "Büro"},
+            {"B\xFCro <b>", "Büro <b>"}};
+        for (const auto& [bytes, text] : files) {
+            WriteBytes(path, bytes);
+            QCOMPARE(frmAbout::TextFromFile(path), text);
+        }
+        QCOMPARE(about(), "Build 0001|Büro <b>");
+        m_home->TakeLog();
+        QCOMPARE(frmAbout::TextFromFile(m_home->File("config")), ""); // a folder
+        QVERIFY(m_home->TakeLog().contains("TextFromFile of Form frmAbout"));
     }
 
     void WindowKeepsItsPlace() {

@@ -36,6 +36,13 @@ public:
     const QString& Caption() const { return m_caption; }
     void SetCaption(const QString& caption) { m_caption = caption; }
 
+    /// Who makes the report and the language of its texts, such as "de"; both for PDF, and empty if
+    /// not set.
+    const QString& Author() const { return m_author; }
+    void SetAuthor(const QString& author) { m_author = author; }
+    const QString& Language() const { return m_language; }
+    void SetLanguage(const QString& language) { m_language = language; }
+
     const ReportLayout& Layout() const { return m_layout; }
     /// The section of that name; upper and lower case are the same. It belongs to the report.
     /// Throws RunTimeError (NoSuchItem).
@@ -88,6 +95,8 @@ private:
     std::vector<ReportFont> m_fonts;
     mutable FittedTexts m_fitted{500};
     QString m_caption;
+    QString m_author;
+    QString m_language;
     const RowSource* m_rows = nullptr;
     std::array<std::vector<int>, SectionKinds> m_columns;
     Pagination m_pages;

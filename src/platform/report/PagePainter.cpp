@@ -111,7 +111,7 @@ void PagePainter::PaintText(const ControlStyle& style, QPoint origin, const QStr
         return;
     const QRectF box = style.box.translated(origin);
     if (IsRule(text)) {
-        PaintRule(style, box, text.size());
+        PaintRule(style, box, text);
         return;
     }
     Use(style);
@@ -133,13 +133,15 @@ void PagePainter::PaintLines(const ControlStyle& style, const QRectF& box,
 }
 
 /// Drawn as one line: letter by letter, the joints would show.
-void PagePainter::PaintRule(const ControlStyle& style, const QRectF& box, qsizetype letters) {
+void PagePainter::PaintRule(const ControlStyle& style, const QRectF& box, const QString& text) {
     const ReportFont& font = FontOf(style);
-    const qreal width = font.Width(QStringLiteral("_")) * static_cast<qreal>(letters);
-    const qreal down = FirstBaseline(style, box, 1) + font.UnderlinePosition();
-    const QPointF from(box.left(), std::min(down, box.bottom() - font.UnderlineThickness()));
+    const qreal width = font.Width(text.left(1)) * static_cast<qreal>(text.size());
+    const qreal down =
+        FirstBaseline(style, box, 1) +
+        (text.startsWith(u'-') ? -font.StrikeOutPosition() : font.UnderlinePosition());
+    const QPointF from(box.left(), std::min(down, box.bottom() - font.LineThickness()));
     DrawLine(from, from + QPointF(std::min(width, box.width()), 0), style.colour,
-             font.UnderlineThickness());
+             font.LineThickness());
 }
 
 bool PagePainter::PaintPlainly(const ControlStyle& style, const QRectF& box,

@@ -47,7 +47,7 @@ private:
     void DrawLine(QPointF from, QPointF to, const QColor& colour, qreal thickness);
     void PaintText(const ControlStyle& style, QPoint origin, const QString& text,
                    bool mayHaveLines = false);
-    void PaintRule(const ControlStyle& style, const QRectF& box, qsizetype letters);
+    void PaintRule(const ControlStyle& style, const QRectF& box, const QString& text);
     void PaintLines(const ControlStyle& style, const QRectF& box, std::span<const QString> lines);
     bool PaintPlainly(const ControlStyle& style, const QRectF& box, std::span<const QString> lines);
     void PaintFitted(const ControlStyle& style, const QRectF& box, const QStringList& lines);

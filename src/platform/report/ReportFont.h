@@ -19,9 +19,11 @@ public:
     qreal Ascent() const { return m_ascent; }
     qreal Height() const { return m_height; }
     qreal LineSpacing() const { return m_lineSpacing; }
-    /// Distance of an underline below the baseline, and its thickness.
+    /// Distance of an underline below the baseline, of a line through the letters above it, and
+    /// their thickness.
     qreal UnderlinePosition() const { return m_metrics.underlinePos(); }
-    qreal UnderlineThickness() const { return m_metrics.lineWidth(); }
+    qreal StrikeOutPosition() const { return m_metrics.strikeOutPos(); }
+    qreal LineThickness() const { return m_metrics.lineWidth(); }
 
     qreal Width(const QString& text) const { return m_metrics.horizontalAdvance(text); }
     /// True if a line's ink certainly stays within a width and the font's height. It is estimated

@@ -65,8 +65,8 @@ struct ReportLayout {
 /// and footer of a group), line ("thickness"; its width or its height is 0). Texts also have
 /// "size", "bold", "italic", "colour" ("#rrggbb"), "align" (left, centre, right), "verticalAlign"
 /// (top, centre, bottom). A text that is too large for its box is made to fit (FittedText.h). A
-/// text of nothing but underscores is drawn as one rule. The font's size and colour are the
-/// default.
+/// text of nothing but ten or more underscores, or dashes, is drawn as one rule. The font's size
+/// and colour are the default.
 ReportLayout LoadReportLayout(const QString& name);
 
 /// The same from bytes; `file` is what messages call them.

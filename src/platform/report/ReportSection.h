@@ -32,7 +32,7 @@ constexpr bool HasRow(SectionKind kind) {
            kind == SectionKind::GroupFooter;
 }
 
-/// A text of underscores alone. It is drawn as one line, as wide as its box.
+/// A text of ten or more underscores, or dashes, and nothing else. It is drawn as one line.
 bool IsRule(QStringView text);
 
 enum class ControlKind { Label, TextBox, Line };

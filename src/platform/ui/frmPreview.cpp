@@ -231,8 +231,7 @@ void frmPreview::Export() {
         return;
     try {
         ProgressWindow progress(QT_TR_NOOP("Export to PDF"), m_translate, this);
-        ExportPdf(m_report, dialog.selectedFiles().value(0), m_report.Caption(),
-                  std::ref(progress));
+        ExportPdf(m_report, dialog.selectedFiles().value(0), std::ref(progress));
     } catch (const RunTimeError& error) {
         Tell(QT_TR_NOOP("The report could not be exported."), error.Description());
     }

@@ -1,0 +1,47 @@
+#include "DatabaseReportRow.h"
+
+#include "CommandOptions.h"
+#include "DatabaseReportBuilder.h"
+#include "ReportViewer.h"
+#include "frmRptCustomParam.h"
+#include "mTranslations.h"
+
+namespace {
+
+void LoadCustomReport(const QString& caption, ReportViewer& viewer, QWidget* parent) {
+    frmRptCustomParam dialog(viewer, parent);
+    dialog.setWindowTitle(caption);
+    dialog.exec();
+}
+
+std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
+    const auto request = std::make_shared<DatabaseReportRequest>();
+    AddMinute(options, "--from", request->StartDate, "the first minute of the range");
+    AddMinute(options, "--to", request->EndDate,
+              "the last minute; only its first second belongs to the range");
+    return [request](ReportViewer& viewer) {
+        const auto copy = [&](const EventQuery& query, Recordset& rows) {
+            const CopyResult result = CopyEvents(query, rows, viewer.Progress());
+            if (result == CopyResult::NoEvents)
+                IvMessageBox(Translate("No Data on the report"));
+            return result == CopyResult::Copied;
+        };
+        BuildDatabaseReport(*request, copy, viewer);
+    };
+}
+
+} // namespace
+
+ReportRow DatabaseReportRow() {
+    return {.key = "CustomReport",
+            .name = QT_TR_NOOP("Database Report"),
+            .description = QT_TR_NOOP("Raw data from database"),
+            .needs = ReportNeeds::Nothing,
+            .open = LoadCustomReport,
+            .openLabel = nullptr,
+            .word = "database",
+            .help = "lists all touches in a range of time",
+            .example = "--from 2026-11-21T00:00 --to 2026-11-22T23:59 --format csv",
+            .commandNeeds = ReportNeeds::Nothing,
+            .addOptions = AddOptions};
+}

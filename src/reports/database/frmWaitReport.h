@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Clock.h"
+#include "DatabaseReportBuilder.h"
+#include "RunTimeError.h"
+
+#include <QDialog>
+
+#include <memory>
+#include <optional>
+
+namespace Ui {
+class frmWaitReport;
+}
+
+/// The window that copies the events of the database report while it is shown. It says how far the
+/// copying is; "Cancel", Escape and its close button end it. If there is nothing to show, it says
+/// so and waits for "Cancel".
+class frmWaitReport : public QDialog {
+    Q_OBJECT
+public:
+    /// `rows` will be open on the copied events. It must outlive the window.
+    frmWaitReport(Recordset& rows, QWidget* parent);
+    ~frmWaitReport() override;
+
+    /// What is copied. Set before the window is shown.
+    EventQuery CommandSQL;
+    /// The events were copied.
+    bool OK() const { return result() == Accepted; }
+
+    /// Shows the window until it closes; gives OK. Throws what CopyEvents has thrown.
+    bool Run();
+
+    void reject() override;
+
+private:
+    void GoProcessData();
+    bool ShowProgress(int done, int all);
+    void ShowResult(const char* text);
+
+    std::unique_ptr<Ui::frmWaitReport> m_ui;
+    Recordset& m_rows;
+    Timer m_tmrStart;
+    bool m_copying = false;
+    bool m_cancelled = false;
+    std::int64_t m_shownAt = 0; ///< MillisecondsRunning when the progress was last shown
+    std::optional<RunTimeError> m_failure;
+};

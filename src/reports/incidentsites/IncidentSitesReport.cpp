@@ -1,0 +1,211 @@
+#include "IncidentSitesReport.h"
+
+#include "Format.h"
+#include "ReportViewer.h"
+#include "Rows.h"
+#include "ScratchTable.h"
+#include "darIncidentOld.h"
+#include "mErrorHandler.h"
+#include "mReports.h"
+#include "mTranslations.h"
+
+#include <QHash>
+
+namespace {
+
+const QString TempIncident = QStringLiteral("tblTempIncident");
+const char* const PreviewLabel = "cmdPrintPreview_Click of Form frmRptIncidentParam";
+const char* const BuildLabel = "BuildIncidentReport_ORIGINAL of Form frmRptIncidentParam";
+
+// The columns of the events, by position: two of them are named "ID".
+enum EventColumn {
+    ReaderIdColumn,
+    ReaderDescriptionColumn,
+    TypeColumn,
+    GroupColumn,
+    DateColumn,
+    ButtonIdColumn,
+    CodeColumn,
+    ButtonColumn,
+    ButtonDescriptionColumn,
+    GroupIdColumn,
+    PipeIdColumn
+};
+
+/// Dates and times of day as the report shows them. Many touches share a day or a minute, and each
+/// text is made once.
+class MomentTexts {
+public:
+    const QString& Date(DateTime moment) {
+        return Find(m_dates, moment.WholeDays(), moment, QStringLiteral("Short Date"));
+    }
+    const QString& Time(DateTime moment) {
+        return Find(m_times, moment.TimePart().Milliseconds() / 60'000, moment,
+                    QStringLiteral("Short Time"));
+    }
+
+private:
+    using Texts = QHash<qint64, QString>;
+    static const QString& Find(Texts& texts, qint64 key, DateTime moment, const QString& format) {
+        QString& text = texts[key];
+        if (text.isEmpty())
+            text = Format(moment, format);
+        return text;
+    }
+
+    Texts m_dates, m_times;
+};
+
+int CountEvents(const IncidentSitesRequest& request) {
+    Rows count(QStringLiteral("SELECT COUNT(*) FROM tblEvents WHERE "
+                              "(tblEvents.dtDateTime >= ?) AND (tblEvents.dtDateTime <= ?)"),
+               {request.StartDate, request.EndDate});
+    return static_cast<int>(count.FieldAt(0).Number());
+}
+
+/// Opens all touches of the range whose button and reader are still defined, to be read once.
+void OpenIncidentEvents(DateTime startDate, DateTime endDate, Recordset& events) {
+    events.Open(QStringLiteral(
+                    "SELECT tblReaders.tReaderID, tblReaders.tDescription, tblListItems.wType, "
+                    "tblListItems.tName, tblEvents.dtDateTime, tblButtons.ID, "
+                    "tblEvents.tButtonCode, tblButtons.tButtonName, tblButtons.tButtonDesc, "
+                    "tblListItems.ID, tblEvents.tPipeId "
+                    "FROM ((tblEvents INNER JOIN tblButtons ON (tblEvents.tButtonCode = "
+                    "tblButtons.tButtonCode) ) INNER JOIN tblListItems ON tblButtons.lParentID = "
+                    "tblListItems.ID) INNER JOIN tblReaders ON (tblEvents.tPipeId = "
+                    "tblReaders.tReaderId) "
+                    "WHERE (tblEvents.dtDateTime >= ?) AND (TBLEvents.dtDateTime <= ?) "
+                    "ORDER BY  tblEvents.dtDateTime, tblReaders.tReaderId, tblEvents.ID ;"),
+                {startDate, endDate}, *gConn, adOpenForwardOnly, adLockReadOnly);
+}
+
+/// Adds a line for each touch that passes the filters. False if the operator cancelled.
+bool AddLines(const IncidentSitesRequest& request, Recordset& events, Recordset& lines,
+              RowProgress progress) {
+    MomentTexts texts;
+    QString lastSite, lastLocation;
+    qint64 lastSiteId = 0;
+    for (; !events.Eof(); events.MoveNext()) {
+        if (!progress.Step())
+            return false;
+        const bool isLocation = events.FieldAt(TypeColumn).Number() == SiteGroup;
+        // A touch that is filtered out still says where the guard was.
+        if (isLocation) {
+            lastSiteId = events.FieldAt(GroupIdColumn).Number();
+            lastSite = events.FieldAt(GroupColumn).Text();
+            lastLocation = events.FieldAt(ButtonColumn).Text();
+        }
+        if ((request.EventId > 0 && events.FieldAt(ButtonIdColumn).Number() != request.EventId) ||
+            (!request.ReaderId.isEmpty() &&
+             events.FieldAt(PipeIdColumn).Text() != request.ReaderId) ||
+            (request.SiteId > 0 && lastSiteId != request.SiteId))
+            continue;
+        const DateTime moment = events.FieldAt(DateColumn).Date();
+        lines.AddNew();
+        lines.Set(u"tDate", texts.Date(moment));
+        lines.Set(u"tTime", texts.Time(moment));
+        lines.Set(u"tReaderName", events.FieldAt(ReaderDescriptionColumn).Text());
+        lines.Set(u"tSite", lastSite);
+        lines.Set(u"tLocation", lastLocation);
+        lines.Set(u"tIncident",
+                  isLocation ? QStringLiteral("") : events.FieldAt(ButtonColumn).Text());
+    }
+    return true;
+}
+
+/// False if there is nothing to show.
+bool FillTempIncident(const IncidentSitesRequest& request, const WorkProgress& show,
+                      Recordset& lines) {
+    const auto make = [] {
+        CreateTempIncident();
+        return true;
+    };
+    return FillScratchTable(TempIncident, lines, make, [&](Recordset& rows) {
+        Recordset events;
+        OpenIncidentEvents(request.StartDate, request.EndDate, events);
+        return Trapped(
+            [&] {
+                return AddLines(request, events, rows, {show, CountEvents(request)});
+            },
+            [](const RunTimeError& error) {
+                PassOnIfMemoryHelps(error);
+                ReportError(QString::fromUtf8(BuildLabel), error, ErrorShow::LogOnly);
+            });
+    });
+}
+
+void Print(const IncidentSitesRequest& request, const Recordset& lines, ReportViewer& viewer) {
+    darIncidentOld report;
+    report.SetDataSource(&lines);
+    report.SetReportParam({{u"lblReportDate", PrintDateText(3)},
+                           {u"lblReportTitle", Translate("Incidents And Locations Report")},
+                           {u"Label17", MomentText(request.StartDate, 3)},
+                           {u"Label18", MomentText(request.EndDate, 3)},
+                           {u"lblCompanyInfo", CompanyText()},
+                           {u"Label14", request.EventName},
+                           {u"Label15", request.ReaderName},
+                           {u"Label16", request.SiteName}});
+    SetFrameText(report, u"Label10", u"Label19", u"Label8", u"Label9");
+    const QString colon = QStringLiteral(" : ");
+    report.SetText({{u"lblEventFilter", Translate("Event") + colon},
+                    {u"lblReaderFilter", Translate("Reader") + colon},
+                    {u"lblSiteFilter", Translate("Site") + colon},
+                    {u"lblFrom", Translate("From:")},
+                    {u"lblTo", Translate("To:")},
+                    {u"Label1", Translate("Date / Time")},
+                    {u"Label2", Translate("Reader Name")},
+                    {u"Label13", Translate("Site")},
+                    {u"Label3", Translate("Location")},
+                    {u"Label4", Translate("Incident")}});
+    ShowLayoutFrame(report, viewer);
+}
+
+void FillAndShow(const IncidentSitesRequest& request, ReportViewer& viewer) {
+    Recordset lines;
+    if (!FillTempIncident(request, viewer.Progress(), lines))
+        return;
+    // A failure from here on must not make the report a second time, with tables in memory.
+    Guarded(BuildLabel, [&] {
+        if (lines.RecordCount() == 0)
+            IvMessageBox(Translate("No Data on the report"));
+        else
+            Print(request, lines, viewer);
+    });
+}
+
+} // namespace
+
+QList<Button> EventFilters() {
+    QList<Button> events;
+    for (Rows rows(QStringLiteral(
+             "SELECT tblButtons.ID, tblButtons.lParentID, tblButtons.tButtonCode, "
+             "tblButtons.tButtonName, tblListItems.wType, tblListItems.tName FROM tblButtons "
+             "INNER JOIN tblListItems ON tblButtons.lParentID = tblListItems.ID;"));
+         !rows.Eof(); rows.MoveNext())
+        if (rows.Number(u"wType") == EventBookGroup)
+            events += {rows.Id(), rows.Text(u"tButtonCode"), rows.Text(u"tButtonName"), {}};
+    return events;
+}
+
+QList<Group> SiteFilters() { return GroupsOf(SiteGroup); }
+
+QList<Reader> ReaderFilters() {
+    QList<Reader> readers = Readers();
+    for (qsizetype i = 0; i < readers.size(); ++i)
+        if (readers[i].description.isEmpty())
+            readers[i].description = Translate("Reader") + u' ' + QString::number(i + 1);
+    return readers;
+}
+
+void CreateTempIncident() {
+    MakeScratchTable(TempIncident, {QStringLiteral("tDate"), QStringLiteral("tTime"),
+                                    QStringLiteral("tReaderName"), QStringLiteral("tSite"),
+                                    QStringLiteral("tLocation"), QStringLiteral("tIncident")});
+}
+
+void DropTempIncident() { DropScratchTable(TempIncident); }
+
+void BuildIncidentSitesReport(const IncidentSitesRequest& request, ReportViewer& viewer) {
+    Guarded(PreviewLabel, ErrorShow::Dialog,
+            [&] { WithScratchTables([&] { FillAndShow(request, viewer); }); });
+}

@@ -1,0 +1,97 @@
+#include "IncidentSitesRow.h"
+
+#include "CommandOptions.h"
+#include "IncidentSitesReport.h"
+#include "frmRptIncidentParam.h"
+#include "mTranslations.h"
+
+#include <algorithm>
+
+namespace {
+
+void LoadIncidentReportOld(const QString& caption, ReportViewer& viewer, QWidget* parent) {
+    frmRptIncidentParam dialog(viewer, parent);
+    dialog.Title(caption);
+    dialog.NewStyle = false;
+    dialog.exec();
+}
+
+/// The options of the command.
+struct Selection {
+    DateTime from, to;
+    QString code, site, reader;
+};
+
+/// The first entry whose `member` has that value; null if there is none.
+template <typename Entry, typename Base>
+const Entry* Find(const QList<Entry>& entries, QString Base::*member, const QString& value) {
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&](const Entry& entry) { return entry.*member == value; });
+    return found == entries.end() ? nullptr : &*found;
+}
+
+/// The request of a call. Nothing once a message has said which event or site there is not.
+std::optional<IncidentSitesRequest> RequestOf(const Selection& selection) {
+    const QString all = Translate("All");
+    IncidentSitesRequest request{.StartDate = selection.from,
+                                 .EndDate = selection.to + DateTime::FromTime(0, 0, 59),
+                                 .EventName = all,
+                                 .SiteName = all,
+                                 .ReaderId = selection.reader,
+                                 .ReaderName = selection.reader.isEmpty() ? all : selection.reader};
+    if (!selection.code.isEmpty()) {
+        const QList<Button> events = EventFilters();
+        const Button* event = Find(events, &Button::code, selection.code);
+        if (!event) {
+            IvMessageBox(FormatStr(Translate("No event has the code %0:s."), {selection.code}));
+            return {};
+        }
+        request.EventId = event->id;
+        request.EventName = event->name;
+    }
+    if (!selection.site.isEmpty()) {
+        const QList<Group> sites = SiteFilters();
+        const Group* site = Find(sites, &Group::name, selection.site);
+        if (!site) {
+            IvMessageBox(FormatStr(Translate("There is no site named %0:s."), {selection.site}));
+            return {};
+        }
+        request.SiteId = site->id;
+        request.SiteName = site->name;
+    }
+    const QList<Reader> readers = ReaderFilters();
+    if (const Reader* reader = Find(readers, &Reader::id, selection.reader))
+        request.ReaderName = reader->description;
+    return request;
+}
+
+std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
+    const auto selection = std::make_shared<Selection>();
+    AddMinute(options, "--from", selection->from, "the first minute of the range");
+    AddMinute(options, "--to", selection->to, "the last minute of the range");
+    AddOptionalCode(options, "--event", selection->code, "only the event of this code");
+    AddOptionalText(options, "--site", selection->site, "only touches on the site of this name");
+    AddOptionalReader(options, "--reader", selection->reader, "only the touches of this reader");
+    return [selection](ReportViewer& viewer) {
+        if (const std::optional<IncidentSitesRequest> request = RequestOf(*selection)) {
+            BuildIncidentSitesReport(*request, viewer);
+            DropTempIncident();
+        }
+    };
+}
+
+} // namespace
+
+ReportRow IncidentSitesRow() {
+    return {.key = "IncidentReportOld",
+            .name = QT_TR_NOOP("Incident Report with Sites"),
+            .description = QT_TR_NOOP("List Incidents for a range of dates and readers with sites"),
+            .needs = ReportNeeds::Reader,
+            .open = LoadIncidentReportOld,
+            .openLabel = "LoadIncidentReportOld of Form frmMdiReports",
+            .word = "incident-sites",
+            .help = "lists all touches with their sites and locations",
+            .example = "--from 2026-11-21T00:00 --to 2026-11-22T23:59 --format text",
+            .commandNeeds = ReportNeeds::Reader,
+            .addOptions = AddOptions};
+}
