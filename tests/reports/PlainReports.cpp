@@ -112,8 +112,28 @@ const Group* GroupOf(const Site& site, const Button& button) {
 
 } // namespace
 
+QStringList PlainReports::EventCodes(const Site& site) {
+    QStringList codes;
+    for (const Button& button : site.buttons)
+        if (const Group* group = GroupOf(site, button))
+            if (group->type == 2 && !button.code.isNull() && !codes.contains(button.code))
+                codes += button.code;
+    return codes;
+}
+
+QStringList PlainReports::SiteNames(const Site& site) {
+    QStringList names;
+    for (const Group& group : site.groups)
+        if (group.type == 1 && !group.name.isEmpty())
+            names += group.name;
+    return names;
+}
+
 Outcome PlainReports::Incident(const Site& site, Range range, const QStringList& readers,
                                const QStringList& codes) {
+    for (const QString& code : codes)
+        if (!EventCodes(site).contains(code))
+            return Refused("No event has the code " + code + ".");
     if (readers.isEmpty() && site.readers.isEmpty())
         return Refused("There must be at least one reader selected to create a report");
     const auto isRead = [&](const QString& id) {
@@ -175,6 +195,10 @@ Outcome PlainReports::IncidentSites(const Site& site, Range range, const QString
                                     const QString& place, const QString& reader) {
     if (site.readers.isEmpty())
         return Refused("You must add at least one reader before this report can be used");
+    if (!code.isNull() && !EventCodes(site).contains(code))
+        return Refused("No event has the code " + code + ".");
+    if (!place.isNull() && !SiteNames(site).contains(place))
+        return Refused("There is no site named " + place + ".");
     QString eventName = "All", siteName = "All", readerName = "All";
     int eventId = -1, siteId = -1;
     for (const Button& button : site.buttons) {

@@ -77,6 +77,9 @@ struct Outcome {
     QHash<QString, QString> printed;
 };
 
+QStringList EventCodes(const Site& site);
+QStringList SiteNames(const Site& site);
+
 /// Without a name in `readers` or `codes`, all of them are meant.
 Outcome Incident(const Site& site, Range range, const QStringList& readers,
                  const QStringList& codes);
