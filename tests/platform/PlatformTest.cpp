@@ -131,7 +131,10 @@ private slots:
             const QString date = LatinDigits(Format(night, "Short Date"));
             QVERIFY2(date.count("2026") == 1 && date.contains("29"),
                      qPrintable(locale.name() + u' ' + date));
-            QVERIFY(LatinDigits(DefaultDateTimeText(night)).contains("02:07:58"));
+            const QString both = DefaultDateTimeText(night);
+            QVERIFY(LatinDigits(both).contains("02:07:58"));
+            if (locale.zeroDigit().size() == 1) // Qt cannot read digits of two units each
+                QVERIFY2(DateTimeFromText(both) == night, qPrintable(locale.name() + u' ' + both));
         }
     }
 
