@@ -50,6 +50,31 @@ QString Padded(int value, int width) {
     return QStringLiteral("%1").arg(value, width, 10, QLatin1Char('0'));
 }
 
+/// Reads a date in the locale's short format, which is slow. The last one is kept: thousands of
+/// rows of a report have the same day.
+QDate ShortDate(const QString& text) {
+    struct Known {
+        QString text;
+        QLocale locale;
+        QDate date;
+    };
+    static thread_local Known last;
+    if (const QLocale locale; last.text != text || last.locale != locale)
+        last = {text, locale, locale.toDate(text, GetShortDateFormat())};
+    return last.date;
+}
+
+/// Reads a time in TimeOfDefaultText, in the digits of any language.
+QTime DefaultTime(const QString& text) {
+    if (text.size() != TimeOfDefaultText.size() || text[2] != u':' || text[5] != u':')
+        return QLocale().toTime(text, TimeOfDefaultText); // digits of two units each
+    const auto number = [&](qsizetype at) {
+        const int tens = text[at].digitValue(), ones = text[at + 1].digitValue();
+        return tens < 0 || ones < 0 ? -1 : tens * 10 + ones;
+    };
+    return QTime(number(0), number(3), number(6));
+}
+
 } // namespace
 
 QString GetShortDateFormat() { return Texts().shortDate; }
@@ -128,6 +153,8 @@ std::optional<DateTime> DateTimeFromText(const QString& text) {
         return {};
     const QDate date = reader.toDate(readable.left(parting), texts.shortDate);
     const QTime time = reader.toTime(readable.mid(parting + 1), TimeOfDefaultText);
+    const QDate date = ShortDate(text.left(parting));
+    const QTime time = DefaultTime(text.mid(parting + 1));
     if (!date.isValid() || !time.isValid())
         return {};
     return DateTime::FromQt(date) + DateTime::FromMilliseconds(time.msecsSinceStartOfDay());
