@@ -149,7 +149,7 @@ Outcome PlainReports::Incident(const Site& site, Range range, const QStringList&
         for (const Event& event : events) {
             if (event.type == 1)
                 location = &event;
-            else if (event.type == 2 && location && Same(event.code, incident.code)) {
+            else if (event.type == 2 && location && event.code == incident.code) {
                 lines += QStringList{"", DateAndClock(*location->time, 1),
                                      Filled(location->name) + ", " + location->groupName +
                                          ",  Reader " + location->reader};
@@ -173,6 +173,8 @@ Outcome PlainReports::Incident(const Site& site, Range range, const QStringList&
 
 Outcome PlainReports::IncidentSites(const Site& site, Range range, const QString& code,
                                     const QString& place, const QString& reader) {
+    if (site.readers.isEmpty())
+        return Refused("You must add at least one reader before this report can be used");
     QString eventName = "All", siteName = "All", readerName = "All";
     int eventId = -1, siteId = -1;
     for (const Button& button : site.buttons) {
