@@ -2,6 +2,7 @@
 
 #include <QLocale>
 #include <QRegularExpression>
+#include <QStringBuilder>
 
 #include <array>
 
@@ -23,17 +24,16 @@ QString WithoutSeconds(QString pattern) {
     return pattern.remove(seconds);
 }
 
-/// What the present locale says, kept because it is asked for each row of a report.
+/// What the user's locale says, kept because it is asked for each row of a report.
 struct LocaleTexts {
-    explicit LocaleTexts(const QLocale& from = {})
-        : locale(from), shortDate(WithFourDigitYear(from.dateFormat(QLocale::ShortFormat))) {
+    LocaleTexts() {
         for (int number = 0; number < 60; ++number)
             twoDigits[static_cast<std::size_t>(number)] =
-                from.toString(QTime(0, 0, number), QStringLiteral("ss"));
+                locale.toString(QTime(0, 0, number), QStringLiteral("ss"));
     }
 
     QLocale locale;
-    QString shortDate;
+    QString shortDate = WithFourDigitYear(locale.dateFormat(QLocale::ShortFormat));
     std::array<QString, 60> twoDigits;
     DateTime day;    ///< the day that was last asked for,
     QString dayText; ///< and its text; empty if none was
@@ -109,8 +109,8 @@ QString DefaultDateTimeText(DateTime value) {
         texts.dayText = texts.locale.toString(value.ToQDate(), texts.shortDate);
     }
     const auto seconds = static_cast<std::size_t>(value.TimePart().Milliseconds() / 1000);
-    return texts.dayText + u' ' + texts.twoDigits[seconds / 3600] + u':' +
-           texts.twoDigits[seconds / 60 % 60] + u':' + texts.twoDigits[seconds % 60];
+    return texts.dayText % u' ' % texts.twoDigits[seconds / 3600] % u':' %
+           texts.twoDigits[seconds / 60 % 60] % u':' % texts.twoDigits[seconds % 60];
 }
 
 std::optional<DateTime> DateTimeFromText(const QString& text) {
