@@ -1,11 +1,13 @@
-// Compares the store's code with the bare engine: storing a download, reading many rows, the tour
-// report and the database report in a large store, compaction.
+// Compares the store's code with the bare engine: storing a download, reading many rows, reports in
+// a large store, compaction.
 
 #include "Connection.h"
 #include "DataReport.h"
 #include "DatabaseReportBuilder.h"
 #include "Engine.h"
 #include "Figures.h"
+#include "IncidentReportBuilder.h"
+#include "IncidentSitesBuilder.h"
 #include "MemoryImage.h"
 #include "Recordset.h"
 #include "ReportViewer.h"
@@ -456,6 +458,66 @@ void BenchDatabase(Figures& figures, const QString& path) {
     gConn.reset();
 }
 
+/// Defines the readers of the store's events, and makes every tenth event an incident, of 50 kinds.
+void AddIncidents(Bare& bare) {
+    bare.Run("INSERT INTO tblListItems VALUES (11, 2, 'Incidents', '')");
+    bare.Run("UPDATE tblButtons SET lParentID = 11 WHERE ID <= 50");
+    bare.Run("UPDATE tblEvents SET wGroupType = 2, tGroupName = 'Incidents', (tButtonCode, "
+             "tButtonName) = (SELECT tButtonCode, tButtonName FROM tblButtons WHERE ID = "
+             "tblEvents.ID / 10 % 50 + 1) WHERE ID % 10 = 0");
+    bare.Run("DELETE FROM tblEvents WHERE wGroupType = 1 AND tButtonCode IN (SELECT tButtonCode "
+             "FROM tblButtons WHERE ID <= 50)");
+    bare.Run("INSERT INTO tblReaders SELECT DISTINCT tPipeID, 'Night ' || tPipeID FROM tblEvents");
+}
+
+/// Each report against a walk over the rows that it reads.
+void BenchIncidents(Figures& figures, const QTemporaryDir& folder) {
+    const QString path = folder.filePath("incidents.mdb");
+    MakeStore(path, 218'000);
+    {
+        Bare bare(path);
+        AddIncidents(bare);
+    }
+    if (!ADOInit(path, StorePassword))
+        qFatal("the store does not open");
+    const DateTime first = DateTime::FromDays(0), last = DateTime::FromDays(100'000);
+    IncidentReportRequest incidents{first, last, Readers(), {}};
+    for (const EventButton& event : EventButtons())
+        incidents.Events += event.id;
+    IncidentSitesRequest oneEvent;
+    oneEvent.StartDate = first;
+    oneEvent.EndDate = last;
+    oneEvent.EventId = incidents.Events.first();
+    NoViewer viewer;
+    qint64 bytes = 0;
+    const auto walk = [&](const char* sql) {
+        sqlite3_stmt* statement = nullptr;
+        sqlite3_prepare_v2(gConn->OpenEngine()->Handle(), sql, -1, &statement, nullptr);
+        while (sqlite3_step(statement) == SQLITE_ROW)
+            for (int column = 0; column < sqlite3_column_count(statement); ++column)
+                bytes += static_cast<qint64>(TextOf(statement, column).size());
+        sqlite3_finalize(statement);
+    };
+    const char* const events = "SELECT ID, tPipeId, dtDateTime, tButtonCode, tButtonName, "
+                               "wGroupType, tGroupName FROM tblEvents ORDER BY ID";
+    const char* const joined =
+        "SELECT tblReaders.tReaderID, tblReaders.tDescription, tblListItems.wType, "
+        "tblListItems.tName, dtDateTime, tblButtons.ID, tblButtons.tButtonName, tblListItems.ID, "
+        "tPipeId FROM tblEvents JOIN tblButtons ON tblEvents.tButtonCode = tblButtons.tButtonCode "
+        "JOIN tblListItems ON lParentID = tblListItems.ID JOIN tblReaders ON tPipeId = tReaderId "
+        "ORDER BY dtDateTime, tReaderId COLLATE PEOPLE, tblEvents.ID";
+    const auto against = [&](const char* name, const char* sql, const Step& build) {
+        Compare(figures, name, 5, 3.0, {[] {}, build}, {[] {}, [&] { walk(sql); }});
+    };
+    against("50 incidents in 200,000 events", events,
+            [&] { BuildIncidentReport(incidents, viewer); });
+    against("one event with sites in 200,000 events", joined,
+            [&] { BuildIncidentSitesReport(oneEvent, viewer); });
+    if (viewer.Shown != 10 || bytes == 0)
+        qFatal("%d reports were shown", viewer.Shown);
+    gConn.reset();
+}
+
 /// Measures the memory while a report is shown, and the bytes of its values.
 class MeasuringViewer : public ReportViewer {
 public:
@@ -523,6 +585,7 @@ int main(int argc, char* argv[]) {
     BenchWalk(figures, many);
     BenchTour(figures, many, few);
     BenchDatabase(figures, many);
+    BenchIncidents(figures, folder);
     BenchCompaction(figures, folder, many);
     return figures.ExitStatus();
 }

@@ -524,6 +524,10 @@
         <translation>Ausgelesen am:</translation>
     </message>
     <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
         <source>Date / Time</source>
         <translation>Datum / Uhrzeit</translation>
     </message>

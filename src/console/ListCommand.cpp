@@ -32,9 +32,8 @@ ConsoleTable SiteTable() {
 
 ConsoleTable EventTable() {
     ConsoleTable table{{"id", "code", "name", "group"}, {}};
-    for (const Group& book : GroupsOf(EventBookGroup))
-        for (const Button& event : ButtonsOf(book.id))
-            table.rows += {event.id, event.code, event.name, book.name};
+    for (const EventButton& event : EventButtons())
+        table.rows += {event.id, event.code, event.name, event.groupName};
     return table;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QLocale>
 #include <QRegularExpression>
+#include <QStringBuilder>
 
 #include <array>
 
@@ -23,20 +24,21 @@ QString WithoutSeconds(QString pattern) {
     return pattern.remove(seconds);
 }
 
-/// What the present locale says, kept because it is asked for each row of a report.
+/// What the user's locale says, kept because it is asked for each row of a report.
 struct LocaleTexts {
-    explicit LocaleTexts(const QLocale& from = {})
-        : locale(from), shortDate(WithFourDigitYear(from.dateFormat(QLocale::ShortFormat))) {
+    LocaleTexts() {
         for (int number = 0; number < 60; ++number)
             twoDigits[static_cast<std::size_t>(number)] =
-                from.toString(QTime(0, 0, number), QStringLiteral("ss"));
+                locale.toString(QTime(0, 0, number), QStringLiteral("ss"));
     }
 
     QLocale locale;
-    QString shortDate;
+    QString shortDate = WithFourDigitYear(locale.dateFormat(QLocale::ShortFormat));
     std::array<QString, 60> twoDigits;
-    DateTime day;    ///< the day that was last asked for,
-    QString dayText; ///< and its text; empty if none was
+    DateTime day;     ///< the day that was last written,
+    QString dayText;  ///< and its text; empty if none was
+    QString readText; ///< the date that was last read,
+    QDate readDate;   ///< and what it means
 };
 
 LocaleTexts& Texts() {
@@ -44,6 +46,35 @@ LocaleTexts& Texts() {
     if (texts.locale != QLocale())
         texts = LocaleTexts();
     return texts;
+}
+
+/// Qt cannot read digits of two units each. The dates of the languages that have them are without
+/// words, so they can be read with Latin digits.
+QString LatinDigits(const LocaleTexts& texts, QString text) {
+    for (std::size_t digit = 0; digit < 10; ++digit)
+        text.replace(texts.twoDigits[digit].right(2), QString::number(digit));
+    return text;
+}
+
+QDate ReadShortDate(LocaleTexts& texts, const QString& text) {
+    if (texts.readText == text)
+        return texts.readDate;
+    texts.readText = text;
+    texts.readDate = texts.locale.zeroDigit().size() > 1
+                         ? QLocale::c().toDate(LatinDigits(texts, text), texts.shortDate)
+                         : texts.locale.toDate(text, texts.shortDate);
+    return texts.readDate;
+}
+
+/// Reads a time in TimeOfDefaultText, in the digits of any language.
+QTime ReadDefaultTime(const LocaleTexts& texts, const QString& text) {
+    if (text.size() != TimeOfDefaultText.size())
+        return QLocale::c().toTime(LatinDigits(texts, text), TimeOfDefaultText);
+    const auto number = [&](qsizetype at) {
+        const int tens = text[at].digitValue(), ones = text[at + 1].digitValue();
+        return tens < 0 || ones < 0 ? -1 : tens * 10 + ones;
+    };
+    return text[2] == u':' && text[5] == u':' ? QTime(number(0), number(3), number(6)) : QTime();
 }
 
 QString Padded(int value, int width) {
@@ -109,25 +140,17 @@ QString DefaultDateTimeText(DateTime value) {
         texts.dayText = texts.locale.toString(value.ToQDate(), texts.shortDate);
     }
     const auto seconds = static_cast<std::size_t>(value.TimePart().Milliseconds() / 1000);
-    return texts.dayText + u' ' + texts.twoDigits[seconds / 3600] + u':' +
-           texts.twoDigits[seconds / 60 % 60] + u':' + texts.twoDigits[seconds % 60];
+    return texts.dayText % u' ' % texts.twoDigits[seconds / 3600] % u':' %
+           texts.twoDigits[seconds / 60 % 60] % u':' % texts.twoDigits[seconds % 60];
 }
 
 std::optional<DateTime> DateTimeFromText(const QString& text) {
-    const LocaleTexts& texts = Texts();
-    QLocale reader = texts.locale;
-    QString readable = text;
-    if (reader.zeroDigit().size() > 1) {
-        // Qt does not read such digits. The dates of these languages have no words.
-        for (std::size_t digit = 0; digit < 10; ++digit)
-            readable.replace(texts.twoDigits[digit].right(2), QString::number(digit));
-        reader = QLocale::c();
-    }
-    const qsizetype parting = readable.lastIndexOf(u' ');
+    const qsizetype parting = text.lastIndexOf(u' ');
     if (parting < 0)
         return {};
-    const QDate date = reader.toDate(readable.left(parting), texts.shortDate);
-    const QTime time = reader.toTime(readable.mid(parting + 1), TimeOfDefaultText);
+    LocaleTexts& texts = Texts();
+    const QDate date = ReadShortDate(texts, text.left(parting));
+    const QTime time = ReadDefaultTime(texts, text.mid(parting + 1));
     if (!date.isValid() || !time.isValid())
         return {};
     return DateTime::FromQt(date) + DateTime::FromMilliseconds(time.msecsSinceStartOfDay());

@@ -12,9 +12,8 @@
 
 const std::vector<ReportRow>& ReportCatalogue() {
     static const std::vector<ReportRow> rows = {
-        TourReportRow(),     IncidentReportRow(), IncidentSitesRow(),
-        TourReportRow(),     ReaderReportRow(),   HardwareListRow(),
-        PatrolScheduleRow(), ReaderReportRow(),   DatabaseReportRow(),
+        TourReportRow(),   IncidentReportRow(), IncidentSitesRow(),  ReaderReportRow(),
+        HardwareListRow(), PatrolScheduleRow(), DatabaseReportRow(),
     };
     return rows;
 }

@@ -18,5 +18,6 @@ private:
     Connection m_main;
 };
 
-/// Connected at start, closed when the program ends.
+/// Connected at start, closed when the program ends. The reader download report connects it anew
+/// and closes it.
 extern DataEnvironment deMain;

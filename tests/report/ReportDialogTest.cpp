@@ -101,6 +101,8 @@ private slots:
                                             {"HardwareListReport", ""}, {"PatrolSchedule", "t"},
                                             {"CustomReport", ""}};
         const TestHome home(TestHome::EmptyStore);
+        gConn->Execute("INSERT INTO tblListItems (ID, wType) VALUES (1, 2)");
+        gConn->Execute("INSERT INTO tblButtons (lParentID) VALUES (1)");
         ScriptedBoxes boxes;
         RecordingViewer viewer;
         frmMdiReports page(viewer, nullptr);

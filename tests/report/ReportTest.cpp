@@ -3,15 +3,16 @@
 
 #include "Clock.h"
 #include "Files.h"
+#include "Format.h"
 #include "ReportExport.h"
 #include "ReportPdf.h"
 #include "SmallReport.h"
 #include "TestHome.h"
 #include "TestTable.h"
-#include "TourExceptionTable.h"
 #include "darTourException.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QImage>
 #include <QPainter>
 #include <QRegularExpression>
@@ -19,6 +20,7 @@
 
 #include <cmath>
 #include <random>
+#include <set>
 
 namespace {
 
@@ -193,6 +195,11 @@ private slots:
             {"\"width\": 60", "\"width\": \"x\"", "lblHead"},
             {"\"field\"", "\"feild\"", "txtName"},
             {"\"width\": 60", "\"width\": 101", "lblHead"}, // beyond its section
+            {"\"top\": 0", "\"bottom\": 6", "lblHead"},
+            {"\"top\": 0", "\"top\": 0, \"bottom\": 0", "lblHead"},
+            {"\"style\": \"name\"", "\"style\": \"none\"", "txtName"},
+            {"\"font\"", "\"family\": \"none\", \"font\"", "none"},
+            {"\"style\": \"name\"", "\"style\": \"name\", \"lft\": 0", "lft"},
             {"\"top\": 0", "\"top\": -1", "lblHead"},
             {"\"Top\"", "\"head\"", "head"},               // two of a name
             {"\"pageHeader\"", "\"reportHeader\"", "Top"}, // two of a kind
@@ -220,6 +227,7 @@ private slots:
         row("right to left", hebrew.repeated(50), left, 55.0);
         row("kerned", QString("AV").repeated(200), left, 55.0);
         row("rule", QString(255, u'_'), left, 59.8);
+        row("rule of dashes", QString(255, u'-'), left, 59.8);
         row("breaks, tabs and controls",
             QString::fromUtf8("one\r\ntwo\tthree\x1b\x07\u0085\u2028\u2029 ").repeated(9), left,
             50.0);
@@ -263,26 +271,70 @@ private slots:
         QVERIFY(painted(QChar(0x85) + QString(QChar(0x2028))) == painted(QString(2, u' ')));
     }
 
-    /// What must be readable: company lines of 50 of the widest letters, tour, site and location
-    /// names of 100 letters.
-    void LongNamesAreReadable() {
+    void EveryLayout_data() {
+        const TestTable<QString> row("layout");
+        for (const QFileInfo& file : QDir(":/layouts").entryInfoList({"dar*.json"}))
+            row(file.baseName().toUtf8(), file.baseName());
+    }
+    /// Headings stand above their columns, and the values of the head on common lines. Readable are
+    /// company lines of 50 of the widest letters, names of 100 letters, and two of them in one box.
+    void EveryLayout() {
         if (!HasPdfTool())
             QSKIP("pdftotext is not there");
+        QFETCH(QString, layout);
         const QString wide(50, u'W');
         const QString name = QStringLiteral("North gate, ramp 7 ").repeated(6).left(100);
-        const QString two = name + QStringLiteral(" - ") + name;
-        CountedRows rows(1);
-        rows.Names = TourExceptionTable::ColumnNames();
-        rows.Text = [&](qsizetype) { return two; };
-        darTourException report;
-        report.SetDataSource(&rows);
-        report.SetReportParam({{u"lblTourName", two},
-                               {u"lblReaderID", two},
-                               {u"lblCompanyInfo", QStringList(4, wide).join("\r\n")}});
-        const QString text = PdfText(report);
-        QCOMPARE(text.count(wide), 4);
-        // The head's two and the row's site and touch; narrower columns hold no names.
-        QVERIFY2(text.count(two) >= 4, qPrintable(text));
+        for (const auto& [text, width] :
+             {std::pair(name, 3200), std::pair(name + " - " + name, 7300)}) {
+            darReport report(layout);
+            CountedRows rows(1);
+            rows.Names.clear();
+            rows.Text = [&](qsizetype) { return text; };
+            std::set<int> columns, headings;
+            int shown = 0;
+            for (const ReportSection& section : report.Layout().sections)
+                for (const ReportControl& control : section.AllControls()) {
+                    const auto& [box, font, colour, alignment, thickness] = control.Style();
+                    const bool inHead = section.Kind() == SectionKind::PageHeader;
+                    const bool word = control.DataField().contains("Status");
+                    if (control.Kind() == ControlKind::TextBox) {
+                        rows.Names += control.DataField();
+                        if (section.Kind() == SectionKind::Detail)
+                            columns.insert(box.left());
+                    } else if (report.Layout().fonts[std::size_t(font)] == FontFace{8.5, true}) {
+                        headings.insert(box.left());
+                    }
+                    const bool inLine = inHead && box.height() == 500;
+                    QVERIFY2(!inLine || box.top() % 500 == 260, qPrintable(control.Name()));
+                    const bool value = inLine && control.Caption().isEmpty();
+                    if (value)
+                        report.SetReportParam({{control.Name(), text}});
+                    shown += box.width() >= width &&
+                             (value || (!control.DataField().isEmpty() && !word));
+                }
+            for (const int heading : headings)
+                QVERIFY2(columns.contains(heading), qPrintable(QString::number(heading)));
+            report.SetReportParam({{u"lblCompanyInfo", QStringList(4, wide).join("\r\n")}});
+            report.SetDataSource(&rows);
+            const QString pdf = PdfText(report);
+            QCOMPARE(pdf.count(wide), 4);
+            QVERIFY2(pdf.count(text) >= shown, qPrintable(pdf));
+        }
+    }
+
+    void DateTextsAreFormatted() {
+        const auto report = SmallReport();
+        ReportControl& box = report->Control(u"txtName");
+        box.SetDataFormat("yyyy-mm-dd HH:NN");
+        for (const auto& [locale, shown] :
+             {std::pair(QLocale(QLocale::English, QLocale::UnitedKingdom), "2026-11-05 22:07"),
+              std::pair(QLocale(QLocale::English, QLocale::UnitedStates), "2026-05-11 22:07")}) {
+            QLocale::setDefault(locale);
+            for (int twice = 0; twice < 2; ++twice)
+                QCOMPARE(box.TextOf(Value(QString("05/11/2026 22:07:58"))), shown);
+            QCOMPARE(box.TextOf(Value(DefaultDateTimeText(Evening))), "2026-11-05 22:07");
+            QCOMPARE(box.TextOf(Value(QString("soon"))), "soon");
+        }
     }
 
     void LettersAreCondensedBeforeTheyShrink() {

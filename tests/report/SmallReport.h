@@ -38,6 +38,7 @@ inline QByteArray SmallLayout(int footerHeight = 10) {
     return QStringLiteral(R"({
         "page": { "size": "A4", "width": 100, "marginTop": 98.5, "marginBottom": 98.5 },
         "font": { "families": ["DejaVu Sans"], "size": 9 },
+        "styles": { "name": { "type": "textBox", "field": "tName", "height": 5, "bold": true } },
         "sections": [
           { "name": "Head", "kind": "reportHeader", "height": 10, "controls": [
             { "name": "lblHead", "type": "label", "left": 0, "top": 0, "width": 60, "height": 5,
@@ -46,8 +47,8 @@ inline QByteArray SmallLayout(int footerHeight = 10) {
             { "name": "lblPage", "type": "label", "left": 0, "top": 0, "width": 60, "height": 5,
               "caption": "%p / %P" } ] },
           { "name": "Row", "kind": "detail", "height": 10, "controls": [
-            { "name": "txtName", "type": "textBox", "field": "tName", "left": 0, "top": 0,
-              "width": 60, "height": 5, "align": "left" } ] },
+            { "name": "txtName", "style": "name", "left": 0, "bottom": 5, "width": 60,
+              "bold": false, "align": "left" } ] },
           { "name": "End", "kind": "reportFooter", "height": %1, "controls": [] } ] })")
         .arg(footerHeight)
         .toUtf8();

@@ -124,6 +124,23 @@ private slots:
         QCOMPARE(m_boxes.TakeTexts(), QStringList());
     }
 
+    // A cancelled list leaves the lines of the last one, and says nothing.
+    void CancelledList() {
+        struct : RecordingViewer {
+            WorkProgress Progress() override {
+                return [](int, int) { return false; };
+            }
+        } cancelling;
+        HardwareList(true, true, true);
+        const QStringList before = RowsOf("SELECT * FROM tblReportTemp");
+        gConn->Execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < "
+                       "600) INSERT INTO tblReaders SELECT i, '' FROM n");
+        BuildHardwareListReport({}, cancelling);
+        QCOMPARE(cancelling.Shown, 0);
+        QCOMPARE(RowsOf("SELECT * FROM tblReportTemp"), before);
+        QVERIFY(m_boxes.TakeTexts().isEmpty() && m_home->TakeLog().isEmpty());
+    }
+
     void DialogOfThePlan() {
         frmRptPatrolSchedule dialog(m_viewer, nullptr);
         dialog.resize(600, 300);

@@ -66,6 +66,8 @@ public:
         CheckedJson top = Parse(json, m_layout.file);
         if (top.Has("family")) {
             const QString path = PathOf(top.Text("family"));
+            if (!QFile::exists(path))
+                top.Reject(QStringLiteral("there is no family \"%1\"").arg(path));
             CheckedJson family = Parse(ContentsOf(path), path);
             ReadShared(family);
             family.RejectLeftOvers();

@@ -4,27 +4,7 @@
 #include "RunTimeError.h"
 #include "Value.h"
 
-#include <QLocale>
-
 #include <algorithm>
-
-namespace {
-
-/// The date of a text, which is slow to read. The last one is kept, because the date and the time
-/// of a row are often two boxes of one column.
-std::optional<DateTime> DateOf(const QString& text) {
-    struct Known {
-        QString text;
-        QLocale locale;
-        std::optional<DateTime> date;
-    };
-    static thread_local Known last;
-    if (last.text != text || last.locale != QLocale())
-        last = {text, QLocale(), DateTimeFromText(text)};
-    return last.date;
-}
-
-} // namespace
 
 bool IsRule(QStringView text) {
     constexpr qsizetype shortest = 10;
@@ -47,7 +27,7 @@ QString ReportControl::TextOf(const Value& value) const {
     if (m_dataFormat.isEmpty() || value.IsNull())
         return value.Text();
     const auto* text = std::get_if<QString>(&value.Data());
-    const std::optional<DateTime> date = text ? DateOf(*text) : value.Date();
+    const std::optional<DateTime> date = text ? DateTimeFromText(*text) : value.Date();
     return date ? Format(*date, m_dataFormat) : *text;
 }
 

@@ -6,8 +6,6 @@
 
 #include <QLocale>
 
-#include <utility>
-
 namespace {
 
 constexpr int StartsAfter = 500; // milliseconds, in which the window is painted
@@ -38,7 +36,7 @@ bool frmWaitReport::Run() {
     return OK();
 }
 
-/// During the copying the window stays until the copying has ended.
+/// While events are copied, the window stays open until the copying has stopped.
 void frmWaitReport::reject() {
     m_cancelled = true;
     if (!m_copying)

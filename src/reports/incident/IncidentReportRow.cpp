@@ -1,7 +1,7 @@
 #include "IncidentReportRow.h"
 
 #include "CommandOptions.h"
-#include "IncidentReport.h"
+#include "IncidentReportBuilder.h"
 #include "frmRptIncidentNew.h"
 #include "mTranslations.h"
 

@@ -1,7 +1,7 @@
 #include "frmRptIncidentNew.h"
 
-#include "IncidentReport.h"
-#include "IncidentSitesReport.h"
+#include "IncidentReportBuilder.h"
+#include "IncidentSitesBuilder.h"
 #include "ReportButtons.h"
 #include "WindowTools.h"
 #include "mErrorHandler.h"

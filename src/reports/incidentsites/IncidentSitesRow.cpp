@@ -1,7 +1,7 @@
 #include "IncidentSitesRow.h"
 
 #include "CommandOptions.h"
-#include "IncidentSitesReport.h"
+#include "IncidentSitesBuilder.h"
 #include "frmRptIncidentParam.h"
 #include "mTranslations.h"
 

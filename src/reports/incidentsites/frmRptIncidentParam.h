@@ -1,6 +1,6 @@
 #pragma once
 
-#include "IncidentSitesReport.h"
+#include "IncidentSitesBuilder.h"
 
 #include <QDialog>
 #include <QStringList>

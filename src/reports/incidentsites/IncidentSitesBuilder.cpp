@@ -1,6 +1,6 @@
-#include "IncidentSitesReport.h"
+#include "IncidentSitesBuilder.h"
 
-#include "Format.h"
+#include "MomentTexts.h"
 #include "ReportViewer.h"
 #include "Rows.h"
 #include "ScratchTable.h"
@@ -8,8 +8,6 @@
 #include "mErrorHandler.h"
 #include "mReports.h"
 #include "mTranslations.h"
-
-#include <QHash>
 
 namespace {
 
@@ -30,30 +28,6 @@ enum EventColumn {
     ButtonDescriptionColumn,
     GroupIdColumn,
     PipeIdColumn
-};
-
-/// Dates and times of day as the report shows them. Many touches share a day or a minute, and each
-/// text is made once.
-class MomentTexts {
-public:
-    const QString& Date(DateTime moment) {
-        return Find(m_dates, moment.WholeDays(), moment, QStringLiteral("Short Date"));
-    }
-    const QString& Time(DateTime moment) {
-        return Find(m_times, moment.TimePart().Milliseconds() / 60'000, moment,
-                    QStringLiteral("Short Time"));
-    }
-
-private:
-    using Texts = QHash<qint64, QString>;
-    static const QString& Find(Texts& texts, qint64 key, DateTime moment, const QString& format) {
-        QString& text = texts[key];
-        if (text.isEmpty())
-            text = Format(moment, format);
-        return text;
-    }
-
-    Texts m_dates, m_times;
 };
 
 int CountEvents(const IncidentSitesRequest& request) {
@@ -82,7 +56,8 @@ void OpenIncidentEvents(DateTime startDate, DateTime endDate, Recordset& events)
 /// Adds a line for each touch that passes the filters. False if the operator cancelled.
 bool AddLines(const IncidentSitesRequest& request, Recordset& events, Recordset& lines,
               RowProgress progress) {
-    MomentTexts texts;
+    MomentTexts dates(MomentTexts::Day, QStringLiteral("Short Date"));
+    MomentTexts times(MomentTexts::Minute, QStringLiteral("Short Time"));
     QString lastSite, lastLocation;
     qint64 lastSiteId = 0;
     for (; !events.Eof(); events.MoveNext()) {
@@ -102,8 +77,8 @@ bool AddLines(const IncidentSitesRequest& request, Recordset& events, Recordset&
             continue;
         const DateTime moment = events.FieldAt(DateColumn).Date();
         lines.AddNew();
-        lines.Set(u"tDate", texts.Date(moment));
-        lines.Set(u"tTime", texts.Time(moment));
+        lines.Set(u"tDate", dates.Of(moment));
+        lines.Set(u"tTime", times.Of(moment));
         lines.Set(u"tReaderName", events.FieldAt(ReaderDescriptionColumn).Text());
         lines.Set(u"tSite", lastSite);
         lines.Set(u"tLocation", lastLocation);

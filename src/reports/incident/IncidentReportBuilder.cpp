@@ -1,6 +1,6 @@
-#include "IncidentReport.h"
+#include "IncidentReportBuilder.h"
 
-#include "Format.h"
+#include "MomentTexts.h"
 #include "ReportViewer.h"
 #include "Rows.h"
 #include "ScratchTable.h"
@@ -35,7 +35,7 @@ struct Condition {
 Condition ConditionOf(const IncidentReportRequest& request) {
     Condition condition{QStringLiteral("From tblEvents WHERE ((tblEvents.dtDateTime >= ?) "
                                        "AND (tblEvents.dtDateTime <= ?)) "
-                                       "AND (tblEvents.tPipeId IN (%1));")
+                                       "AND (tblEvents.tPipeId IN (%1))")
                             .arg(QStringLiteral("?, ").repeated(request.Readers.size()).chopped(2)),
                         {request.StartDate, request.EndDate}};
     for (const Reader& reader : request.Readers)
@@ -83,8 +83,8 @@ public:
         }
         for (const qsizetype location : *found) {
             // Date and time are those of the location touch too.
-            Add(Empty, MomentText(m_events.ValueAt(location, DateColumn).Date(), 1),
-                PlaceText(location));
+            const DateTime moment = m_events.ValueAt(location, DateColumn).Date();
+            Add(Empty, m_dates.Of(moment) + u' ' + m_times.Of(moment), PlaceText(location));
             if (!m_progress.Step())
                 return false;
         }
@@ -112,6 +112,8 @@ private:
     const Recordset& m_events;
     PlacesByCode m_places;
     RowProgress& m_progress;
+    MomentTexts m_dates{MomentTexts::Day, QStringLiteral("Short Date")};
+    MomentTexts m_times{MomentTexts::Minute, QStringLiteral("Hh:Nn")};
     QString m_placePattern = Translate("%0:s, %1:s,  %2:s");
 };
 
@@ -123,11 +125,17 @@ Outcome FillReportTemp(const IncidentReportRequest& request, const WorkProgress&
                        Recordset& lines) {
     const Condition condition = ConditionOf(request);
     RowProgress progress(show, 2 * CountOf(condition)); // each is read, and perhaps written
-    Rows events(QStringLiteral("SELECT tblEvents.ID, tblEvents.tPipeId, tblEvents.dtDateTime, "
+    Recordset events;
+    events.CursorLocation = adUseClient;
+    events.OnFetch = [&] { return progress.Step(); };
+    // The inner statement finds the rows in an index, so that the outer one reads the table once,
+    // from its beginning to its end.
+    events.Open(QStringLiteral("SELECT tblEvents.ID, tblEvents.tPipeId, tblEvents.dtDateTime, "
                                "tblEvents.tButtonCode, tblEvents.tButtonName, "
-                               "tblEvents.wGroupType, tblEvents.tGroupName ") +
-                    condition.text,
-                condition.values, [&] { return progress.Step(); });
+                               "tblEvents.wGroupType, tblEvents.tGroupName From tblEvents "
+                               "WHERE tblEvents.ID IN (SELECT tblEvents.ID %1);")
+                    .arg(condition.text),
+                condition.values, *gConn, adOpenStatic, adLockReadOnly);
     if (progress.Cancelled())
         return Outcome::Stopped;
     if (events.RecordCount() < 1)
