@@ -281,7 +281,7 @@ Outcome PlainReports::Schedule(const Site& site, int id) {
                                    [&](const Tour& each) { return each.id == id; });
     if (id < 1 || tour == site.tours.end())
         return Refused("Error in creating new Tour");
-    if (tour->tolerance > 59)
+    if (tour->tolerance > 59 || tour->tolerance.value_or(0) < 0)
         return Refused("Error 13", "Error 13");
     const Seconds tolerance = tour->tolerance.value_or(0) * 60;
     QList<Point> points = tour->points;

@@ -219,7 +219,7 @@ class ReportsRandomTest : public QObject {
         Tour tour{id,
                   Name(),
                   Name(),
-                  Maybe(OneOf(QList<int>{0, 1, 5, 30, 59, 59, Upto(59), 60, 99})),
+                  Maybe(OneOf(QList<int>{0, 1, 5, 30, 59, 59, Upto(59), 60, 99, -1})),
                   Maybe(OneIn(3) ? RandomTime() : RandomTime() % Day),
                   {}};
         for (int count = Upto(7); count > 0; --count)
