@@ -548,10 +548,6 @@
         <translation>Art</translation>
     </message>
     <message>
-        <source>Event</source>
-        <translation>Ereignis</translation>
-    </message>
-    <message>
         <source>Print Date:</source>
         <translation>Druckdatum:</translation>
     </message>
@@ -912,16 +908,8 @@
         <translation>Zeitraum und Filter für den Ereignisbericht wählen</translation>
     </message>
     <message>
-        <source>Event</source>
-        <translation>Ereignis</translation>
-    </message>
-    <message>
         <source>Incidents And Locations Report</source>
         <translation>Bericht über Ereignisse und Kontaktstellen</translation>
-    </message>
-    <message>
-        <source>Date / Time</source>
-        <translation>Datum / Zeit</translation>
     </message>
     <message>
         <source>Reader Name</source>
@@ -1326,10 +1314,6 @@
     <message>
         <source>Desc</source>
         <translation>Beschreibung</translation>
-    </message>
-    <message>
-        <source>Minutes</source>
-        <translation>Minuten</translation>
     </message>
     <message>
         <source>Location</source>

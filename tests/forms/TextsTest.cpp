@@ -81,8 +81,8 @@ QSet<QString> ShownTexts() {
 }
 
 /// The entries of a language file, by their English text.
-QMap<QString, QString> Entries(const QString& path) {
-    QMap<QString, QString> entries;
+QMultiMap<QString, QString> Entries(const QString& path) {
+    QMultiMap<QString, QString> entries;
     QString source;
     for (QXmlStreamReader xml(Content(path)); !xml.atEnd(); xml.readNext()) {
         if (!xml.isStartElement())
@@ -90,8 +90,8 @@ QMap<QString, QString> Entries(const QString& path) {
         if (xml.name() == u"source")
             source = xml.readElementText();
         else if (xml.name() == u"translation")
-            entries[source] =
-                xml.attributes().hasAttribute("type") ? QString() : xml.readElementText();
+            entries.insert(source, xml.attributes().hasAttribute("type") ? QString()
+                                                                         : xml.readElementText());
     }
     return entries;
 }
@@ -126,12 +126,14 @@ private slots:
         QVERIFY(shown.contains("&Print Preview"));   // from a form
         QVERIFY(shown.contains("NO EXCEPTIONS"));    // from code
         QVERIFY(shown.contains("Exception Report")); // of a choice between two
-        const QMap<QString, QString> entries = Entries(path);
+        const QMultiMap<QString, QString> entries = Entries(path);
         QStringList faults;
         for (const QString& text : shown)
             if (!entries.contains(text))
                 faults += "missing: " + text;
         for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+            if (entries.count(entry.key()) > 1)
+                faults += "doubled: " + entry.key();
             if (!shown.contains(entry.key()))
                 faults += "never shown: " + entry.key();
             if (entry.value().isEmpty())

@@ -38,7 +38,7 @@ std::optional<IncidentSitesRequest> RequestOf(const Selection& selection) {
                                  .EventName = all,
                                  .SiteName = all,
                                  .ReaderId = selection.reader,
-                                 .ReaderName = selection.reader.isEmpty() ? all : selection.reader};
+                                 .ReaderName = all};
     if (!selection.code.isEmpty()) {
         const QList<Button> events = EventFilters();
         const Button* event = Find(events, &Button::code, selection.code);
@@ -59,9 +59,11 @@ std::optional<IncidentSitesRequest> RequestOf(const Selection& selection) {
         request.SiteId = site->id;
         request.SiteName = site->name;
     }
-    const QList<Reader> readers = ReaderFilters();
-    if (const Reader* reader = Find(readers, &Reader::id, selection.reader))
-        request.ReaderName = reader->description;
+    if (!selection.reader.isEmpty()) {
+        const QList<Reader> readers = ReaderFilters();
+        const Reader* reader = Find(readers, &Reader::id, selection.reader);
+        request.ReaderName = reader ? reader->description : selection.reader;
+    }
     return request;
 }
 
