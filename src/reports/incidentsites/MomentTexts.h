@@ -10,7 +10,7 @@
 class MomentTexts {
 public:
     enum Unit : qint64 { Day = DateTime::MillisecondsPerDay, Minute = 60'000 };
-    /// `unit`: the largest unit that the format never tells apart.
+    /// In this format, all moments of one `unit` have the same text.
     MomentTexts(Unit unit, QString format) : m_unit(unit), m_format(std::move(format)) {}
 
     const QString& Of(DateTime moment) {
