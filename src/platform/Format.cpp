@@ -5,6 +5,7 @@
 #include <QStringBuilder>
 
 #include <array>
+#include <vector>
 
 namespace {
 
@@ -34,11 +35,14 @@ struct LocaleTexts {
 
     QLocale locale;
     QString shortDate = WithFourDigitYear(locale.dateFormat(QLocale::ShortFormat));
+    QString shortTime = WithoutSeconds(locale.timeFormat(QLocale::ShortFormat));
     std::array<QString, 60> twoDigits;
-    DateTime day;     ///< the day that was last written,
-    QString dayText;  ///< and its text; empty if none was
-    QString readText; ///< the date that was last read,
-    QDate readDate;   ///< and what it means
+    std::vector<QString> minuteTexts =
+        std::vector<QString>(24 * 60); ///< short times; empty until asked for
+    DateTime day;                      ///< the day that was last written,
+    QString dayText;                   ///< and its text; empty if none was
+    QString readText;                  ///< the date that was last read,
+    QDate readDate;                    ///< and what it means
 };
 
 LocaleTexts& Texts() {
@@ -46,6 +50,22 @@ LocaleTexts& Texts() {
     if (texts.locale != QLocale())
         texts = LocaleTexts();
     return texts;
+}
+
+const QString& DayText(LocaleTexts& texts, DateTime value) {
+    if (texts.dayText.isEmpty() || texts.day != value.DatePart()) {
+        texts.day = value.DatePart();
+        texts.dayText = texts.locale.toString(value.ToQDate(), texts.shortDate);
+    }
+    return texts.dayText;
+}
+
+const QString& MinuteText(LocaleTexts& texts, DateTime value) {
+    const qint64 minute = value.TimePart().Milliseconds() / 60'000;
+    QString& text = texts.minuteTexts[static_cast<std::size_t>(minute)];
+    if (text.isEmpty())
+        text = texts.locale.toString(value.ToQTime(), texts.shortTime);
+    return text;
 }
 
 /// Qt cannot read digits of two units each. The dates of the languages that have them are without
@@ -78,6 +98,8 @@ QTime ReadDefaultTime(const LocaleTexts& texts, const QString& text) {
 }
 
 QString Padded(int value, int width) {
+    if (width == 2 && value >= 0 && value < 100) // most numbers of a date, without the slow way
+        return QChar(u'0' + value / 10) % QChar(u'0' + value % 10);
     return QStringLiteral("%1").arg(value, width, 10, QLatin1Char('0'));
 }
 
@@ -86,13 +108,13 @@ QString Padded(int value, int width) {
 QString GetShortDateFormat() { return Texts().shortDate; }
 
 QString Format(DateTime value, const QString& pattern) {
-    if (Is(pattern, u"Short Date") || pattern == Texts().shortDate)
-        return QLocale().toString(value.ToQDate(), GetShortDateFormat());
+    LocaleTexts& texts = Texts();
+    if (Is(pattern, u"Short Date") || pattern == texts.shortDate)
+        return DayText(texts, value);
     if (Is(pattern, u"Medium Date"))
         return QLocale().toString(value.ToQDate(), QStringLiteral("dd-MMM-yyyy"));
     if (Is(pattern, u"Short Time"))
-        return QLocale().toString(value.ToQTime(),
-                                  WithoutSeconds(QLocale().timeFormat(QLocale::ShortFormat)));
+        return MinuteText(texts, value);
 
     const QDate date = value.ToQDate();
     const QTime time = value.ToQTime();
@@ -135,12 +157,8 @@ QString Format(long long value, const QString& pattern) {
 
 QString DefaultDateTimeText(DateTime value) {
     LocaleTexts& texts = Texts();
-    if (texts.dayText.isEmpty() || texts.day != value.DatePart()) {
-        texts.day = value.DatePart();
-        texts.dayText = texts.locale.toString(value.ToQDate(), texts.shortDate);
-    }
     const auto seconds = static_cast<std::size_t>(value.TimePart().Milliseconds() / 1000);
-    return texts.dayText % u' ' % texts.twoDigits[seconds / 3600] % u':' %
+    return DayText(texts, value) % u' ' % texts.twoDigits[seconds / 3600] % u':' %
            texts.twoDigits[seconds / 60 % 60] % u':' % texts.twoDigits[seconds % 60];
 }
 

@@ -24,3 +24,11 @@ public:
     explicit NewRows(const char* table)
         : Rows(QStringLiteral("SELECT * FROM %1 WHERE 1 = 0 ;").arg(QLatin1String(table))) {}
 };
+
+/// How many rows a statement gives; `source` is its "FROM ... WHERE ...".
+inline int CountOf(const QString& source, const Values& values, Connection& connection = *gConn) {
+    Recordset count;
+    count.CursorLocation = adUseClient;
+    count.Open(QStringLiteral("SELECT COUNT(*) ") + source, values, connection);
+    return static_cast<int>(count.FieldAt(0).Number());
+}

@@ -5,6 +5,7 @@
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 
+#include <optional>
 #include <utility>
 
 namespace {
@@ -51,7 +52,7 @@ public:
 } // namespace
 
 void MakeScratchTable(const QString& name, const QStringList& columns) {
-    // A leftover table that a full disk does not let us drop would be in the way of the new one.
+    // On a full disk, a leftover table cannot be dropped, and no new one be made in its place.
     Trapped([&] { Drop(name); }, PassOnIfMemoryHelps);
     Create(name, QStringLiteral(" (") + columns.join(QStringLiteral(" VARCHAR NULL, ")) +
                      QStringLiteral(" VARCHAR NULL)"));
@@ -61,14 +62,16 @@ void DropScratchTable(const QString& name) {
     IgnoringErrors([&] { Drop(name); });
 }
 
-bool FillScratchTable(const QString& name, Recordset& rows, const std::function<bool()>& make,
-                      const std::function<bool(Recordset& rows)>& fill) {
+bool FillScratchTable(const QString& name, const std::function<bool()>& make, Recordset& rows,
+                      const std::function<bool()>& fill) {
+    if (rows.State() == adStateOpen)
+        rows.Close(); // on the table of a run that failed
     Transaction transaction(*gConn);
     if (!make())
         return false;
     rows.CursorLocation = adUseClient;
     rows.Open(QStringLiteral("SELECT * FROM ") + name, *gConn);
-    if (!fill(rows)) {
+    if (!fill()) {
         rows.Close();
         return false;
     }
@@ -77,15 +80,28 @@ bool FillScratchTable(const QString& name, Recordset& rows, const std::function<
     return true;
 }
 
-void WithScratchTables(const std::function<void()>& build) {
+bool FillScratchTable(const QString& name, const QStringList& columns, Recordset& rows,
+                      const std::function<bool()>& fill) {
+    const auto make = [&] {
+        MakeScratchTable(name, columns);
+        return true;
+    };
+    return FillScratchTable(name, make, rows, fill);
+}
+
+void WithScratchTables(const std::function<bool()>& fill, const std::function<void()>& show) {
+    std::optional<TablesInMemory> inMemory;
+    bool filled = false;
     try {
-        build();
+        filled = fill();
     } catch (const RunTimeError& error) {
         if (!MemoryHelps(error))
             throw;
-        const TablesInMemory inMemory;
-        build();
+        inMemory.emplace();
+        filled = fill();
     }
+    if (filled)
+        show();
 }
 
 void PassOnIfMemoryHelps(const RunTimeError& error) {
@@ -93,20 +109,8 @@ void PassOnIfMemoryHelps(const RunTimeError& error) {
         throw error;
 }
 
-namespace {
-
-/// Runs the body of a routine that reports its own failures, unless tables in memory would help.
-bool ReportTempStep(const char* label, const std::function<bool()>& body) {
-    return Trapped(body, [&](const RunTimeError& error) {
-        PassOnIfMemoryHelps(error);
-        ReportError(QString::fromUtf8(label), error, ErrorShow::LogOnly);
-    });
-}
-
-} // namespace
-
 bool InitRptTmp() {
-    return ReportTempStep("InitRptTmp of Form frmRptHardwareListParam", [] {
+    return GuardedInScratch("InitRptTmp of Form frmRptHardwareListParam", [] {
         const bool there =
             g_inMemory ? g_memoryTables.contains(ReportTemp) : TableExists(ReportTemp);
         if (!there && !CreateTblReportTemp(ReportTemp))
@@ -117,7 +121,7 @@ bool InitRptTmp() {
 }
 
 bool CreateTblReportTemp(const QString& name) {
-    return ReportTempStep("CreateTblReportTemp of Form frmRptHardwareListParam", [&] {
+    return GuardedInScratch("CreateTblReportTemp of Form frmRptHardwareListParam", [&] {
         Create(name, QStringLiteral("( ID autoincrement, Field0 memo, Field1 memo, Field2 memo, "
                                     "Field3 memo, Field4 memo, Field5 memo, Field6 memo, "
                                     "Field7 memo, Field8 memo, Field9 memo )"));

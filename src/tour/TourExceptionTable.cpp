@@ -29,14 +29,9 @@ const QStringList& TourExceptionTable::ColumnNames() {
 TourExceptionTable::~TourExceptionTable() { Close(); }
 
 bool TourExceptionTable::ResetTempTourTable() {
-    const auto make = [] {
+    return GuardedInScratch("ResetTempTourTable of Form frmRptTour", [] {
         MakeScratchTable(Table, ColumnNames());
         return true;
-    };
-    return Trapped(make, [](const RunTimeError& error) {
-        PassOnIfMemoryHelps(error);
-        ReportError(QStringLiteral("ResetTempTourTable of Form frmRptTour"), error,
-                    ErrorShow::LogOnly);
     });
 }
 
@@ -44,7 +39,7 @@ void TourExceptionTable::Drop() { DropScratchTable(Table); }
 
 bool TourExceptionTable::Fill(const std::function<bool()>& make,
                               const std::function<bool()>& write) {
-    return FillScratchTable(Table, m_rows, make, [&](Recordset&) { return write(); });
+    return FillScratchTable(Table, make, m_rows, write);
 }
 
 void TourExceptionTable::Close() {

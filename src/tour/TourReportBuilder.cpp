@@ -193,24 +193,21 @@ QString GetReportTitle(bool showAll) {
 }
 
 void BuildTourReport(const TourReportRequest& request, ReportViewer& viewer) {
-    const auto build = [&] {
-        cTourReport tour;
+    cTourReport tour;
+    TourExceptionTable table;
+    const auto fill = [&] {
+        tour = {}; // writing the lines uses up the touches
         tour.TourID = request.TourID;
         tour.StartDate = request.StartDate;
         tour.ReaderId = request.ReaderId;
-        if (!LoadTour(tour))
-            return;
-        TourExceptionTable table;
-        if (WriteTable(tour, request, table))
-            Print(tour, request, table, viewer);
-        table.Close();
-        TourExceptionTable::Drop();
+        return LoadTour(tour) && WriteTable(tour, request, table);
     };
-    Trapped([&] { WithScratchTables(build); },
+    Trapped([&] { WithScratchTables(fill, [&] { Print(tour, request, table, viewer); }); },
             [](const RunTimeError& error) {
                 ReportError(QStringLiteral("BuildTourReport of Form frmRptTour"), error,
                             ErrorShow::LogOnly);
-                TourExceptionTable::Drop();
                 ShowFailure("<ERROR #9999>");
             });
+    table.Close();
+    TourExceptionTable::Drop();
 }

@@ -11,15 +11,16 @@
 
 namespace {
 
-const QString Table = QStringLiteral("tblCustom");
+const QString CustomTable = QStringLiteral("tblCustom");
+const QStringList CustomColumns = {QStringLiteral("tDateTime"),   QStringLiteral("tButtonCode"),
+                                   QStringLiteral("tButtonName"), QStringLiteral("tLocationDesc"),
+                                   QStringLiteral("tGroupName"),  QStringLiteral("tType")};
 
 EventQuery QueryFor(const DatabaseReportRequest& request) {
-    const QString fromEvents =
-        QStringLiteral("FROM tblEvents WHERE (dtDateTime >= ?) AND (dtDateTime <= ?) ");
     return {QStringLiteral("SELECT dtDLDateTime, tPipeID, dtDateTime, tButtonCode, tButtonName, "
-                           "tButtonDesc, wGroupType, tGroupName, tGroupDesc ") +
-                fromEvents + QStringLiteral("ORDER BY dtDateTime, ID ;"),
-            QStringLiteral("SELECT COUNT(*) AS lCount ") + fromEvents,
+                           "tButtonDesc, wGroupType, tGroupName, tGroupDesc "),
+            QStringLiteral("FROM tblEvents WHERE (dtDateTime >= ?) AND (dtDateTime <= ?) "),
+            QStringLiteral("ORDER BY dtDateTime, ID ;"),
             {request.StartDate, request.EndDate}};
 }
 
@@ -27,7 +28,8 @@ EventQuery QueryFor(const DatabaseReportRequest& request) {
 /// if the operator has cancelled.
 bool AddEvents(const EventQuery& query, RowProgress& progress, Recordset& rows) {
     Recordset events;
-    events.Open(query.events, query.values, *gConn, adOpenForwardOnly, adLockReadOnly);
+    events.Open(query.columns + query.source + query.order, query.values, *gConn, adOpenForwardOnly,
+                adLockReadOnly);
     const int date = events.Column(u"dtDateTime"), code = events.Column(u"tButtonCode"),
               name = events.Column(u"tButtonName"), description = events.Column(u"tButtonDesc"),
               type = events.Column(u"wGroupType"), group = events.Column(u"tGroupName");
@@ -51,18 +53,11 @@ bool AddEvents(const EventQuery& query, RowProgress& progress, Recordset& rows) 
 }
 
 CopyResult Copy(const EventQuery& query, Recordset& rows, const WorkProgress& show) {
-    const auto make = [] {
-        MakeScratchTable(Table, {QStringLiteral("tDateTime"), QStringLiteral("tButtonCode"),
-                                 QStringLiteral("tButtonName"), QStringLiteral("tLocationDesc"),
-                                 QStringLiteral("tGroupName"), QStringLiteral("tType")});
-        return true;
+    const auto fill = [&] {
+        RowProgress progress(show, CountOf(query.source, query.values));
+        return AddEvents(query, progress, rows);
     };
-    const auto fill = [&](Recordset& table) {
-        RowProgress progress(show,
-                             static_cast<int>(Rows(query.count, query.values).Number(u"lCount")));
-        return AddEvents(query, progress, table);
-    };
-    if (!FillScratchTable(Table, rows, make, fill))
+    if (!FillScratchTable(CustomTable, CustomColumns, rows, fill))
         return CopyResult::Cancelled;
     return rows.RecordCount() > 0 ? CopyResult::Copied : CopyResult::NoEvents;
 }
@@ -87,21 +82,15 @@ void Print(const DatabaseReportRequest& request, const Recordset& rows, ReportVi
 } // namespace
 
 CopyResult CopyEvents(const EventQuery& query, Recordset& rows, const WorkProgress& show) {
-    return Trapped([&] { return Copy(query, rows, show); },
-                   [](const RunTimeError& error) {
-                       PassOnIfMemoryHelps(error);
-                       ReportError(QStringLiteral("GoProcessData of Form frmWaitReport"), error,
-                                   ErrorShow::LogOnly);
-                   });
+    return GuardedInScratch("GoProcessData of Form frmWaitReport",
+                            [&] { return Copy(query, rows, show); });
 }
 
 void BuildDatabaseReport(const DatabaseReportRequest& request, const CopyStep& copy,
                          ReportViewer& viewer) {
     Guarded("ShowReport of Form frmRptCustomParam", [&] {
-        WithScratchTables([&] {
-            Recordset rows;
-            if (copy(QueryFor(request), rows))
-                Print(request, rows, viewer);
-        });
+        Recordset rows;
+        WithScratchTables([&] { return copy(QueryFor(request), rows); },
+                          [&] { Print(request, rows, viewer); });
     });
 }

@@ -18,11 +18,12 @@ struct DatabaseReportRequest {
     DateTime EndDate;
 };
 
-/// The statement that reads the events of a report, the one that counts them, and the values of
-/// both.
+/// The statement that reads the events of a report, in three parts, so that they can be counted
+/// too.
 struct EventQuery {
-    QString events;
-    QString count;
+    QString columns; ///< "SELECT ..."
+    QString source;  ///< "FROM ... WHERE ..."
+    QString order;   ///< "ORDER BY ..."
     Values values;
 };
 

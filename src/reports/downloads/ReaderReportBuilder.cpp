@@ -1,8 +1,8 @@
 #include "ReaderReportBuilder.h"
 
 #include "Format.h"
-#include "Recordset.h"
 #include "ReportViewer.h"
+#include "Rows.h"
 #include "darReaderUpload.h"
 #include "deMain.h"
 #include "mDeclareGlobals.h"
@@ -30,10 +30,7 @@ const QString FromEvents =
 /// cancelled.
 bool OpenTouches(const ReaderReportRequest& request, ReportViewer& viewer, Recordset& touches) {
     const Values values = {request.StartDate, request.EndDate, request.ReaderId};
-    Recordset count;
-    count.CursorLocation = adUseClient;
-    count.Open(QStringLiteral("SELECT COUNT(*) AS lCount ") + FromEvents, values, deMain.Main());
-    RowProgress progress(viewer.Progress(), static_cast<int>(count.Number(u"lCount")));
+    RowProgress progress(viewer.Progress(), CountOf(FromEvents, values, deMain.Main()));
     touches.CursorLocation = adUseClient;
     touches.OnFetch = [&] { return progress.Step(); };
     touches.Open(QStringLiteral("SELECT dtDLDateTime, dtDateTime, tButtonCode, tButtonDesc, "

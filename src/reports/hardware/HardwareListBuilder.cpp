@@ -42,6 +42,8 @@ public:
         // User groups come first and have type 0, so they get no heading.
         qint64 lastType = UserGroup;
         qint64 lastGroup = 0;
+        if (buttons.Any())
+            buttons.MoveFirst();
         for (; !buttons.Eof(); buttons.MoveNext()) {
             const qint64 type = buttons.Number(u"wType");
             if (type != lastType)
@@ -101,19 +103,18 @@ void Print(Recordset& rows, ReportViewer& viewer) {
 } // namespace
 
 void BuildHardwareListReport(const HardwareListRequest& request, ReportViewer& viewer) {
-    const auto build = [&] {
+    GuardedWithBox("BuildHardwareListReport", [&] {
         Rows buttons(ButtonsQuery(request));
         const QList<Reader> readers = request.PrintReader ? Readers() : QList<Reader>();
         Recordset rows;
-        const auto fill = [&](Recordset&) {
+        const auto write = [&] {
             RowProgress progress(viewer.Progress(),
                                  buttons.RecordCount() + static_cast<int>(readers.size()));
             LineWriter lines(rows);
             return lines.WriteButtons(buttons, progress) &&
                    (!request.PrintReader || lines.WriteReaders(readers, progress));
         };
-        if (FillScratchTable(ReportTemp, rows, InitRptTmp, fill))
-            Print(rows, viewer);
-    };
-    GuardedWithBox("BuildHardwareListReport", [&] { WithScratchTables(build); });
+        const auto fill = [&] { return FillScratchTable(ReportTemp, InitRptTmp, rows, write); };
+        WithScratchTables(fill, [&] { Print(rows, viewer); });
+    });
 }

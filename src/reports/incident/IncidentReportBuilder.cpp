@@ -1,6 +1,5 @@
 #include "IncidentReportBuilder.h"
 
-#include "MomentTexts.h"
 #include "ReportViewer.h"
 #include "Rows.h"
 #include "ScratchTable.h"
@@ -26,31 +25,38 @@ enum EventColumn {
     GroupColumn
 };
 
-/// The range of time and the readers, as a condition on tblEvents with its values.
-struct Condition {
-    QString text;
-    Values values;
-};
+/// The events of the range and the readers.
+QString SourceOf(const IncidentReportRequest& request) {
+    return QStringLiteral("From tblEvents WHERE ((tblEvents.dtDateTime >= ?) "
+                          "AND (tblEvents.dtDateTime <= ?)) AND (tblEvents.tPipeId IN (%1))")
+        .arg(QStringLiteral("?, ").repeated(request.Readers.size()).chopped(2));
+}
 
-Condition ConditionOf(const IncidentReportRequest& request) {
-    Condition condition{QStringLiteral("From tblEvents WHERE ((tblEvents.dtDateTime >= ?) "
-                                       "AND (tblEvents.dtDateTime <= ?)) "
-                                       "AND (tblEvents.tPipeId IN (%1))")
-                            .arg(QStringLiteral("?, ").repeated(request.Readers.size()).chopped(2)),
-                        {request.StartDate, request.EndDate}};
+Values ValuesOf(const IncidentReportRequest& request) {
+    Values values = {request.StartDate, request.EndDate};
     for (const Reader& reader : request.Readers)
-        condition.values.emplace_back(reader.id);
-    return condition;
+        values.emplace_back(reader.id);
+    return values;
 }
 
-int CountOf(const Condition& condition) {
-    Rows count(QStringLiteral("SELECT COUNT(*) ") + condition.text, condition.values);
-    return static_cast<int>(count.FieldAt(0).Number());
+/// Opens the events of the range and the readers. False if the operator cancelled.
+bool OpenEvents(const IncidentReportRequest& request, RowProgress& progress, Recordset& events) {
+    // The inner statement finds the rows in an index, so that the outer one reads the table once,
+    // from its beginning to its end.
+    events.CursorLocation = adUseClient;
+    events.OnFetch = [&] { return progress.Step(); };
+    events.Open(QStringLiteral("SELECT tblEvents.ID, tblEvents.tPipeId, tblEvents.dtDateTime, "
+                               "tblEvents.tButtonCode, tblEvents.tButtonName, "
+                               "tblEvents.wGroupType, tblEvents.tGroupName From tblEvents "
+                               "WHERE tblEvents.ID IN (SELECT tblEvents.ID ") +
+                    SourceOf(request) + QStringLiteral(");"),
+                ValuesOf(request), *gConn, adOpenStatic, adLockReadOnly);
+    events.OnFetch = {};
+    return !progress.Cancelled();
 }
 
-/// For each code of an incident, the rows of the location touches that came last before it, one for
-/// each time it was recorded. The rows of all readers are one sequence here, so the location may be
-/// another reader's.
+/// For each event code: one row for each time it was recorded, which is the location touch before
+/// it. The touches of all readers form one sequence, so that location may come from another reader.
 using PlacesByCode = QHash<QString, std::vector<qsizetype>>;
 
 PlacesByCode FindPlaces(const Recordset& events) {
@@ -83,8 +89,8 @@ public:
         }
         for (const qsizetype location : *found) {
             // Date and time are those of the location touch too.
-            const DateTime moment = m_events.ValueAt(location, DateColumn).Date();
-            Add(Empty, m_dates.Of(moment) + u' ' + m_times.Of(moment), PlaceText(location));
+            Add(Empty, MomentText(m_events.ValueAt(location, DateColumn).Date(), 1),
+                PlaceText(location));
             if (!m_progress.Step())
                 return false;
         }
@@ -112,50 +118,22 @@ private:
     const Recordset& m_events;
     PlacesByCode m_places;
     RowProgress& m_progress;
-    MomentTexts m_dates{MomentTexts::Day, QStringLiteral("Short Date")};
-    MomentTexts m_times{MomentTexts::Minute, QStringLiteral("Hh:Nn")};
     QString m_placePattern = Translate("%0:s, %1:s,  %2:s");
 };
 
-enum class Outcome { Complete, NoRecords, EventMissing, Stopped };
-
-/// Fills `tblReportTemp` and opens `lines` on it. If an event's button is gone, the lines of the
-/// events before it stay there.
-Outcome FillReportTemp(const IncidentReportRequest& request, const WorkProgress& show,
-                       Recordset& lines) {
-    const Condition condition = ConditionOf(request);
-    RowProgress progress(show, 2 * CountOf(condition)); // each is read, and perhaps written
-    Recordset events;
-    events.CursorLocation = adUseClient;
-    events.OnFetch = [&] { return progress.Step(); };
-    // The inner statement finds the rows in an index, so that the outer one reads the table once,
-    // from its beginning to its end.
-    events.Open(QStringLiteral("SELECT tblEvents.ID, tblEvents.tPipeId, tblEvents.dtDateTime, "
-                               "tblEvents.tButtonCode, tblEvents.tButtonName, "
-                               "tblEvents.wGroupType, tblEvents.tGroupName From tblEvents "
-                               "WHERE tblEvents.ID IN (SELECT tblEvents.ID %1);")
-                    .arg(condition.text),
-                condition.values, *gConn, adOpenStatic, adLockReadOnly);
-    if (progress.Cancelled())
-        return Outcome::Stopped;
-    if (events.RecordCount() < 1)
-        return Outcome::NoRecords;
-    bool missing = false;
-    const auto fill = [&](Recordset& rows) {
-        IncidentLines writer(rows, events, progress);
-        for (const int id : request.Events) {
-            const std::optional<EventButton> event = GetIncidentHeader(id);
-            missing = !event;
-            if (missing)
-                break;
-            if (!writer.Write(*event))
-                return false;
-        }
-        return true;
-    };
-    if (!FillScratchTable(ReportTemp, lines, InitRptTmp, fill))
-        return Outcome::Stopped;
-    return missing ? Outcome::EventMissing : Outcome::Complete;
+/// Writes the lines of the events, up to the first one whose button is gone. False if the operator
+/// cancelled.
+bool WriteEvents(const QList<int>& ids, IncidentLines& lines, bool& missing) {
+    missing = false;
+    for (const int id : ids) {
+        const std::optional<EventButton> event = GetIncidentHeader(id);
+        missing = !event;
+        if (missing)
+            break;
+        if (!lines.Write(*event))
+            return false;
+    }
+    return true;
 }
 
 /// A message that is not translated.
@@ -174,36 +152,36 @@ void Print(const IncidentReportRequest& request, const Recordset& lines, ReportV
     ShowLayoutFrame(report, viewer);
 }
 
-void ReportFailure(const RunTimeError& error) {
-    ReportError(QStringLiteral("BuildIncidentReport of Form frmRptIncidentNew"), error,
-                ErrorShow::LogOnly);
-    ShowProcedureError(QStringLiteral("BuildIncidentReport"), error);
-}
-
-/// Fills the table and shows the report. True if it was shown.
+/// True if the report was shown.
 bool FillAndShow(const IncidentReportRequest& request, ReportViewer& viewer) {
-    Recordset lines;
-    switch (FillReportTemp(request, viewer.Progress(), lines)) {
-    case Outcome::Complete:
-        break;
-    case Outcome::NoRecords:
+    // Each event is read, and perhaps written.
+    std::optional<RowProgress> progress(std::in_place, viewer.Progress(),
+                                        2 * CountOf(SourceOf(request), ValuesOf(request)));
+    Recordset events, lines;
+    if (!OpenEvents(request, *progress, events))
+        return false;
+    if (events.RecordCount() < 1) {
         ShowPlain("No records for the given parameters");
         return false;
-    case Outcome::EventMissing:
-        ShowPlain("Error Looking up Incident");
-        return false;
-    case Outcome::Stopped:
-        return false;
     }
-    // A failure from here on must not make the report a second time, with tables in memory.
-    return Trapped(
-        [&] {
-            Print(request, lines, viewer);
-            lines.Close();
-            IgnoringErrors(InitRptTmp);
-            return true;
-        },
-        ReportFailure);
+    bool missing = false, shown = false;
+    const auto write = [&] {
+        IncidentLines writer(lines, events, *progress);
+        return WriteEvents(request.Events, writer, missing);
+    };
+    const auto fill = [&] { return FillScratchTable(ReportTemp, InitRptTmp, lines, write); };
+    WithScratchTables(fill, [&] {
+        progress.reset();
+        if (missing) {
+            ShowPlain("Error Looking up Incident");
+            return;
+        }
+        Print(request, lines, viewer);
+        shown = true;
+        lines.Close();
+        InitRptTmp();
+    });
+    return shown;
 }
 
 } // namespace
@@ -240,9 +218,10 @@ std::optional<EventButton> GetIncidentHeader(int id) {
 }
 
 bool BuildIncidentReport(const IncidentReportRequest& request, ReportViewer& viewer) {
-    bool shown = false;
-    if (!request.Readers.isEmpty())
-        Trapped([&] { WithScratchTables([&] { shown = FillAndShow(request, viewer); }); },
-                ReportFailure);
-    return shown;
+    return Trapped([&] { return !request.Readers.isEmpty() && FillAndShow(request, viewer); },
+                   [](const RunTimeError& error) {
+                       ReportError(QStringLiteral("BuildIncidentReport of Form frmRptIncidentNew"),
+                                   error, ErrorShow::LogOnly);
+                       ShowProcedureError(QStringLiteral("BuildIncidentReport"), error);
+                   });
 }

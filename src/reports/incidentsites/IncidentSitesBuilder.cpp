@@ -1,6 +1,6 @@
 #include "IncidentSitesBuilder.h"
 
-#include "MomentTexts.h"
+#include "Format.h"
 #include "ReportViewer.h"
 #include "Rows.h"
 #include "ScratchTable.h"
@@ -12,8 +12,6 @@
 namespace {
 
 const QString TempIncident = QStringLiteral("tblTempIncident");
-const char* const PreviewLabel = "cmdPrintPreview_Click of Form frmRptIncidentParam";
-const char* const BuildLabel = "BuildIncidentReport_ORIGINAL of Form frmRptIncidentParam";
 
 // The columns of the events, by position: two of them are named "ID".
 enum EventColumn {
@@ -29,13 +27,6 @@ enum EventColumn {
     GroupIdColumn,
     PipeIdColumn
 };
-
-int CountEvents(const IncidentSitesRequest& request) {
-    Rows count(QStringLiteral("SELECT COUNT(*) FROM tblEvents WHERE "
-                              "(tblEvents.dtDateTime >= ?) AND (tblEvents.dtDateTime <= ?)"),
-               {request.StartDate, request.EndDate});
-    return static_cast<int>(count.FieldAt(0).Number());
-}
 
 /// Opens all touches of the range whose button and reader are still defined, to be read once.
 void OpenIncidentEvents(DateTime startDate, DateTime endDate, Recordset& events) {
@@ -56,8 +47,6 @@ void OpenIncidentEvents(DateTime startDate, DateTime endDate, Recordset& events)
 /// Adds a line for each touch that passes the filters. False if the operator cancelled.
 bool AddLines(const IncidentSitesRequest& request, Recordset& events, Recordset& lines,
               RowProgress progress) {
-    MomentTexts dates(MomentTexts::Day, QStringLiteral("Short Date"));
-    MomentTexts times(MomentTexts::Minute, QStringLiteral("Short Time"));
     QString lastSite, lastLocation;
     qint64 lastSiteId = 0;
     for (; !events.Eof(); events.MoveNext()) {
@@ -77,8 +66,8 @@ bool AddLines(const IncidentSitesRequest& request, Recordset& events, Recordset&
             continue;
         const DateTime moment = events.FieldAt(DateColumn).Date();
         lines.AddNew();
-        lines.Set(u"tDate", dates.Of(moment));
-        lines.Set(u"tTime", times.Of(moment));
+        lines.Set(u"tDate", Format(moment, QStringLiteral("Short Date")));
+        lines.Set(u"tTime", Format(moment, QStringLiteral("Short Time")));
         lines.Set(u"tReaderName", events.FieldAt(ReaderDescriptionColumn).Text());
         lines.Set(u"tSite", lastSite);
         lines.Set(u"tLocation", lastLocation);
@@ -86,27 +75,6 @@ bool AddLines(const IncidentSitesRequest& request, Recordset& events, Recordset&
                   isLocation ? QStringLiteral("") : events.FieldAt(ButtonColumn).Text());
     }
     return true;
-}
-
-/// False if there is nothing to show.
-bool FillTempIncident(const IncidentSitesRequest& request, const WorkProgress& show,
-                      Recordset& lines) {
-    const auto make = [] {
-        CreateTempIncident();
-        return true;
-    };
-    return FillScratchTable(TempIncident, lines, make, [&](Recordset& rows) {
-        Recordset events;
-        OpenIncidentEvents(request.StartDate, request.EndDate, events);
-        return Trapped(
-            [&] {
-                return AddLines(request, events, rows, {show, CountEvents(request)});
-            },
-            [](const RunTimeError& error) {
-                PassOnIfMemoryHelps(error);
-                ReportError(QString::fromUtf8(BuildLabel), error, ErrorShow::LogOnly);
-            });
-    });
 }
 
 void Print(const IncidentSitesRequest& request, const Recordset& lines, ReportViewer& viewer) {
@@ -133,19 +101,6 @@ void Print(const IncidentSitesRequest& request, const Recordset& lines, ReportVi
                     {u"Label3", Translate("Location")},
                     {u"Label4", Translate("Incident")}});
     ShowLayoutFrame(report, viewer);
-}
-
-void FillAndShow(const IncidentSitesRequest& request, ReportViewer& viewer) {
-    Recordset lines;
-    if (!FillTempIncident(request, viewer.Progress(), lines))
-        return;
-    // A failure from here on must not make the report a second time, with tables in memory.
-    Guarded(BuildLabel, [&] {
-        if (lines.RecordCount() == 0)
-            IvMessageBox(Translate("No Data on the report"));
-        else
-            Print(request, lines, viewer);
-    });
 }
 
 } // namespace
@@ -181,6 +136,40 @@ void CreateTempIncident() {
 void DropTempIncident() { DropScratchTable(TempIncident); }
 
 void BuildIncidentSitesReport(const IncidentSitesRequest& request, ReportViewer& viewer) {
-    Guarded(PreviewLabel, ErrorShow::Dialog,
-            [&] { WithScratchTables([&] { FillAndShow(request, viewer); }); });
+    Recordset events, lines;
+    bool building = false; // the two steps before it are those of the preview button
+    const auto make = [&] {
+        building = false;
+        CreateTempIncident();
+        events.Close();
+        OpenIncidentEvents(request.StartDate, request.EndDate, events);
+        building = true;
+        return true;
+    };
+    const auto write = [&] {
+        const QString range = QStringLiteral("FROM tblEvents WHERE (tblEvents.dtDateTime >= ?) AND "
+                                             "(tblEvents.dtDateTime <= ?)");
+        return AddLines(request, events, lines,
+                        {viewer.Progress(), CountOf(range, {request.StartDate, request.EndDate})});
+    };
+    const auto show = [&] {
+        if (lines.RecordCount() == 0)
+            IvMessageBox(Translate("No Data on the report"));
+        else
+            Print(request, lines, viewer);
+    };
+    Trapped(
+        [&] {
+            WithScratchTables([&] { return FillScratchTable(TempIncident, make, lines, write); },
+                              show);
+        },
+        [&](const RunTimeError& error) {
+            if (building)
+                ReportError(
+                    QStringLiteral("BuildIncidentReport_ORIGINAL of Form frmRptIncidentParam"),
+                    error, ErrorShow::LogOnly);
+            else
+                ReportError(QStringLiteral("cmdPrintPreview_Click of Form frmRptIncidentParam"),
+                            error, ErrorShow::Dialog);
+        });
 }

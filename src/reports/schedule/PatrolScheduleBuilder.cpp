@@ -13,6 +13,8 @@
 namespace {
 
 const QString PatrolTable = QStringLiteral("tblXXXPatrol");
+const QStringList PatrolColumns = {QStringLiteral("tNumber"), QStringLiteral("tTime"),
+                                   QStringLiteral("tSite"), QStringLiteral("tLocName")};
 
 /// The tolerance is written as the minutes of a clock time, so an hour or more is not a time.
 DateTime ToleranceAsTime(int minutes) {
@@ -22,12 +24,6 @@ DateTime ToleranceAsTime(int minutes) {
 }
 
 QString ClockText(DateTime time) { return Format(time, QStringLiteral("Short Time")); }
-
-bool MakeTable() {
-    MakeScratchTable(PatrolTable, {QStringLiteral("tNumber"), QStringLiteral("tTime"),
-                                   QStringLiteral("tSite"), QStringLiteral("tLocName")});
-    return true;
-}
 
 /// False if the operator cancelled the work.
 bool WritePoints(const cTourReport& tour, DateTime tolerance, const WorkProgress& show,
@@ -88,14 +84,13 @@ void BuildPatrolSchedule(int tourId, ReportViewer& viewer) {
             return;
         }
         const DateTime tolerance = ToleranceAsTime(tour.Tolerance);
-        WithScratchTables([&] {
-            Recordset rows;
-            const auto fill = [&](Recordset&) {
+        Recordset rows;
+        const auto fill = [&] {
+            return FillScratchTable(PatrolTable, PatrolColumns, rows, [&] {
                 return WritePoints(tour, tolerance, viewer.Progress(), rows);
-            };
-            if (FillScratchTable(PatrolTable, rows, MakeTable, fill))
-                Print(tour, rows, viewer);
-        });
+            });
+        };
+        WithScratchTables(fill, [&] { Print(tour, rows, viewer); });
     });
     DropScratchTable(PatrolTable);
 }
