@@ -386,7 +386,7 @@ private slots:
         int all = 0, filled = 0;
         for (auto count = documents.begin(); count != documents.end(); ++count) {
             qInfo("%-14s %5d documents, %5d with rows, %5d different", qPrintable(count.key()),
-                  count.value(), withRows[count.key()], differences.value(count.key()));
+                  count.value(), withRows.value(count.key()), differences.value(count.key()));
             all += count.value();
             filled += withRows[count.key()];
         }
