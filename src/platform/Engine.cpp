@@ -117,6 +117,11 @@ void Statement::Bind(int position, const Value& value) {
     Require(*m_engine, code);
 }
 
+void Statement::BindText(int position, const QByteArray& utf8) {
+    Require(*m_engine, sqlite3_bind_text(m_statement.get(), position, utf8.constData(),
+                                         static_cast<int>(utf8.size()), SQLITE_STATIC));
+}
+
 void Statement::Bind(const Values& values) {
     if (sqlite3_bind_parameter_count(m_statement.get()) != static_cast<int>(values.size()))
         Throw(SQLITE_RANGE, QStringLiteral("The statement needs a different number of values."));

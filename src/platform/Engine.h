@@ -56,6 +56,8 @@ public:
     sqlite3_stmt* Handle() const { return m_statement.get(); }
     /// `position` counts the "?" from 1.
     void Bind(int position, const Value& value);
+    /// A text that the caller keeps unchanged until the statement has run.
+    void BindText(int position, const QByteArray& utf8);
     /// One value for each "?". Throws if there are more or fewer.
     void Bind(const Values& values);
     /// True if there is a row.

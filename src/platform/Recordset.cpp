@@ -196,11 +196,12 @@ void Recordset::Update() {
     WritePending();
 }
 
-Statement& Recordset::WriterFor(const std::vector<int>& assigned) {
-    if (m_writer && m_writerKind == m_edit && m_writerColumns == assigned)
+/// The statement that writes the assigned columns.
+Statement& Recordset::Writer() {
+    if (m_writer && m_writerKind == m_edit && m_writerColumns == m_assignedColumns)
         return m_writer;
     QStringList names;
-    for (const int column : assigned)
+    for (const int column : m_assignedColumns)
         names += m_columns[column];
     QString sql;
     if (m_edit == Edit::Changing) {
@@ -215,27 +216,49 @@ Statement& Recordset::WriterFor(const std::vector<int>& assigned) {
     }
     m_writer = Statement(m_engine, sql.toUtf8());
     m_writerKind = m_edit;
-    m_writerColumns = assigned;
+    m_writerColumns = m_assignedColumns;
     return m_writer;
 }
 
 /// Gives the key of the written row.
 qint64 Recordset::WriteRow() {
-    std::vector<int> assigned;
-    for (int column = 0; column < m_columns.size(); ++column)
-        if (m_assigned[static_cast<std::size_t>(column)])
-            assigned.push_back(column);
+    m_assignedColumns.clear();
+    m_assignedTexts.clear();
+    for (int column = 0; column < m_columns.size(); ++column) {
+        const auto index = static_cast<std::size_t>(column);
+        if (!m_assigned[index])
+            continue;
+        const auto* text = std::get_if<QString>(&m_pending[index].Data());
+        m_assignedColumns.push_back(column);
+        m_assignedTexts.push_back(text ? text->toUtf8() : QByteArray());
+    }
     const int keyColumn = static_cast<int>(m_columns.size());
     const qint64 changedKey =
         m_edit == Edit::Changing ? m_rows.At(m_current, keyColumn).Number() : 0;
-    Statement& writer = WriterFor(assigned);
+    Statement& writer = Writer();
     int position = 0;
-    for (const int column : assigned)
-        writer.Bind(++position, m_pending[static_cast<std::size_t>(column)]);
+    for (const int column : m_assignedColumns) {
+        const Value& value = m_pending[static_cast<std::size_t>(column)];
+        const QByteArray& text = m_assignedTexts[static_cast<std::size_t>(position++)];
+        if (std::holds_alternative<QString>(value.Data()))
+            writer.BindText(position, text);
+        else
+            writer.Bind(position, value);
+    }
     if (m_edit == Edit::Changing)
         writer.Bind(++position, changedKey);
     writer.Run();
     return m_edit == Edit::Changing ? changedKey : sqlite3_last_insert_rowid(m_engine->Handle());
+}
+
+/// Keeps the assigned value with this place among the assigned columns.
+void Recordset::AppendAssigned(std::size_t place) {
+    const Value& value = m_pending[static_cast<std::size_t>(m_assignedColumns[place])];
+    const QByteArray& text = m_assignedTexts[place];
+    if (std::holds_alternative<QString>(value.Data()))
+        m_rows.AppendText(text.constData(), static_cast<std::size_t>(text.size()));
+    else
+        m_rows.AppendValue(value);
 }
 
 void Recordset::WritePending() {
@@ -253,10 +276,10 @@ void Recordset::WritePending() {
     if (m_server)
         return;
     m_rows.BeginRow();
+    std::size_t place = 0;
     for (int column = 0; column < m_columns.size(); ++column) {
-        const auto index = static_cast<std::size_t>(column);
-        if (m_assigned[index])
-            m_rows.AppendValue(m_pending[index]);
+        if (m_assigned[static_cast<std::size_t>(column)])
+            AppendAssigned(place++);
         else if (written == Edit::Changing)
             m_rows.AppendValue(m_rows.At(m_current, column));
         else if (m_columns[column].compare(u"ID", Qt::CaseInsensitive) == 0)

@@ -91,7 +91,8 @@ private:
     bool FetchOne();
     void WritePending();
     qint64 WriteRow();
-    Statement& WriterFor(const std::vector<int>& assigned);
+    Statement& Writer();
+    void AppendAssigned(std::size_t place);
 
     std::shared_ptr<Engine> m_engine; ///< null while the recordset is closed
     EngineSql m_sql;
@@ -107,6 +108,8 @@ private:
     Edit m_edit = Edit::None;
     std::vector<Value> m_pending;
     std::vector<bool> m_assigned;
+    std::vector<int> m_assignedColumns;      ///< those of m_assigned, while a row is written,
+    std::vector<QByteArray> m_assignedTexts; ///< and their texts in UTF-8; null for other values
     std::vector<int> m_writerColumns;
     Edit m_writerKind = Edit::None;
     Statement m_writer;
