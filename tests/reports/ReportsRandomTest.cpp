@@ -281,7 +281,7 @@ class ReportsRandomTest : public QObject {
             if (const QStringList codes = EventCodes(site); !codes.isEmpty() && OneIn(4))
                 options += {"--event", code = OneIn(8) ? OneOf(m_codes) : OneOf(codes)};
             if (const QStringList sites = SiteNames(site); !sites.isEmpty() && OneIn(4))
-                options += "--site=" + (place = OneIn(8) ? "Nowhere %1:s" : OneOf(sites));
+                options += "--site=" + (place = OneIn(8) ? OneOf(sites).toUpper() : OneOf(sites));
             if (OneIn(4))
                 options += {"--reader", reader = OneOf(m_readerIds)};
             call.expected = IncidentSites(site, wholeMinute, code, place, reader);
@@ -376,8 +376,9 @@ private slots:
                     const QString difference = DifferenceOf(call, home, boxes);
                     ++documents[word];
                     withRows[word] += call.expected.json.contains("\n{");
-                    if (const QString text = call.expected.message; !text.isEmpty())
-                        ++messages[word + (": " + text.section(" the code", 0, 0))];
+                    static const QRegularExpression name("(code|named) [^$]*");
+                    if (QString text = call.expected.message; !text.isEmpty())
+                        ++messages[word + (": " + text.remove(name))];
                     if (!difference.isEmpty() && ++differences[word] == 1)
                         qWarning("%s %s%s", word, qPrintable(call.options.join(u' ')),
                                  qPrintable(difference));
