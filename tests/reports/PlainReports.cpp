@@ -76,16 +76,38 @@ QByteArray List(const Rows& rows) {
     return rows.isEmpty() ? "[\n]" : "[\n" + rows.join(",\n") + "\n]";
 }
 
+Outcome Refused(const QString& message) { return {{}, message, {}}; }
+
 Outcome Shown(const Site& site, const QString& title, const Rows& rows,
               QHash<QString, QString> printed) {
     printed["lblReportTitle"] = title;
     printed["lblCompanyInfo"] = site.company;
-    return {
-        "{\"title\": " + JsonText(title) + ", \"rows\": " + List(rows) + "}\n", {}, {}, printed};
+    return {"{\"title\": " + JsonText(title) + ", \"rows\": " + List(rows) + "}\n", {}, printed};
 }
 
-Outcome Refused(const QString& message, const QString& log = {}) {
-    return {{}, {message}, log, {}};
+/// The values of a row, those at its end left out if they are null.
+using Line = QStringList;
+
+/// `controls` print the first columns.
+Outcome Shown(const Site& site, const QString& title, const QStringList& columns,
+              const QStringList& controls, const QList<Line>& lines,
+              QHash<QString, QString> printed) {
+    Rows rows;
+    for (const Line& line : lines)
+        rows += Row(columns, line);
+    for (int i = 0; i < controls.size() && !lines.isEmpty(); ++i)
+        printed[controls[i]] = lines.last().value(i);
+    return Shown(site, title, rows, printed);
+}
+
+QHash<QString, QString> IncidentLabels(const Site& site, Range range) {
+    return {{"lblReportDate", DateAndClock(site.now, 3)},
+            {"Label17", DateAndClock(range.from, 3)},
+            {"Label18", DateAndClock(range.to, 3)}};
+}
+
+QString RangeText(Range range) {
+    return "Date Range:   From " + DateAndClock(range.from, 1) + " to " + DateAndClock(range.to, 1);
 }
 
 const QStringList ScratchColumns = {"Field0", "Field1", "Field2", "Field3", "Field4",
@@ -158,37 +180,29 @@ Outcome PlainReports::Incident(const Site& site, Range range, const QStringList&
     if (events.isEmpty())
         return Refused("No records for the given parameters");
 
-    QList<QStringList> lines;
+    QList<Line> lines;
     for (const Button& incident : chosen) {
-        lines += QStringList{"", "", ""};
-        lines += QStringList{Filled(incident.name) + " [" + incident.code + "] -- " +
-                                 GroupOf(site, incident)->name,
-                             "", ""};
+        lines += Line{"", "", ""};
+        lines += Line{Filled(incident.name) + " [" + incident.code + "] -- " +
+                          GroupOf(site, incident)->name,
+                      "", ""};
         bool found = false;
         const Event* location = nullptr;
         for (const Event& event : events) {
             if (event.type == 1)
                 location = &event;
             else if (event.type == 2 && location && event.code == incident.code) {
-                lines += QStringList{"", DateAndClock(*location->time, 1),
-                                     Filled(location->name) + ", " + location->groupName +
-                                         ",  Reader " + location->reader};
+                lines += Line{"", DateAndClock(*location->time, 1),
+                              Filled(location->name) + ", " + location->groupName + ",  Reader " +
+                                  location->reader};
                 found = true;
             }
         }
         if (!found)
-            lines += QStringList{"", "", "No incidents of this type were recorded"};
+            lines += Line{"", "", "No incidents of this type were recorded"};
     }
-    Rows rows;
-    for (const QStringList& line : lines)
-        rows += Row(ScratchColumns, line);
-    return Shown(site, "Incident Report", rows,
-                 {{"lblReportDate", DateAndClock(site.now, 3)},
-                  {"Label17", DateAndClock(range.from, 3)},
-                  {"Label18", DateAndClock(range.to, 3)},
-                  {"txtEvent", lines.last()[0]},
-                  {"Text1", lines.last()[1]},
-                  {"Text3", lines.last()[2]}});
+    return Shown(site, "Incident Report", ScratchColumns, {"txtEvent", "Text1", "Text3"}, lines,
+                 IncidentLabels(site, range));
 }
 
 Outcome PlainReports::IncidentSites(const Site& site, Range range, const QString& code,
@@ -236,7 +250,7 @@ Outcome PlainReports::IncidentSites(const Site& site, Range range, const QString
                                               : Compared(a.reader.id, b.reader.id) < 0;
     });
 
-    QList<QStringList> lines;
+    QList<Line> lines;
     QString lastSite = "", lastLocation = "";
     int lastSiteId = 0;
     for (const auto& [event, button, group, taught] : touches) {
@@ -248,32 +262,20 @@ Outcome PlainReports::IncidentSites(const Site& site, Range range, const QString
         if ((eventId > 0 && button.id != eventId) ||
             (!reader.isEmpty() && event.reader != reader) || (siteId >= 1 && lastSiteId != siteId))
             continue;
-        lines += QStringList{DateText(*event.time),
-                             ClockText(*event.time),
-                             Filled(taught.description),
-                             lastSite,
-                             lastLocation,
-                             group.type == 1 ? "" : Filled(button.name)};
+        lines += Line{DateText(*event.time),
+                      ClockText(*event.time),
+                      Filled(taught.description),
+                      lastSite,
+                      lastLocation,
+                      group.type == 1 ? "" : Filled(button.name)};
     }
     if (lines.isEmpty())
         return Refused("No Data on the report");
-    Rows rows;
-    for (const QStringList& line : lines)
-        rows += Row({"tDate", "tTime", "tReaderName", "tSite", "tLocation", "tIncident"}, line);
-    const QStringList& last = lines.last();
-    return Shown(site, "Incidents And Locations Report", rows,
-                 {{"lblReportDate", DateAndClock(site.now, 3)},
-                  {"Label17", DateAndClock(range.from, 3)},
-                  {"Label18", DateAndClock(range.to, 3)},
-                  {"Label14", eventName},
-                  {"Label15", readerName},
-                  {"Label16", siteName},
-                  {"Text1", last[0]},
-                  {"txtTime", last[1]},
-                  {"Text2", last[2]},
-                  {"Text5", last[3]},
-                  {"Text3", last[4]},
-                  {"Text4", last[5]}});
+    QHash<QString, QString> labels = IncidentLabels(site, range);
+    labels.insert({{"Label14", eventName}, {"Label15", readerName}, {"Label16", siteName}});
+    return Shown(site, "Incidents And Locations Report",
+                 {"tDate", "tTime", "tReaderName", "tSite", "tLocation", "tIncident"},
+                 {"Text1", "txtTime", "Text2", "Text5", "Text3", "Text4"}, lines, labels);
 }
 
 Outcome PlainReports::Schedule(const Site& site, int id) {
@@ -282,20 +284,20 @@ Outcome PlainReports::Schedule(const Site& site, int id) {
     if (id < 1 || tour == site.tours.end())
         return Refused("Error in creating new Tour");
     if (tour->tolerance > 59 || tour->tolerance.value_or(0) < 0)
-        return Refused("Error 13", "Error 13");
+        return Refused("Error 13");
     const Seconds tolerance = tour->tolerance.value_or(0) * 60;
     QList<Point> points = tour->points;
     std::stable_sort(points.begin(), points.end(),
                      [](const Point& a, const Point& b) { return a.index < b.index; });
     Seconds now = tour->start.value_or(0);
-    QList<QStringList> lines;
+    QList<Line> lines;
     for (const Point& point : points) {
         const auto line = [&](const QString& place, const QString& location) {
             now += point.interval.value_or(0);
-            lines += QStringList{QString::number(lines.size() + 1),
-                                 ClockText(now) + "     (" + ClockText(now - tolerance) + " ~ " +
-                                     ClockText(now + tolerance) + ")",
-                                 place + " ", location + " "};
+            lines += Line{QString::number(lines.size() + 1),
+                          ClockText(now) + "     (" + ClockText(now - tolerance) + " ~ " +
+                              ClockText(now + tolerance) + ")",
+                          place + " ", location + " "};
         };
         bool defined = false;
         for (const Button& button : site.buttons)
@@ -307,19 +309,11 @@ Outcome PlainReports::Schedule(const Site& site, int id) {
         if (!defined)
             line({}, {});
     }
-    Rows rows;
-    for (const QStringList& line : lines)
-        rows += Row({"tNumber", "tTime", "tSite", "tLocName"}, line);
-    QHash<QString, QString> printed{
-        {"lblTourName", tour->name},
-        {"lblTourDesc", tour->description},
-        {"lblTolerance", QString::number(tolerance / 60) + "  Minutes"}};
-    if (!lines.isEmpty())
-        printed.insert({{"txttLocDesc", lines.last()[0]},
-                        {"txttTime", lines.last()[1]},
-                        {"txttSite", lines.last()[2]},
-                        {"txttLocName", lines.last()[3]}});
-    return Shown(site, "Patrol Schedule Report", rows, printed);
+    return Shown(site, "Patrol Schedule Report", {"tNumber", "tTime", "tSite", "tLocName"},
+                 {"txttLocDesc", "txttTime", "txttSite", "txttLocName"}, lines,
+                 {{"lblTourName", tour->name},
+                  {"lblTourDesc", tour->description},
+                  {"lblTolerance", QString::number(tolerance / 60) + "  Minutes"}});
 }
 
 Outcome PlainReports::Downloads(const Site& site, Range range, const QString& reader) {
@@ -352,8 +346,7 @@ Outcome PlainReports::Downloads(const Site& site, Range range, const QString& re
     const Event& last = events.last();
     return Shown(site, "Reader Download Report", list,
                  {{"lblReaderID", reader + " (" + description + ")"},
-                  {"lblDateRange", "Date Range:   From " + DateAndClock(range.from, 1) + " to " +
-                                       DateAndClock(range.to, 1)},
+                  {"lblDateRange", RangeText(range)},
                   {"txtDtDate", downloaded ? DateText(*downloaded) : QString()},
                   {"txtDtTime", downloaded ? ClockWithSeconds(*downloaded) : QString()},
                   {"txtDate", DateText(*last.time)},
@@ -365,17 +358,17 @@ Outcome PlainReports::Downloads(const Site& site, Range range, const QString& re
 }
 
 Outcome PlainReports::Hardware(const Site& site, bool locations, bool events, bool readers) {
-    struct Line {
+    struct Defined {
         Group group;
         Button button;
     };
-    QList<Line> buttons;
+    QList<Defined> buttons;
     for (const Button& button : site.buttons)
         if (const Group* group = GroupOf(site, button))
             if ((locations || (group->type && group->type != 1)) &&
                 (events || (group->type && group->type != 2)))
                 buttons += {*group, button};
-    std::stable_sort(buttons.begin(), buttons.end(), [](const Line& a, const Line& b) {
+    std::stable_sort(buttons.begin(), buttons.end(), [](const Defined& a, const Defined& b) {
         if (a.group.type != b.group.type)
             return a.group.type < b.group.type;
         const int byGroup = Compared(a.group.name, b.group.name);
@@ -385,60 +378,53 @@ Outcome PlainReports::Hardware(const Site& site, bool locations, bool events, bo
     const auto described = [](const QString& name, const QString& description) {
         return Filled(name) + (description.isEmpty() ? "" : " - " + description);
     };
-    QList<QStringList> lines;
+    QList<Line> lines;
     const QString none;
     int lastType = 0, lastGroup = 0;
     for (const auto& [group, button] : buttons) {
         if (group.type.value_or(0) != lastType) {
-            lines += QStringList{""};
-            lines += QStringList{group.type == 1 ? "Locations" : "Incidents"};
-            lines += QStringList{"--------------------"};
+            lines += {Line{""}, Line{group.type == 1 ? "Locations" : "Incidents"},
+                      Line{"--------------------"}};
             lastType = *group.type;
         }
         if (group.id != lastGroup)
-            lines += QStringList{none, described(group.name, group.description)};
+            lines += Line{none, described(group.name, group.description)};
         lastGroup = group.id;
-        lines += QStringList{none, none, described(button.name, button.description),
-                             Filled(button.code)};
+        lines += Line{none, none, described(button.name, button.description), Filled(button.code)};
     }
     if (readers) {
-        lines += {QStringList{""}, QStringList{"Readers"}, QStringList{"---------------------"}};
+        lines += {Line{""}, Line{"Readers"}, Line{"---------------------"}};
         for (const Reader& reader : site.readers)
-            lines += QStringList{none, none, Filled(reader.description), Filled(reader.id)};
+            lines += Line{none, none, Filled(reader.description), Filled(reader.id)};
     }
-    Rows rows;
-    for (const QStringList& line : lines)
-        rows += Row(ScratchColumns, line);
-    QHash<QString, QString> printed;
-    if (!lines.isEmpty())
-        printed = {{"txtDate", lines.last().value(0)},
-                   {"Text2", lines.last().value(1)},
-                   {"Text4", lines.last().value(2)},
-                   {"Text3", lines.last().value(3)}};
-    return Shown(site, "Hardware List Report", rows, printed);
+    return Shown(site, "Hardware List Report", ScratchColumns,
+                 {"txtDate", "Text2", "Text4", "Text3"}, lines, {});
 }
 
 Outcome PlainReports::Database(const Site& site, Range range) {
     const QList<Event> events = EventsByTime(site, range, [](const Event&) { return true; });
     if (events.isEmpty())
         return Refused("No Data on the report");
-    Rows rows;
-    const auto type = [](const Event& event) {
-        return QString(event.type == 1 ? "Location" : event.type == 2 ? "Event" : "");
-    };
+    QList<Line> lines;
     for (const Event& event : events)
-        rows += Row(
-            {"tDateTime", "tButtonCode", "tButtonName", "tLocationDesc", "tGroupName", "tType"},
-            {DateText(*event.time) + ' ' + ClockWithSeconds(*event.time), Filled(event.code),
-             Filled(event.name), Filled(event.description), Filled(event.groupName), type(event)});
-    const Event& last = events.last();
-    return Shown(site, "Database Report", rows,
-                 {{"lblDateRange", "Date Range:   From " + DateAndClock(range.from, 1) + " to " +
-                                       DateAndClock(range.to, 1)},
-                  {"txtDate", DateText(*last.time)},
-                  {"txtTime", ClockText(*last.time)},
-                  {"Text2", last.code},
-                  {"Text4", last.name},
-                  {"Text3", last.groupName},
-                  {"Text5", type(last)}});
+        lines += Line{DateText(*event.time) + ' ' + ClockWithSeconds(*event.time),
+                      Filled(event.code),
+                      Filled(event.name),
+                      Filled(event.description),
+                      Filled(event.groupName),
+                      event.type == 1   ? "Location"
+                      : event.type == 2 ? "Event"
+                                        : ""};
+    const Line& last = lines.last();
+    return Shown(
+        site, "Database Report",
+        {"tDateTime", "tButtonCode", "tButtonName", "tLocationDesc", "tGroupName", "tType"}, {},
+        lines,
+        {{"lblDateRange", RangeText(range)},
+         {"txtDate", DateText(*events.last().time)},
+         {"txtTime", ClockText(*events.last().time)},
+         {"Text2", last[1]},
+         {"Text4", last[2]},
+         {"Text3", last[4]},
+         {"Text5", last[5]}});
 }

@@ -71,8 +71,7 @@ struct Range {
 
 struct Outcome {
     QByteArray json; ///< empty if there is no report. Without the ID of a row.
-    QStringList messages;
-    QString log; ///< what is logged
+    QString message;
     /// What is printed by the controls of these names; in the detail, for the last row.
     QHash<QString, QString> printed;
 };

@@ -32,8 +32,7 @@ constexpr Seconds Day = 86'400;
 class Keeper : public ReportViewer {
 public:
     void Show(DataReport& report) override {
-        ++Shown;
-        Json = ReportJson(report);
+        Json += ReportJson(report);
         const RowSource& rows = *report.DataSource();
         const PageWords words{"page", "pages", "date", "time"};
         for (const ReportSection& section : report.Layout().sections)
@@ -47,7 +46,6 @@ public:
                                                   : control.Caption();
     }
 
-    int Shown = 0;
     QByteArray Json;
     QHash<QString, QString> Printed;
 };
@@ -283,7 +281,7 @@ class ReportsRandomTest : public QObject {
             if (const QStringList codes = EventCodes(site); !codes.isEmpty() && OneIn(4))
                 options += {"--event", code = OneIn(8) ? OneOf(m_codes) : OneOf(codes)};
             if (const QStringList sites = SiteNames(site); !sites.isEmpty() && OneIn(4))
-                options += "--site=" + (place = OneIn(8) ? "Nowhere %1:s" : OneOf(sites));
+                options += "--site=" + (place = OneIn(8) ? OneOf(sites).toUpper() : OneOf(sites));
             if (OneIn(4))
                 options += {"--reader", reader = OneOf(m_readerIds)};
             call.expected = IncidentSites(site, wholeMinute, code, place, reader);
@@ -324,16 +322,15 @@ class ReportsRandomTest : public QObject {
             if (ReportNeedsAreMet(row->commandNeeds))
                 build(keeper);
         });
-        QStringList texts = boxes.TakeTexts();
         if (error.Number() != 0)
-            texts += "thrown: " + error.Description();
+            return "thrown: " + error.Description();
+        // Of the one failure, only its number.
+        static const QRegularExpression mismatch("(Error 13) in [^$]*");
+        const QString messages = boxes.TakeTexts().join(u'|').replace(mismatch, "\\1");
+        const QString log = home.TakeLog().replace(mismatch, "\\1");
         static const QRegularExpression rowId("(?<=\\{)\"ID\": \"\\d+\", ");
         const QString json = QString::fromUtf8(keeper.Json).remove(rowId);
         const Outcome& expected = call.expected;
-        // Of this failure, only its number.
-        static const QRegularExpression mismatch("(Error 13) in [^$]*");
-        texts.replaceInStrings(mismatch, "\\1");
-        const QString log = home.TakeLog().replace(mismatch, "\\1");
         QString difference;
         const auto compare = [&](const QString& what, const QString& right, const QString& given) {
             if (right != given)
@@ -341,10 +338,8 @@ class ReportsRandomTest : public QObject {
                     QStringLiteral("\n%1: expected\n%2\n  got\n%3").arg(what, right, given);
         };
         compare("rows", expected.json, json);
-        compare("messages", expected.messages.join(u'|'), texts.join(u'|'));
-        compare("log", expected.log, log);
-        compare("times shown", QString::number(!expected.json.isEmpty()),
-                QString::number(keeper.Shown));
+        compare("messages", expected.message, messages);
+        compare("log", expected.message.startsWith("Error 13") ? expected.message : "", log);
         for (auto text = expected.printed.begin(); text != expected.printed.end(); ++text)
             compare(text.key(), text.value(),
                     keeper.Printed.value(text.key(), "(no such control)"));
@@ -365,11 +360,11 @@ private slots:
         gConn->Execute("PRAGMA synchronous=OFF");
         gCompanyInfo = {"Wächter & \"Söhne\" %d", "", "100 % %p", "شركة"};
         const Seconds now = Seconds{46'349} * Day + 33'060;
-        const TestClock clock(DateTime::FromMilliseconds(now * 1000), 1);
         ScriptedBoxes boxes;
         QMap<QString, int> documents, withRows, messages, differences;
         QElapsedTimer elapsed;
-        for (elapsed.start(); elapsed.elapsed() < 15'000;) {
+        for (elapsed.start(); elapsed.elapsed() < 15'000 || documents["database"] < 500;) {
+            const TestClock clock(DateTime::FromMilliseconds(now * 1000), 1);
             Site site = RandomSite(now);
             site.company = gCompanyInfo[0] + "\r\n" + gCompanyInfo[1] + "\r\n" + gCompanyInfo[2] +
                            "\r\n" + gCompanyInfo[3];
@@ -381,8 +376,9 @@ private slots:
                     const QString difference = DifferenceOf(call, home, boxes);
                     ++documents[word];
                     withRows[word] += call.expected.json.contains("\n{");
-                    for (const QString& message : call.expected.messages)
-                        ++messages[word + (": " + message.section(" the code", 0, 0))];
+                    static const QRegularExpression name("(code|named) [^$]*");
+                    if (QString text = call.expected.message; !text.isEmpty())
+                        ++messages[word + (": " + text.remove(name))];
                     if (!difference.isEmpty() && ++differences[word] == 1)
                         qWarning("%s %s%s", word, qPrintable(call.options.join(u' ')),
                                  qPrintable(difference));
@@ -397,8 +393,6 @@ private slots:
         }
         for (auto count = messages.begin(); count != messages.end(); ++count)
             qInfo("%5d \"%s\"", count.value(), qPrintable(count.key()));
-        for (const int count : documents)
-            QVERIFY(count >= 300);
         QVERIFY(all >= 3000 && filled >= all / 2);
         QCOMPARE(messages.size(), 13);
         QVERIFY(differences.isEmpty());
