@@ -128,6 +128,15 @@ QString VersionText() {
         .arg(AppRevision());
 }
 
+/// What can follow the first word of a command.
+QStringList SecondWordsOf(const QString& first) {
+    QStringList words;
+    for (const Command& command : Commands())
+        if (command.words.startsWith(first + u' '))
+            words += command.words.section(u' ', 1);
+    return words;
+}
+
 /// A call that names no command.
 int RunWithoutCommand(const QStringList& arguments) {
     if (CommandParser::AsksForHelp(arguments)) {
@@ -146,6 +155,10 @@ int RunWithoutCommand(const QStringList& arguments) {
     const QString fault = parser.FaultOf(arguments);
     if (!fault.isEmpty() && words.value(0) != arguments[0])
         throw UsageError(fault);
+    const QStringList next = SecondWordsOf(words.value(0));
+    if (words.size() == 1 && !next.isEmpty())
+        throw UsageError(words[0] + QStringLiteral(" needs one of ") +
+                         next.join(QStringLiteral(", ")));
     throw UsageError(
         words.isEmpty() ? QStringLiteral("a command is missing")
                         : QStringLiteral("unknown command \"%1\"").arg(words.mid(0, 2).join(u' ')));

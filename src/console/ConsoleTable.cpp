@@ -1,6 +1,7 @@
 #include "ConsoleTable.h"
 
 #include "ConsoleTools.h"
+#include "Format.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

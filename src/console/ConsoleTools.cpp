@@ -1,5 +1,6 @@
 #include "ConsoleTools.h"
 
+#include "Format.h"
 #include "OutputFile.h"
 #include "RunTimeError.h"
 #include "mTranslations.h"
@@ -7,15 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
 #include <cstdio>
-
-QString WithoutControls(QString text) {
-    std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
-        u'?');
-    return text;
-}
 
 void Complain(const QString& text) {
     const QByteArray line = (WithoutControls(text.simplified()) + u'\n').toUtf8();

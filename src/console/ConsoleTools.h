@@ -9,9 +9,6 @@ class QJsonObject;
 
 /// What all commands share.
 
-/// The text with a "?" for each control character: a terminal would obey an escape sequence.
-QString WithoutControls(QString text);
-
 /// One line on standard error, without the line breaks and control characters of the text.
 void Complain(const QString& text);
 

@@ -10,6 +10,14 @@ constexpr int CompanyLineLength = 50;
 
 QString CompanyKey(std::size_t line) { return QStringLiteral("CompanyInfo%1").arg(line + 1); }
 
+/// A line that was typed before the last start, cut to its length. No character is cut in two.
+QString CutLine(QString line) {
+    line.truncate(CompanyLineLength);
+    if (line.size() == CompanyLineLength && line.back().isHighSurrogate())
+        line.chop(1);
+    return line;
+}
+
 template <typename T>
 T SavedOption(const QString& section, const QString& key, T fallback, const QString& fallbackText,
               T (*convert)(const QString&)) {
@@ -44,8 +52,7 @@ void ReadRemainingSettings() {
     gAutoSetTime = SavedBoolean(SettingsSection::Properties, QStringLiteral("AutoSetTime"), true);
     for (std::size_t line = 0; line < gCompanyInfo.size(); ++line)
         gCompanyInfo[line] =
-            GetSetting(SettingsApplication, SettingsSection::Properties, CompanyKey(line))
-                .left(CompanyLineLength);
+            CutLine(GetSetting(SettingsApplication, SettingsSection::Properties, CompanyKey(line)));
 }
 
 void SaveCompanyInfo(const QStringList& lines) {

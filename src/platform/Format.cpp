@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 #include <QStringBuilder>
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -172,4 +173,11 @@ std::optional<DateTime> DateTimeFromText(const QString& text) {
     if (!date.isValid() || !time.isValid())
         return {};
     return DateTime::FromQt(date) + DateTime::FromMilliseconds(time.msecsSinceStartOfDay());
+}
+
+QString WithoutControls(QString text) {
+    std::replace_if(
+        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
+        u'?');
+    return text;
 }

@@ -27,3 +27,6 @@ std::optional<DateTime> DateTimeFromText(const QString& text);
 
 /// The locale's short date pattern, with a year of four digits.
 QString GetShortDateFormat();
+
+/// The text with a "?" for each control character: a terminal would obey an escape sequence.
+QString WithoutControls(QString text);

@@ -1,6 +1,6 @@
 #include "ScratchTable.h"
 
-#include "Recordset.h"
+#include "Rows.h"
 #include "TableExists.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
@@ -60,6 +60,20 @@ void MakeScratchTable(const QString& name, const QStringList& columns) {
 
 void DropScratchTable(const QString& name) {
     IgnoringErrors([&] { Drop(name); });
+}
+
+bool EmptyScratchTable(const QString& name, const std::function<bool()>& goOn) {
+    constexpr qint64 rowsInStep = 20'000;
+    if (g_inMemory || !TableExists(name))
+        return true;
+    const qint64 last =
+        Rows(QStringLiteral("SELECT MAX(rowid) FROM %1").arg(name)).FieldAt(0).Number();
+    for (qint64 row = rowsInStep; row < last; row += rowsInStep) {
+        gConn->Execute(QStringLiteral("DELETE FROM %1 WHERE rowid <= ?").arg(name), {row});
+        if (!goOn())
+            return false;
+    }
+    return true;
 }
 
 bool FillScratchTable(const QString& name, const std::function<bool()>& make, Recordset& rows,

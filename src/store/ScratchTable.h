@@ -18,6 +18,10 @@ void MakeScratchTable(const QString& name, const QStringList& columns);
 /// Does nothing if the table is not there.
 void DropScratchTable(const QString& name);
 
+/// Deletes a table's rows in steps and calls `goOn` between them: dropping a large table takes
+/// seconds. False once `goOn` gives false. Does nothing if the table is not there.
+bool EmptyScratchTable(const QString& name, const std::function<bool()>& goOn);
+
 /// Fills a scratch table in one transaction, so that a run that fails leaves none of its rows.
 /// `make` makes or empties the table. `rows` is then open on it, and `fill` adds rows to it. If one
 /// of them gives false, nothing is changed, and the result is false. Otherwise `rows` is at its

@@ -15,7 +15,7 @@ constexpr int SizeSteps = 6;
 constexpr QChar Ellipsis = u'\u2026';
 
 /// Replaces control characters, line breaks and tabs of every kind by blanks.
-QString WithoutControls(QString text) {
+QString ControlsAsBlanks(QString text) {
     const auto isControl = [](QChar letter) {
         return letter.category() == QChar::Other_Control || letter == QChar::LineSeparator ||
                letter == QChar::ParagraphSeparator;
@@ -48,7 +48,7 @@ FittedText::FittedText(const ReportFont& font, const QStringList& lines, QSizeF 
     option.setTextDirection(Qt::LayoutDirectionAuto);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     for (const QString& line : lines) {
-        QString text = WithoutControls(line.left(most));
+        QString text = ControlsAsBlanks(line.left(most));
         if (line.size() > most)
             text += Ellipsis;
         for (const QChar letter : text) {

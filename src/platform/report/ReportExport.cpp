@@ -133,7 +133,7 @@ private:
     void AddLine(QString line) {
         while (line.endsWith(u' '))
             line.chop(1);
-        m_text += line.toUtf8() + '\n';
+        m_text += WithoutControls(line).toUtf8() + '\n';
     }
 
     QString TextOf(const ReportControl& label) const {

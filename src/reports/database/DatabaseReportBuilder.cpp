@@ -53,11 +53,19 @@ bool AddEvents(const EventQuery& query, RowProgress& progress, Recordset& rows) 
 }
 
 CopyResult Copy(const EventQuery& query, Recordset& rows, const WorkProgress& show) {
+    const int count = CountOf(query.source, query.values);
+    const auto make = [&] {
+        // The last run may have left a million rows.
+        if (!EmptyScratchTable(CustomTable, [&] { return show(0, count); }))
+            return false;
+        MakeScratchTable(CustomTable, CustomColumns);
+        return true;
+    };
     const auto fill = [&] {
-        RowProgress progress(show, CountOf(query.source, query.values));
+        RowProgress progress(show, count);
         return AddEvents(query, progress, rows);
     };
-    if (!FillScratchTable(CustomTable, CustomColumns, rows, fill))
+    if (!FillScratchTable(CustomTable, make, rows, fill))
         return CopyResult::Cancelled;
     return rows.RecordCount() > 0 ? CopyResult::Copied : CopyResult::NoEvents;
 }
