@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>Incidents</source>
-        <translation>Vorfälle</translation>
+        <translation>Ereignisse</translation>
     </message>
     <message>
         <source>Hardware Code</source>
@@ -1468,8 +1468,8 @@
         <translation>Es wird keine Gewähr übernommen.</translation>
     </message>
     <message>
-        <source>Help, Contents (F1) describes the program.</source>
-        <translation>Hilfe, Inhalt (F1) beschreibt das Programm.</translation>
+        <source>For a description of the program, choose Help, Contents (F1).</source>
+        <translation>Eine Beschreibung des Programms finden Sie unter Hilfe, Inhalt (F1).</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>

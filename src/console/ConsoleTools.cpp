@@ -41,7 +41,10 @@ MessageAnswer ConsoleBoxes::Show(const Message& message) {
     return HarmlessAnswer(message.buttons);
 }
 
-void ComplainUnlessSaid(const ConsoleBoxes& boxes, const char* text) {
-    if (boxes.Last().isEmpty())
-        Complain(Translate(text));
+QString ComplainUnlessSaid(const ConsoleBoxes& boxes, const char* text) {
+    if (!boxes.Last().isEmpty())
+        return boxes.Last();
+    const QString translated = Translate(text);
+    Complain(translated);
+    return translated;
 }

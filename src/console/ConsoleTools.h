@@ -32,5 +32,6 @@ private:
     QString m_last;
 };
 
-/// Translates the text and complains, unless a notice has already said what went wrong.
-void ComplainUnlessSaid(const ConsoleBoxes& boxes, const char* text);
+/// Translates the text and complains, unless a notice has already said what went wrong. Returns
+/// what was said.
+QString ComplainUnlessSaid(const ConsoleBoxes& boxes, const char* text);

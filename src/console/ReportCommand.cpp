@@ -3,7 +3,8 @@
 #include "ConsoleReport.h"
 #include "ConsoleTools.h"
 #include "ReportCatalogue.h"
-#include "mTranslations.h"
+#include "ReportNeeds.h"
+#include "mErrorHandler.h"
 
 namespace {
 
@@ -25,15 +26,19 @@ CommandRun Prepare(const ReportRow& row, CLI::App& options) {
     AddOutput(options, output->path);
     return [needs = row.commandNeeds, output, build](const ConsoleBoxes& boxes) {
         ConsoleReport report(output->format);
-        if (ReportNeedsAreMet(needs))
-            build(report);
-        if (report.HasReport())
+        Guarded("report of wardlockctl", [&] {
+            if (ReportNeedsAreMet(needs))
+                build(report);
+        });
+        if (report.HasReport()) {
             WriteOut(report.Bytes(), output->path);
-        else if (output->format == ReportFormat::Json)
-            WriteOut(JsonMessage(boxes.Last()), output->path);
-        if (!report.HasReport() && boxes.Last().isEmpty())
-            Complain(Translate("The report could not be created. See error.log for the reason."));
-        return report.HasReport();
+            return true;
+        }
+        const QString sentence = ComplainUnlessSaid(
+            boxes, QT_TR_NOOP("The report could not be created. See error.log for the reason."));
+        if (output->format == ReportFormat::Json)
+            WriteOut(JsonMessage(sentence), output->path);
+        return false;
     };
 }
 

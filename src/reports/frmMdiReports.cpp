@@ -1,6 +1,7 @@
 #include "frmMdiReports.h"
 
 #include "ReportCatalogue.h"
+#include "ReportNeeds.h"
 #include "WindowTools.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"

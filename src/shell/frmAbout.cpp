@@ -17,9 +17,10 @@ namespace {
 constexpr qint64 MostBytes = 4096;
 constexpr qsizetype MostCharacters = 2048;
 
-/// What to do about a fault, if the installer has not placed a text of his own.
+/// What to do if something does not work. Shown if the installer has not placed a text.
 QString OurAdvice() {
-    return Translate("Help, Contents (F1) describes the program.") + QStringLiteral("\n\n") +
+    return Translate("For a description of the program, choose Help, Contents (F1).") +
+           QStringLiteral("\n\n") +
            Translate("If something does not work, report it to the person who looks after this "
                      "installation. Give the version and the build shown above, and send this "
                      "file:") +

@@ -36,6 +36,7 @@ void frmCompany::cmdOK_Click() {
         accept();
     };
     Trapped(save, [](const RunTimeError& error) {
+        ReportError(QStringLiteral("cmdOK_Click of Form frmCompany"), error, ErrorShow::LogOnly);
         IvMessageBox(Translate("The company info cannot be saved. This file cannot be written:") +
                      u'\n' + error.Description());
     });

@@ -9,9 +9,9 @@
 
 #include <optional>
 
-/// Reads what an operator has defined: groups with their buttons, readers, tours. All of it works
-/// on gConn and throws RunTimeError. Lists are in the order in which the rows were stored, unless
-/// the name says otherwise.
+/// Reads what an operator has defined: groups with their buttons, readers, tours. These routines
+/// use gConn and throw RunTimeError unless noted. Lists are in the order in which the rows were
+/// stored, unless the name says otherwise.
 
 /// A site, an event book or a user group.
 struct Group {

@@ -136,22 +136,21 @@ private slots:
     void ReadsRepeatedOptionsAndAnyMinute() {
         CommandParser parser("wardlockctl", "do");
         QStringList readers;
-        DateTime to;
+        DateTime from, to;
         AddReaders(parser.Options(), "--reader", readers, "");
-        AddMinute(parser.Options(), "--to", to, "");
-        parser.Parse({"--reader", "4b5831a7", "do", "--to=9999-12-31T23:59", "--reader=00000001",
-                      "--reader", "4B5831A7"});
+        AddRange(parser.Options(), from, to, LastMinute::Whole);
+        parser.Parse({"--from=0100-01-01T00:00", "--reader", "4b5831a7", "do",
+                      "--to=9999-12-31T23:59", "--reader=00000001", "--reader", "4B5831A7"});
         QCOMPARE(readers, (QStringList{"4B5831A7", "00000001"}));
-        QCOMPARE(to, DateTime::FromQt(QDate(9999, 12, 31)) + DateTime::FromTime(23, 59));
-        parser.Parse({"do", "--to", "0100-01-01T00:00"});
-        QCOMPARE(to.ToQDate(), QDate(100, 1, 1));
+        QCOMPARE(to, DateTime::FromQt(QDate(9999, 12, 31)) + DateTime::FromTime(23, 59, 59));
+        QCOMPARE(from, DateTime::FromQt(QDate(100, 1, 1)));
         for (const char* wrong :
              {"--to 0099-12-31T23:59", "--to 10000-01-01T00:00", "--to 2026-11-21T24:00",
               "--to 2026-11-21T10:00:00", "--to 2026-11-21T10:00 --reader 4B5831A7 00000001",
               "--to 2026-11-21T10:00 --reader 4B5831A7 --reader x"})
-            QVERIFY_THROWS_EXCEPTION(
-                UsageError,
-                parser.Parse(QStringList{"do"} + QString::fromLatin1(wrong).split(u' ')));
+            QVERIFY_THROWS_EXCEPTION(UsageError,
+                                     parser.Parse(QStringList{"do", "--from=2026-11-21T00:00"} +
+                                                  QString::fromLatin1(wrong).split(u' ')));
     }
 
     // An example that is wrong usage would end with 2; without a store it ends with 1. That of a
@@ -242,6 +241,33 @@ private slots:
         const Outcome failed = office.Ctl(ReportWords("--format pdf --output /nowhere/report.pdf"));
         QCOMPARE(failed.status, 1);
         QCOMPARE(failed.err.count('\n'), 1);
+    }
+
+    // The words of standard error are those of the JSON.
+    void SaysWhyThereIsNoReport() {
+        const Office office;
+        const auto expect = [&](const char* words, const QString& sentence) {
+            const Outcome outcome =
+                office.Ctl(QLatin1String("report ") + words +
+                           " --from 2026-11-21T00:00 --to 2026-11-22T23:59 --format json");
+            QCOMPARE(outcome.status, 1);
+            QCOMPARE(outcome.err, sentence.toUtf8() + '\n');
+            QCOMPARE(outcome.Json()[u"message"].toString(), sentence);
+        };
+        const auto execute = [&](const char* statement) {
+            QVERIFY(office.Open());
+            gConn->Execute(QString::fromLatin1(statement));
+            TestHome::Close();
+        };
+        expect("incident --reader 00FF00FF", "No records for the given parameters");
+        execute("DELETE * FROM tblReaders");
+        expect("incident", "You must add at least one reader before this report can be used");
+        expect("incident --reader 00FF00FF", "No records for the given parameters");
+        office.TakeLog();
+        execute("DROP TABLE tblReaders");
+        expect("downloads --reader 00FF00FF",
+               "The report could not be created. See error.log for the reason.");
+        QCOMPARE(office.TakeLog().count("report of wardlockctl"), 1);
     }
 
     // What a script needs to make a call: IDs for names.

@@ -203,7 +203,7 @@ private slots:
     void PrintsAllOrNothing() {
         const QTemporaryDir folder;
         const QString path = folder.filePath("print.pdf");
-        const auto write = [&](const CountedRows& rows, const PageProgress& progress = {}) {
+        const auto write = [&](const CountedRows& rows, const WorkProgress& progress = {}) {
             QPrinter printer;
             printer.setOutputFormat(QPrinter::PdfFormat);
             printer.setOutputFileName(path);
@@ -247,12 +247,15 @@ private slots:
         const QTemporaryDir folder;
         ScriptedBoxes boxes;
         bool othersBlocked = false;
+        bool arrow = false;
+        const Hourglass callersOwn;
         QTimer watch;
         connect(&watch, &QTimer::timeout, [&] {
             auto* progress = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
             if (!progress)
                 return;
             preview.Key(Qt::Key_End);
+            arrow = QApplication::overrideCursor()->shape() == Qt::ArrowCursor;
             othersBlocked = preview.window->Page() == 0;
             progress->findChild<QPushButton*>()->click();
         });
@@ -261,7 +264,8 @@ private slots:
         elapsed.start();
         Export(preview, folder.filePath("report"));
         QVERIFY(elapsed.elapsed() < 4'000); // all of it would take longer
-        QVERIFY(othersBlocked);
+        QVERIFY(othersBlocked && arrow);
+        QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
         QCOMPARE(boxes.TakeTexts(), QStringList());
         QVERIFY(QDir(folder.path()).isEmpty());
     }

@@ -15,6 +15,7 @@
 #include <QDialog>
 #include <QPushButton>
 #include <QTest>
+#include <QTextDocument>
 #include <QTimeEdit>
 #include <QTimer>
 #include <QTreeWidget>
@@ -55,7 +56,7 @@ private slots:
         CheckList list;
         list.setObjectName("Readers");
         for (int row = 0; row < 3; ++row)
-            list.Add(QString("Reader %1").arg(row), row);
+            list.Add(QString("Reader %1").arg(row), row, "<b> & so");
         const auto press = [&](const char* button) {
             list.findChild<QPushButton*>(button)->click();
             return list.CheckedTags();
@@ -63,6 +64,9 @@ private slots:
         QCOMPARE(list.CheckedTags(), (QVariantList{0, 1, 2}));
         QCOMPARE(press("cmdReaders_1"), QVariantList());
         auto* rows = list.findChild<QTreeWidget*>("lvwReaders");
+        QTextDocument toolTip; // as it is shown
+        toolTip.setHtml(rows->topLevelItem(0)->toolTip(0));
+        QCOMPARE(toolTip.toPlainText(), "<b> & so");
         rows->setCurrentItem(rows->topLevelItem(1));
         QTest::keyClick(rows, Qt::Key_Space);
         QCOMPARE(list.CheckedTags(), QVariantList{1});

@@ -153,11 +153,11 @@ QStringList PlainReports::SiteNames(const Site& site) {
 
 Outcome PlainReports::Incident(const Site& site, Range range, const QStringList& readers,
                                const QStringList& codes) {
+    if (readers.isEmpty() && site.readers.isEmpty())
+        return Refused("You must add at least one reader before this report can be used");
     for (const QString& code : codes)
         if (!EventCodes(site).contains(code))
             return Refused("No event has the code " + code + ".");
-    if (readers.isEmpty() && site.readers.isEmpty())
-        return Refused("There must be at least one reader selected to create a report");
     const auto isRead = [&](const QString& id) {
         for (const Reader& reader : site.readers)
             if (readers.isEmpty() && Same(id, reader.id))

@@ -8,6 +8,7 @@
 #include "PlainReports.h"
 #include "ReportCatalogue.h"
 #include "ReportExport.h"
+#include "ReportNeeds.h"
 #include "ReportViewer.h"
 #include "RowSource.h"
 #include "Schema.h"

@@ -409,7 +409,8 @@ private slots:
 
     void CompanyLinesAreKeptAsTyped() {
         QVERIFY(Start(nullptr));
-        const auto edit = [](const QString& text, const QStringList& buttons) {
+        QStringList boxes;
+        const auto edit = [&boxes](const QString& text, const QStringList& buttons) {
             Script script;
             Type(script, "frmCompany", "txtLine_3", text);
             for (const QString& button : buttons)
@@ -417,14 +418,16 @@ private slots:
             script.Start();
             Action("mnuToolCompany")->trigger();
             QVERIFY(script.Finish());
+            boxes = script.Texts();
         };
         const QString first = "Old, \"@x ", second(60, u'W');
         edit(first, {"cmdOK"});
         edit("lost", {"cmdCancel"});
         {
-            const ResourceLimit limit(RLIMIT_FSIZE, 0);
-            edit("lost", {"cmdOK", "OK", "cmdCancel"}); // a box, and the dialog stays
+            const ResourceLimit limit(RLIMIT_FSIZE, 0);       // nor can the log be written
+            edit("lost", {"cmdOK", "OK", "OK", "cmdCancel"}); // two boxes, and the dialog stays
         }
+        QVERIFY(boxes.value(0).contains("cmdOK_Click of Form frmCompany"));
         QCOMPARE(gCompanyInfo[3], first);
         Save(SettingsSection::Info, "LastLogin", "1"); // does not save the cancelled line too
         QCOMPARE(Saved(SettingsSection::Properties, "CompanyInfo4"), first);
@@ -448,7 +451,7 @@ private slots:
             Action("mnuHelpAbout")->trigger();
             return script.Finish() ? shown : QString();
         };
-        QVERIFY(about().startsWith("Build 0001|Help, Contents"));
+        QVERIFY(about().startsWith("Build 0001|For a description"));
         const QString path = m_home->File("contact.txt");
         const std::pair<QByteArray, QString> files[] = {
             {QByteArray(4097, 'x'), {}},

@@ -70,6 +70,19 @@ std::optional<DateTime> MinuteOf(const QString& text, const QDate& first, const 
     return DateTime::FromQt(date) + DateTime::FromTime(time.hour(), time.minute());
 }
 
+void AddMinute(CLI::App& options, const char* name, const char* help,
+               const std::function<void(DateTime minute)>& store) {
+    AddValue(options, name, "YYYY-MM-DDTHH:MM", help, Presence::Required,
+             [store](const QString& text) -> std::optional<QString> {
+                 const std::optional<DateTime> minute =
+                     MinuteOf(text, QDate(100, 1, 1), QDate(9999, 12, 31));
+                 if (!minute)
+                     return QStringLiteral("a time as YYYY-MM-DDTHH:MM, from 0100 to 9999");
+                 store(*minute);
+                 return {};
+             });
+}
+
 } // namespace
 
 void StartOptionGroup(CLI::App& options, const char* heading) {
@@ -148,16 +161,14 @@ void AddMoment(CLI::App& options, const char* name, std::optional<DateTime>& val
              });
 }
 
-void AddMinute(CLI::App& options, const char* name, DateTime& value, const char* help) {
-    AddValue(options, name, "YYYY-MM-DDTHH:MM", help, Presence::Required,
-             [&value](const QString& text) -> std::optional<QString> {
-                 const std::optional<DateTime> minute =
-                     MinuteOf(text, QDate(100, 1, 1), QDate(9999, 12, 31));
-                 if (!minute)
-                     return QStringLiteral("a time as YYYY-MM-DDTHH:MM, from 0100 to 9999");
-                 value = *minute;
-                 return {};
-             });
+void AddRange(CLI::App& options, DateTime& from, DateTime& to, LastMinute lastMinute) {
+    AddMinute(options, "--from", "the first minute of the range",
+              [&from](DateTime minute) { from = minute; });
+    AddMinute(options, "--to",
+              lastMinute == LastMinute::Whole
+                  ? "the last minute of the range"
+                  : "the last minute of the range; only its first second belongs to it",
+              [&to, lastMinute](DateTime minute) { to = EndOfRange(minute, lastMinute); });
 }
 
 void AddReader(CLI::App& options, const char* name, QString& value, const char* help) {

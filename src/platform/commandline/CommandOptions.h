@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DateTime.h"
+#include "LastMinute.h"
 
 #include <QStringList>
 
@@ -43,8 +43,9 @@ void AddDate(CLI::App& options, const char* name, DateTime& value, const char* h
 /// A minute, as YYYY-MM-DDTHH:MM, from 2000 to 2179: the range of a reader's clock.
 void AddMoment(CLI::App& options, const char* name, std::optional<DateTime>& value,
                const char* help);
-/// A required minute, as YYYY-MM-DDTHH:MM, of the years 100 to 9999.
-void AddMinute(CLI::App& options, const char* name, DateTime& value, const char* help);
+/// A range, as the required options "--from" and "--to": two minutes, as YYYY-MM-DDTHH:MM, of the
+/// years 100 to 9999. `to` becomes the last instant of the range.
+void AddRange(CLI::App& options, DateTime& from, DateTime& to, LastMinute lastMinute);
 /// A required reader: its identifier of eight hexadecimal digits, stored in upper case.
 void AddReader(CLI::App& options, const char* name, QString& value, const char* help);
 void AddOptionalReader(CLI::App& options, const char* name, QString& value, const char* help);

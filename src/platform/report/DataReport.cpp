@@ -105,7 +105,7 @@ void DataReport::PaintPage(QPainter& painter, int page, DateTime printedAt) cons
 
 bool DataReport::PaintSheets(QPainter& painter, QPagedPaintDevice& device,
                              const std::vector<int>& pages, DateTime printedAt,
-                             const PageProgress& progress) const {
+                             const WorkProgress& progress) const {
     const auto all = static_cast<int>(pages.size());
     for (int done = 0; done < all; ++done) {
         if (progress && !progress(done, all))

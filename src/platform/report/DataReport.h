@@ -5,6 +5,7 @@
 #include "Pagination.h"
 #include "ReportFont.h"
 #include "ReportLayout.h"
+#include "WorkProgress.h"
 
 #include <QPageSize>
 #include <QString>
@@ -15,10 +16,6 @@
 class QPagedPaintDevice;
 class QPainter;
 class RowSource;
-
-/// Called before each page of a job, when `done` of its `all` pages are painted. False ends the
-/// job.
-using PageProgress = std::function<bool(int done, int all)>;
 
 /// A banded report: a layout whose detail is repeated for each row of a source, with a header and a
 /// footer for each group of rows if the layout has them. It keeps no pages: a page is painted from
@@ -81,10 +78,10 @@ public:
     /// page, and whatever the rows throw; the painter's state is restored in any case.
     void PaintPage(QPainter& painter, int page, DateTime printedAt) const;
     /// Paints pages, in this order, each on its own sheet. The painter has begun on the device's
-    /// first sheet. False if not all were painted: `progress` ended the job, or the device has no
-    /// further sheet.
+    /// first sheet. `progress` is called before each page. False if not all were painted: it
+    /// cancelled the job, or the device has no further sheet.
     bool PaintSheets(QPainter& painter, QPagedPaintDevice& device, const std::vector<int>& pages,
-                     DateTime printedAt, const PageProgress& progress) const;
+                     DateTime printedAt, const WorkProgress& progress) const;
 
 private:
     /// `user` is who needs the column, for the message of a failure.

@@ -19,7 +19,7 @@ namespace {
 
 } // namespace
 
-bool ExportPdf(const DataReport& report, QIODevice& device, const PageProgress& progress) {
+bool ExportPdf(const DataReport& report, QIODevice& device, const WorkProgress& progress) {
     const DateTime printedAt = Now();
     PdfStream stream(device, {report.Caption(), report.Author(), report.Language(), printedAt});
     QPdfWriter writer(&stream);
@@ -44,7 +44,7 @@ bool ExportPdf(const DataReport& report, QIODevice& device, const PageProgress& 
     return all;
 }
 
-bool ExportPdf(const DataReport& report, const QString& path, const PageProgress& progress) {
+bool ExportPdf(const DataReport& report, const QString& path, const WorkProgress& progress) {
     OutputFile file(path);
     if (!ExportPdf(report, file.Device(), progress))
         return false;

@@ -11,8 +11,8 @@ public:
     /// Shows a report and returns when the user has closed it. The report and its rows must outlive
     /// the call.
     virtual void Show(DataReport& report) = 0;
-    /// To be called while the rows of a report are made (RowProgress). What it shows goes away with
-    /// the last copy of the function.
+    /// To be called while the rows of a report are made (RowProgress). Its window closes when the
+    /// last copy of the function is destroyed.
     virtual WorkProgress Progress() {
         return [](int, int) { return true; };
     }

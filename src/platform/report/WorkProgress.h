@@ -3,8 +3,8 @@
 #include <functional>
 #include <utility>
 
-/// Called now and then during long work, when `done` of its `all` steps are done. False ends the
-/// work.
+/// Called now and then during long work: `done` of `all` steps are finished. Return false to
+/// cancel.
 using WorkProgress = std::function<bool(int done, int all)>;
 
 /// Counts the rows of a report while they are read, and shows now and then how many are done.
@@ -13,7 +13,7 @@ public:
     /// `all`: the number of rows that will be read.
     RowProgress(WorkProgress show, int all) : m_show(std::move(show)), m_all(all) {}
 
-    /// One more row is read. False once the operator has cancelled the work.
+    /// Counts one more row. False once the operator has cancelled the work.
     bool Step() {
         if (++m_done % RowsBetween == 0 && !m_cancelled)
             m_cancelled = !m_show(m_done, m_all);

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -45,7 +46,9 @@ void CheckList::Clear() { m_list->clear(); }
 void CheckList::Add(const QString& text, const QVariant& tag, const QString& toolTip) {
     auto* row = new QTreeWidgetItem({text});
     row->setData(0, Qt::UserRole, tag);
-    row->setToolTip(0, toolTip);
+    row->setToolTip(0, Qt::mightBeRichText(toolTip)
+                           ? Qt::convertFromPlainText(toolTip, Qt::WhiteSpaceNormal)
+                           : toolTip);
     row->setCheckState(0, Qt::Checked);
     m_list->addTopLevelItem(row);
 }

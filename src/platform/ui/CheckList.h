@@ -20,7 +20,7 @@ public:
     void SetHeader(const QString& text);
 
     void Clear();
-    /// Appends a row, checked.
+    /// Appends a row, checked. The tool tip is plain text.
     void Add(const QString& text, const QVariant& tag, const QString& toolTip = {});
     int Count() const;
     /// The tags of the checked rows, from top to bottom.

@@ -63,6 +63,5 @@ void DateTimeRange::SetDays(const QDate& first, const QDate& last) {
 DateTime DateTimeRange::Start() const { return MinuteOf(*m_startDate, *m_startTime); }
 
 DateTime DateTimeRange::End(LastMinute lastMinute) const {
-    const DateTime first = MinuteOf(*m_endDate, *m_endTime);
-    return lastMinute == LastMinute::Whole ? first + DateTime::FromTime(0, 0, 59) : first;
+    return EndOfRange(MinuteOf(*m_endDate, *m_endTime), lastMinute);
 }

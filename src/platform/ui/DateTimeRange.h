@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DateTime.h"
+#include "LastMinute.h"
 
 #include <QWidget>
 
@@ -10,9 +10,6 @@ class QTimeEdit;
 /// Prepares a date field: it shows today in the user's format, offers a calendar, and selects the
 /// part that is clicked.
 void PrepareDateField(QDateEdit& field);
-
-/// How much of a range's last minute belongs to it: all of it, or its first second only.
-enum class LastMinute { Whole, FirstSecond };
 
 /// The range of time of a report, in minutes: the fields `dtpStartDate`, `dtpStartTime`,
 /// `dtpEndDate` and `dtpEndTime` with their labels. It begins as the whole of today. A range that

@@ -65,7 +65,7 @@ void FitPaper(QPainter& painter, const QPrinter& printer, QSizeF page) {
 
 /// Paints all sheets of a job; false if `progress` ended it.
 bool PaintJob(const DataReport& report, QPrinter& printer, const std::vector<int>& sheets,
-              const PageProgress& progress) {
+              const WorkProgress& progress) {
     bool cancelled = false;
     QPainter painter;
     if (!painter.begin(&printer))
@@ -104,7 +104,7 @@ QByteArray JobOf(const QPrinter& printer, const QString& path) {
 /// If the printing system takes files, the job is painted into one first: what has been painted to
 /// a queue cannot be taken back, and abort() does nothing. The same goes for a PDF.
 bool PrintReport(const DataReport& report, QPrinter& printer, int currentPage,
-                 const PageProgress& progress) {
+                 const WorkProgress& progress) {
     const std::vector<int> sheets = SheetsOf(printer, report.PageCount(), currentPage);
     if (sheets.empty())
         PrintingFailed(printer, QStringLiteral("The report has none of the pages asked for."));

@@ -25,7 +25,7 @@ bool ProgressWindow::operator()(int done, int all) {
                               QString::number(done + 1) + u' ' + m_translate(QStringLiteral("of")) +
                               u' ' + QString::number(all));
     m_window.setValue(done); // handles events once the window is visible
-    if (m_window.isVisible())
-        m_hourglass.reset();
+    if (m_window.isVisible() && !m_arrow)
+        m_arrow.emplace();
     return !m_window.wasCanceled();
 }

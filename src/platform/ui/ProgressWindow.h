@@ -8,7 +8,8 @@
 
 /// Shows the progress of long work, with a button that cancels it. It appears only if the
 /// work takes longer than about a second; until then the hourglass is shown and no events are
-/// handled. While it is visible, no other window takes keys or clicks.
+/// handled. The pointer is then the arrow, even if the caller shows an hourglass of its own. While
+/// it is visible, no other window takes keys or clicks.
 class ProgressWindow {
 public:
     /// Both texts are in English. Without `text` it shows "Page 3 of 12".
@@ -22,6 +23,7 @@ public:
 private:
     TranslateText m_translate;
     bool m_countsPages;
-    std::optional<Hourglass> m_hourglass{std::in_place};
+    Hourglass m_hourglass;
+    std::optional<ArrowPointer> m_arrow; // after the hourglass: it goes first
     QProgressDialog m_window;
 };

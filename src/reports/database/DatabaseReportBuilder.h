@@ -35,9 +35,10 @@ enum class CopyResult { Failed, Cancelled, NoEvents, Copied };
 /// (ScratchTable.h): that one is thrown.
 CopyResult CopyEvents(const EventQuery& query, Recordset& rows, const WorkProgress& show);
 
-/// Calls CopyEvents and says what the operator must know. True if the report can be shown.
+/// Calls CopyEvents and shows the operator its progress and outcome. True if the report can be
+/// shown.
 using CopyStep = std::function<bool(const EventQuery& query, Recordset& rows)>;
 
-/// Copies the events of a range by `copy`, and shows them.
+/// Copies the events of a range with `copy`, and shows them. A failure is only logged.
 void BuildDatabaseReport(const DatabaseReportRequest& request, const CopyStep& copy,
                          ReportViewer& viewer);

@@ -3,22 +3,17 @@
 #include "CommandOptions.h"
 #include "DatabaseReportBuilder.h"
 #include "ReportViewer.h"
+#include "ShowReportDialog.h"
 #include "frmRptCustomParam.h"
 #include "mTranslations.h"
 
 namespace {
 
-void LoadCustomReport(const QString& caption, ReportViewer& viewer, QWidget* parent) {
-    frmRptCustomParam dialog(viewer, parent);
-    dialog.setWindowTitle(caption);
-    dialog.exec();
-}
+constexpr auto LoadCustomReport = ShowReportDialog<frmRptCustomParam>;
 
 std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
     const auto request = std::make_shared<DatabaseReportRequest>();
-    AddMinute(options, "--from", request->StartDate, "the first minute of the range");
-    AddMinute(options, "--to", request->EndDate,
-              "the last minute; only its first second belongs to the range");
+    AddRange(options, request->StartDate, request->EndDate, LastMinute::FirstSecond);
     return [request](ReportViewer& viewer) {
         const auto copy = [&](const EventQuery& query, Recordset& rows) {
             const CopyResult result = CopyEvents(query, rows, viewer.Progress());

@@ -18,7 +18,7 @@ public:
     frmRptCustomParam(ReportViewer& viewer, QWidget* parent);
     ~frmRptCustomParam() override;
 
-    /// Always false: the dialog makes its reports itself.
+    /// Always false: only Cancel closes the dialog.
     bool OK() const { return result() == Accepted; }
     /// Makes the report from what the dialog shows.
     void ShowReport();

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int StartsAfter = 500; // milliseconds, in which the window is painted
+constexpr int StartsAfter = 500; // milliseconds: time for the window to paint
 constexpr int ShownEvery = 50;   // milliseconds
 
 } // namespace
@@ -36,7 +36,7 @@ bool frmWaitReport::Run() {
     return OK();
 }
 
-/// While events are copied, the window stays open until the copying has stopped.
+/// While events are being copied, this only asks the copy to stop. The window closes when it has.
 void frmWaitReport::reject() {
     m_cancelled = true;
     if (!m_copying)

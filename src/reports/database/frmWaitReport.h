@@ -13,9 +13,9 @@ namespace Ui {
 class frmWaitReport;
 }
 
-/// The window that copies the events of the database report while it is shown. It says how far the
-/// copying is; "Cancel", Escape and its close button end it. If there is nothing to show, it says
-/// so and waits for "Cancel".
+/// The window that copies the events of the database report while it is shown. It shows how far the
+/// copy has come. Cancel, Escape and the close button stop it. If there are no events, or the copy
+/// fails, it says so and stays open until Cancel.
 class frmWaitReport : public QDialog {
     Q_OBJECT
 public:

@@ -3,22 +3,17 @@
 #include "CommandOptions.h"
 #include "LookUps.h"
 #include "ReaderReportBuilder.h"
+#include "ShowReportDialog.h"
 #include "frmRptReaderReport.h"
 
 namespace {
 
-void LoadReaderReport(const QString& caption, ReportViewer& viewer, QWidget* parent) {
-    frmRptReaderReport dialog(viewer, parent);
-    dialog.setWindowTitle(caption);
-    dialog.exec();
-}
+constexpr auto LoadReaderReport = ShowReportDialog<frmRptReaderReport>;
 
 std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
     const auto request = std::make_shared<ReaderReportRequest>();
     AddReader(options, "--reader", request->ReaderId, "the identifier of the reader");
-    AddMinute(options, "--from", request->StartDate, "the first minute of the range");
-    AddMinute(options, "--to", request->EndDate,
-              "the last minute; only its first second belongs to the range");
+    AddRange(options, request->StartDate, request->EndDate, LastMinute::FirstSecond);
     return [request](ReportViewer& viewer) {
         if (const std::optional<Reader> reader = FindReader(request->ReaderId))
             request->ReaderDesc = reader->description;

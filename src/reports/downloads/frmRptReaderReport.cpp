@@ -20,10 +20,8 @@ frmRptReaderReport::frmRptReaderReport(ReportViewer& viewer, QWidget* parent)
         Guarded("cmdPrintPreview_Click of Form frmRptReaderReport",
                 [this] { cmdPrintPreview_Click(); });
     });
-    Guarded("Form_Load of Form frmRptReaderReport", [this] {
-        LoadReaders();
-        ReadSelectedReader();
-    });
+    LoadReaders();
+    ReadSelectedReader();
 }
 
 frmRptReaderReport::~frmRptReaderReport() = default;

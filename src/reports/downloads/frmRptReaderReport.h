@@ -11,17 +11,17 @@ namespace Ui {
 class frmRptReaderReport;
 }
 
-/// The dialog of the reader download report: reader and range of time.
+/// The dialog of the reader download report: chooses a reader and a time range.
 class frmRptReaderReport : public QDialog {
     Q_OBJECT
 public:
-    /// The viewer must outlive the dialog.
+    /// The viewer must outlive the dialog. Throws RunTimeError if the readers cannot be read.
     frmRptReaderReport(ReportViewer& viewer, QWidget* parent);
     ~frmRptReaderReport() override;
 
-    /// Always false: the dialog makes its reports itself.
+    /// Always false: only Cancel closes the dialog.
     bool OK() const { return result() == Accepted; }
-    /// Follow the choice of the reader.
+    /// The reader selected in the list.
     QString ReaderId;
     QString ReaderDesc;
     /// The range of the last report.

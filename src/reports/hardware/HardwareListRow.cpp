@@ -2,15 +2,12 @@
 
 #include "CommandOptions.h"
 #include "HardwareListBuilder.h"
+#include "ShowReportDialog.h"
 #include "frmRptHardwareListParam.h"
 
 namespace {
 
-void LoadHardwareList(const QString& caption, ReportViewer& viewer, QWidget* parent) {
-    frmRptHardwareListParam dialog(viewer, parent);
-    dialog.setWindowTitle(caption);
-    dialog.exec();
-}
+constexpr auto LoadHardwareList = ShowReportDialog<frmRptHardwareListParam>;
 
 std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
     struct LeftOut {

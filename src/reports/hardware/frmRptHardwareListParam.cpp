@@ -10,7 +10,7 @@ frmRptHardwareListParam::frmRptHardwareListParam(ReportViewer& viewer, QWidget* 
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptHardwareListParam>()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
-    // Only this box: see why.md.
+    // Only this box updates the button; docs/why.md says why.
     connect(m_ui->chkLocation, &QCheckBox::clicked, this,
             &frmRptHardwareListParam::UpdatePreviewButton);
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel, [this, &viewer] {

@@ -17,11 +17,11 @@ public:
     frmRptHardwareListParam(ReportViewer& viewer, QWidget* parent);
     ~frmRptHardwareListParam() override;
 
-    /// What is chosen now.
+    /// The current choice.
     bool PrintLocation() const;
     bool PrintEvent() const;
     bool PrintReader() const;
-    /// Always false: the dialog makes its reports itself.
+    /// Always false: only Cancel closes the dialog.
     bool OK() const { return result() == Accepted; }
 
 private:

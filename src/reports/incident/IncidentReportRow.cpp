@@ -2,16 +2,14 @@
 
 #include "CommandOptions.h"
 #include "IncidentReportBuilder.h"
+#include "ReportNeeds.h"
+#include "ShowReportDialog.h"
 #include "frmRptIncidentNew.h"
 #include "mTranslations.h"
 
 namespace {
 
-void LoadIncidentReport(const QString& caption, ReportViewer& viewer, QWidget* parent) {
-    frmRptIncidentNew dialog(viewer, parent);
-    dialog.Title(caption);
-    dialog.exec();
-}
+constexpr auto LoadIncidentReport = ShowReportDialog<frmRptIncidentNew>;
 
 /// The options of the command.
 struct Selection {
@@ -32,7 +30,7 @@ QList<Reader> SelectedReaders(QStringList named) {
 }
 
 /// The IDs of the events in the dialog's order; all events if none is named. A code that two events
-/// share means both. Nothing once a message has said which code no event has.
+/// share means both. Nothing if a code belongs to no event; a message has then named it.
 std::optional<QList<int>> SelectedEvents(const QStringList& named) {
     QList<int> ids;
     QStringList unknown = named;
@@ -49,16 +47,17 @@ std::optional<QList<int>> SelectedEvents(const QStringList& named) {
 
 std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
     const auto selection = std::make_shared<Selection>();
-    AddMinute(options, "--from", selection->from, "the first minute of the range");
-    AddMinute(options, "--to", selection->to, "the last minute of the range");
+    AddRange(options, selection->from, selection->to, LastMinute::Whole);
     AddReaders(options, "--reader", selection->readers, "a reader; all readers if none is named");
     AddCodes(options, "--event", selection->codes, "an event's code; all events if none is named");
     return [selection](ReportViewer& viewer) {
+        // A reader that is named need not have been taught: it can have been downloaded.
+        if (selection->readers.isEmpty() && !ReportNeedsAreMet(ReportNeeds::Reader))
+            return;
         const std::optional<QList<int>> events = SelectedEvents(selection->codes);
         if (!events)
             return;
-        const IncidentReportRequest request{selection->from,
-                                            selection->to + DateTime::FromTime(0, 0, 59),
+        const IncidentReportRequest request{selection->from, selection->to,
                                             SelectedReaders(selection->readers), *events};
         if (IncidentsAreSelected(request))
             BuildIncidentReport(request, viewer);
@@ -77,7 +76,6 @@ ReportRow IncidentReportRow() {
             .word = "incident",
             .help = "lists where the guard was at each incident",
             .example = "--from 2026-11-21T00:00 --to 2026-11-22T23:59 --format text",
-            // The call may name a reader that was never taught: it can have been downloaded.
-            .commandNeeds = ReportNeeds::Nothing,
+            .commandNeeds = ReportNeeds::Nothing, // AddOptions asks for a reader if it needs one
             .addOptions = AddOptions};
 }

@@ -19,12 +19,14 @@ public:
     frmRptIncidentNew(ReportViewer& viewer, QWidget* parent);
     ~frmRptIncidentNew() override;
 
-    /// What is chosen now.
+    /// The current choice.
     DateTime StartDate() const;
     /// The last second of the last minute.
     DateTime EndDate() const;
-    /// Always false: the dialog makes its reports itself.
+    /// Always false: only Cancel closes the dialog.
     bool OK() const { return result() == Accepted; }
+    /// Kept for compatibility; nothing reads it.
+    bool NewStyle = false;
     /// Sets the caption.
     void Title(const QString& text) { setWindowTitle(text); }
 

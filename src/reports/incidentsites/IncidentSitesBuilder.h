@@ -21,18 +21,19 @@ struct IncidentSitesRequest {
     static constexpr int NoFilter = -1;
 };
 
-/// What the filters offer, in the order of storing. All of it throws RunTimeError.
+/// The entries of the three filter lists, in the order in which they were stored. All three throw
+/// RunTimeError.
 QList<Button> EventFilters();
 QList<Group> SiteFilters();
 /// A reader without a description is described by its position, such as "Reader 2".
 QList<Reader> ReaderFilters();
 
-/// Makes `tblTempIncident` anew, without rows.
+/// Drops `tblTempIncident` if it exists, and creates it empty.
 void CreateTempIncident();
 /// Does nothing if the table is not there.
 void DropTempIncident();
 
 /// Writes a line for each touch of the range into `tblTempIncident`, with the location and the site
-/// that were touched last, and shows the report. A message says if there is no line. The table is
-/// left for the caller to drop.
+/// that were touched last, and shows the report. If there is none, a message says so. The caller
+/// drops the table.
 void BuildIncidentSitesReport(const IncidentSitesRequest& request, ReportViewer& viewer);

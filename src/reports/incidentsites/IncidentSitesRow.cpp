@@ -2,6 +2,7 @@
 
 #include "CommandOptions.h"
 #include "IncidentSitesBuilder.h"
+#include "ShowReportDialog.h"
 #include "frmRptIncidentParam.h"
 #include "mTranslations.h"
 
@@ -9,12 +10,7 @@
 
 namespace {
 
-void LoadIncidentReportOld(const QString& caption, ReportViewer& viewer, QWidget* parent) {
-    frmRptIncidentParam dialog(viewer, parent);
-    dialog.Title(caption);
-    dialog.NewStyle = false;
-    dialog.exec();
-}
+constexpr auto LoadIncidentReportOld = ShowReportDialog<frmRptIncidentParam>;
 
 /// The options of the command.
 struct Selection {
@@ -30,11 +26,12 @@ const Entry* Find(const QList<Entry>& entries, QString Base::*member, const QStr
     return found == entries.end() ? nullptr : &*found;
 }
 
-/// The request of a call. Nothing once a message has said which event or site there is not.
+/// The request of a call. Nothing if the event or the site does not exist; a message has then said
+/// so.
 std::optional<IncidentSitesRequest> RequestOf(const Selection& selection) {
     const QString all = Translate("All");
     IncidentSitesRequest request{.StartDate = selection.from,
-                                 .EndDate = selection.to + DateTime::FromTime(0, 0, 59),
+                                 .EndDate = selection.to,
                                  .EventName = all,
                                  .SiteName = all,
                                  .ReaderId = selection.reader,
@@ -69,10 +66,11 @@ std::optional<IncidentSitesRequest> RequestOf(const Selection& selection) {
 
 std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
     const auto selection = std::make_shared<Selection>();
-    AddMinute(options, "--from", selection->from, "the first minute of the range");
-    AddMinute(options, "--to", selection->to, "the last minute of the range");
-    AddOptionalCode(options, "--event", selection->code, "only the event of this code");
-    AddOptionalText(options, "--site", selection->site, "only touches on the site of this name");
+    AddRange(options, selection->from, selection->to, LastMinute::Whole);
+    AddOptionalCode(options, "--event", selection->code,
+                    "only the event of this code; the first one if two share it");
+    AddOptionalText(options, "--site", selection->site,
+                    "only touches made while this site was the last one touched");
     AddOptionalReader(options, "--reader", selection->reader, "only the touches of this reader");
     return [selection](ReportViewer& viewer) {
         if (const std::optional<IncidentSitesRequest> request = RequestOf(*selection)) {

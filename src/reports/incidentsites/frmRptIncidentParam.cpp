@@ -2,6 +2,7 @@
 
 #include "ReportButtons.h"
 #include "WindowTools.h"
+#include "mErrorHandler.h"
 #include "mTranslations.h"
 #include "ui_frmRptIncidentParam.h"
 
@@ -10,7 +11,7 @@ frmRptIncidentParam::frmRptIncidentParam(ReportViewer& viewer, QWidget* parent)
     m_ui->setupUi(this);
     TranslateWindow(*this, [](const QString& text) { return Translate(text); });
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel,
-                      [this] { BuildIncidentSitesReport(Request(), m_viewer); });
+                      [this] { cmdPrintPreview_Click(); });
     InitParamForm();
 }
 
@@ -30,7 +31,7 @@ void frmRptIncidentParam::InitParamForm() {
 }
 
 IncidentSitesRequest frmRptIncidentParam::Request() const {
-    // "All" is no position in the list, which gives the empty text: no filter.
+    // The data of "All" is -1, which is not in the list, so value() gives an empty text: no filter.
     return {.StartDate = m_ui->range->Start(),
             .EndDate = m_ui->range->End(LastMinute::Whole),
             .EventId = m_ui->cboEvent->currentData().toInt(),
@@ -39,6 +40,11 @@ IncidentSitesRequest frmRptIncidentParam::Request() const {
             .SiteName = m_ui->cboSite->currentText(),
             .ReaderId = mReaderIds.value(m_ui->cboReader->currentData().toInt()),
             .ReaderName = m_ui->cboReader->currentText()};
+}
+
+void frmRptIncidentParam::cmdPrintPreview_Click() {
+    Guarded("cmdPrintPreview_Click of Form frmRptIncidentParam", ErrorShow::Dialog,
+            [this] { BuildIncidentSitesReport(Request(), m_viewer); });
 }
 
 void frmRptIncidentParam::done(int result) {

@@ -20,11 +20,11 @@ public:
     frmRptIncidentParam(ReportViewer& viewer, QWidget* parent);
     ~frmRptIncidentParam() override;
 
-    /// What is chosen now.
+    /// The current choice.
     IncidentSitesRequest Request() const;
-    /// Always false: the dialog makes its reports itself.
+    /// Always false: only Cancel closes the dialog.
     bool OK() const { return result() == Accepted; }
-    /// Published, and read by nothing: there is only one style.
+    /// Kept for compatibility; nothing reads it.
     bool NewStyle = false;
     /// Sets the caption.
     void Title(const QString& text) { setWindowTitle(text); }
@@ -34,6 +34,7 @@ public:
 
 private:
     void InitParamForm();
+    void cmdPrintPreview_Click();
 
     std::unique_ptr<Ui::frmRptIncidentParam> m_ui;
     ReportViewer& m_viewer;

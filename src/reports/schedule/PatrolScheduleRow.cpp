@@ -2,15 +2,12 @@
 
 #include "CommandOptions.h"
 #include "PatrolScheduleBuilder.h"
+#include "ShowReportDialog.h"
 #include "frmRptPatrolSchedule.h"
 
 namespace {
 
-void LoadPatrolSchedule(const QString& caption, ReportViewer& viewer, QWidget* parent) {
-    frmRptPatrolSchedule dialog(viewer, parent);
-    dialog.setWindowTitle(caption);
-    dialog.exec();
-}
+constexpr auto LoadPatrolSchedule = ShowReportDialog<frmRptPatrolSchedule>;
 
 std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
     const auto tour = std::make_shared<int>(0);

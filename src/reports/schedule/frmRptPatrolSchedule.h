@@ -11,7 +11,7 @@ namespace Ui {
 class frmRptPatrolSchedule;
 }
 
-/// The dialog of the patrol schedule: the tours.
+/// The dialog of the patrol schedule: chooses a tour.
 class frmRptPatrolSchedule : public QDialog {
     Q_OBJECT
 public:
@@ -21,7 +21,7 @@ public:
 
     /// The tour that the last schedule was made for; 0 if none was made.
     int ID = 0;
-    /// Always false: the dialog makes its reports itself.
+    /// Always false: only Cancel closes the dialog.
     bool OK() const { return result() == Accepted; }
 
 protected:

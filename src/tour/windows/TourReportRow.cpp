@@ -2,16 +2,13 @@
 
 #include "CommandOptions.h"
 #include "LookUps.h"
+#include "ShowReportDialog.h"
 #include "TourReportBuilder.h"
 #include "frmRptTour.h"
 
 namespace {
 
-void LoadTourReport(const QString& caption, ReportViewer& viewer, QWidget* parent) {
-    frmRptTour dialog(viewer, parent);
-    dialog.Title(caption);
-    dialog.exec();
-}
+constexpr auto LoadTourReport = ShowReportDialog<frmRptTour>;
 
 std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
     const auto request = std::make_shared<TourReportRequest>();
