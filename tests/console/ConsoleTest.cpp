@@ -107,6 +107,7 @@ private slots:
             {"detect --device \xff", "not UTF-8"},
             {"detect --device x \x1b]0;x\x07\n", "unexpected argument \"?]0;x?"},
             {"frobnicate --device /dev/null", "unknown command \"frobnicate"},
+            {"list", "needs one of tours, readers"},
             {"-platform frob detect", "unknown command \"-platform frob\""},
             {"download --device x --tour 1", "unknown option --tour"},
             {"download --device x --keep=yes", "--keep takes no value"},

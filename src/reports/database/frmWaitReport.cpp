@@ -57,6 +57,7 @@ bool frmWaitReport::ShowProgress(int done, int all) {
 }
 
 void frmWaitReport::ShowResult(const char* text) {
+    m_ui->lblMessage->hide(); // the wait is over
     m_ui->prgRows->hide();
     m_ui->lblCount->hide();
     m_ui->lblResult->setText(Translate(text));

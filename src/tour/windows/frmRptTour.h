@@ -19,7 +19,7 @@ public:
     frmRptTour(ReportViewer& viewer, QWidget* parent);
     ~frmRptTour() override;
 
-    /// What is chosen now.
+    /// The current choice.
     int TourID() const;
     DateTime StartDate() const;
     bool IncludeEvents() const;
