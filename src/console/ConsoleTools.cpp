@@ -44,7 +44,7 @@ MessageAnswer ConsoleBoxes::Show(const Message& message) {
 QString ComplainUnlessSaid(const ConsoleBoxes& boxes, const char* text) {
     if (!boxes.Last().isEmpty())
         return boxes.Last();
-    const QString translated = Translate(text);
+    QString translated = Translate(text);
     Complain(translated);
     return translated;
 }
