@@ -39,11 +39,11 @@ struct LocaleTexts {
     QString shortTime = WithoutSeconds(locale.timeFormat(QLocale::ShortFormat));
     std::array<QString, 60> twoDigits;
     std::vector<QString> minuteTexts =
-        std::vector<QString>(24 * 60); ///< short times; empty until asked for
-    DateTime day;                      ///< the day that was last written,
-    QString dayText;                   ///< and its text; empty if none was
-    QString readText;                  ///< the date that was last read,
-    QDate readDate;                    ///< and what it means
+        std::vector<QString>(std::size_t{24} * 60); ///< short times; empty until asked for
+    DateTime day;                                   ///< the day that was last written,
+    QString dayText;                                ///< and its text; empty if none was
+    QString readText;                               ///< the date that was last read,
+    QDate readDate;                                 ///< and what it means
 };
 
 LocaleTexts& Texts() {
