@@ -4,11 +4,10 @@
 #include "Clock.h"
 #include "Controls.h"
 #include "Format.h"
-#include "RecordingViewer.h"
-#include "ReportExport.h"
 #include "ResourceLimit.h"
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
+#include "TextViewer.h"
 #include "frmRptCustomParam.h"
 #include "frmRptReaderReport.h"
 
@@ -28,21 +27,10 @@ DateTime At(int daysAgo, int hour, int minute, int second = 0) {
 void AddTouch(const Value& downloaded, DateTime touched, const char* name, const Value& type = 1,
               const char* reader = "4B5831A7") {
     gConn->Execute("INSERT INTO tblEvents (dtDLDateTime, dtDateTime, tButtonName, wGroupType, "
-                   "tPipeID, tGroupName) VALUES (?, ?, ?, ?, ?, 'Pier')",
+                   "tPipeID, tButtonCode, tButtonDesc, tGroupName, tGroupDesc) VALUES (?, ?, ?, ?, "
+                   "?, 'C0DE', 'Hook', 'Pier', 'East')",
                    {downloaded, touched, QString::fromUtf8(name), type, QString::fromUtf8(reader)});
 }
-
-/// Also keeps what the report shows.
-class TextViewer : public RecordingViewer {
-public:
-    void Show(DataReport& report) override {
-        RecordingViewer::Show(report);
-        Text = QString::fromUtf8(ReportText(report));
-        static const QRegularExpression blanks(" +");
-        Text.replace(blanks, " ");
-    }
-    QString Text;
-};
 
 } // namespace
 
@@ -107,6 +95,7 @@ private slots:
         QStringList names;
         for (const QString& row : m_viewer.Rows)
             names += row.section(u'|', 4, 4);
+        QCOMPARE(m_viewer.Rows[0].section(u'|', 2), "C0DE|Hook|first block|East|Pier|4B5831A7");
         QCOMPARE(names, (QStringList{"first block", "first block, last", "second block"}));
         QCOMPARE(m_viewer.Labels["lblReaderID"], "4B5831A7 (Night - B)");
         QVERIFY(m_viewer.Labels["lblDateRange"].endsWith("From 23 Nov 2026 00:00 to 23 Nov 2026 "
@@ -139,11 +128,11 @@ private slots:
             frmRptReaderReport downloads(m_viewer, nullptr);
             Press(downloads, "cmdPrintPreview");
             QVERIFY2(m_viewer.Text.contains(date + " 08:00:05\n") &&
-                         m_viewer.Text.contains(date + " 00:00 midnight Pier\n"),
+                         m_viewer.Text.contains(date + " 00:00 C0DE midnight Hook Pier\n"),
                      qPrintable(m_viewer.Text));
             frmRptCustomParam database(m_viewer, nullptr);
             Press(database, "cmdPrintPreview");
-            QVERIFY2(m_viewer.Text.contains(date + " 00:00 midnight Pier Location\n"),
+            QVERIFY2(m_viewer.Text.contains(date + " 00:00 C0DE midnight Pier Location\n"),
                      qPrintable(m_viewer.Text));
         }
     }
@@ -161,9 +150,9 @@ private slots:
                 return QString("not in the store");
             return m_viewer.Rows.join(u'/');
         };
-        const QString today = "23 Nov 2026 23:59:00||today||Pier|Location";
-        const QString week = "16 Nov 2026 23:59:00||a week||Pier|Event/" + today;
-        QCOMPARE(rowsOf("cmdPreset_2"), "24 Oct 2026 23:59:00||a month||Pier|/" + week);
+        const QString today = "23 Nov 2026 23:59:00|C0DE|today|Hook|Pier|Location";
+        const QString week = "16 Nov 2026 23:59:00|C0DE|a week|Hook|Pier|Event/" + today;
+        QCOMPARE(rowsOf("cmdPreset_2"), "24 Oct 2026 23:59:00|C0DE|a month|Hook|Pier|/" + week);
         QCOMPARE(rowsOf("cmdPreset_1"), week);
         QCOMPARE(rowsOf("cmdPreset_0"), today);
         QCOMPARE(rowsOf("cmdPrintPreview"), today);

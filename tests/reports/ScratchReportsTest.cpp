@@ -1,23 +1,23 @@
-// The two incident reports: their rows, what is shown instead of them, and their dialogs.
+// The reports that are made in scratch tables: both incident reports, the patrol schedule and the
+// hardware list. What is shown instead of them, full disks, cancelled work, and their dialogs.
 
-#include "CommandParser.h"
-#include "Connection.h"
 #include "Controls.h"
+#include "HardwareListBuilder.h"
 #include "IncidentReportBuilder.h"
-#include "IncidentReportRow.h"
 #include "IncidentSitesBuilder.h"
-#include "IncidentSitesRow.h"
-#include "RecordingViewer.h"
+#include "PatrolScheduleBuilder.h"
 #include "ResourceLimit.h"
 #include "ScriptedBoxes.h"
 #include "TableExists.h"
 #include "TestHome.h"
+#include "TextViewer.h"
+#include "frmRptHardwareListParam.h"
 #include "frmRptIncidentNew.h"
 #include "frmRptIncidentParam.h"
+#include "frmRptPatrolSchedule.h"
 
 #include <QComboBox>
 #include <QDateEdit>
-#include <QRegularExpression>
 #include <QTreeWidget>
 
 namespace {
@@ -27,33 +27,30 @@ const DateTime LastSecond = Day + DateTime::FromTime(23, 59, 59);
 const QString NoReader = "There must be at least one reader selected to create a report";
 const QString NoEvent = "There must be at least one event selected to create a report";
 const QString NoRecords = "No records for the given parameters";
-const QString NoData = "No Data on the report";
 
 /// A viewer whose operator cancels.
-class Impatient : public RecordingViewer {
+class Impatient : public TextViewer {
     WorkProgress Progress() override {
         return [](int, int) { return false; };
     }
 };
 
-void Touch(const QString& time, const QString& reader, int button) {
-    gConn->Execute(
-        "INSERT INTO tblEvents (tPipeID, dtDateTime, tButtonCode, tButtonName, "
-        "wGroupType, tGroupName) SELECT ?, ?, tButtonCode, tButtonName, wType, tName "
-        "FROM tblButtons, tblListItems WHERE tblListItems.ID = lParentID AND "
-        "tblButtons.ID = ?",
-        {reader, Day + DateTime::FromMilliseconds(QTime::fromString(time).msecsSinceStartOfDay()),
-         button});
+void Touch(int hour, const char* reader, int button) {
+    gConn->Execute("INSERT INTO tblEvents (tPipeID, dtDateTime, tButtonCode, tButtonName, "
+                   "wGroupType, tGroupName) SELECT ?, ?, tButtonCode, tButtonName, wType, tName "
+                   "FROM tblButtons, tblListItems WHERE tblListItems.ID = lParentID AND "
+                   "tblButtons.ID = ?",
+                   {QString::fromUtf8(reader), Day + DateTime::FromTime(hour, 0), button});
 }
 
 } // namespace
 
-class IncidentReportsTest : public QObject {
+class ScratchReportsTest : public QObject {
     Q_OBJECT
 
     std::unique_ptr<TestHome> m_home;
     ScriptedBoxes m_boxes;
-    RecordingViewer m_viewer;
+    TextViewer m_viewer;
 
     /// The rows that `build` shows, or the messages.
     QStringList After(const std::function<void()>& build) {
@@ -61,24 +58,24 @@ class IncidentReportsTest : public QObject {
         build();
         return m_viewer.Shown == shown + 1 ? m_viewer.Rows : m_boxes.TakeTexts();
     }
-    /// The first three texts of each row.
     QStringList Incidents(const QList<int>& events, int strangers = 0) {
         const IncidentReportRequest request{Day, LastSecond, Readers() + QList<Reader>(strangers),
                                             events};
-        return After([&] { BuildIncidentReport(request, m_viewer); })
-            .replaceInStrings(QRegularExpression("^\\d+\\|(.*)\\|{7}$"), "\\1");
+        return After([&] { BuildIncidentReport(request, m_viewer); });
     }
-    QStringList Sites(int event = -1, int site = -1, const QString& reader = {}) {
+    QStringList Sites() {
         return After([&] {
-            BuildIncidentSitesReport({Day, LastSecond, event, "E", site, "S", reader, "R"},
-                                     m_viewer);
+            BuildIncidentSitesReport({Day, LastSecond, -1, "E", -1, "S", {}, "R"}, m_viewer);
         });
     }
-    QStringList Call(const ReportRow& row, const QString& options) {
-        CommandParser parser("wardlockctl", "report");
-        const auto run = row.addOptions(parser.Options());
-        parser.Parse(("report --from 2026-03-29T00:00 --to 2026-03-29T23:59" + options).split(' '));
-        return After([&] { run(m_viewer); });
+    QStringList Schedule(int tour) {
+        return After([&] { BuildPatrolSchedule(tour, m_viewer); });
+    }
+    QStringList HardwareList(bool readers = true) {
+        return After([&] {
+                   BuildHardwareListReport({true, true, readers}, m_viewer);
+               })
+            .replaceInStrings(QRegularExpression("^\\d+"), "ID");
     }
 
 private slots:
@@ -91,40 +88,25 @@ private slots:
               "(4, 1, 'Tower %0:s', '')",
               "tblButtons VALUES (1, 2, 'AAAAAA', 'Gate', ''), (2, 1, 'EEEEE1', 'Fire', 'Hot'), "
               "(3, 1, 'EEEEE2', 'Leak', ''), (4, 1, 'EEEEE1', 'Smoke', ''), "
-              "(5, 4, 'BBBBBB', 'Roof & %1:s', ''), (6, 3, 'CCCCCC', 'Ann', '')",
-              "tblReaders VALUES ('00000002', ''), ('00000001', 'Night')"})
+              "(5, 4, 'BBBBBB', 'Roof & %1:s', ''), (6, 3, 'CCCCCC', 'Ann', ''), "
+              "(7, 9, 'DDDDDD', 'Lost', '')",
+              "tblReaders VALUES ('00000002', ''), ('00000001', 'Night')",
+              "tblTours VALUES (1, 'Zulu', 'Midnight', 5, 0.003), (2, 'Alpha', NULL, 0, NULL), "
+              "(3, 'Hour', '', 60, 0.5)",
+              "tblTourPoints VALUES (1, 1, 2, 0.99722, 'GONE'), (2, 1, 1, 0, 'BBBBBB'), "
+              "(3, 1, 3, 0.0027, 'DDDDDD'), (4, 1, 3, NULL, 'EEEEE1'), (5, 3, 1, 0, 'AAAAAA')"})
             gConn->Execute(QStringLiteral("INSERT INTO ") + QString::fromLatin1(rows));
     }
     void cleanup() { m_home.reset(); }
-
-    // The location is the last one stored before the incident, of whichever reader and time.
-    void PlaceOfEachIncident() {
-        Touch("09:00:59", "00000001", 1);
-        Touch("07:00:00", "00000002", 2);
-        Touch("08:30:00", "00000002", 5);
-        Touch("23:59:59", "00000001", 2);
-        const QStringList smoke{"||", "Smoke [EEEEE1] -- Book||",
-                                "|29 Mar 2026 09:00|Gate, Pier,  Reader 00000001",
-                                "|29 Mar 2026 08:30|Roof & %1:s, Tower %0:s,  Reader 00000002"};
-        const QStringList leak{"||", "Leak [EEEEE2] -- Book||",
-                               "||No incidents of this type were recorded"};
-        m_viewer.OnShow = [] { QVERIFY(RowsOf("SELECT * FROM tblReportTemp").size() > 2); };
-        QCOMPARE(Incidents({3, 4}), leak + smoke);
-        QCOMPARE(RowsOf("SELECT * FROM tblReportTemp"), QStringList());
-        QCOMPARE(m_viewer.Caption, "Incident Report");
-        QCOMPARE(m_viewer.Labels["Label17"], "29 Mar 2026   00:00");
-        QCOMPARE(m_viewer.Labels["Label18"], "29 Mar 2026   23:59");
-        // Both events of the code, and no location of the other reader.
-        QCOMPARE(Call(IncidentReportRow(), " --event eeeee1 --reader 00000002").size(), 6);
-        QCOMPARE(Call(IncidentReportRow(), " --reader 0000000A"), QStringList(NoRecords));
-    }
 
     void NoIncidentReport() {
         QVERIFY(!BuildIncidentReport({Day, LastSecond, {}, {2}}, m_viewer));
         QCOMPARE(Incidents({2}), QStringList(NoRecords));
         QVERIFY(!TableExists("tblReportTemp"));
-        Touch("08:00:00", "00000001", 1);
+        Touch(8, "00000001", 1);
+        m_viewer.OnShow = [] { QCOMPARE(RowsOf("SELECT * FROM tblReportTemp").size(), 6); };
         QCOMPARE(Incidents({2, 3}, 900).size(), 6);
+        QCOMPARE(RowsOf("SELECT * FROM tblReportTemp"), QStringList());
         gConn->Execute("DELETE * FROM tblButtons WHERE ID = 3");
         QCOMPARE(Incidents({2, 3, 4}), QStringList("Error Looking up Incident"));
         QCOMPARE(m_boxes.Messages.size(), 0);
@@ -142,64 +124,80 @@ private slots:
         QVERIFY(log[1].startsWith("Error 10001 in BuildIncidentReport of Form frmRptIncidentNew"));
     }
 
-    // Two buttons share a code, so each of its touches is two lines.
-    void LinesWithSites() {
-        Touch("12:00:30", "00000002", 2);
-        Touch("09:00:00", "00000002", 1);
-        Touch("11:00:00", "00000001", 5);
-        Touch("08:00:00", "0000000A", 5); // of a reader that is not taught
-        const QString gate = "29 Mar 2026|09:00||Pier|Gate|",
-                      roof = "29 Mar 2026|11:00|Night|Tower %0:s|Roof & %1:s|",
-                      fire = "29 Mar 2026|12:00||Tower %0:s|Roof & %1:s|Fire";
-        QCOMPARE(Sites(), (QStringList{gate, roof, fire, QString(fire).replace("Fire", "Smoke")}));
-        QCOMPARE(m_viewer.Caption, "Incidents And Locations Report");
-        QCOMPARE(m_viewer.Labels["lblSiteFilter"], "Site : ");
-        QCOMPARE(Sites(-1, 2), QStringList(gate));
-        QCOMPARE(Sites(3, 4), QStringList(NoData));
-        QCOMPARE(RowsOf("SELECT * FROM tblTempIncident"), QStringList());
-        QCOMPARE(Call(IncidentSitesRow(), " --event eeeee1 --reader 00000002"), QStringList(fire));
-        QVERIFY(!TableExists("tblTempIncident"));
-        QStringList filters;
-        for (const char* label : {"Label14", "Label15", "Label16"})
-            filters += m_viewer.Labels[label];
-        QCOMPARE(filters, (QStringList{"Fire", "Reader 1", "All"}));
-        QCOMPARE(Call(IncidentSitesRow(), " --reader 0000000A"), QStringList(NoData));
-        QCOMPARE(Call(IncidentSitesRow(), " --site Pie"),
-                 QStringList("There is no site named Pie."));
-        for (const ReportRow& row : {IncidentSitesRow(), IncidentReportRow()})
-            QCOMPARE(Call(row, " --event AAAAAA"), QStringList("No event has the code AAAAAA."));
+    // Two buttons share the last point's code, so it is two lines.
+    void PlanOfATour() {
+        m_viewer.OnShow = [] { QVERIFY(TableExists("tblXXXPatrol")); };
+        for (int run = 0; run < 2; ++run) {
+            QCOMPARE(Schedule(1),
+                     (QStringList{"1|00:04     (23:59 ~ 00:09)|Tower %0:s |Roof & %1:s ",
+                                  "2|00:00     (23:55 ~ 00:05)| | ",
+                                  "3|00:04     (23:59 ~ 00:09)| |Lost ",
+                                  "4|00:04     (23:59 ~ 00:09)|Book |Fire ",
+                                  "5|00:04     (23:59 ~ 00:09)|Book |Smoke "}));
+            QVERIFY(!TableExists("tblXXXPatrol"));
+        }
+        m_viewer.OnShow = {};
+        QVERIFY(m_viewer.Text.contains("1 00:04 (23:59 ~ 00:09) Tower %0:s Roof & %1:s"));
+        QCOMPARE(m_viewer.Caption, "Patrol Schedule Report");
+        QCOMPARE(m_viewer.Labels["lblTourDesc"], "Midnight");
+        QCOMPARE(m_viewer.Labels["lblTolerance"], "5  Minutes");
+        QCOMPARE(Schedule(2), QStringList());
+        QCOMPARE(m_boxes.TakeTexts(), QStringList());
+        QCOMPARE(Schedule(9), QStringList("Error in creating new Tour"));
+        QCOMPARE(m_home->TakeLog(), "");
+        const QString label("Error 13 in BuildPatrolSchedule of Form frmRptPatrolSchedule");
+        for (const int tolerance : {60, -1, 59}) {
+            gConn->Execute("UPDATE tblTours SET iTolerance = ? WHERE ID = 3", {tolerance});
+            QCOMPARE(Schedule(3).value(0).startsWith(label), tolerance != 59);
+            QCOMPARE(m_home->TakeLog(), tolerance == 59 ? "" : label + "\t(Type mismatch)");
+        }
+    }
+
+    void MissingTables() {
         gConn->Execute("DROP TABLE tblReaders");
         QVERIFY(Sites().value(0).startsWith("Error 10001 in cmdPrintPreview_Click of Form "
                                             "frmRptIncidentParam"));
+        gConn->Execute("DROP TABLE tblButtons");
+        QCOMPARE(HardwareList(), QStringList("Error 10001 in procedure BuildHardwareListReport: "
+                                             "no such table: tblButtons"));
     }
 
-    // Not a byte can be written; then the operator cancels.
+    // Not a byte can be written. Then the operator cancels, which leaves the lines of the last
+    // report.
     void OnAFullDiskAndCancelled() {
-        Touch("09:00:00", "00000001", 1);
-        Touch("10:00:00", "00000001", 3);
+        Touch(9, "00000001", 1);
+        Touch(10, "00000001", 3);
         for (int doubling = 0; doubling < 9; ++doubling)
             gConn->Execute("INSERT INTO tblEvents (tPipeID, dtDateTime, tButtonCode, wGroupType) "
                            "SELECT tPipeID, dtDateTime, tButtonCode, wGroupType FROM tblEvents");
-        const QStringList incidents = Incidents({3}), sites = Sites(), before = ContentOfStore();
+        const auto all = [this] {
+            return QList<QStringList>{Incidents({3}), Sites(), Schedule(1), HardwareList()};
+        };
+        const QList<QStringList> reports = all();
+        const QStringList before = ContentOfStore();
         {
             const ResourceLimit limit(RLIMIT_FSIZE, 0);
-            for (int run = 0; run < 2; ++run) {
-                QCOMPARE(Incidents({3}), incidents);
-                QCOMPARE(Sites(), sites);
-            }
+            for (int run = 0; run < 2; ++run)
+                QCOMPARE(all(), reports);
         }
         TestHome::Close();
         QVERIFY(m_home->Open());
+        QCOMPARE(ContentOfStore(), before);
+        QVERIFY(HardwareList(false).size() < reports[3].size());
+        gConn->Execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < "
+                       "600) INSERT INTO tblReaders SELECT i, '' FROM n");
+        const QStringList last = ContentOfStore();
         Impatient viewer;
         BuildIncidentReport({Day, LastSecond, Readers(), {3}}, viewer);
         BuildIncidentSitesReport({Day, LastSecond, -1, {}, -1, {}, {}, {}}, viewer);
-        QCOMPARE(ContentOfStore(), before);
-        QVERIFY(viewer.Shown == 0 && sites.size() == 1024 && m_boxes.Messages.isEmpty());
+        BuildHardwareListReport({}, viewer);
+        QCOMPARE(ContentOfStore(), last);
+        QVERIFY(viewer.Shown == 0 && reports[1].size() == 1024 && m_boxes.Messages.isEmpty());
         QCOMPARE(m_home->TakeLog(), "");
     }
 
     void DialogOfIncidents() {
-        Touch("09:00:00", "00000001", 1);
+        Touch(9, "00000001", 1);
         frmRptIncidentNew dialog(m_viewer, nullptr);
         auto& readers = *Control<QTreeWidget>(dialog, "lvwReaders");
         auto& events = *Control<QTreeWidget>(dialog, "lvwEvents");
@@ -230,8 +228,8 @@ private slots:
     }
 
     void DialogWithSites() {
-        Touch("09:00:00", "00000002", 1);
-        Touch("10:00:00", "00000002", 3);
+        Touch(9, "00000002", 1);
+        Touch(10, "00000002", 3);
         frmRptIncidentParam dialog(m_viewer, nullptr);
         Control<QDateEdit>(dialog, "dtpStartDate")->setDate(Day.ToQDate());
         for (const auto& [list, rows, chosen] :
@@ -252,7 +250,43 @@ private slots:
         Press(dialog, "cmdCancel");
         QVERIFY(!TableExists("tblTempIncident"));
     }
+
+    void DialogOfThePlan() {
+        frmRptPatrolSchedule dialog(m_viewer, nullptr);
+        dialog.resize(600, 300);
+        dialog.show();
+        const auto* list = Control<QTreeView>(dialog, "lvwMain");
+        QCOMPARE(RowsIn(*list),
+                 (QStringList{"Alpha||00:00", "Hour||12:00", "Zulu|Midnight|00:04"}));
+        const int hundredth = (list->width() * 15 - 240) / 100;
+        for (const auto& [column, share] : {std::pair(0, 30), std::pair(1, 50), std::pair(2, 30)})
+            QCOMPARE(list->columnWidth(column), hundredth * share / 15);
+        Press(dialog, "cmdPrintPreview");
+        QCOMPARE(m_viewer.Labels["lblTourName"], "Alpha");
+        const QPoint last = list->visualRect(list->model()->index(2, 0)).center();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, last);
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, last);
+        QCOMPARE(m_viewer.Labels["lblTourName"], "Zulu");
+        QCOMPARE(dialog.ID, 1);
+    }
+
+    // Only the first box changes the button.
+    void DialogOfTheList() {
+        frmRptHardwareListParam dialog(m_viewer, nullptr);
+        const auto* preview = Control<QPushButton>(dialog, "cmdPrintPreview");
+        for (const char* box : {"chkLocation", "chkEvent"})
+            Press(dialog, box);
+        Press(dialog, "cmdPrintPreview");
+        QCOMPARE(m_viewer.Rows.size(), 7); // users and readers
+        Press(dialog, "chkReader");
+        QVERIFY(preview->isEnabled() && !dialog.PrintReader());
+        for (int click = 0; click < 2; ++click)
+            Press(dialog, "chkLocation");
+        QVERIFY(!preview->isEnabled());
+        Press(dialog, "chkEvent");
+        QVERIFY(!preview->isEnabled() && dialog.PrintEvent() && !dialog.PrintLocation());
+    }
 };
 
-QTEST_MAIN(IncidentReportsTest)
-#include "IncidentReportsTest.moc"
+QTEST_MAIN(ScratchReportsTest)
+#include "ScratchReportsTest.moc"
