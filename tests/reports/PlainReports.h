@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -31,6 +32,20 @@ struct Reader {
     QString id, description;
 };
 
+struct Point {
+    std::optional<int> index;
+    std::optional<Seconds> interval;
+    QString code;
+};
+
+struct Tour {
+    int id;
+    QString name, description;
+    std::optional<int> tolerance;
+    std::optional<Seconds> start;
+    QList<Point> points; ///< in the order of storing
+};
+
 struct Event {
     std::optional<Seconds> downloaded, time;
     QString reader, code, name, description;
@@ -45,6 +60,7 @@ struct Site {
     QList<Group> groups;
     QList<Button> buttons;
     QList<Reader> readers;
+    QList<Tour> tours;
     QList<Event> events;
 };
 
@@ -54,10 +70,10 @@ struct Range {
 };
 
 struct Outcome {
-    QString title;    ///< empty if there is no report
-    QString message;  ///< instead of the report
-    QStringList rows; ///< what is printed for each, from left to right, with "|" before each text
-    QHash<QString, QString> captions; ///< of the labels with these names
+    QByteArray json; ///< empty if there is no report. Without the ID of a row.
+    QString message;
+    /// What is printed by the controls of these names; in the detail, for the last row.
+    QHash<QString, QString> printed;
 };
 
 QStringList EventCodes(const Site& site);
@@ -69,6 +85,7 @@ Outcome Incident(const Site& site, Range range, const QStringList& readers,
 /// A null text stands for "All".
 Outcome IncidentSites(const Site& site, Range range, const QString& code, const QString& place,
                       const QString& reader);
+Outcome Schedule(const Site& site, int tour);
 Outcome Downloads(const Site& site, Range range, const QString& reader);
 Outcome Hardware(const Site& site, bool locations, bool events, bool readers);
 Outcome Database(const Site& site, Range range);
