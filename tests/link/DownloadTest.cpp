@@ -233,16 +233,6 @@ private slots:
         QCOMPARE(station.dock.Logged("CmdEraseMemory"), 0);
     }
 
-    void ClockBeyondItsDates() {
-        Station station(Taught + Touches(3), Station::Speed, DateTime::FromQt(QDate(2179, 6, 7)));
-        station.download.Run();
-        QCOMPARE(m_boxes.TakeTexts(), {"The reader's clock can only be set to a date from 1 "
-                                       "January 2000 to 6 June 2179. It was not set."});
-        QVERIFY(!station.link.SetClockToNow());
-        QCOMPARE(station.dock.Logged("CmdSetClock"), 0);
-        QCOMPARE(station.dock.Erasures(), 1);
-    }
-
     // The message is still true after a restart, and finally no touch is stored twice.
     void StoringFails_data() {
         const TestTable<QString, QString, int, QString, bool> row( // rows that stay, of 900
