@@ -192,11 +192,9 @@ private slots:
             {"\"width\": 60", "\"width\": \"x\"", "lblHead"},
             {"\"field\"", "\"feild\"", "txtName"},
             {"\"width\": 60", "\"width\": 101", "lblHead"}, // beyond its section
-            {"\"top\": 0", "\"bottom\": 6", "lblHead"},
             {"\"top\": 0", "\"top\": 0, \"bottom\": 0", "lblHead"},
             {"\"style\": \"name\"", "\"style\": \"none\"", "txtName"},
             {"\"font\"", "\"family\": \"none\", \"font\"", "none"},
-            {"\"style\": \"name\"", "\"style\": \"name\", \"lft\": 0", "lft"},
             {"\"top\": 0", "\"top\": -1", "lblHead"},
             {"\"Top\"", "\"head\"", "head"},               // two of a name
             {"\"pageHeader\"", "\"reportHeader\"", "Top"}, // two of a kind
