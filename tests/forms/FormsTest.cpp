@@ -64,83 +64,63 @@ class NoViewer : public ReportViewer {
 /// How each window is made. The windows of the forms are named after them.
 using Maker = std::function<std::unique_ptr<QWidget>(DockingLink&, ReportViewer&)>;
 
+/// Made as the program makes it: with the link, with the viewer, or with a parent alone.
 template <typename Form>
-Maker Plain() {
-    return [](DockingLink&, ReportViewer&) { return std::make_unique<Form>(nullptr); };
+std::unique_ptr<QWidget> Make(DockingLink& link, ReportViewer& viewer) {
+    if constexpr (std::is_constructible_v<Form, DockingLink&, QWidget*>)
+        return std::make_unique<Form>(link, nullptr);
+    else if constexpr (std::is_constructible_v<Form, ReportViewer&, QWidget*>)
+        return std::make_unique<Form>(viewer, nullptr);
+    else if constexpr (std::is_constructible_v<Form, QWidget*>)
+        return std::make_unique<Form>(nullptr);
+    else
+        return std::make_unique<Form>();
 }
-template <typename Form>
-Maker WithLink() {
-    return [](DockingLink& link, ReportViewer&) { return std::make_unique<Form>(link, nullptr); };
+template <typename... Forms>
+std::map<QString, Maker> MakersOf() {
+    return {{Forms::staticMetaObject.className(), &Make<Forms>}...};
 }
-template <typename Form>
-Maker WithViewer() {
-    return
-        [](DockingLink&, ReportViewer& viewer) { return std::make_unique<Form>(viewer, nullptr); };
+
+std::map<QString, Maker> AllMakers() {
+    auto makers =
+        MakersOf<frmAddButton, frmAddReader, frmCompany, frmCopyTour, frmDownload, frmEditButton,
+                 frmEditReader, frmEditTime, frmGoOnline, frmLogin, frmMDISetup, frmMain,
+                 frmManualID, frmMdiDownload, frmMdiMenu, frmMdiReports, frmPrpComms,
+                 frmRptHardwareListParam, frmRptPatrolSchedule, frmRptCustomParam,
+                 frmRptReaderReport, frmRptIncidentNew, frmRptIncidentParam, frmRptTour, frmSetTime,
+                 frmSplash, frmUserMaintenance>();
+    makers["frmAbout"] = [](auto&, auto&) {
+        auto form = std::make_unique<frmAbout>(nullptr);
+        form->Populate();
+        return form;
+    };
+    makers["frmEditTour"] = [](auto&, auto&) {
+        auto form = std::make_unique<frmEditTour>(nullptr);
+        form->GroupID = 1;
+        form->Populate();
+        return form;
+    };
+    makers["frmFirmwareVersion"] = [](auto&, auto&) {
+        return std::make_unique<frmFirmwareVersion>("3.04", nullptr);
+    };
+    makers["frmLanguage"] = [](auto&, auto&) {
+        return std::make_unique<frmLanguage>(*gDictionary, gLanguage, nullptr);
+    };
+    makers["frmListEdit"] = [](auto& link, auto&) {
+        auto form = std::make_unique<frmListEdit>(link, nullptr);
+        form->ItemType = SiteGroup;
+        form->Update();
+        return form;
+    };
+    makers["frmWaitReport"] = [](auto&, auto&) {
+        static Recordset rows;
+        return std::make_unique<frmWaitReport>(rows, nullptr);
+    };
+    return makers;
 }
 
 const std::map<QString, Maker>& Makers() {
-    static const std::map<QString, Maker> makers = {
-        {"frmAbout",
-         [](DockingLink&, ReportViewer&) {
-             auto form = std::make_unique<frmAbout>(nullptr);
-             form->Populate();
-             return form;
-         }},
-        {"frmAddButton", WithLink<frmAddButton>()},
-        {"frmAddReader", WithLink<frmAddReader>()},
-        {"frmCompany", Plain<frmCompany>()},
-        {"frmCopyTour", Plain<frmCopyTour>()},
-        {"frmDownload", WithLink<frmDownload>()},
-        {"frmEditButton", Plain<frmEditButton>()},
-        {"frmEditReader", Plain<frmEditReader>()},
-        {"frmEditTime", Plain<frmEditTime>()},
-        {"frmEditTour",
-         [](DockingLink&, ReportViewer&) {
-             auto form = std::make_unique<frmEditTour>(nullptr);
-             form->GroupID = 1;
-             form->Populate();
-             return form;
-         }},
-        {"frmFirmwareVersion",
-         [](DockingLink&, ReportViewer&) {
-             return std::make_unique<frmFirmwareVersion>("3.04", nullptr);
-         }},
-        {"frmGoOnline", WithLink<frmGoOnline>()},
-        {"frmLanguage",
-         [](DockingLink&, ReportViewer&) {
-             return std::make_unique<frmLanguage>(*gDictionary, gLanguage, nullptr);
-         }},
-        {"frmListEdit",
-         [](DockingLink& link, ReportViewer&) {
-             auto form = std::make_unique<frmListEdit>(link, nullptr);
-             form->ItemType = SiteGroup;
-             form->Update();
-             return form;
-         }},
-        {"frmLogin", Plain<frmLogin>()},
-        {"frmMDISetup", WithLink<frmMDISetup>()},
-        {"frmMain", [](DockingLink&, ReportViewer&) { return std::make_unique<frmMain>(); }},
-        {"frmManualID", Plain<frmManualID>()},
-        {"frmMdiDownload", WithLink<frmMdiDownload>()},
-        {"frmMdiMenu", Plain<frmMdiMenu>()},
-        {"frmMdiReports", WithViewer<frmMdiReports>()},
-        {"frmPrpComms", Plain<frmPrpComms>()},
-        {"frmRptHardwareListParam", WithViewer<frmRptHardwareListParam>()},
-        {"frmRptPatrolSchedule", WithViewer<frmRptPatrolSchedule>()},
-        {"frmRptCustomParam", WithViewer<frmRptCustomParam>()},
-        {"frmRptReaderReport", WithViewer<frmRptReaderReport>()},
-        {"frmRptIncidentNew", WithViewer<frmRptIncidentNew>()},
-        {"frmRptIncidentParam", WithViewer<frmRptIncidentParam>()},
-        {"frmRptTour", WithViewer<frmRptTour>()},
-        {"frmSetTime", WithLink<frmSetTime>()},
-        {"frmSplash", [](DockingLink&, ReportViewer&) { return std::make_unique<frmSplash>(); }},
-        {"frmUserMaintenance", Plain<frmUserMaintenance>()},
-        {"frmWaitReport",
-         [](DockingLink&, ReportViewer&) {
-             static Recordset rows;
-             return std::make_unique<frmWaitReport>(rows, nullptr);
-         }},
-    };
+    static const std::map<QString, Maker> makers = AllMakers();
     return makers;
 }
 

@@ -96,7 +96,6 @@ private slots:
         kept("end mark, untaught", Untaught + Touches(20) + end + Touches(130), 20, goesOn);
         kept("end mark before the last record", three + end + Touches(1), 150, goesOn);
         kept("count beyond the records", three + "count 300", 150, disagrees);
-        kept("count by one too high", three + "count 152", 150, disagrees);
         kept("count below the records", three + "count 60", 117, disagrees);
         good("count of 0", Taught + Touches(30) + "count 0", 30);
         bad("count of 0, untaught", Untaught + Touches(30) + "count 0");
@@ -231,16 +230,6 @@ private slots:
         QCOMPARE(station.view.MessageText, Successful(3, "\nReader Memory NOT erased!"));
         QCOMPARE(StoredTouches().size(), 3);
         QCOMPARE(station.dock.Logged("CmdEraseMemory"), 0);
-    }
-
-    void ClockBeyondItsDates() {
-        Station station(Taught + Touches(3), Station::Speed, DateTime::FromQt(QDate(2179, 6, 7)));
-        station.download.Run();
-        QCOMPARE(m_boxes.TakeTexts(), {"The reader's clock can only be set to a date from 1 "
-                                       "January 2000 to 6 June 2179. It was not set."});
-        QVERIFY(!station.link.SetClockToNow());
-        QCOMPARE(station.dock.Logged("CmdSetClock"), 0);
-        QCOMPARE(station.dock.Erasures(), 1);
     }
 
     // The message is still true after a restart, and finally no touch is stored twice.

@@ -44,30 +44,6 @@ class PlatformTest : public QObject {
 private slots:
     void cleanup() { QLocale::setDefault(QLocale::c()); }
 
-    void SumsAreExact() {
-        constexpr qint64 day = 46347;
-        const DateTime midnight = DateTime::FromDays(day);
-        for (int start = 0; start < 1440; ++start) {
-            for (int tolerance = 0; tolerance < 60; ++tolerance) {
-                // Fractions of a day, as another program would have stored them.
-                const DateTime margin = DateTime::FromStore(tolerance / 1440.0);
-                for (int interval = tolerance % 7; interval < 1440; interval += 7) {
-                    const DateTime point = midnight + DateTime::FromStore(start / 1440.0) +
-                                           DateTime::FromStore(interval / 1440.0);
-                    const qint64 minutes = day * 1440 + start + interval;
-                    const DateTime early = point - margin, late = point + margin;
-                    if (early != DateTime::FromMilliseconds((minutes - tolerance) * 60'000) ||
-                        late.ToStore() != static_cast<double>(minutes + tolerance) / 1440.0 ||
-                        (late - early).Half() != margin)
-                        QFAIL(qPrintable(QStringLiteral("start %1 interval %2 tolerance %3")
-                                             .arg(start)
-                                             .arg(interval)
-                                             .arg(tolerance)));
-                }
-            }
-        }
-    }
-
     void EveryMinuteComesBackFromTheStore() {
         const qint64 first = DateTime::FromQt(QDate(1880, 1, 1)).WholeDays() * 1440;
         const qint64 last = DateTime::FromQt(QDate(2100, 1, 1)).WholeDays() * 1440;

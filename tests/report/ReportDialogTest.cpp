@@ -123,11 +123,9 @@ private slots:
                 QString missing = needs[report.key];
                 for (const QChar thing : defined)
                     missing.remove(thing);
-                const char* message =
-                    missing.isEmpty() ? ""
-                    : missing[0] == u'r'
-                        ? "You must add at least one reader before this report can be used"
-                        : "You must add at least one tour before this report can be used";
+                const QString message =
+                    "You must add at least one %1 before this report can be used";
+                const QString thing = missing.startsWith(u'r') ? "reader" : "tour";
                 QVERIFY(needs.contains(report.key));
                 QString title;
                 QTimer closer;
@@ -140,7 +138,8 @@ private slots:
                 closer.start(20);
                 list->setCurrentItem(list->topLevelItem(place++));
                 page.ReportParamShow(report.key, report.name);
-                QCOMPARE(boxes.TakeTexts().join(u'/'), message);
+                QCOMPARE(boxes.TakeTexts(),
+                         missing.isEmpty() ? QStringList() : QStringList(message.arg(thing)));
                 QCOMPARE(title, missing.isEmpty() ? report.name : "");
             }
         }

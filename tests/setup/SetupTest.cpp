@@ -14,15 +14,6 @@
 
 namespace {
 
-const QString Points = "SELECT lIndex, tButtonCode FROM tblTourPoints WHERE lParentID = 1";
-
-TourDraft DraftOf(const QList<std::pair<int, const char*>>& points) {
-    TourDraft draft;
-    for (const auto& [minutes, code] : points)
-        draft.Insert(draft.Count(), {minutes, QString::fromLatin1(code), {}, {}});
-    return draft;
-}
-
 /// What an import of this document says; empty if it succeeds.
 QString FaultOf(const QByteArray& document) {
     return DescriptionOf([&] { ImportSetup(document); });
@@ -98,26 +89,6 @@ private slots:
                 if (report.TourPoints()[i].PointDateTime != day + times[i])
                     QFAIL(qPrintable(QStringLiteral("start %1, point %2").arg(start).arg(i)));
         }
-    }
-
-    // If a point cannot be saved, nothing is changed.
-    void SavingIsAllOrNothing() {
-        const TestHome home(TestHome::EmptyStore);
-        const Tour tour{AddTour("Round"), "Round", "old", 5, {}}, renamed{1, "Walk", "new", 9, {}};
-        SaveTour(tour, DraftOf({{0, "A00001"}, {5, "A00002"}, {5, "A00003"}}));
-        const QStringList before = ContentOfStore();
-        const TourDraft other = DraftOf({{0, "B00001"}, {5, "B00002"}, {5, "B00003"}});
-        gConn->Execute(
-            "CREATE TRIGGER refuse BEFORE INSERT ON tblTourPoints WHEN NEW.tButtonCode = "
-            "'B00002' BEGIN SELECT RAISE(ABORT, 'no room'); END");
-        QVERIFY(ErrorOf([&] { SaveTour(renamed, other); }) != 0);
-        gConn->Execute("DROP TRIGGER refuse");
-        QCOMPARE(ContentOfStore(), before);
-        SaveTour(renamed, other);
-        QCOMPARE(RowsOf(Points), (QStringList{"1|B00001", "2|B00002", "3|B00003"}));
-        QCOMPARE(Tours().first().name, "Walk");
-        SaveTour(renamed, {});
-        QVERIFY(!TourHasPoints(1));
     }
 
     void FreshNames() {

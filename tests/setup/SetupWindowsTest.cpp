@@ -417,8 +417,8 @@ private slots:
     void UnsavedTourComesBack() {
         const auto page = Page(TourTab);
         const QStringList before = ContentOfStore();
-        gConn->Execute("CREATE TRIGGER refuse BEFORE UPDATE ON tblTours BEGIN SELECT RAISE(ABORT, "
-                       "'no room'); END");
+        gConn->Execute("CREATE TRIGGER refuse BEFORE INSERT ON tblTourPoints WHEN NEW.lIndex = 2 "
+                       "BEGIN SELECT RAISE(ABORT, 'no room'); END");
         const QString editor = QStringLiteral("frmEditTour");
         const auto name = [=] { return Script::Find<QLineEdit>(editor, "txtName"); };
         Script script;

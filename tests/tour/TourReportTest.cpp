@@ -4,16 +4,15 @@
 #include "Clock.h"
 #include "Connection.h"
 #include "Engine.h"
-#include "ForkedChild.h"
 #include "ResourceLimit.h"
 #include "TableExists.h"
-#include "TestTable.h"
 #include "TourReportBuilder.h"
 #include "TourSite.h"
 #include "cTourReport.h"
 
+#include <QTest>
+
 #include <sqlcipher/sqlite3.h>
-#include <unistd.h>
 
 using namespace TourSite;
 
@@ -64,60 +63,6 @@ private slots:
         Define();
     }
 
-    /// One example of each rule. TourRandomTest has the combinations and the edges.
-    void Matching_data() {
-        const TestTable<QString, int, QString, QString, QString> add(
-            "points", "tolerance", "touches", "exceptions", "all");
-        // Without `all`, the full report is the same as the exceptions.
-        const auto row = [&](const char* name, const QString& points, int tolerance,
-                             const QString& touches, const QString& exceptions,
-                             const QString& all = {}) {
-            add(name, points, tolerance, touches, exceptions, all.isEmpty() ? exceptions : all);
-        };
-        const QString none = "NO EXCEPTIONS, _", missingBC = ", _, B MISSING, _, C MISSING";
-        const auto round = [&](const char* name, const QString& touches, const QString& exceptions,
-                               const QString& all = {}) {
-            row(name, Round, 5, touches, exceptions, all);
-        };
-        round("last second in time", "08:05:59 A", none,
-              "_, A ON TIME, 08:05 A ON TIME" + missingBC);
-        round("too late for its own point", "08:36 A",
-              "_, A MISSING, _, B EXCEPTION, 08:36 A OUT OF SEQUENCE, _, C MISSING");
-        round("early", "08:20 B", "_, A MISSING, _, B EXCEPTION, 08:20 B EARLY, _, C MISSING");
-        round("used up out of sequence", "08:10 C",
-              "_, A EXCEPTION, 08:10 C OUT OF SEQUENCE" + missingBC);
-        round("not on tour", "08:00 D", "_, A EXCEPTION, 08:00 D NOT ON TOUR" + missingBC);
-        round("stranger hidden by a point in time", "07:56 A, 07:58 D, 08:02 A", none,
-              "_, A ON TIME, 07:56 A ON TIME, 07:58 D NOT ON TOUR, 08:02 A ON TIME" + missingBC);
-        round("a touch left to look at", "08:00 A, 08:25 D", "_, B MISSING, _, C MISSING",
-              "_, A ON TIME, 08:00 A ON TIME" + missingBC);
-        round("before the query", "07:54:59 A", NoData);
-        row("after the middle", "08:00 A, 08:20 A", 5, "08:10:30 A",
-            "_, A MISSING, _, A EXCEPTION, 08:10 A EARLY");
-        row("no tolerance, early and late", "08:00 A, 08:30 B", 0,
-            "07:45 A, 08:00:59 A, 08:01 A, 08:31 B, 08:45 B",
-            "_, B EXCEPTION, 08:31 B LATE, 08:45 B LATE",
-            "_, A ON TIME, 07:45 A EARLY, 08:00 A ON TIME, 08:01 A LATE, _, B EXCEPTION, "
-            "08:31 B LATE, 08:45 B LATE");
-        row("over midnight", "23:50 A, 24:10 B, 24:30 C", 5, "23:49 A, 24:09 B, 24:30 C", none,
-            "_, A ON TIME, 23:49 A ON TIME, _, B ON TIME, 00:09 B ON TIME, _, C ON TIME, "
-            "00:30 C ON TIME");
-        row("events under their locations", Round, 5,
-            "07:55 e, 08:10 A, 08:10 e, 08:11 f, 08:12 u, 08:25 D, 08:26 f",
-            "_, A EXCEPTION, 08:10 A LATE, _, B MISSING, _, C MISSING",
-            "_, A EXCEPTION, 08:10 A LATE, 08:10 e EVENT, 08:11 f EVENT" + missingBC);
-    }
-    void Matching() {
-        QFETCH(QString, points);
-        QFETCH(int, tolerance);
-        QFETCH(QString, touches);
-        const int tour = AddTour(points, tolerance);
-        AddTouches(touches);
-        AddTouches("08:30 B, 09:00 D", "4b5831a7"); // another reader's
-        QTEST(Report(tour), "exceptions");
-        QTEST(Report(tour, true, true), "all");
-    }
-
     void ReportInFull() {
         const TestClock clock(TourDay + DateTime::FromTime(9, 5, 7), 1);
         gCompanyInfo = {"Kestrel", "", "Pier 4", "%d"};
@@ -151,6 +96,7 @@ private slots:
 
     void LoadingATour() {
         AddTouches("23:30 A, 24:40 B, 24:45 C");
+        AddTouches("24:41 B", "4b5831a7"); // another reader's
         const int tour = AddTour("23:50 A, 24:10 X, 24:30 B", 0);
         // The seconds of the start are not used, nor is the time of day in the date asked for.
         gConn->Execute("UPDATE tblTours SET dtStartTime = #1955-05-05 23:50:59#");
@@ -212,26 +158,6 @@ private slots:
         QCOMPARE(m_home->TakeLog(), "Error 5 in BuildTourReport of Form frmRptTour\t(No paper)");
         QVERIFY(!TableExists("tblXXXException"));
         QCOMPARE(Report(round), "NO EXCEPTIONS, _"); // and the next one comes
-    }
-
-    void AKilledReportLeavesNothingInTheWay() {
-        const int tour = AddTour(Round, 5);
-        AddTouches("08:06 A");
-        TestHome::Close();
-        ForkedChild child([&](int out) {
-            m_home->Open();
-            m_viewer.OnShow = [&] {
-                (void)::write(out, "o", 1);
-                ::pause();
-            };
-            Report(tour);
-        });
-        QCOMPARE(child.Read(1), "o");
-        child.Kill();
-        QVERIFY(m_home->Open());
-        QVERIFY(TableExists("tblXXXException"));
-        QCOMPARE(Report(tour), "_, A EXCEPTION, 08:06 A LATE, _, B MISSING, _, C MISSING");
-        QVERIFY(!TableExists("tblXXXException"));
     }
 
     // Not a byte can be written, not even to drop a table that an earlier report has left.
