@@ -182,6 +182,18 @@ private slots:
         QVERIFY(commands > 1);
     }
 
+    void NeedsALogin() {
+        Dock dock(Night);
+        for (const auto& [login, password, status] :
+             {std::tuple("master", "Keeper", 0), std::tuple("user", " crew ", 0),
+              std::tuple("master", "crew", 1), std::tuple("user", "", 1)}) {
+            const Outcome outcome =
+                Office(password).CtlAt(dock, QStringLiteral("detect --operator ") + login);
+            QCOMPARE(outcome.status, status);
+            QCOMPARE(outcome.err.count('\n'), status);
+        }
+    }
+
     void FreshStoreMakesItsOperators() {
         const Office office;
         QFile::remove(office.Store());
