@@ -15,7 +15,7 @@ struct ReaderSignals {
     std::uint8_t OptionByte() const;
 };
 
-/// If all three signals are off, tells the operator and gives false: a guard could not tell
+/// If all three signals are off, shows a message and returns false: a guard would not notice
 /// whether a touch was read.
 bool SignalsAreUsable(const ReaderSignals& readerSignals);
 

@@ -175,9 +175,11 @@ std::optional<DateTime> DateTimeFromText(const QString& text) {
     return DateTime::FromQt(date) + DateTime::FromMilliseconds(time.msecsSinceStartOfDay());
 }
 
-QString WithoutControls(QString text) {
-    std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
-        u'?');
+QString WithoutControls(QString text, QChar instead) {
+    const auto isControl = [](QChar letter) {
+        return letter.category() == QChar::Other_Control || letter == QChar::LineSeparator ||
+               letter == QChar::ParagraphSeparator;
+    };
+    std::replace_if(text.begin(), text.end(), isControl, instead);
     return text;
 }

@@ -28,5 +28,6 @@ std::optional<DateTime> DateTimeFromText(const QString& text);
 /// The locale's short date pattern, with a year of four digits.
 QString GetShortDateFormat();
 
-/// The text with a "?" for each control character: a terminal would obey an escape sequence.
-QString WithoutControls(QString text);
+/// The text with `instead` for each control character, line break or tab: a terminal would obey an
+/// escape sequence, and a line of a page cannot show them.
+QString WithoutControls(QString text, QChar instead = u'?');

@@ -55,3 +55,7 @@ inline const QString ReportTemp = QStringLiteral("tblReportTemp");
 /// Makes it if it is not there, and empties it. False after a failure, as GuardedInScratch has it.
 bool InitRptTmp();
 bool CreateTblReportTemp(const QString& name);
+
+/// The table of the incident report with sites. The dialogs of both incident reports drop it when
+/// they close.
+inline const QString TempIncident = QStringLiteral("tblTempIncident");

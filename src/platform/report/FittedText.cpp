@@ -1,5 +1,6 @@
 #include "FittedText.h"
 
+#include "Format.h"
 #include "ReportFont.h"
 
 #include <QPainter>
@@ -13,16 +14,6 @@ constexpr qreal Endless = 1e7;
 /// How often a range of sizes is halved. The error that is left cannot be seen.
 constexpr int SizeSteps = 6;
 constexpr QChar Ellipsis = u'\u2026';
-
-/// Replaces control characters, line breaks and tabs of every kind by blanks.
-QString ControlsAsBlanks(QString text) {
-    const auto isControl = [](QChar letter) {
-        return letter.category() == QChar::Other_Control || letter == QChar::LineSeparator ||
-               letter == QChar::ParagraphSeparator;
-    };
-    std::replace_if(text.begin(), text.end(), isControl, u' ');
-    return text;
-}
 
 /// The largest scale that fits, between one that fits and one that does not.
 template <typename Fits>
@@ -48,7 +39,7 @@ FittedText::FittedText(const ReportFont& font, const QStringList& lines, QSizeF 
     option.setTextDirection(Qt::LayoutDirectionAuto);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     for (const QString& line : lines) {
-        QString text = ControlsAsBlanks(line.left(most));
+        QString text = WithoutControls(line.left(most), u' ');
         if (line.size() > most)
             text += Ellipsis;
         for (const QChar letter : text) {

@@ -1,8 +1,8 @@
 #include "frmRptIncidentNew.h"
 
 #include "IncidentReportBuilder.h"
-#include "IncidentSitesBuilder.h"
 #include "ReportButtons.h"
+#include "ScratchTable.h"
 #include "WindowTools.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"
@@ -70,6 +70,6 @@ void frmRptIncidentNew::cmdPrintPreview_Click() {
 }
 
 void frmRptIncidentNew::done(int result) {
-    DropTempIncident();
+    DropScratchTable(TempIncident);
     QDialog::done(result);
 }

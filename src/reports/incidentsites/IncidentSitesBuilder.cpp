@@ -11,8 +11,6 @@
 
 namespace {
 
-const QString TempIncident = QStringLiteral("tblTempIncident");
-
 // The columns of the events, by position: two of them are named "ID".
 enum EventColumn {
     ReaderIdColumn,
@@ -117,8 +115,6 @@ QList<Button> EventFilters() {
     return events;
 }
 
-QList<Group> SiteFilters() { return GroupsOf(SiteGroup); }
-
 QList<Reader> ReaderFilters() {
     QList<Reader> readers = Readers();
     for (qsizetype i = 0; i < readers.size(); ++i)
@@ -140,8 +136,8 @@ void BuildIncidentSitesReport(const IncidentSitesRequest& request, ReportViewer&
     bool building = false; // the two steps before it are those of the preview button
     const auto make = [&] {
         building = false;
+        events.Close(); // of a run on a full disk
         CreateTempIncident();
-        events.Close();
         OpenIncidentEvents(request.StartDate, request.EndDate, events);
         building = true;
         return true;

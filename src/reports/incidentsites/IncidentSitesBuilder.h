@@ -21,10 +21,9 @@ struct IncidentSitesRequest {
     static constexpr int NoFilter = -1;
 };
 
-/// The entries of the three filter lists, in the order in which they were stored. All three throw
-/// RunTimeError.
+/// The entries of the lists of events and readers, in the order in which they were stored. Both
+/// throw RunTimeError.
 QList<Button> EventFilters();
-QList<Group> SiteFilters();
 /// A reader without a description is described by its position, such as "Reader 2".
 QList<Reader> ReaderFilters();
 

@@ -47,7 +47,7 @@ std::optional<IncidentSitesRequest> RequestOf(const Selection& selection) {
         request.EventName = event->name;
     }
     if (!selection.site.isEmpty()) {
-        const QList<Group> sites = SiteFilters();
+        const QList<Group> sites = GroupsOf(SiteGroup);
         const Group* site = Find(sites, &Group::name, selection.site);
         if (!site) {
             IvMessageBox(FormatStr(Translate("There is no site named %0:s."), {selection.site}));

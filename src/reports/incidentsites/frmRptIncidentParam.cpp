@@ -22,7 +22,7 @@ void frmRptIncidentParam::InitParamForm() {
         list->addItem(Translate("All"), IncidentSitesRequest::NoFilter);
     for (const Button& event : EventFilters())
         m_ui->cboEvent->addItem(event.name, event.id);
-    for (const Group& site : SiteFilters())
+    for (const Group& site : GroupsOf(SiteGroup))
         m_ui->cboSite->addItem(site.name, site.id);
     for (const Reader& reader : ReaderFilters()) {
         m_ui->cboReader->addItem(reader.description, mReaderIds.size());
