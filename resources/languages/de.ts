@@ -1483,5 +1483,49 @@
         <source>WK3_ENG.HLP</source>
         <translation>WK3_ENG.HLP</translation>
     </message>
+    <message>
+        <source>This folder does not exist. Please choose another one.</source>
+        <translation>Diesen Ordner gibt es nicht. Bitte einen anderen wählen.</translation>
+    </message>
+    <message>
+        <source>A file name can have at most 100 characters.</source>
+        <translation>Ein Dateiname darf höchstens 100 Zeichen haben.</translation>
+    </message>
+    <message>
+        <source>Select backup destination</source>
+        <translation>Ziel der Sicherung wählen</translation>
+    </message>
+    <message>
+        <source>Database Files (*.mdb)</source>
+        <translation>Datenbankdateien (*.mdb)</translation>
+    </message>
+    <message>
+        <source>That filename is already in use. Please choose another filename</source>
+        <translation>Dieser Dateiname ist schon vergeben. Bitte einen anderen Dateinamen wählen</translation>
+    </message>
+    <message>
+        <source>Backup</source>
+        <translation>Sicherung</translation>
+    </message>
+    <message>
+        <source>The database is being copied and checked.</source>
+        <translation>Die Datenbank wird kopiert und geprüft.</translation>
+    </message>
+    <message>
+        <source>Successfully copied the database to :</source>
+        <translation>Die Datenbank wurde kopiert nach:</translation>
+    </message>
+    <message>
+        <source>The file was changed while it was read.</source>
+        <translation>Die Datei wurde verändert, während sie gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>The copy is damaged: </source>
+        <translation>Die Kopie ist beschädigt: </translation>
+    </message>
+    <message>
+        <source>The copy does not have the rows of the database.</source>
+        <translation>Die Kopie hat nicht die Zeilen der Datenbank.</translation>
+    </message>
 </context>
 </TS>

@@ -102,9 +102,13 @@ void Connection::Open(const QString& connectionString) {
     const QString path = parts.value(SourceProperty);
     const QString password = parts.value(PasswordProperty, m_properties.value(PasswordProperty));
     RequireStoreFile(path);
+    if (Mode == adModeRead) {
+        m_engine = std::make_shared<Engine>(path, password, Engine::Opening::ReadOnly);
+        return;
+    }
     const StoreLock lock(path);
     m_foreignJournal = SetForeignJournalAside(path, password);
-    m_engine = std::make_shared<Engine>(path, password, Engine::Creation::MustExist, lock);
+    m_engine = std::make_shared<Engine>(path, password, Engine::Opening::MustExist, lock);
 }
 
 void Connection::Close() { m_engine.reset(); }
@@ -123,6 +127,15 @@ QString Connection::QuickCheck() const {
     if (!m_engine)
         ThrowClosed();
     return FirstFault(m_engine, Check::Quick);
+}
+
+QString Connection::FullCheck(const std::function<bool()>& goOn) const {
+    if (!m_engine)
+        ThrowClosed();
+    m_engine->WhileRunning(goOn);
+    const QString fault = FirstFault(m_engine, Check::Full);
+    m_engine->WhileRunning({});
+    return fault;
 }
 
 void Connection::BeginTrans() { Execute(QStringLiteral("BEGIN IMMEDIATE")); }
@@ -163,7 +176,7 @@ void CreateStoreFile(const QString& path, const QString& password) {
             RunTimeErrorNumber::FileInUse,
             QStringLiteral("The file '%1' already exists.").arg(QDir::toNativeSeparators(path)));
     try {
-        const auto engine = std::make_shared<Engine>(path, password, Engine::Creation::MayCreate);
+        const auto engine = std::make_shared<Engine>(path, password, Engine::Opening::MayCreate);
         // An empty store has no page. Creating a table and dropping it makes the first one.
         RunOn(engine, "CREATE TABLE tblNone (ID INTEGER)");
         RunOn(engine, "DROP TABLE tblNone");

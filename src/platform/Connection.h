@@ -6,10 +6,13 @@
 #include <QHash>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class Engine;
 class Recordset;
+
+enum ConnectMode { adModeUnknown = 0, adModeRead = 1 };
 
 /// One connection to a password-protected store file. While it is open, a lock file beside the
 /// store (the same name, ending in ".ldb") keeps other processes out. The connections of one
@@ -26,8 +29,9 @@ public:
     /// "Data Source=" and the path, and other parts, separated by ";". A value that contains a ";"
     /// must be in double quotes (ConnectionValue).
     QString ConnectionString;
-    /// Set by the caller, without effect: every connection reads and writes.
-    int Mode = 0;
+    /// With adModeRead, the connection only reads, and takes no lock: for a copy of a store, which
+    /// may be on a read-only disk. It does not open a file that has an unfinished transaction.
+    ConnectMode Mode = adModeUnknown;
     /// Only "Jet OLEDB:Database Password" is used.
     QString& Properties(const QString& name) { return m_properties[name.toLower()]; }
 
@@ -51,6 +55,9 @@ public:
     /// The first fault that the engine's own check finds in the store; empty if there is none.
     /// Reads the whole store.
     QString QuickCheck() const;
+    /// The same, with each index compared with its table. `goOn`, if any, is called now and then;
+    /// once it gives false, the check ends with a fault.
+    QString FullCheck(const std::function<bool()>& goOn = {}) const;
 
     /// A transaction is on disk when CommitTrans returns. Transactions do not nest.
     void BeginTrans();

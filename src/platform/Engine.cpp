@@ -11,6 +11,8 @@
 namespace {
 
 constexpr int BusyMilliseconds = 5000;
+/// Of the engine's virtual machine.
+constexpr int StepsBetweenCalls = 10'000;
 
 [[noreturn]] void Throw(int code, const QString& text) {
     throw RunTimeError(RunTimeErrorNumber::StoreEngine + (code & 0xff), text);
@@ -36,11 +38,12 @@ void Run(const Engine& engine, const char* sql) {
 
 } // namespace
 
-Engine::Engine(const QString& path, const QString& password, Creation creation,
+Engine::Engine(const QString& path, const QString& password, Opening opening,
                std::optional<StoreLock> lock)
     : m_lock(std::move(lock)) {
-    const int flags =
-        SQLITE_OPEN_READWRITE | (creation == Creation::MayCreate ? SQLITE_OPEN_CREATE : 0);
+    const int flags = opening == Opening::ReadOnly    ? SQLITE_OPEN_READONLY
+                      : opening == Opening::MayCreate ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE
+                                                      : SQLITE_OPEN_READWRITE;
     const QByteArray name = QDir::toNativeSeparators(path).toUtf8();
     try {
         const int code = sqlite3_open_v2(name.constData(), &m_database, flags, nullptr);
@@ -81,6 +84,12 @@ Engine::~Engine() { sqlite3_close(m_database); }
 
 void Engine::ThrowError() const {
     Throw(sqlite3_errcode(m_database), QString::fromUtf8(sqlite3_errmsg(m_database)));
+}
+
+void Engine::WhileRunning(std::function<bool()> goOn) {
+    m_goOn = std::move(goOn);
+    const auto call = [](void* engine) { return static_cast<Engine*>(engine)->m_goOn() ? 0 : 1; };
+    sqlite3_progress_handler(m_database, m_goOn ? StepsBetweenCalls : 0, call, this);
 }
 
 bool Engine::InTransaction() const { return sqlite3_get_autocommit(m_database) == 0; }

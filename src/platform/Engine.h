@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -18,8 +19,8 @@ struct sqlite3_stmt;
 /// Everything that fails throws RunTimeError, with the number StoreEngine plus the engine's code.
 class Engine {
 public:
-    enum class Creation { MustExist, MayCreate };
-    Engine(const QString& path, const QString& password, Creation creation,
+    enum class Opening { ReadOnly, MustExist, MayCreate };
+    Engine(const QString& path, const QString& password, Opening opening,
            std::optional<StoreLock> lock = {});
     ~Engine();
     Engine(const Engine&) = delete;
@@ -32,10 +33,15 @@ public:
     /// disk.
     bool InTransaction() const;
 
+    /// Calls `goOn` now and then while a statement runs, at least every few milliseconds. False
+    /// ends the statement with a failure. An empty routine ends this.
+    void WhileRunning(std::function<bool()> goOn);
+
 private:
     void Prepare(const QString& password);
 
     std::optional<StoreLock> m_lock;
+    std::function<bool()> m_goOn;
     sqlite3* m_database = nullptr;
 };
 

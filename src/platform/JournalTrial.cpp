@@ -43,7 +43,7 @@ public:
     bool IsSound(const QString& password) const {
         try {
             const auto copy =
-                std::make_shared<Engine>(m_path, password, Engine::Creation::MustExist);
+                std::make_shared<Engine>(m_path, password, Engine::Opening::MustExist);
             return FirstFault(copy, Check::Full).isEmpty();
         } catch (const RunTimeError&) {
             return false;

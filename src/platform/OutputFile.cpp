@@ -1,6 +1,7 @@
 #include "OutputFile.h"
 
 #include "FileReplacement.h"
+#include "OwnFiles.h"
 #include "RunTimeError.h"
 #include "StoreLock.h"
 
@@ -33,18 +34,37 @@ bool IsRefusal(int error) { return error == EACCES || error == EPERM; }
 
 } // namespace
 
-OutputFile::OutputFile(const QString& path) {
-    const QFileInfo target = FileMeantBy(path);
+OutputFile::OutputFile(const QString& path, Older older) {
+    const QFileInfo target = older == Older::Keep ? QFileInfo(path) : FileMeantBy(path);
     m_target = target.filePath();
     if (StoreLock::IsHeldHere(m_target))
-        throw RunTimeError(RunTimeErrorNumber::FileInUse,
-                           QStringLiteral("The file \"%1\" is the open database.")
-                               .arg(QDir::toNativeSeparators(m_target)));
+        Refuse(QStringLiteral("is the open database."));
+    if (IsOwnFile(m_target))
+        Refuse(QStringLiteral("is one of the program's own files."));
+    if (older == Older::Replace) {
+        OpenForReplacing();
+        return;
+    }
+    if (target.exists() || target.isSymLink())
+        Refuse(QStringLiteral("already exists."));
+    OpenPart();
+    if (!m_device->isOpen())
+        Fail();
+    m_way = Way::New;
+}
+
+void OutputFile::OpenPart() {
+    m_device = std::make_unique<QFile>(PartPath(QFileInfo(m_target)));
+    m_device->open(QIODevice::WriteOnly | QIODevice::NewOnly);
+}
+
+void OutputFile::OpenForReplacing() {
+    const QFileInfo target(m_target);
     if (target.exists() && !target.isFile()) {
         m_device = std::make_unique<QFile>(m_target);
     } else {
-        m_device = std::make_unique<QFile>(PartPath(target));
-        if (m_device->open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        OpenPart();
+        if (m_device->isOpen()) {
             m_way = Way::Replace;
             return;
         }
@@ -59,7 +79,7 @@ OutputFile::OutputFile(const QString& path) {
 
 OutputFile::~OutputFile() {
     // By its name, because a QFile whose last write failed does not remove itself.
-    if (m_way == Way::Replace)
+    if (m_way == Way::Replace || m_way == Way::New)
         QFile::remove(m_device->fileName());
 }
 
@@ -68,7 +88,22 @@ void OutputFile::Write(const QByteArray& bytes) {
         Fail();
 }
 
+QString OutputFile::Finish() {
+    if (m_device->isOpen()) {
+        if (!m_device->flush() || m_device->error() != QFileDevice::NoError)
+            Fail();
+        m_device->close();
+        SyncFile(m_device->fileName());
+    }
+    return m_device->fileName();
+}
+
 void OutputFile::Commit() {
+    if (m_way == Way::New) {
+        PlaceNewFile(Finish(), m_target);
+        m_way = Way::Straight;
+        return;
+    }
     if (!m_device->flush() || m_device->error() != QFileDevice::NoError)
         Fail();
     if (m_way == Way::Copy) {
@@ -103,6 +138,12 @@ QString OutputFile::CauseOfFailure(QIODevice& device) {
         file->flush();
     }
     return device.errorString();
+}
+
+void OutputFile::Refuse(const QString& cause) const {
+    throw RunTimeError(RunTimeErrorNumber::FileInUse,
+                       QStringLiteral("The file \"%1\" ").arg(QDir::toNativeSeparators(m_target)) +
+                           cause);
 }
 
 void OutputFile::Fail() const {

@@ -57,6 +57,14 @@ bool StoreLock::IsHeldHere(const QString& path) {
     return !Held().value(file).expired() || !g_stores.value(file).expired();
 }
 
+QStringList StoreLock::StoresHeldHere() {
+    QStringList stores;
+    for (auto store = g_stores.cbegin(); store != g_stores.cend(); ++store)
+        if (!store.value().expired())
+            stores += store.key();
+    return stores;
+}
+
 LockFile::Holder StoreLock::HolderOf(const QString& storePath) {
     return LockFile::HolderOf(LockPathOf(storePath));
 }

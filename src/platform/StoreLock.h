@@ -2,7 +2,7 @@
 
 #include "LockFile.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -17,6 +17,8 @@ public:
 
     /// True for a store that this process holds, and for its lock file, also by another path.
     static bool IsHeldHere(const QString& path);
+    /// The real paths of the stores that this process holds.
+    static QStringList StoresHeldHere();
 
     /// The holder of a store, as its lock file says.
     static LockFile::Holder HolderOf(const QString& storePath);

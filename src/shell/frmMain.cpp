@@ -75,7 +75,6 @@ void frmMain::MDIForm_Load() {
         TranslateFrame();
         InitToolbar();
         ConnectMenu();
-        HideUnbuilt();
         setWindowTitle(TitleWithVersion());
         UpdateLanguage();
         gReaderOptions = std::make_unique<cReaderOptions>();
@@ -87,13 +86,10 @@ void frmMain::MDIForm_Load() {
     });
 }
 
-/// Hides the menu items whose dialogs do not exist yet.
-void frmMain::HideUnbuilt() {
-    for (QAction* action : {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore})
-        action->setVisible(false);
-}
-
 void frmMain::ConnectMenu() {
+    connect(m_ui->mnuFileArchive, &QAction::triggered, this, &frmMain::GoArchive);
+    connect(m_ui->mnuFileBackup, &QAction::triggered, this, &frmMain::GoBackup);
+    connect(m_ui->mnuFileRestore, &QAction::triggered, this, &frmMain::GoRestore);
     connect(m_ui->mnuFileExit, &QAction::triggered, this, &QWidget::close);
     connect(m_ui->mnuToolsPipeOptions, &QAction::triggered, this,
             &frmMain::mnuToolsPipeOptions_Click);

@@ -24,10 +24,13 @@ public:
 
     /// Closes the store and every window.
     void ExitApp();
+    void GoArchive();
+    void GoBackup();
     void GoHome();
     void GoOptions();
     void GoOnline();
     void GoReports();
+    void GoRestore();
     void GoSetup();
     /// Enables the toolbar buttons: one character per button, "1" for enabled. Then disables or
     /// hides what this operator may not do, and what needs a docking station if there is none. If
@@ -45,7 +48,6 @@ protected:
 private:
     void MDIForm_Load();
     void MDIForm_Unload();
-    void HideUnbuilt();
     void ConnectMenu();
     void InitToolbar();
     void RestoreSavedPosition();

@@ -52,7 +52,7 @@ bool ADOTest(const QString& path, const QString& password) {
 bool ADOInit(const QString& path, const QString& password) {
     gConn = std::make_unique<Connection>();
     const auto open = [&] {
-        gConn->Mode = 0;
+        gConn->Mode = adModeUnknown;
         OpenStore(*gConn, path, password);
         return gConn->State() == adStateOpen;
     };

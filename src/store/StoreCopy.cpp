@@ -1,0 +1,88 @@
+#include "StoreCopy.h"
+
+#include "Connection.h"
+#include "OutputFile.h"
+#include "Recordset.h"
+#include "RunTimeError.h"
+#include "StorePassword.h"
+#include "mStore.h"
+#include "mTranslations.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace {
+
+constexpr qint64 CopiedAtOnce = 64 * 1024;
+
+[[noreturn]] void ThrowReadFailure(const QFile& file, const QString& cause) {
+    throw RunTimeError(RunTimeErrorNumber::FileNotFound,
+                       QDir::toNativeSeparators(file.fileName()) + QStringLiteral(": ") + cause);
+}
+
+} // namespace
+
+QMap<QString, qint64> RowsPerTable(Connection& store) {
+    static const QRegularExpression plainName(QStringLiteral("^\\w+$"));
+    QMap<QString, qint64> rows;
+    const auto tables = store.OpenSchema();
+    for (; !tables->Eof(); tables->MoveNext()) {
+        const QString name = tables->Text(u"TABLE_NAME");
+        if (tables->Text(u"TABLE_TYPE") != u"table" || !plainName.match(name).hasMatch())
+            continue;
+        Recordset count;
+        count.Open(QStringLiteral("SELECT COUNT(*) FROM ") + name, store);
+        rows[name] = count.FieldAt(0).Number();
+    }
+    return rows;
+}
+
+bool CopyBytes(const QString& from, OutputFile& to, const WorkProgress& progress) {
+    QFile file(from);
+    const QFileInfo before(from);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        ThrowReadFailure(file, file.errorString());
+    const int all = static_cast<int>(before.size() / CopiedAtOnce) + 1;
+    for (int done = 0;; ++done) {
+        if (!progress(done, std::max(done, all)))
+            return false;
+        const QByteArray bytes = file.read(CopiedAtOnce);
+        if (bytes.isEmpty())
+            break;
+        to.Write(bytes);
+    }
+    if (file.error() != QFileDevice::NoError)
+        ThrowReadFailure(file, file.errorString());
+    const QFileInfo after(from);
+    if (after.size() != before.size() || file.pos() != before.size() ||
+        after.lastModified() != before.lastModified())
+        ThrowReadFailure(file, Translate("The file was changed while it was read."));
+    return true;
+}
+
+void OpenCopy(Connection& copy, const QString& path) {
+    copy.Mode = adModeRead;
+    copy.Open(ConnectionText(path, StorePassword));
+}
+
+bool ProveCopy(const QString& path, const QMap<QString, qint64>& original,
+               const WorkProgress& progress) {
+    Connection copy;
+    OpenCopy(copy, path);
+    bool cancelled = false;
+    const QString fault = copy.FullCheck([&] {
+        cancelled = !progress(1, 1);
+        return !cancelled;
+    });
+    if (cancelled)
+        return false;
+    if (!fault.isEmpty())
+        throw RunTimeError(RunTimeErrorNumber::StoreEngine,
+                           Translate("The copy is damaged: ") + fault);
+    if (RowsPerTable(copy) != original)
+        throw RunTimeError(RunTimeErrorNumber::StoreEngine,
+                           Translate("The copy does not have the rows of the database."));
+    return true;
+}
