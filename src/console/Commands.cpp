@@ -21,6 +21,7 @@ std::vector<Command> Commands() {
     ADD(Export)
     ADD(Import)
     ADD(Archive)
+    ADD(Backup)
 #undef ADD
     return commands;
 }
