@@ -4,14 +4,15 @@
 #include "Clock.h"
 #include "FileDialogs.h"
 #include "Format.h"
+#include "FreeFile.h"
 #include "ProgressWindow.h"
 #include "StoreBackup.h"
+#include "frmArchive.h"
 #include "frmMain.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace {
 
@@ -22,23 +23,19 @@ FileRequest DatabaseFile(const char* title, const QString& name = {}) {
             QStringLiteral("mdb"), name};
 }
 
-/// Asks until the name is new. Empty if the operator cancels.
 QString AskForBackupName(QWidget* parent) {
-    const FileRequest request =
-        DatabaseFile(QT_TR_NOOP("Select backup destination"),
-                     QStringLiteral("WK_Backup_") + Format(Today(), QStringLiteral("yyyy-MM-dd")) +
-                         QStringLiteral(".mdb"));
-    for (;;) {
-        QString path = AskForNewFile(request, Translated, parent);
-        if (!QFileInfo::exists(path))
-            return path;
-        IvMessageBox(Translate("That filename is already in use. Please choose another filename"));
-    }
+    return AskForFreeFile(DatabaseFile(QT_TR_NOOP("Select backup destination"),
+                                       QStringLiteral("WK_Backup_") +
+                                           Format(Today(), QStringLiteral("yyyy-MM-dd")) +
+                                           QStringLiteral(".mdb")),
+                          parent);
 }
 
 } // namespace
 
-void frmMain::GoArchive() {}
+void frmMain::GoArchive() {
+    Guarded("frmMain::GoArchive", ErrorShow::Dialog, [this] { frmArchive(this).exec(); });
+}
 
 void frmMain::GoBackup() {
     Guarded("frmMain::GoBackup", ErrorShow::Dialog, [this] {
