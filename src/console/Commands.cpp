@@ -21,6 +21,7 @@ std::vector<Command> Commands() {
     ADD(Export)
     ADD(Import)
     ADD(Backup)
+    ADD(Check)
 #undef ADD
     return commands;
 }

@@ -30,7 +30,8 @@ QString AskForBackupName(QWidget* parent) {
                          QStringLiteral(".mdb"));
     for (;;) {
         QString path = AskForNewFile(request, Translated, parent);
-        if (!QFileInfo::exists(path))
+        const QFileInfo file(path);
+        if (!file.exists() && !file.isSymLink()) // a link may lead nowhere
             return path;
         IvMessageBox(Translate("That filename is already in use. Please choose another filename"));
     }
