@@ -20,6 +20,7 @@ std::vector<Command> Commands() {
     ADD(Erase)
     ADD(Export)
     ADD(Import)
+    ADD(Restore)
 #undef ADD
     return commands;
 }

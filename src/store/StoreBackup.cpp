@@ -6,7 +6,8 @@
 
 bool BackUpStore(const QString& target, const WorkProgress& progress) {
     OutputFile file(target, OutputFile::Older::Keep);
-    if (!CopyBytes(gDatabasePath, file, progress) ||
+    if (!CopyBytes(
+            gDatabasePath, [&](const QByteArray& bytes) { file.Write(bytes); }, progress) ||
         !ProveCopy(file.Finish(), RowsPerTable(*gConn), progress))
         return false;
     file.Commit();
