@@ -22,6 +22,7 @@ std::vector<Command> Commands() {
     ADD(Import)
     ADD(Archive)
     ADD(Backup)
+    ADD(Restore)
 #undef ADD
     return commands;
 }

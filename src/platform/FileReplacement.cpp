@@ -24,6 +24,13 @@ namespace {
 
 } // namespace
 
+QString FileMeantBy(const QString& path) {
+    const QFileInfo given(path);
+    if (given.exists())
+        return given.canonicalFilePath();
+    return given.isSymLink() ? given.symLinkTarget() : path;
+}
+
 #ifdef Q_OS_WIN
 
 int FileErrorNumber() {

@@ -2,6 +2,9 @@
 
 #include <QString>
 
+/// The file that a symbolic link means, or the path itself. The file need not exist.
+QString FileMeantBy(const QString& path);
+
 /// Files that must survive a killed program and a power cut. Everything that fails throws
 /// RunTimeError with the file's name and the cause; its number is that of FileErrorNumber.
 
