@@ -1528,6 +1528,26 @@
         <translation>Die Kopie hat nicht die Zeilen der Datenbank.</translation>
     </message>
     <message>
+        <source>Save As</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>Comma Delimited Text (*.csv)</source>
+        <translation>Durch Kommas getrennter Text (*.csv)</translation>
+    </message>
+    <message>
+        <source>Archive Events</source>
+        <translation>Ereignisse archivieren</translation>
+    </message>
+    <message>
+        <source>The events of these days are moved into a file, from the first day to the last, and deleted from the database. They cannot be brought back from the file.</source>
+        <translation>Die Ereignisse dieser Tage, vom ersten bis zum letzten, werden in eine Datei verschoben und aus der Datenbank gelöscht. Aus der Datei lassen sie sich nicht zurückholen.</translation>
+    </message>
+    <message>
+        <source>Warning: This action will permanently delete the events from the database.</source>
+        <translation>Achtung: Die Ereignisse werden endgültig aus der Datenbank gelöscht.</translation>
+    </message>
+    <message>
         <source>Select location of backup database file</source>
         <translation>Sicherung der Datenbank auswählen</translation>
     </message>
@@ -1546,6 +1566,38 @@
     <message>
         <source>Are you sure you want to continue?</source>
         <translation>Wirklich fortfahren?</translation>
+    </message>
+    <message>
+        <source>There are no stored events within the dates you entered.</source>
+        <translation>In diesem Zeitraum sind keine Ereignisse gespeichert.</translation>
+    </message>
+    <message>
+        <source>File Save Error: Archive Not Saved.  Please Try again.</source>
+        <translation>Fehler beim Speichern: Das Archiv wurde nicht gespeichert.  Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Events Archived Successfully</source>
+        <translation>Die Ereignisse wurden archiviert</translation>
+    </message>
+    <message>
+        <source>Number of Events =</source>
+        <translation>Zahl der Ereignisse =</translation>
+    </message>
+    <message>
+        <source>FileName = </source>
+        <translation>Dateiname = </translation>
+    </message>
+    <message>
+        <source>The events are written to the file and then deleted from the database.</source>
+        <translation>Die Ereignisse werden in die Datei geschrieben und dann aus der Datenbank gelöscht.</translation>
+    </message>
+    <message>
+        <source>%0:s events were written, but the database deleted %1:s. Nothing was archived.</source>
+        <translation>%0:s Ereignisse wurden geschrieben, aber die Datenbank löschte %1:s. Es wurde nichts archiviert.</translation>
+    </message>
+    <message>
+        <source>The events were written to %0:s, but they are still in the database: %1:s</source>
+        <translation>Die Ereignisse wurden in die Datei %0:s geschrieben, sind aber noch in der Datenbank: %1:s</translation>
     </message>
     <message>
         <source>Restore</source>

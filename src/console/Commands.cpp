@@ -20,6 +20,8 @@ std::vector<Command> Commands() {
     ADD(Erase)
     ADD(Export)
     ADD(Import)
+    ADD(Archive)
+    ADD(Backup)
     ADD(Restore)
 #undef ADD
     return commands;

@@ -14,11 +14,15 @@
 
 namespace {
 
+/// Of the target's name in that of its temporary file. A letter has at most three bytes, and a name
+/// at most 255.
+constexpr int LettersOfTarget = 60;
+
 /// Beside the target, because only within one folder can a file replace another atomically.
 QString PartPath(const QFileInfo& target) {
     return target.dir().filePath(
         QStringLiteral(".%1.%2.part")
-            .arg(target.fileName().left(100))
+            .arg(target.fileName().left(LettersOfTarget))
             .arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0')));
 }
 
@@ -75,6 +79,8 @@ OutputFile::~OutputFile() {
         QFile::remove(m_device->fileName());
 }
 
+void OutputFile::TakeRightsOf(const QString& path) { KeepOwnerAndMode(path, m_device->fileName()); }
+
 void OutputFile::Write(const QByteArray& bytes) {
     if (m_device->write(bytes) != bytes.size())
         Fail();
@@ -125,7 +131,8 @@ void OutputFile::CopyOver() {
 
 QString OutputFile::CauseOfFailure(QIODevice& device) {
     // An incomplete write does not give a cause. The next write does.
-    if (auto* file = qobject_cast<QFileDevice*>(&device)) {
+    auto* file = qobject_cast<QFileDevice*>(&device);
+    if (file && file->isOpen()) {
         file->putChar('\n');
         file->flush();
     }
@@ -139,7 +146,7 @@ void OutputFile::Refuse(const QString& cause) const {
 }
 
 void OutputFile::Fail() const {
-    throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                       QStringLiteral("The file \"%1\" cannot be written: %2")
-                           .arg(QDir::toNativeSeparators(m_target), CauseOfFailure(*m_device)));
+    const QString cause = CauseOfFailure(*m_device);
+    throw RunTimeError(FileErrorNumber(), QStringLiteral("The file \"%1\" cannot be written: %2")
+                                              .arg(QDir::toNativeSeparators(m_target), cause));
 }

@@ -28,6 +28,7 @@ constexpr int SubscriptOutOfRange = 9;
 constexpr int WrongLength = 10;
 constexpr int TypeMismatch = 13;
 constexpr int FileNotFound = 53;
+constexpr int DeviceError = 57; ///< a disk or the network reports an error
 constexpr int DiskFull = 61;
 constexpr int PermissionDenied = 70;
 constexpr int InvalidPropertyValue = 380;
@@ -39,4 +40,7 @@ constexpr int ObjectOpen = 3705;       ///< the object is open already
 constexpr int PortNotAvailable = 8002; ///< no such serial device, or it cannot be opened
 constexpr int PortNotOpen = 8018;      ///< reading or writing a closed port
 constexpr int StoreEngine = 10000;     ///< plus the engine's result code
+constexpr int StoreReadOnly = StoreEngine + 8;
+constexpr int StoreDamaged = StoreEngine + 11;
+constexpr int StoreCannotOpen = StoreEngine + 14;
 } // namespace RunTimeErrorNumber

@@ -1,6 +1,8 @@
 #include "StoreCopy.h"
 
 #include "Connection.h"
+#include "Engine.h"
+#include "JournalTrial.h"
 #include "Recordset.h"
 #include "RunTimeError.h"
 #include "StorePassword.h"
@@ -10,7 +12,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 namespace {
 
@@ -21,18 +22,37 @@ constexpr qint64 CopiedAtOnce = 64 * 1024;
                        QDir::toNativeSeparators(file.fileName()) + QStringLiteral(": ") + cause);
 }
 
+QString CauseOfNotOpening(const RunTimeError& error, const QString& path) {
+    const bool unfinished = QFileInfo(JournalOf(path)).size() > 0;
+    switch (error.Number()) {
+    case RunTimeErrorNumber::FileNotFound:
+        return Translate("The file does not exist.");
+    case RunTimeErrorNumber::StoreReadOnly:
+    case RunTimeErrorNumber::StoreCannotOpen:
+        return unfinished
+                   ? Translate("A program was killed while it wrote to this file. Its journal "
+                               "is still beside it.")
+                   : Translate("You do not have permission to read this file.");
+    default:
+        return IsDamage(error.Number())
+                   ? Translate("It is not a database of this program, or it is damaged.")
+                   : error.Description();
+    }
+}
+
 } // namespace
 
 QMap<QString, qint64> RowsPerTable(Connection& store) {
-    static const QRegularExpression plainName(QStringLiteral("^\\w+$"));
     QMap<QString, qint64> rows;
     const auto tables = store.OpenSchema();
     for (; !tables->Eof(); tables->MoveNext()) {
         const QString name = tables->Text(u"TABLE_NAME");
-        if (tables->Text(u"TABLE_TYPE") != u"table" || !plainName.match(name).hasMatch())
+        if (tables->Text(u"TABLE_TYPE") != u"table")
             continue;
         Recordset count;
-        count.Open(QStringLiteral("SELECT COUNT(*) FROM ") + name, store);
+        count.Open(QStringLiteral("SELECT COUNT(*) FROM \"") +
+                       QString(name).replace(u'"', QStringLiteral("\"\"")) + u'"',
+                   store);
         rows[name] = count.FieldAt(0).Number();
     }
     return rows;
@@ -64,7 +84,12 @@ bool CopyBytes(const QString& from, const std::function<void(const QByteArray&)>
 
 void OpenCopy(Connection& copy, const QString& path) {
     copy.Mode = adModeRead;
-    copy.Open(ConnectionText(path, StorePassword));
+    try {
+        copy.Open(ConnectionText(path, StorePassword));
+    } catch (const RunTimeError& error) {
+        throw RunTimeError(error.Number(), QDir::toNativeSeparators(path) + QStringLiteral(": ") +
+                                               CauseOfNotOpening(error, path));
+    }
 }
 
 std::optional<QString> FaultOf(Connection& store, const WorkProgress& progress) {
@@ -84,7 +109,7 @@ bool ProveCopy(const QString& path, const QMap<QString, qint64>& original,
     if (!fault)
         return false;
     if (!fault->isEmpty())
-        throw RunTimeError(RunTimeErrorNumber::StoreEngine,
+        throw RunTimeError(RunTimeErrorNumber::StoreDamaged,
                            Translate("The copy is damaged: ") + *fault);
     if (RowsPerTable(copy) != original)
         throw RunTimeError(RunTimeErrorNumber::StoreEngine,
