@@ -1540,8 +1540,8 @@
         <translation>Ereignisse archivieren</translation>
     </message>
     <message>
-        <source>The events of these days are moved into a file, from the first day to the last, and deleted from the database. They cannot be brought back from the file.</source>
-        <translation>Die Ereignisse dieser Tage, vom ersten bis zum letzten, werden in eine Datei verschoben und aus der Datenbank gelöscht. Aus der Datei lassen sie sich nicht zurückholen.</translation>
+        <source>Choose the first and the last day. Their events are moved into a file and deleted from the database. They cannot be brought back from the file.</source>
+        <translation>Bitte den ersten und den letzten Tag wählen. Ihre Ereignisse werden in eine Datei verschoben und aus der Datenbank gelöscht. Aus der Datei lassen sie sich nicht zurückholen.</translation>
     </message>
     <message>
         <source>Warning: This action will permanently delete the events from the database.</source>
