@@ -20,6 +20,7 @@ std::vector<Command> Commands() {
     ADD(Erase)
     ADD(Export)
     ADD(Import)
+    ADD(Dump)
 #undef ADD
     return commands;
 }
