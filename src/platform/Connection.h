@@ -52,6 +52,13 @@ public:
     /// rows that it changed; those that a trigger changed count too.
     int Execute(const QString& statement, const Values& values = {});
 
+    /// From now on, only statements that read can run. Where they name `table` they get the rows of
+    /// `standIn`, a SELECT. The table itself cannot be read any more, in no way.
+    void OnlyRead(const QString& table, const QString& standIn);
+    /// Calls `goOn` now and then while a statement runs, at least every few milliseconds. False
+    /// ends the statement with the failure Interrupted.
+    void WhileRunning(std::function<bool()> goOn);
+
     /// The first fault that the engine's own check finds in the store; empty if there is none.
     /// Reads the whole store.
     QString QuickCheck() const;
