@@ -20,8 +20,11 @@ std::vector<Command> Commands() {
     ADD(Erase)
     ADD(Export)
     ADD(Import)
+    ADD(Archive)
     ADD(Backup)
+    ADD(Restore)
     ADD(Check)
+    ADD(Dump)
 #undef ADD
     return commands;
 }

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <set>
 #include <sqlcipher/sqlite3.h>
 
 namespace {
@@ -119,8 +120,26 @@ int Connection::Execute(const QString& statement, const Values& values) {
     const EngineSql sql = TranslateSql(statement);
     if (sql.text.isEmpty())
         return 0;
+    const int before = sqlite3_total_changes(m_engine->Handle());
     RunOn(m_engine, sql.text.constData(), values);
-    return sqlite3_changes(m_engine->Handle());
+    return sqlite3_total_changes(m_engine->Handle()) - before;
+}
+
+void Connection::OnlyRead(const QString& table, const QString& standIn) {
+    Execute(QStringLiteral("CREATE TEMP TABLE %1 AS %2").arg(table, standIn));
+    std::set<int> roots;
+    Statement pages(m_engine, "SELECT rootpage FROM main.sqlite_master WHERE tbl_name = ? "
+                              "COLLATE NOCASE");
+    pages.Bind({table});
+    while (pages.Step())
+        roots.insert(sqlite3_column_int(pages.Handle(), 0));
+    m_engine->OnlyRead(std::move(roots));
+}
+
+void Connection::WhileRunning(std::function<bool()> goOn) {
+    if (!m_engine)
+        ThrowClosed();
+    m_engine->WhileRunning(std::move(goOn));
 }
 
 QString Connection::QuickCheck() const {
@@ -132,10 +151,8 @@ QString Connection::QuickCheck() const {
 QString Connection::FullCheck(const std::function<bool()>& goOn) const {
     if (!m_engine)
         ThrowClosed();
-    m_engine->WhileRunning(goOn);
-    const QString fault = FirstFault(m_engine, Check::Full);
-    m_engine->WhileRunning({});
-    return fault;
+    const Supervision supervision(*this, goOn);
+    return FirstFault(m_engine, Check::Full);
 }
 
 void Connection::BeginTrans() { Execute(QStringLiteral("BEGIN IMMEDIATE")); }
@@ -169,6 +186,13 @@ void Transaction::Commit() {
     m_connection.CommitTrans();
     m_open = false;
 }
+
+Supervision::Supervision(const Connection& connection, std::function<bool()> goOn)
+    : m_engine(connection.OpenEngine()) {
+    m_engine->WhileRunning(std::move(goOn));
+}
+
+Supervision::~Supervision() { m_engine->WhileRunning({}); }
 
 void CreateStoreFile(const QString& path, const QString& password) {
     if (QFileInfo::exists(path))

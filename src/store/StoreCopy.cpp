@@ -3,7 +3,6 @@
 #include "Connection.h"
 #include "Engine.h"
 #include "JournalTrial.h"
-#include "OutputFile.h"
 #include "RunTimeError.h"
 #include "StorePassword.h"
 #include "TableExists.h"
@@ -50,7 +49,8 @@ QMap<QString, int> RowsPerTable(Connection& store) {
     return rows;
 }
 
-bool CopyBytes(const QString& from, OutputFile& to, const WorkProgress& progress) {
+bool CopyBytes(const QString& from, const std::function<void(const QByteArray&)>& write,
+               const WorkProgress& progress) {
     QFile file(from);
     const QFileInfo before(from);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
@@ -62,7 +62,7 @@ bool CopyBytes(const QString& from, OutputFile& to, const WorkProgress& progress
         const QByteArray bytes = file.read(CopiedAtOnce);
         if (bytes.isEmpty())
             break;
-        to.Write(bytes);
+        write(bytes);
     }
     if (file.error() != QFileDevice::NoError)
         ThrowReadFailure(file, file.errorString());
@@ -83,20 +83,25 @@ void OpenCopy(Connection& copy, const QString& path) {
     }
 }
 
+std::optional<QString> FaultOf(Connection& store, const WorkProgress& progress) {
+    bool cancelled = false;
+    const QString fault = store.FullCheck([&] {
+        cancelled = !progress(1, 1);
+        return !cancelled;
+    });
+    return cancelled ? std::optional<QString>() : fault;
+}
+
 bool ProveCopy(const QString& path, const QMap<QString, int>& original,
                const WorkProgress& progress) {
     Connection copy;
     OpenCopy(copy, path);
-    bool cancelled = false;
-    const QString fault = copy.FullCheck([&] {
-        cancelled = !progress(1, 1);
-        return !cancelled;
-    });
-    if (cancelled)
+    const auto fault = FaultOf(copy, progress);
+    if (!fault)
         return false;
-    if (!fault.isEmpty())
+    if (!fault->isEmpty())
         throw RunTimeError(RunTimeErrorNumber::StoreDamaged,
-                           Translate("The copy is damaged: ") + fault);
+                           Translate("The copy is damaged: ") + *fault);
     if (RowsPerTable(copy) != original)
         throw RunTimeError(RunTimeErrorNumber::StoreEngine,
                            Translate("The copy does not have the rows of the database."));

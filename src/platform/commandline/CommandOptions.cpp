@@ -211,6 +211,24 @@ void AddOptionalText(CLI::App& options, const char* name, QString& value, const 
     });
 }
 
+void AddWordOrOption(CLI::App& options, const char* word, QString& wordValue, const char* wordHelp,
+                     const char* option, QString& optionValue, const char* optionHelp) {
+    const auto add = [&](const char* name, QString& value, const char* help) {
+        return AddValue(options, name, "", help, Presence::Optional,
+                        [&value](const QString& text) -> std::optional<QString> {
+                            value = text;
+                            return {};
+                        });
+    };
+    add(word, wordValue, wordHelp);
+    add(option, optionValue, optionHelp);
+    options.callback([=, &wordValue, &optionValue] {
+        if (wordValue.isEmpty() == optionValue.isEmpty())
+            throw UsageError(QStringLiteral("either %1 or %2 must be given")
+                                 .arg(QString::fromUtf8(word), QString::fromUtf8(option)));
+    });
+}
+
 void AddWord(CLI::App& options, const char* name, const QStringList& words,
              const std::function<void(qsizetype)>& store, const char* help, Presence presence) {
     AddValue(options, name, words.join(u'|').toUtf8().constData(), help, presence,
