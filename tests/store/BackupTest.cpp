@@ -138,7 +138,7 @@ private slots:
 
     void CheckFindsWhatIsMissingOrLost() {
         QCOMPARE(ExamineStore(*gConn).Faults(), QStringList());
-        gConn->Execute("CREATE TABLE [odd 'name] (a TEXT)");
+        gConn->Execute("CREATE TABLE \"odd 'name\" (a TEXT)");
         gConn->Execute("DELETE * FROM tblTours WHERE ID = 1");
         gConn->Execute("UPDATE tblButtons SET lParentID = NULL WHERE ID = 1");
         gConn->Execute("UPDATE tblTourPoints SET tButtonCode = 'FFFFFF' WHERE ID = 2");
