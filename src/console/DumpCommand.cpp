@@ -33,7 +33,7 @@ Command DumpCommand() {
                 const auto what = std::make_shared<DumpOptions>();
                 AddWordOrOption(options, "TABLE", what->table,
                                 "a table, or \"schema\" for the names of all tables", "--query",
-                                what->query, "an SQL statement that reads");
+                                "SQL", what->query, "an SQL statement that reads");
                 AddOutput(options, what->path);
                 return [what](const ConsoleBoxes&) {
                     if (what->path.isEmpty()) {
