@@ -9,6 +9,7 @@
 #include "frmAddReader.h"
 #include "frmCompany.h"
 #include "frmCopyTour.h"
+#include "frmDebugData.h"
 #include "frmDownload.h"
 #include "frmEditButton.h"
 #include "frmEditReader.h"
@@ -83,9 +84,9 @@ std::map<QString, Maker> MakersOf() {
 
 std::map<QString, Maker> AllMakers() {
     auto makers =
-        MakersOf<frmAddButton, frmAddReader, frmCompany, frmCopyTour, frmDownload, frmEditButton,
-                 frmEditReader, frmEditTime, frmGoOnline, frmLogin, frmMDISetup, frmMain,
-                 frmManualID, frmMdiDownload, frmMdiMenu, frmMdiReports, frmPrpComms,
+        MakersOf<frmAddButton, frmAddReader, frmCompany, frmCopyTour, frmDebugData, frmDownload,
+                 frmEditButton, frmEditReader, frmEditTime, frmGoOnline, frmLogin, frmMDISetup,
+                 frmMain, frmManualID, frmMdiDownload, frmMdiMenu, frmMdiReports, frmPrpComms,
                  frmRptHardwareListParam, frmRptPatrolSchedule, frmRptCustomParam,
                  frmRptReaderReport, frmRptIncidentNew, frmRptIncidentParam, frmRptTour, frmSetTime,
                  frmSplash, frmUserMaintenance>();
