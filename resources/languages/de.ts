@@ -1527,5 +1527,125 @@
         <source>The copy does not have the rows of the database.</source>
         <translation>Die Kopie hat nicht die Zeilen der Datenbank.</translation>
     </message>
+    <message>
+        <source>Save As</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>Comma Delimited Text (*.csv)</source>
+        <translation>Durch Kommas getrennter Text (*.csv)</translation>
+    </message>
+    <message>
+        <source>Archive Events</source>
+        <translation>Ereignisse archivieren</translation>
+    </message>
+    <message>
+        <source>Choose the first and the last day. Their events are moved into a file and deleted from the database. They cannot be brought back from the file.</source>
+        <translation>Bitte den ersten und den letzten Tag wählen. Ihre Ereignisse werden in eine Datei verschoben und aus der Datenbank gelöscht. Aus der Datei lassen sie sich nicht zurückholen.</translation>
+    </message>
+    <message>
+        <source>Warning: This action will permanently delete the events from the database.</source>
+        <translation>Achtung: Die Ereignisse werden endgültig aus der Datenbank gelöscht.</translation>
+    </message>
+    <message>
+        <source>Select location of backup database file</source>
+        <translation>Sicherung der Datenbank auswählen</translation>
+    </message>
+    <message>
+        <source>That filename cannot be found. Please choose another filename</source>
+        <translation>Dieser Dateiname wurde nicht gefunden. Bitte einen anderen Dateinamen wählen</translation>
+    </message>
+    <message>
+        <source>This file is the database itself. Please choose a backup of it.</source>
+        <translation>Diese Datei ist die Datenbank selbst. Bitte eine Sicherung von ihr wählen.</translation>
+    </message>
+    <message>
+        <source>Warning: This action will delete the existing database. You will loose ALL data in the existing database.</source>
+        <translation>Warnung: Diese Aktion löscht die vorhandene Datenbank. ALLE Daten der vorhandenen Datenbank gehen verloren.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to continue?</source>
+        <translation>Wirklich fortfahren?</translation>
+    </message>
+    <message>
+        <source>There are no stored events within the dates you entered.</source>
+        <translation>In diesem Zeitraum sind keine Ereignisse gespeichert.</translation>
+    </message>
+    <message>
+        <source>File Save Error: Archive Not Saved.  Please Try again.</source>
+        <translation>Fehler beim Speichern: Das Archiv wurde nicht gespeichert.  Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Events Archived Successfully</source>
+        <translation>Die Ereignisse wurden archiviert</translation>
+    </message>
+    <message>
+        <source>Number of Events =</source>
+        <translation>Zahl der Ereignisse =</translation>
+    </message>
+    <message>
+        <source>FileName = </source>
+        <translation>Dateiname = </translation>
+    </message>
+    <message>
+        <source>The events are written to the file and then deleted from the database.</source>
+        <translation>Die Ereignisse werden in die Datei geschrieben und dann aus der Datenbank gelöscht.</translation>
+    </message>
+    <message>
+        <source>%0:s events were written, but the database deleted %1:s. Nothing was archived.</source>
+        <translation>%0:s Ereignisse wurden geschrieben, aber die Datenbank löschte %1:s. Es wurde nichts archiviert.</translation>
+    </message>
+    <message>
+        <source>The events were written to %0:s, but they are still in the database: %1:s</source>
+        <translation>Die Ereignisse wurden in die Datei %0:s geschrieben, sind aber noch in der Datenbank: %1:s</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Zurückspielen</translation>
+    </message>
+    <message>
+        <source>The backup is being copied and checked.</source>
+        <translation>Die Sicherung wird kopiert und geprüft.</translation>
+    </message>
+    <message>
+        <source>The database is in use. Waiting until it is free.</source>
+        <translation>Die Datenbank ist in Benutzung. Es wird gewartet, bis sie frei ist.</translation>
+    </message>
+    <message>
+        <source>Successfully copied the database</source>
+        <translation>Die Datenbank wurde kopiert</translation>
+    </message>
+    <message>
+        <source>Warning : The program will now close.</source>
+        <translation>Warnung: Das Programm wird jetzt geschlossen.</translation>
+    </message>
+    <message>
+        <source>Please restart the program to continue.</source>
+        <translation>Bitte das Programm neu starten, um weiterzuarbeiten.</translation>
+    </message>
+    <message>
+        <source>The database was not restored. It is as it was before.</source>
+        <translation>Die Sicherung wurde nicht zurückgespielt. Die Datenbank ist, wie sie war.</translation>
+    </message>
+    <message>
+        <source>The chosen file is not a database of this program.</source>
+        <translation>Die gewählte Datei ist keine Datenbank dieses Programms.</translation>
+    </message>
+    <message>
+        <source>The chosen file is not a database of this program, its password is different, or it is damaged.</source>
+        <translation>Die gewählte Datei ist keine Datenbank dieses Programms, ihr Kennwort ist ein anderes, oder sie ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The chosen file is damaged: </source>
+        <translation>Die gewählte Datei ist beschädigt: </translation>
+    </message>
+    <message>
+        <source>Another program has used the database meanwhile. Please try again.</source>
+        <translation>Ein anderes Programm hat die Datenbank inzwischen benutzt. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The database was restored, but the disk reported an error. Please check it.</source>
+        <translation>Die Sicherung wurde zurückgespielt, aber der Datenträger meldete einen Fehler. Bitte prüfen.</translation>
+    </message>
 </context>
 </TS>

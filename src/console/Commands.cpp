@@ -20,6 +20,9 @@ std::vector<Command> Commands() {
     ADD(Erase)
     ADD(Export)
     ADD(Import)
+    ADD(Archive)
+    ADD(Backup)
+    ADD(Restore)
     ADD(Dump)
 #undef ADD
     return commands;

@@ -20,7 +20,7 @@ void Dump(const DumpOptions& what, const TakeText& take) {
     const auto store = OpenForReading();
     // Ctrl+C ends the statement, so that no half-written file is left.
     std::signal(SIGINT, [](int) { g_interrupted = 1; });
-    store->WhileRunning([] { return g_interrupted == 0; });
+    const Supervision supervision(*store, [] { return g_interrupted == 0; });
     if (what.table == u"schema") {
         WriteSchema(*store, SchemaTitle, take);
         return;

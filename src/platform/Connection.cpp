@@ -120,8 +120,9 @@ int Connection::Execute(const QString& statement, const Values& values) {
     const EngineSql sql = TranslateSql(statement);
     if (sql.text.isEmpty())
         return 0;
+    const int before = sqlite3_total_changes(m_engine->Handle());
     RunOn(m_engine, sql.text.constData(), values);
-    return sqlite3_changes(m_engine->Handle());
+    return sqlite3_total_changes(m_engine->Handle()) - before;
 }
 
 void Connection::OnlyRead(const QString& table, const QString& standIn) {
@@ -135,12 +136,6 @@ void Connection::OnlyRead(const QString& table, const QString& standIn) {
     m_engine->OnlyRead(std::move(roots));
 }
 
-void Connection::WhileRunning(std::function<bool()> goOn) {
-    if (!m_engine)
-        ThrowClosed();
-    m_engine->WhileRunning(std::move(goOn));
-}
-
 QString Connection::QuickCheck() const {
     if (!m_engine)
         ThrowClosed();
@@ -150,10 +145,8 @@ QString Connection::QuickCheck() const {
 QString Connection::FullCheck(const std::function<bool()>& goOn) const {
     if (!m_engine)
         ThrowClosed();
-    m_engine->WhileRunning(goOn);
-    const QString fault = FirstFault(m_engine, Check::Full);
-    m_engine->WhileRunning({});
-    return fault;
+    const Supervision supervision(*this, goOn);
+    return FirstFault(m_engine, Check::Full);
 }
 
 void Connection::BeginTrans() { Execute(QStringLiteral("BEGIN IMMEDIATE")); }
@@ -187,6 +180,13 @@ void Transaction::Commit() {
     m_connection.CommitTrans();
     m_open = false;
 }
+
+Supervision::Supervision(const Connection& connection, std::function<bool()> goOn)
+    : m_engine(connection.OpenEngine()) {
+    m_engine->WhileRunning(std::move(goOn));
+}
+
+Supervision::~Supervision() { m_engine->WhileRunning({}); }
 
 void CreateStoreFile(const QString& path, const QString& password) {
     if (QFileInfo::exists(path))

@@ -49,15 +49,12 @@ public:
     const QString& ForeignJournal() const { return m_foreignJournal; }
 
     /// Runs one statement in the store's dialect, with a value for each "?". Gives the number of
-    /// rows that it changed.
+    /// rows that it changed; those that a trigger changed count too.
     int Execute(const QString& statement, const Values& values = {});
 
     /// From now on, only statements that read can run. Where they name `table` they get the rows of
     /// `standIn`, a SELECT. The table itself cannot be read any more, in no way.
     void OnlyRead(const QString& table, const QString& standIn);
-    /// Calls `goOn` now and then while a statement runs, at least every few milliseconds. False
-    /// ends the statement with the failure Interrupted.
-    void WhileRunning(std::function<bool()> goOn);
 
     /// The first fault that the engine's own check finds in the store; empty if there is none.
     /// Reads the whole store.
@@ -100,6 +97,20 @@ public:
 private:
     Connection& m_connection;
     bool m_open = true;
+};
+
+/// While it exists, `goOn` is called now and then while a statement of the connection runs, at
+/// least every few milliseconds. Once it gives false, the statement fails with Interrupted. `goOn`
+/// must not use the connection. An empty routine is never called.
+class Supervision {
+public:
+    Supervision(const Connection& connection, std::function<bool()> goOn);
+    ~Supervision();
+    Supervision(const Supervision&) = delete;
+    Supervision& operator=(const Supervision&) = delete;
+
+private:
+    std::shared_ptr<Engine> m_engine;
 };
 
 /// A value in the form for a connection text, in quotes if it needs them.

@@ -24,14 +24,25 @@ namespace {
 
 } // namespace
 
+QString FileMeantBy(const QString& path) {
+    const QFileInfo given(path);
+    if (given.exists())
+        return given.canonicalFilePath();
+    return given.isSymLink() ? given.symLinkTarget() : path;
+}
+
 #ifdef Q_OS_WIN
 
-void ThrowFileError(const QString& path) {
+int FileErrorNumber() {
     const DWORD error = GetLastError();
-    const int number = error == ERROR_DISK_FULL       ? RunTimeErrorNumber::DiskFull
-                       : error == ERROR_ACCESS_DENIED ? RunTimeErrorNumber::PermissionDenied
-                                                      : RunTimeErrorNumber::FileNotFound;
-    Throw(number, path, qt_error_string(static_cast<int>(error)));
+    return error == ERROR_DISK_FULL       ? RunTimeErrorNumber::DiskFull
+           : error == ERROR_ACCESS_DENIED ? RunTimeErrorNumber::PermissionDenied
+           : error == ERROR_IO_DEVICE     ? RunTimeErrorNumber::DeviceError
+                                          : RunTimeErrorNumber::FileNotFound;
+}
+
+void ThrowFileError(const QString& path) {
+    Throw(FileErrorNumber(), path, qt_error_string(static_cast<int>(GetLastError())));
 }
 
 namespace {
@@ -67,14 +78,25 @@ void KeepOwnerAndMode(const QString&, const QString&) {}
 
 #else
 
+int FileErrorNumber() {
+    switch (errno) {
+    case ENOSPC:
+    case EDQUOT:
+        return RunTimeErrorNumber::DiskFull;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return RunTimeErrorNumber::PermissionDenied;
+    case EIO:
+        return RunTimeErrorNumber::DeviceError;
+    default:
+        return RunTimeErrorNumber::FileNotFound;
+    }
+}
+
 void ThrowFileError(const QString& path) {
     const int error = errno;
-    const bool full = error == ENOSPC || error == EDQUOT;
-    const bool denied = error == EACCES || error == EPERM || error == EROFS;
-    Throw(full     ? RunTimeErrorNumber::DiskFull
-          : denied ? RunTimeErrorNumber::PermissionDenied
-                   : RunTimeErrorNumber::FileNotFound,
-          path, qt_error_string(error));
+    Throw(FileErrorNumber(), path, qt_error_string(error));
 }
 
 namespace {
@@ -83,13 +105,30 @@ void SyncPath(const QString& path, int flags) {
     const int file = ::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC);
     if (file < 0)
         ThrowFileError(path);
-    if (::fsync(file) != 0) {
+    // Some file systems cannot sync a folder. They say so with EINVAL.
+    const bool isFolder = (flags & O_DIRECTORY) != 0;
+    if (::fsync(file) != 0 && !(isFolder && errno == EINVAL)) {
         const int error = errno;
         ::close(file);
         errno = error;
         ThrowFileError(path);
     }
     ::close(file);
+}
+
+/// Takes the new name with an empty file, which fails if there is a file already, and replaces that
+/// one. If the program is killed in between, the empty file is left.
+void RenameOverOwn(const QByteArray& source, const QByteArray& target, const QString& to) {
+    const int own = ::open(target.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (own < 0)
+        ThrowFileError(to);
+    ::close(own);
+    if (std::rename(source.constData(), target.constData()) != 0) {
+        const int error = errno;
+        ::unlink(target.constData());
+        errno = error;
+        ThrowFileError(to);
+    }
 }
 
 void SyncFolderOf(const QString& path) {
@@ -116,9 +155,14 @@ void PlaceNewFile(const QString& from, const QString& to) {
     if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) !=
         0) {
         // A file system without this call may have hard links.
-        if (errno != EINVAL || ::link(source.constData(), target.constData()) != 0)
+        if (errno != EINVAL)
             ThrowFileError(to);
-        ::unlink(source.constData());
+        if (::link(source.constData(), target.constData()) == 0)
+            ::unlink(source.constData());
+        else if (errno == EPERM || errno == EOPNOTSUPP)
+            RenameOverOwn(source, target, to);
+        else
+            ThrowFileError(to);
     }
     SyncFolderOf(to);
 }
@@ -133,7 +177,8 @@ void KeepOwnerAndMode(const QString& from, const QString& to) {
     if (::chown(target.constData(), old.st_uid, old.st_gid) != 0 &&
         ::chown(target.constData(), static_cast<uid_t>(-1), old.st_gid) != 0)
         mode &= ~static_cast<mode_t>(S_IRWXG);
-    if (::chmod(target.constData(), mode) != 0)
+    // A disk that knows no rights, such as most USB sticks, answers EPERM.
+    if (::chmod(target.constData(), mode) != 0 && errno != EPERM && errno != EOPNOTSUPP)
         ThrowFileError(to);
 }
 

@@ -2,20 +2,26 @@
 
 #include <QString>
 
-/// Files that must survive a killed program and a power cut. Everything that fails throws
-/// RunTimeError with the file's name and the cause; its number is DiskFull, PermissionDenied or
-/// FileNotFound.
+/// The file that a symbolic link means, or the path itself. The file need not exist.
+QString FileMeantBy(const QString& path);
 
-/// Writes a file's data and its folder entry to the disk.
+/// Files that must survive a killed program and a power cut. Everything that fails throws
+/// RunTimeError with the file's name and the cause; its number is that of FileErrorNumber.
+
+/// Writes a file's data and its folder entry to the disk. The entry is left to the system if its
+/// file system cannot sync a folder.
 void SyncFile(const QString& path);
 /// Atomically replaces `to` by `from`, which must be in the same folder. `from` is synced first. At
 /// every moment, `to` is the complete old or the complete new file.
 void ReplaceFile(const QString& from, const QString& to);
 /// The same, but throws if `to` exists: an existing file is never replaced.
 void PlaceNewFile(const QString& from, const QString& to);
-/// Gives `to` the owner, group and mode of `from`, as far as the system allows. If the group cannot
-/// be set, the group gets no rights.
+/// Gives `to` the owner, group and mode of `from`, as far as the system and the disk allow. If the
+/// group cannot be set, the group gets no rights.
 void KeepOwnerAndMode(const QString& from, const QString& to);
 
-/// After a failed call of the operating system: throws its current error (errno).
+/// The number of the operating system's current error (errno): DiskFull, PermissionDenied,
+/// DeviceError, or FileNotFound for any other.
+int FileErrorNumber();
+/// After a failed call of the operating system: throws its current error.
 [[noreturn]] void ThrowFileError(const QString& path);

@@ -14,20 +14,16 @@
 
 namespace {
 
+/// Of the target's name in that of its temporary file. A letter has at most three bytes, and a name
+/// at most 255.
+constexpr int LettersOfTarget = 60;
+
 /// Beside the target, because only within one folder can a file replace another atomically.
 QString PartPath(const QFileInfo& target) {
     return target.dir().filePath(
         QStringLiteral(".%1.%2.part")
-            .arg(target.fileName().left(100))
+            .arg(target.fileName().left(LettersOfTarget))
             .arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0')));
-}
-
-/// The file that a symbolic link means, or the path itself. The file need not exist.
-QFileInfo FileMeantBy(const QString& path) {
-    const QFileInfo given(path);
-    if (given.exists())
-        return QFileInfo(given.canonicalFilePath());
-    return given.isSymLink() ? QFileInfo(given.symLinkTarget()) : given;
 }
 
 bool IsRefusal(int error) { return error == EACCES || error == EPERM; }
@@ -35,7 +31,7 @@ bool IsRefusal(int error) { return error == EACCES || error == EPERM; }
 } // namespace
 
 OutputFile::OutputFile(const QString& path, Older older) {
-    const QFileInfo target = older == Older::Keep ? QFileInfo(path) : FileMeantBy(path);
+    const QFileInfo target(older == Older::Keep ? path : FileMeantBy(path));
     m_target = target.filePath();
     if (StoreLock::IsHeldHere(m_target))
         Refuse(QStringLiteral("is the open database."));
@@ -82,6 +78,8 @@ OutputFile::~OutputFile() {
     if (m_way == Way::Replace || m_way == Way::New)
         QFile::remove(m_device->fileName());
 }
+
+void OutputFile::TakeRightsOf(const QString& path) { KeepOwnerAndMode(path, m_device->fileName()); }
 
 void OutputFile::Write(const QByteArray& bytes) {
     if (m_device->write(bytes) != bytes.size())
@@ -133,7 +131,8 @@ void OutputFile::CopyOver() {
 
 QString OutputFile::CauseOfFailure(QIODevice& device) {
     // An incomplete write does not give a cause. The next write does.
-    if (auto* file = qobject_cast<QFileDevice*>(&device)) {
+    auto* file = qobject_cast<QFileDevice*>(&device);
+    if (file && file->isOpen()) {
         file->putChar('\n');
         file->flush();
     }
@@ -147,7 +146,7 @@ void OutputFile::Refuse(const QString& cause) const {
 }
 
 void OutputFile::Fail() const {
-    throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                       QStringLiteral("The file \"%1\" cannot be written: %2")
-                           .arg(QDir::toNativeSeparators(m_target), CauseOfFailure(*m_device)));
+    const QString cause = CauseOfFailure(*m_device);
+    throw RunTimeError(FileErrorNumber(), QStringLiteral("The file \"%1\" cannot be written: %2")
+                                              .arg(QDir::toNativeSeparators(m_target), cause));
 }

@@ -23,6 +23,11 @@ public:
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
 
+    /// Gives the new file the owner and mode of another, as far as possible. Call it before the
+    /// first byte is written, so that nobody else can read any. Only for a file that keeps an older
+    /// one.
+    void TakeRightsOf(const QString& path);
+
     void Write(const QByteArray& bytes);
     /// For a writer that checks the result of each write itself.
     QFile& Device() { return *m_device; }

@@ -71,6 +71,7 @@ bool TestCompactAndOpen(frmSplash& splash) {
         WriteLog(QStringLiteral("ADOInit Failed. Exiting..."));
         return false;
     }
+    RemoveLeftoverCopies(AppFile(QStringLiteral("temp.mdb")));
     deMain.Connect(gConnectionString);
     TellOfDamage();
     return true;

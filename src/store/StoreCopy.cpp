@@ -1,7 +1,8 @@
 #include "StoreCopy.h"
 
 #include "Connection.h"
-#include "OutputFile.h"
+#include "Engine.h"
+#include "JournalTrial.h"
 #include "Recordset.h"
 #include "RunTimeError.h"
 #include "StorePassword.h"
@@ -11,7 +12,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 namespace {
 
@@ -22,24 +22,44 @@ constexpr qint64 CopiedAtOnce = 64 * 1024;
                        QDir::toNativeSeparators(file.fileName()) + QStringLiteral(": ") + cause);
 }
 
+QString CauseOfNotOpening(const RunTimeError& error, const QString& path) {
+    const bool unfinished = QFileInfo(JournalOf(path)).size() > 0;
+    switch (error.Number()) {
+    case RunTimeErrorNumber::FileNotFound:
+        return Translate("The file does not exist.");
+    case RunTimeErrorNumber::StoreReadOnly:
+    case RunTimeErrorNumber::StoreCannotOpen:
+        return unfinished
+                   ? Translate("A program was killed while it wrote to this file. Its journal "
+                               "is still beside it.")
+                   : Translate("You do not have permission to read this file.");
+    default:
+        return IsDamage(error.Number())
+                   ? Translate("It is not a database of this program, or it is damaged.")
+                   : error.Description();
+    }
+}
+
 } // namespace
 
 QMap<QString, qint64> RowsPerTable(Connection& store) {
-    static const QRegularExpression plainName(QStringLiteral("^\\w+$"));
     QMap<QString, qint64> rows;
     const auto tables = store.OpenSchema();
     for (; !tables->Eof(); tables->MoveNext()) {
         const QString name = tables->Text(u"TABLE_NAME");
-        if (tables->Text(u"TABLE_TYPE") != u"table" || !plainName.match(name).hasMatch())
+        if (tables->Text(u"TABLE_TYPE") != u"table")
             continue;
         Recordset count;
-        count.Open(QStringLiteral("SELECT COUNT(*) FROM ") + name, store);
+        count.Open(QStringLiteral("SELECT COUNT(*) FROM \"") +
+                       QString(name).replace(u'"', QStringLiteral("\"\"")) + u'"',
+                   store);
         rows[name] = count.FieldAt(0).Number();
     }
     return rows;
 }
 
-bool CopyBytes(const QString& from, OutputFile& to, const WorkProgress& progress) {
+bool CopyBytes(const QString& from, const std::function<void(const QByteArray&)>& write,
+               const WorkProgress& progress) {
     QFile file(from);
     const QFileInfo before(from);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
@@ -51,7 +71,7 @@ bool CopyBytes(const QString& from, OutputFile& to, const WorkProgress& progress
         const QByteArray bytes = file.read(CopiedAtOnce);
         if (bytes.isEmpty())
             break;
-        to.Write(bytes);
+        write(bytes);
     }
     if (file.error() != QFileDevice::NoError)
         ThrowReadFailure(file, file.errorString());
@@ -64,23 +84,33 @@ bool CopyBytes(const QString& from, OutputFile& to, const WorkProgress& progress
 
 void OpenCopy(Connection& copy, const QString& path) {
     copy.Mode = adModeRead;
-    copy.Open(ConnectionText(path, StorePassword));
+    try {
+        copy.Open(ConnectionText(path, StorePassword));
+    } catch (const RunTimeError& error) {
+        throw RunTimeError(error.Number(), QDir::toNativeSeparators(path) + QStringLiteral(": ") +
+                                               CauseOfNotOpening(error, path));
+    }
+}
+
+std::optional<QString> FaultOf(Connection& store, const WorkProgress& progress) {
+    bool cancelled = false;
+    const QString fault = store.FullCheck([&] {
+        cancelled = !progress(1, 1);
+        return !cancelled;
+    });
+    return cancelled ? std::optional<QString>() : fault;
 }
 
 bool ProveCopy(const QString& path, const QMap<QString, qint64>& original,
                const WorkProgress& progress) {
     Connection copy;
     OpenCopy(copy, path);
-    bool cancelled = false;
-    const QString fault = copy.FullCheck([&] {
-        cancelled = !progress(1, 1);
-        return !cancelled;
-    });
-    if (cancelled)
+    const auto fault = FaultOf(copy, progress);
+    if (!fault)
         return false;
-    if (!fault.isEmpty())
-        throw RunTimeError(RunTimeErrorNumber::StoreEngine,
-                           Translate("The copy is damaged: ") + fault);
+    if (!fault->isEmpty())
+        throw RunTimeError(RunTimeErrorNumber::StoreDamaged,
+                           Translate("The copy is damaged: ") + *fault);
     if (RowsPerTable(copy) != original)
         throw RunTimeError(RunTimeErrorNumber::StoreEngine,
                            Translate("The copy does not have the rows of the database."));

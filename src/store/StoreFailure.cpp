@@ -7,14 +7,13 @@
 #include "mTranslations.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace {
 
 /// Numbers of the engine's failures.
 constexpr int Full = RunTimeErrorNumber::StoreEngine + 13;
 constexpr int NoDatabase = RunTimeErrorNumber::StoreEngine + 26;
-constexpr int ReadOnly = RunTimeErrorNumber::StoreEngine + 8;
-constexpr int CannotOpen = RunTimeErrorNumber::StoreEngine + 14;
 constexpr int InputOutput = RunTimeErrorNumber::StoreEngine + 10;
 constexpr int Busy = RunTimeErrorNumber::StoreEngine + 5;
 
@@ -41,18 +40,32 @@ QString CauseOf(const RunTimeError& error, const QString& storePath) {
     case Full:
         return Translate("The disk is full.");
     case RunTimeErrorNumber::PermissionDenied:
-    case ReadOnly:
-    case CannotOpen:
+    case RunTimeErrorNumber::StoreReadOnly:
+    case RunTimeErrorNumber::StoreCannotOpen:
         return Translate("You do not have permission to write to this file or its folder.");
     case NoDatabase:
         return Translate("Its password is different, or it is damaged. If it is damaged, please "
                          "restore a backup.");
     case InputOutput:
+    case RunTimeErrorNumber::DeviceError:
         return Translate(
             "The disk or the network reported an error. Please check it and try again.");
     default:
         if (IsDamage(error.Number()))
             return Translate("It is damaged. Please restore a backup.");
+        return error.Description();
+    }
+}
+
+QString CauseOfCopyFailure(const RunTimeError& error, const QString& copyPath) {
+    if (!QFileInfo(copyPath).dir().exists())
+        return Translate("The folder does not exist.");
+    switch (error.Number()) {
+    case RunTimeErrorNumber::DiskFull:
+    case RunTimeErrorNumber::PermissionDenied:
+    case RunTimeErrorNumber::DeviceError:
+        return CauseOf(error, copyPath) + u'\n' + error.Description();
+    default:
         return error.Description();
     }
 }

@@ -168,7 +168,7 @@ private slots:
         QCOMPARE(m_boxes.TakeTexts(), QStringList("Demo Data Created"));
         RecordingViewer viewer;
         BuildTourReport({3, Noon, "4B5831A7", {}, true, true}, viewer);
-        QCOMPARE(viewer.Rows.filter("ON TIME").size(), 8);
+        QCOMPARE(viewer.Rows.filter("ON TIME").size(), 16);
         QCOMPARE(RowsOf("SELECT COUNT(*) FROM tblEvents WHERE wGroupType = 2"), QStringList("4"));
         gConn->Execute("DELETE FROM tblReaders");
         const QStringList before = ContentOfStore();

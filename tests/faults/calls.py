@@ -11,6 +11,7 @@ from collections import Counter
 from functools import cache, partial
 
 from jobs import Download, Import, MakeStore, Start
+from moves import Archive, Backup, Restore
 
 CALLS = (
     "write,writev,pwrite64,pwritev,fsync,fdatasync,sync_file_range,"
@@ -21,7 +22,7 @@ CALLS = (
 def make_jobs(faults, setting):
     jobs = [
         (job, partial(strike, setting, job, names, call, fault.format(number)))
-        for job in (Download, Start, Import, MakeStore)
+        for job in (Download, Start, Import, MakeStore, Backup, Restore, Archive)
         for names, counts in [calls_of(setting, job)]
         for call, count in sorted(counts.items())
         for number in range(1, count + 1)
@@ -35,7 +36,10 @@ def strace(log, *options):
 
 
 def narrowed(run, names):
-    """The strace options for only these files of the job, its folder and its line."""
+    """The strace options for only these files of the job, its folder and its line. Random names of
+    temporary files differ in each run, so such a job is not narrowed."""
+    if run.random_names:
+        return []
     paths = [run.station.home, *(run.station.home / name for name in sorted(names))]
     if isinstance(run, Download):
         paths.append(run.dock.device)

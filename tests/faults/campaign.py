@@ -40,7 +40,8 @@ class Setting:
 @dataclass
 class Outcome:
     """The result of one run. `kept` touches are still in the reader. `broken` lists what is wrong
-    besides lost and doubled touches."""
+    besides lost and doubled touches. `ending` says which of the allowed endings it was, if there
+    are several."""
 
     label: str
     hit: bool = False
@@ -49,6 +50,7 @@ class Outcome:
     lost: int = 0
     doubled: int = 0
     broken: list = field(default_factory=list)
+    ending: str = ""
 
     def at_fault(self):
         return self.lost or self.doubled or self.broken
@@ -58,7 +60,7 @@ def run_all(setting, title, jobs):
     """Runs (job class, function) pairs in parallel, prints the campaign's line, and returns whether
     it passed."""
     begin = time.monotonic()
-    outcomes, hits = [], Counter()
+    outcomes, hits, endings = [], Counter(), {}
     with ThreadPoolExecutor(SLEEPERS) as sleepers, ThreadPoolExecutor(WORKERS) as workers:
         running = [(sleepers if job.sleeps else workers).submit(run) for job, run in jobs]
         try:
@@ -67,6 +69,9 @@ def run_all(setting, title, jobs):
                 results = result if isinstance(result, list) else [result]
                 outcomes += results
                 hits[job.__name__] += sum(outcome.hit for outcome in results)
+                endings.setdefault(job.__name__, Counter()).update(
+                    outcome.ending for outcome in results if outcome.ending
+                )
         except BaseException:  # the campaign itself failed or was interrupted
             for future in running:
                 future.cancel()
@@ -82,6 +87,10 @@ def run_all(setting, title, jobs):
         f"{broken} otherwise at fault (seed {setting.seed}, {time.monotonic() - begin:.0f} s)",
         flush=True,
     )
+    for name, counts in endings.items():
+        if counts:
+            tally = ", ".join(f"{ending} {count}" for ending, count in sorted(counts.items()))
+            print(f"    {name}: {counts.total()} runs: {tally}", flush=True)
     faulty = [outcome for outcome in outcomes if outcome.at_fault()]
     shown = Counter()
     for outcome in faulty:

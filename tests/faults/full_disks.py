@@ -4,6 +4,7 @@ from functools import partial
 
 from disk import Disk
 from jobs import Download, Export, Import, Start
+from moves import Archive, Backup, Restore
 
 # How many runs, and at most how many bytes free.
 RUNS = {
@@ -11,6 +12,9 @@ RUNS = {
     Start: (24, 96 << 10),
     Import: (24, 64 << 10),
     Export: (32, 240 << 10),
+    Backup: (32, 160 << 10),
+    Restore: (32, 160 << 10),
+    Archive: (32, 96 << 10),
 }
 KINDS = ("ext4", "tmpfs")
 

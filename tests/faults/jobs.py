@@ -16,6 +16,7 @@ class Job:
     over, `judge` returns its outcome."""
 
     sleeps = False  # whether it mostly waits
+    random_names = False  # whether it makes files with random names
     template = "small"
 
     def __init__(self, setting, label, home=None):
@@ -48,9 +49,9 @@ class Job:
     def allowed_definitions(self):
         return [self.old.definitions]
 
-    def check_store(self, outcome, touches=(), station=None):
-        """Checks that the store opens and holds the old rows, allowed definitions, and nothing new
-        except `touches`. Returns the new rows."""
+    def check_store(self, outcome, touches=(), station=None, deleted=Counter()):
+        """Checks that the store opens and holds the old rows except `deleted`, allowed definitions,
+        and nothing new except `touches`. Returns the new rows."""
         station = station or self.station
         definitions = station.definitions()
         if definitions is None:
@@ -59,7 +60,7 @@ class Job:
             outcome.broken.append("wrong definitions")
         rows, faults = station.rows()
         outcome.broken += faults
-        outcome.lost += sum((self.old.rows - rows).values())
+        outcome.lost += (self.old.rows - deleted - rows).total()
         new = rows - self.old.rows
         invented = set(new) - set(touches)
         if invented:

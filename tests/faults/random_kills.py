@@ -9,8 +9,18 @@ import time
 from functools import partial
 
 from jobs import BigImport, BigStart, Download, LinkedStart
+from moves import BigArchive, BigBackup, BigRestore, LinkedRestore
 
-RUNS = {Download: 60, BigStart: 60, LinkedStart: 20, BigImport: 60}
+RUNS = {
+    Download: 60,
+    BigStart: 60,
+    LinkedStart: 20,
+    BigImport: 60,
+    BigBackup: 300,
+    BigRestore: 300,
+    LinkedRestore: 20,
+    BigArchive: 300,
+}
 SOON = 0.01  # seconds
 
 

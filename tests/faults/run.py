@@ -7,15 +7,18 @@ every touch. Whatever happens:
 - No touch is lost: it is in the store or still in the reader.
 - No touch is doubled, unless a program reported that it was stored and the reader not erased.
 - The store opens, the stock shell finds no damage, and old rows and definitions are still there.
-- What a program reports as imported, exported or made is there and complete.
+- What a program reports as imported, exported, copied or made is there and complete.
+- A restore leaves the old store or the restored one, an archive its touches in the store or in a
+  complete file.
 
 | campaign     | the fault                                                                    |
 |--------------|------------------------------------------------------------------------------|
-| random_kills | SIGKILL at a random moment of a download, a start, an import                 |
+| random_kills | SIGKILL at a random moment of a download, a start, an import, a backup, a    |
+|              | restore, an archive                                                          |
 | calls        | a kill at each write, sync, rename and unlink in these jobs and in making a  |
 |              | store; a failure of each of these calls                                      |
 | failing_rows | a row that the store refuses                                                 |
-| full_disks   | little or no free space in a download, start, import or export (as root)     |
+| full_disks   | little or no free space in these jobs and in an export (as root)             |
 | power_cuts   | a power cut just after the confirmed erase (as root)                         |
 | faulty_docks | 500 downloads at failing docks and lines; readers pulled out or exchanged    |
 

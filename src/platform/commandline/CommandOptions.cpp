@@ -119,8 +119,8 @@ void AddPath(CLI::App& options, const char* name, QString& value, const char* he
     });
 }
 
-void AddFile(CLI::App& options, QString& value, const char* help) {
-    AddValue(options, "FILE", "", help, Presence::Required, [&value](const QString& text) {
+void AddFile(CLI::App& options, QString& value, const char* help, Presence presence) {
+    AddValue(options, "FILE", "", help, presence, [&value](const QString& text) {
         value = text;
         return std::nullopt;
     });
@@ -133,6 +133,16 @@ void AddNumber(CLI::App& options, const char* name, int& value, const char* help
                  value = text.toInt(&ok);
                  if (!ok)
                      return QStringLiteral("a number");
+                 return {};
+             });
+}
+
+void AddCount(CLI::App& options, const char* name, int& value, const char* help) {
+    AddValue(options, name, "NUMBER", help, Presence::Optional,
+             [&value](const QString& text) -> std::optional<QString> {
+                 value = text.toInt();
+                 if (value < 1)
+                     return QStringLiteral("a number above 0");
                  return {};
              });
 }
@@ -229,6 +239,21 @@ void AddWord(CLI::App& options, const char* name, const QStringList& words,
                  store(words.indexOf(text));
                  return {};
              });
+}
+
+void RequireEither(CLI::App& options, const char* alone, const QStringList& together) {
+    options.parse_complete_callback([&options, alone, together] {
+        const auto isGiven = [&options](const QString& name) {
+            return options.get_option(name.toStdString())->count() > 0;
+        };
+        const auto given = std::count_if(together.begin(), together.end(), isGiven);
+        const bool whole =
+            isGiven(QString::fromUtf8(alone)) ? given == 0 : given == together.size();
+        if (!whole)
+            throw UsageError(
+                QStringLiteral("either %1 is needed, or %2")
+                    .arg(QLatin1String(alone), together.join(QStringLiteral(" and "))));
+    });
 }
 
 void AddJson(CLI::App& options, bool& value) {

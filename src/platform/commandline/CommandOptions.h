@@ -34,10 +34,13 @@ void AddYesNo(CLI::App& options, const char* yes, const char* no, std::optional<
 /// The path of a file, folder or device.
 void AddPath(CLI::App& options, const char* name, QString& value, const char* help,
              Presence presence = Presence::Optional);
-/// A required word of the call, without a "--": the path of a file.
-void AddFile(CLI::App& options, QString& value, const char* help);
+/// A word of the call, without a "--": the path of a file.
+void AddFile(CLI::App& options, QString& value, const char* help,
+             Presence presence = Presence::Required);
 /// A required number, such as the ID of a tour.
 void AddNumber(CLI::App& options, const char* name, int& value, const char* help);
+/// How many: a number above zero.
+void AddCount(CLI::App& options, const char* name, int& value, const char* help);
 /// A required day, as YYYY-MM-DD.
 void AddDate(CLI::App& options, const char* name, DateTime& value, const char* help);
 /// A minute, as YYYY-MM-DDTHH:MM, from 2000 to 2179: the range of a reader's clock.
@@ -83,6 +86,10 @@ void AddChoice(CLI::App& options, const char* name,
         options, name, words, [values, &value](qsizetype chosen) { value = values[chosen]; }, help,
         presence);
 }
+
+/// Every call needs either the option `alone` or all those of `together`, but not both. They must
+/// have been added as optional ones.
+void RequireEither(CLI::App& options, const char* alone, const QStringList& together);
 
 /// Result as JSON.
 void AddJson(CLI::App& options, bool& value);

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "DateTime.h"
+#include "WorkProgress.h"
+
+#include <QString>
+
+#include <optional>
+
+/// The archive of old events: a file of comma-separated text, to which the events of some days are
+/// moved. It cannot be read back. These routines use gConn and throw RunTimeError.
+
+/// The first and the last day. The first begins a second after midnight: a touch at midnight itself
+/// stays in the store. The last ends at 23:59:59. No event is in a range that ends before it
+/// starts.
+struct ArchiveRange {
+    DateTime StartDate;
+    DateTime EndDate;
+};
+
+/// How many events there are to archive.
+int CountArchived(const ArchiveRange& range);
+
+/// "Archive2026-11-01_to_2026-11-21.csv".
+QString ArchiveFileName(const ArchiveRange& range);
+
+/// Writes the events to a new file and deletes them from the store, in one transaction. The events
+/// are deleted only after the file is complete and on the disk, and the file gets its name only
+/// after that. A killed program leaves all events in the store, or all of them in the file.
+///
+/// Gives the number of events. Nothing if `progress` has cancelled it, or if the file could not be
+/// written; a message then says why. In these cases, and if it throws, nothing is deleted and no
+/// file is left, with one exception: if the store fails when the deletion is to be made permanent,
+/// the file is left, and the text of the failure says so.
+std::optional<int> ArchiveEventsOf(const ArchiveRange& range, const QString& path,
+                                   const WorkProgress& progress);
+
+/// What is said after that, translated.
+QString ArchivedText(int events, const QString& path);
