@@ -4,7 +4,11 @@
 #include "OutputFile.h"
 #include "StoreDump.h"
 
+#include <csignal>
+
 namespace {
+
+volatile std::sig_atomic_t g_interrupted = 0;
 
 struct DumpOptions {
     QString table;
@@ -14,6 +18,9 @@ struct DumpOptions {
 
 void Dump(const DumpOptions& what, const TakeText& take) {
     const auto store = OpenForReading();
+    // Ctrl+C ends the statement, so that no half-written file is left.
+    std::signal(SIGINT, [](int) { g_interrupted = 1; });
+    const Supervision supervision(*store, [] { return g_interrupted == 0; });
     if (what.table == u"schema") {
         WriteSchema(*store, SchemaTitle, take);
         return;

@@ -48,7 +48,7 @@ void ReportSchema(Connection& connection, const QString& file, const QString& ti
 void ArchiveEvents(const QString& sql, const QString& file, DumpView& view) {
     GuardedWithBox("ArchiveEvents", [&] {
         const auto store = OpenForReading();
-        store->WhileRunning([&view] { return view.GoOn(); });
+        const Supervision supervision(*store, [&view] { return view.GoOn(); });
         Recordset rows;
         OpenReading(rows, sql, *store);
         ReportRecordSet(rows, file, TitleForQuery(sql), view);

@@ -136,12 +136,6 @@ void Connection::OnlyRead(const QString& table, const QString& standIn) {
     m_engine->OnlyRead(std::move(roots));
 }
 
-void Connection::WhileRunning(std::function<bool()> goOn) {
-    if (!m_engine)
-        ThrowClosed();
-    m_engine->WhileRunning(std::move(goOn));
-}
-
 QString Connection::QuickCheck() const {
     if (!m_engine)
         ThrowClosed();

@@ -122,9 +122,9 @@ void CreateSampleData(QWidget& window) {
 }
 
 void AddDebugMenu(QMenu& menu, int index, const QString& caption, QWidget& window) {
-    QAction* item = menu.addAction(caption);
+    const bool separator = caption == u"-"; // its text would be shown
+    QAction* item = separator ? menu.addSeparator() : menu.addAction(caption);
     item->setObjectName(QStringLiteral("mnuDebugItem_%1").arg(index));
-    item->setSeparator(caption == u"-");
     QObject::connect(item, &QAction::triggered, &window,
                      [index, &window] { mnuDebugItem_Click(index, window); });
 }
