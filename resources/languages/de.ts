@@ -1528,6 +1528,58 @@
         <translation>Die Kopie hat nicht die Zeilen der Datenbank.</translation>
     </message>
     <message>
+        <source>The database was not copied.</source>
+        <translation>Die Datenbank wurde nicht kopiert.</translation>
+    </message>
+    <message>
+        <source>The database itself is damaged.</source>
+        <translation>Die Datenbank selbst ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The folder does not exist.</source>
+        <translation>Den Ordner gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Removed:</source>
+        <translation>Gelöscht:</translation>
+    </message>
+    <message>
+        <source>Not removed:</source>
+        <translation>Nicht gelöscht:</translation>
+    </message>
+    <message>
+        <source>A program was killed while it wrote to this file. Its journal is still beside it.</source>
+        <translation>Ein Programm wurde abgebrochen, während es in diese Datei schrieb. Ihr Journal liegt noch daneben.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read this file.</source>
+        <translation>Sie dürfen diese Datei nicht lesen.</translation>
+    </message>
+    <message>
+        <source>It is not a database of this program, or it is damaged.</source>
+        <translation>Sie ist keine Datenbank dieses Programms, oder sie ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The database is damaged:</source>
+        <translation>Die Datenbank ist beschädigt:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>Es fehlt:</translation>
+    </message>
+    <message>
+        <source>Buttons whose group does not exist:</source>
+        <translation>Knöpfe, deren Gruppe es nicht gibt:</translation>
+    </message>
+    <message>
+        <source>Tour points whose tour does not exist:</source>
+        <translation>Tourpunkte, deren Tour es nicht gibt:</translation>
+    </message>
+    <message>
+        <source>Tour points whose button does not exist:</source>
+        <translation>Tourpunkte, deren Knopf es nicht gibt:</translation>
+    </message>
+    <message>
         <source>Save As</source>
         <translation>Speichern unter</translation>
     </message>
@@ -1546,6 +1598,22 @@
     <message>
         <source>Warning: This action will permanently delete the events from the database.</source>
         <translation>Achtung: Die Ereignisse werden endgültig aus der Datenbank gelöscht.</translation>
+    </message>
+    <message>
+        <source>Select location of backup database file</source>
+        <translation>Sicherung der Datenbank auswählen</translation>
+    </message>
+    <message>
+        <source>That filename cannot be found. Please choose another filename</source>
+        <translation>Dieser Dateiname wurde nicht gefunden. Bitte einen anderen Dateinamen wählen</translation>
+    </message>
+    <message>
+        <source>This file is the database itself. Please choose a backup of it.</source>
+        <translation>Diese Datei ist die Datenbank selbst. Bitte eine Sicherung von ihr wählen.</translation>
+    </message>
+    <message>
+        <source>Warning: This action will delete the existing database. You will loose ALL data in the existing database.</source>
+        <translation>Warnung: Diese Aktion löscht die vorhandene Datenbank. ALLE Daten der vorhandenen Datenbank gehen verloren.</translation>
     </message>
     <message>
         <source>Are you sure you want to continue?</source>
@@ -1582,6 +1650,54 @@
     <message>
         <source>The events were written to %0:s, but they are still in the database: %1:s</source>
         <translation>Die Ereignisse wurden in die Datei %0:s geschrieben, sind aber noch in der Datenbank: %1:s</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Zurückspielen</translation>
+    </message>
+    <message>
+        <source>The backup is being copied and checked.</source>
+        <translation>Die Sicherung wird kopiert und geprüft.</translation>
+    </message>
+    <message>
+        <source>The database is in use. Waiting until it is free.</source>
+        <translation>Die Datenbank ist in Benutzung. Es wird gewartet, bis sie frei ist.</translation>
+    </message>
+    <message>
+        <source>Successfully copied the database</source>
+        <translation>Die Datenbank wurde kopiert</translation>
+    </message>
+    <message>
+        <source>Warning : The program will now close.</source>
+        <translation>Warnung: Das Programm wird jetzt geschlossen.</translation>
+    </message>
+    <message>
+        <source>Please restart the program to continue.</source>
+        <translation>Bitte das Programm neu starten, um weiterzuarbeiten.</translation>
+    </message>
+    <message>
+        <source>The database was not restored. It is as it was before.</source>
+        <translation>Die Sicherung wurde nicht zurückgespielt. Die Datenbank ist, wie sie war.</translation>
+    </message>
+    <message>
+        <source>The chosen file is not a database of this program.</source>
+        <translation>Die gewählte Datei ist keine Datenbank dieses Programms.</translation>
+    </message>
+    <message>
+        <source>The chosen file is not a database of this program, its password is different, or it is damaged.</source>
+        <translation>Die gewählte Datei ist keine Datenbank dieses Programms, ihr Kennwort ist ein anderes, oder sie ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The chosen file is damaged: </source>
+        <translation>Die gewählte Datei ist beschädigt: </translation>
+    </message>
+    <message>
+        <source>Another program has used the database meanwhile. Please try again.</source>
+        <translation>Ein anderes Programm hat die Datenbank inzwischen benutzt. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The database was restored, but the disk reported an error. Please check it.</source>
+        <translation>Die Sicherung wurde zurückgespielt, aber der Datenträger meldete einen Fehler. Bitte prüfen.</translation>
     </message>
 </context>
 </TS>

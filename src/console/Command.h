@@ -15,6 +15,11 @@ using CommandRun = std::function<bool(const ConsoleBoxes& boxes)>;
 
 enum class Access { Everybody, MasterOnly };
 
+enum class Needs {
+    OpenStore, ///< before the command runs, the store is open in gConn and the operator logged in
+    Nothing    ///< the command does both itself
+};
+
 /// One command of wardlockctl.
 struct Command {
     QString words;       ///< as they are typed, such as "reader set-clock"
@@ -24,6 +29,7 @@ struct Command {
     /// Adds the command's options (CommandOptions.h) and returns the routine that runs after they
     /// are read.
     std::function<CommandRun(CLI::App& options)> prepare;
+    Needs needs = Needs::OpenStore;
 };
 
 /// All commands, in the order of the overview.

@@ -22,6 +22,9 @@ std::vector<Command> Commands() {
     ADD(Import)
     ADD(Archive)
     ADD(Backup)
+    ADD(Restore)
+    ADD(Check)
+    ADD(Dump)
 #undef ADD
     return commands;
 }

@@ -43,8 +43,7 @@ struct StoreCloser {
     ~StoreCloser() { gConn.reset(); }
 };
 
-/// Opens dictionary and store and checks the login. If that fails, says why and returns false.
-bool OpenStation(OperatorType login) {
+void OpenSettings() {
     ReportLostSettings();
     ReadLanguageSetting();
     // Only the station needs a dictionary; without one the texts are English.
@@ -55,14 +54,15 @@ bool OpenStation(OperatorType login) {
     ReadRemainingSettings();
     gDatabasePath = AppFile(QStringLiteral("main.mdb"));
     gConnectionString = ConnectionText(gDatabasePath, StorePassword);
+}
+
+/// Opens the store and checks the login. If that fails, says why and returns false.
+bool OpenStation(OperatorType login) {
     if (!ADOTest(gDatabasePath, StorePassword) || !ADOInit(gDatabasePath, StorePassword))
         return false;
-    RemoveLeftoverCopy(AppFile(QStringLiteral("temp.mdb")));
-    if (CheckOperator(login, qEnvironmentVariable("WARDLOCK_PASSWORD"), RememberLogin::No) ==
-        NoOperator) {
-        const bool given = qEnvironmentVariableIsSet("WARDLOCK_PASSWORD");
-        Complain(Translate("The User Name / Password are incorrect. Please try again.") +
-                 (given ? QString() : QStringLiteral(" (WARDLOCK_PASSWORD is not set)")));
+    RemoveLeftoverCopies(AppFile(QStringLiteral("temp.mdb")));
+    if (CheckOperator(login, GivenPassword(), RememberLogin::No) == NoOperator) {
+        ComplainOfLogin();
         return false;
     }
     return true;
@@ -77,7 +77,8 @@ bool RunCommand(const Command& command, const StationOptions& station, const Com
     }
     const ConsoleBoxes boxes;
     const StoreCloser closer;
-    if (!OpenStation(station.login))
+    OpenSettings();
+    if (command.needs == Needs::OpenStore && !OpenStation(station.login))
         return false;
     if (command.access == Access::MasterOnly && station.login != MasterOperator) {
         Complain(Translate("Only the master may do this."));

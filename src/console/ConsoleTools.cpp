@@ -15,6 +15,14 @@ void Complain(const QString& text) {
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
 
+QString GivenPassword() { return qEnvironmentVariable("WARDLOCK_PASSWORD"); }
+
+void ComplainOfLogin() {
+    const bool given = qEnvironmentVariableIsSet("WARDLOCK_PASSWORD");
+    Complain(Translate("The User Name / Password are incorrect. Please try again.") +
+             (given ? QString() : QStringLiteral(" (WARDLOCK_PASSWORD is not set)")));
+}
+
 void WriteOut(const QByteArray& bytes, const QString& path) {
     if (path.isEmpty()) {
         if (std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout) !=

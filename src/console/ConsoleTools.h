@@ -12,6 +12,11 @@ class QJsonObject;
 /// One line on standard error, without the line breaks and control characters of the text.
 void Complain(const QString& text);
 
+/// The operator's password, from the environment variable WARDLOCK_PASSWORD.
+QString GivenPassword();
+/// Says that it is wrong.
+void ComplainOfLogin();
+
 /// Writes to a file, or to standard output if the path is empty. Throws RunTimeError.
 void WriteOut(const QByteArray& bytes, const QString& path = {});
 void WriteLine(const QString& text);

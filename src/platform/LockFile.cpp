@@ -63,6 +63,15 @@ LockFile::Outcome LockFile::Take() {
     return Outcome::Taken;
 }
 
+bool LockFile::IsHeld(const QString& path) {
+    const HANDLE file =
+        CreateFileW(reinterpret_cast<const wchar_t*>(path.utf16()), GENERIC_WRITE,
+                    FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (file != INVALID_HANDLE_VALUE)
+        CloseHandle(file);
+    return file == INVALID_HANDLE_VALUE && GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
 LockFile::~LockFile() {
     if (m_file)
         CloseHandle(m_file);
@@ -116,6 +125,16 @@ LockFile::Outcome LockFile::Take() {
         return Outcome::Taken;
     }
     return Outcome::Held;
+}
+
+bool LockFile::IsHeld(const QString& path) {
+    const int file =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOFOLLOW);
+    if (file < 0)
+        return false;
+    const bool held = ::flock(file, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    ::close(file);
+    return held;
 }
 
 LockFile::~LockFile() {

@@ -27,6 +27,8 @@ public:
     LockFile& operator=(const LockFile&) = delete;
 
     Outcome Take();
+    /// True if a process holds the file. Makes none.
+    static bool IsHeld(const QString& path);
     static Holder HolderOf(const QString& path);
 
 private:

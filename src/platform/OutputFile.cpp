@@ -26,20 +26,12 @@ QString PartPath(const QFileInfo& target) {
             .arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0')));
 }
 
-/// The file that a symbolic link means, or the path itself. The file need not exist.
-QFileInfo FileMeantBy(const QString& path) {
-    const QFileInfo given(path);
-    if (given.exists())
-        return QFileInfo(given.canonicalFilePath());
-    return given.isSymLink() ? QFileInfo(given.symLinkTarget()) : given;
-}
-
 bool IsRefusal(int error) { return error == EACCES || error == EPERM; }
 
 } // namespace
 
 OutputFile::OutputFile(const QString& path, Older older) {
-    const QFileInfo target = older == Older::Keep ? QFileInfo(path) : FileMeantBy(path);
+    const QFileInfo target(older == Older::Keep ? path : FileMeantBy(path));
     m_target = target.filePath();
     if (StoreLock::IsHeldHere(m_target))
         Refuse(QStringLiteral("is the open database."));

@@ -1,5 +1,6 @@
 #include "StoreLock.h"
 
+#include "FileReplacement.h"
 #include "RunTimeError.h"
 
 #include <QDir>
@@ -17,9 +18,11 @@ Holds& Held() {
 }
 Holds g_stores;
 
+/// One name for each file, whether it exists or not.
+QString RealPath(const QString& path) { return QFileInfo(FileMeantBy(path)).absoluteFilePath(); }
+
 QString LockPathOf(const QString& storePath) {
-    const QFileInfo given(storePath);
-    const QFileInfo store(given.exists() ? given.canonicalFilePath() : given.absoluteFilePath());
+    const QFileInfo store(RealPath(storePath));
     return store.dir().filePath(store.completeBaseName() + QStringLiteral(".ldb"));
 }
 
@@ -49,11 +52,11 @@ StoreLock::StoreLock(const QString& storePath) {
     }
     m_file = file;
     Held().insert(path, file);
-    g_stores.insert(QFileInfo(storePath).canonicalFilePath(), file);
+    g_stores.insert(RealPath(storePath), file);
 }
 
 bool StoreLock::IsHeldHere(const QString& path) {
-    const QString file = QFileInfo(path).canonicalFilePath();
+    const QString file = RealPath(path);
     return !Held().value(file).expired() || !g_stores.value(file).expired();
 }
 
@@ -63,6 +66,10 @@ QStringList StoreLock::StoresHeldHere() {
         if (!store.value().expired())
             stores += store.key();
     return stores;
+}
+
+bool StoreLock::IsHeldByAnother(const QString& storePath) {
+    return !IsHeldHere(storePath) && LockFile::IsHeld(LockPathOf(storePath));
 }
 
 LockFile::Holder StoreLock::HolderOf(const QString& storePath) {

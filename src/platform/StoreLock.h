@@ -17,6 +17,9 @@ public:
 
     /// True for a store that this process holds, and for its lock file, also by another path.
     static bool IsHeldHere(const QString& path);
+    /// True if another process holds the store, as far as this can be seen without a lock file of
+    /// one's own: for a file that is only read.
+    static bool IsHeldByAnother(const QString& storePath);
     /// The real paths of the stores that this process holds.
     static QStringList StoresHeldHere();
 

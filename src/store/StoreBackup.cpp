@@ -34,7 +34,8 @@ WorkProgress Half(int half, const WorkProgress& progress) {
 bool Copy(const QString& target, const WorkProgress& progress) {
     OutputFile file(target, OutputFile::Older::Keep);
     file.TakeRightsOf(gDatabasePath);
-    if (!CopyBytes(gDatabasePath, file, Half(0, progress)) ||
+    const auto write = [&](const QByteArray& bytes) { file.Write(bytes); };
+    if (!CopyBytes(gDatabasePath, write, Half(0, progress)) ||
         !ProveCopy(file.Finish(), RowsPerTable(*gConn), Half(1, progress)))
         return false;
     file.Commit();

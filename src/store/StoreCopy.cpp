@@ -3,10 +3,9 @@
 #include "Connection.h"
 #include "Engine.h"
 #include "JournalTrial.h"
-#include "OutputFile.h"
-#include "Recordset.h"
 #include "RunTimeError.h"
 #include "StorePassword.h"
+#include "TableExists.h"
 #include "mStore.h"
 #include "mTranslations.h"
 
@@ -43,23 +42,15 @@ QString CauseOfNotOpening(const RunTimeError& error, const QString& path) {
 
 } // namespace
 
-QMap<QString, qint64> RowsPerTable(Connection& store) {
-    QMap<QString, qint64> rows;
-    const auto tables = store.OpenSchema();
-    for (; !tables->Eof(); tables->MoveNext()) {
-        const QString name = tables->Text(u"TABLE_NAME");
-        if (tables->Text(u"TABLE_TYPE") != u"table")
-            continue;
-        Recordset count;
-        count.Open(QStringLiteral("SELECT COUNT(*) FROM \"") +
-                       QString(name).replace(u'"', QStringLiteral("\"\"")) + u'"',
-                   store);
-        rows[name] = count.FieldAt(0).Number();
-    }
+QMap<QString, int> RowsPerTable(Connection& store) {
+    QMap<QString, int> rows;
+    for (const QString& table : TablesOf(store))
+        rows[table] = CountRows(table, store);
     return rows;
 }
 
-bool CopyBytes(const QString& from, OutputFile& to, const WorkProgress& progress) {
+bool CopyBytes(const QString& from, const std::function<void(const QByteArray&)>& write,
+               const WorkProgress& progress) {
     QFile file(from);
     const QFileInfo before(from);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
@@ -71,7 +62,7 @@ bool CopyBytes(const QString& from, OutputFile& to, const WorkProgress& progress
         const QByteArray bytes = file.read(CopiedAtOnce);
         if (bytes.isEmpty())
             break;
-        to.Write(bytes);
+        write(bytes);
     }
     if (file.error() != QFileDevice::NoError)
         ThrowReadFailure(file, file.errorString());
@@ -92,20 +83,25 @@ void OpenCopy(Connection& copy, const QString& path) {
     }
 }
 
-bool ProveCopy(const QString& path, const QMap<QString, qint64>& original,
-               const WorkProgress& progress) {
-    Connection copy;
-    OpenCopy(copy, path);
+std::optional<QString> FaultOf(Connection& store, const WorkProgress& progress) {
     bool cancelled = false;
-    const QString fault = copy.FullCheck([&] {
+    const QString fault = store.FullCheck([&] {
         cancelled = !progress(1, 1);
         return !cancelled;
     });
-    if (cancelled)
+    return cancelled ? std::optional<QString>() : fault;
+}
+
+bool ProveCopy(const QString& path, const QMap<QString, int>& original,
+               const WorkProgress& progress) {
+    Connection copy;
+    OpenCopy(copy, path);
+    const auto fault = FaultOf(copy, progress);
+    if (!fault)
         return false;
-    if (!fault.isEmpty())
+    if (!fault->isEmpty())
         throw RunTimeError(RunTimeErrorNumber::StoreDamaged,
-                           Translate("The copy is damaged: ") + fault);
+                           Translate("The copy is damaged: ") + *fault);
     if (RowsPerTable(copy) != original)
         throw RunTimeError(RunTimeErrorNumber::StoreEngine,
                            Translate("The copy does not have the rows of the database."));

@@ -3,6 +3,7 @@
 #include "Engine.h"
 #include "FileReplacement.h"
 #include "StoreLock.h"
+#include "StoreRestore.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"
@@ -59,7 +60,8 @@ void CompactStore(const QString& provider, const QString& path, const QString& t
     });
 }
 
-void RemoveLeftoverCopy(const QString& tempPath) {
+void RemoveLeftoverCopies(const QString& tempPath) {
+    RemoveRestoreCopy(gDatabasePath);
     RemoveCopy(CopyBeside(QFileInfo(gDatabasePath).canonicalFilePath(), tempPath));
 }
 

@@ -11,9 +11,9 @@
 void CompactStore(const QString& provider, const QString& path, const QString& tempPath,
                   const QString& password);
 
-/// Removes the copy that a killed compaction has left. The store must be open in gConn: only then
-/// is it certain that no other program is compacting it.
-void RemoveLeftoverCopy(const QString& tempPath);
+/// Removes the copies that a killed compaction or restore has left. The store must be open in
+/// gConn: only then is it certain that no other program is working on them.
+void RemoveLeftoverCopies(const QString& tempPath);
 
 /// Checks the store that is open in gConn, without compacting it, and sets gStoreDamaged.
 void CheckStore();

@@ -9,6 +9,10 @@ QString LoginNameOf(OperatorType type) {
     return type == MasterOperator ? QStringLiteral("KEEPER") : QStringLiteral("CREW");
 }
 
+bool IsPassword(const QString& password, const QString& entered) {
+    return password.toUpper() == entered.trimmed().toUpper();
+}
+
 } // namespace
 
 OperatorRecord::OperatorRecord(OperatorType type)
@@ -36,8 +40,16 @@ OperatorType CheckOperator(OperatorType type, const QString& entered, RememberLo
     if (remember == RememberLogin::Yes)
         SaveSetting(SettingsApplication, SettingsSection::Info, QStringLiteral("LastLogin"),
                     QString::number(type));
-    const bool equal = operators.Text(u"Password").toUpper() == entered.trimmed().toUpper();
+    const bool equal = IsPassword(operators.Text(u"Password"), entered);
     if (!equal)
         WriteLog(QStringLiteral("Wrong password for user type = %1").arg(type));
     return equal ? type : NoOperator;
+}
+
+bool MayLogIn(OperatorType type, const QString& entered, Connection& store) {
+    const QString name = LoginNameOf(type);
+    Recordset operators;
+    operators.Open(QStringLiteral("SELECT * From tblOperators WHERE LoginName = ?;"), {name},
+                   store);
+    return IsPassword(operators.Eof() ? name : operators.Text(u"Password"), entered);
 }

@@ -16,6 +16,10 @@ enum class RememberLogin { Yes, No };
 OperatorType CheckOperator(OperatorType type, const QString& entered,
                            RememberLogin remember = RememberLogin::Yes);
 
+/// The same question about a store that is only read, such as a copy. An operator without a row has
+/// the login name as password.
+bool MayLogIn(OperatorType type, const QString& entered, Connection& store);
+
 /// An operator's row, open for a change of password.
 class OperatorRecord {
 public:

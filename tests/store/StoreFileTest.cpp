@@ -213,7 +213,7 @@ private slots:
         byText.Open(ConnectionText(target, StorePassword));
         WriteBytes(folder + "/temp.mdb", "left over");
         gDatabasePath = home.Store();
-        RemoveLeftoverCopy(home.Temp());
+        RemoveLeftoverCopies(home.Temp());
         QVERIFY(!QFile::exists(folder + "/temp.mdb"));
     }
 
@@ -386,7 +386,7 @@ private slots:
             QVERIFY(stored == reported || (!compacts && stored == reported + 1));
             for (int batch = 1; batch <= stored; ++batch)
                 QCOMPARE(batches[batch - 1], QStringLiteral("%1|%2").arg(batch).arg(rowsEach));
-            RemoveLeftoverCopy(home.Temp());
+            RemoveLeftoverCopies(home.Temp());
             QVERIFY(!QFile::exists(home.Temp()));
             TestHome::Close();
         }
