@@ -1528,6 +1528,58 @@
         <translation>Die Kopie hat nicht die Zeilen der Datenbank.</translation>
     </message>
     <message>
+        <source>The database was not copied.</source>
+        <translation>Die Datenbank wurde nicht kopiert.</translation>
+    </message>
+    <message>
+        <source>The database itself is damaged.</source>
+        <translation>Die Datenbank selbst ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The folder does not exist.</source>
+        <translation>Den Ordner gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Removed:</source>
+        <translation>Gelöscht:</translation>
+    </message>
+    <message>
+        <source>Not removed:</source>
+        <translation>Nicht gelöscht:</translation>
+    </message>
+    <message>
+        <source>A program was killed while it wrote to this file. Its journal is still beside it.</source>
+        <translation>Ein Programm wurde abgebrochen, während es in diese Datei schrieb. Ihr Journal liegt noch daneben.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read this file.</source>
+        <translation>Sie dürfen diese Datei nicht lesen.</translation>
+    </message>
+    <message>
+        <source>It is not a database of this program, or it is damaged.</source>
+        <translation>Sie ist keine Datenbank dieses Programms, oder sie ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The database is damaged:</source>
+        <translation>Die Datenbank ist beschädigt:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>Es fehlt:</translation>
+    </message>
+    <message>
+        <source>Buttons whose group does not exist:</source>
+        <translation>Knöpfe, deren Gruppe es nicht gibt:</translation>
+    </message>
+    <message>
+        <source>Tour points whose tour does not exist:</source>
+        <translation>Tourpunkte, deren Tour es nicht gibt:</translation>
+    </message>
+    <message>
+        <source>Tour points whose button does not exist:</source>
+        <translation>Tourpunkte, deren Knopf es nicht gibt:</translation>
+    </message>
+    <message>
         <source>Save As</source>
         <translation>Speichern unter</translation>
     </message>
@@ -1540,8 +1592,8 @@
         <translation>Ereignisse archivieren</translation>
     </message>
     <message>
-        <source>The events of these days are moved into a file, from the first day to the last, and deleted from the database. They cannot be brought back from the file.</source>
-        <translation>Die Ereignisse dieser Tage, vom ersten bis zum letzten, werden in eine Datei verschoben und aus der Datenbank gelöscht. Aus der Datei lassen sie sich nicht zurückholen.</translation>
+        <source>Choose the first and the last day. Their events are moved into a file and deleted from the database. They cannot be brought back from the file.</source>
+        <translation>Bitte den ersten und den letzten Tag wählen. Ihre Ereignisse werden in eine Datei verschoben und aus der Datenbank gelöscht. Aus der Datei lassen sie sich nicht zurückholen.</translation>
     </message>
     <message>
         <source>Warning: This action will permanently delete the events from the database.</source>

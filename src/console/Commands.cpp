@@ -23,6 +23,8 @@ std::vector<Command> Commands() {
     ADD(Archive)
     ADD(Backup)
     ADD(Restore)
+    ADD(Check)
+    ADD(Dump)
 #undef ADD
     return commands;
 }

@@ -1,5 +1,7 @@
 #include "mDeclareGlobals.h"
 
+bool IsDevelopmentRun() { return qgetenv("WARDLOCK_DEVELOPMENT") == "1"; }
+
 bool gDebugMode = false;
 bool gDemoMode = false;
 int gEdition = 0;

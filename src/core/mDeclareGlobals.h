@@ -25,8 +25,11 @@ enum OperatorType { NoOperator = 0, MasterOperator = 1, UserOperator = 2 };
 /// The kinds of groups, as stored with every touch.
 enum GroupType { UserGroup = 0, SiteGroup = 1, EventBookGroup = 2 };
 
+/// True if a developer runs the program: the environment variable WARDLOCK_DEVELOPMENT is "1".
+bool IsDevelopmentRun();
+
 extern bool gDebugMode; ///< false once the program has started
-extern bool gDemoMode;  ///< "-demo" was given; a published switch that changes nothing else
+extern bool gDemoMode;  ///< "-demo" was given, or a development run; changes nothing else
 extern int gEdition;    ///< branding variant; there is only one, 0
 extern int gLanguage;   ///< number of the dictionary's language; -1: the system's language
 extern std::unique_ptr<Dictionary> gDictionary;

@@ -52,6 +52,10 @@ public:
     /// rows that it changed; those that a trigger changed count too.
     int Execute(const QString& statement, const Values& values = {});
 
+    /// From now on, only statements that read can run. Where they name `table` they get the rows of
+    /// `standIn`, a SELECT. The table itself cannot be read any more, in no way.
+    void OnlyRead(const QString& table, const QString& standIn);
+
     /// The first fault that the engine's own check finds in the store; empty if there is none.
     /// Reads the whole store.
     QString QuickCheck() const;
@@ -96,8 +100,8 @@ private:
 };
 
 /// While it exists, `goOn` is called now and then while a statement of the connection runs, at
-/// least every few milliseconds. Once it gives false, the statement fails. `goOn` must not use the
-/// connection. An empty routine is never called.
+/// least every few milliseconds. Once it gives false, the statement fails with Interrupted. `goOn`
+/// must not use the connection. An empty routine is never called.
 class Supervision {
 public:
     Supervision(const Connection& connection, std::function<bool()> goOn);

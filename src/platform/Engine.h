@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -37,11 +38,18 @@ public:
     /// ends the statement with a failure. An empty routine ends this.
     void WhileRunning(std::function<bool()> goOn);
 
+    /// From now on, only statements that read can be prepared, and none that opens one of these
+    /// pages of the file: the roots of tables and indexes.
+    void OnlyRead(std::set<int> hiddenRoots);
+
 private:
+    friend class Statement;
     void Prepare(const QString& password);
+    void RequireNothingHidden(const QByteArray& sql) const;
 
     std::optional<StoreLock> m_lock;
     std::function<bool()> m_goOn;
+    std::set<int> m_hiddenRoots;
     sqlite3* m_database = nullptr;
 };
 

@@ -41,6 +41,7 @@ constexpr int PortNotAvailable = 8002; ///< no such serial device, or it cannot 
 constexpr int PortNotOpen = 8018;      ///< reading or writing a closed port
 constexpr int StoreEngine = 10000;     ///< plus the engine's result code
 constexpr int StoreReadOnly = StoreEngine + 8;
+constexpr int Interrupted = StoreEngine + 9; ///< the caller has ended a statement
 constexpr int StoreDamaged = StoreEngine + 11;
 constexpr int StoreCannotOpen = StoreEngine + 14;
 } // namespace RunTimeErrorNumber

@@ -47,8 +47,8 @@ QList<Token> Split(const QString& statement) {
                 ++at;
             tokens += {TokenKind::Word, statement.mid(start, at - start)};
         } else {
-            // "<=", "<>" and the like stay in one piece.
-            static const QString comparison = QStringLiteral("<>=!");
+            // "<=", "<>", "||" and the like stay in one piece.
+            static const QString comparison = QStringLiteral("<>=!|");
             const qsizetype start = at++;
             while (comparison.contains(c) && at < statement.size() &&
                    comparison.contains(statement[at]))
@@ -113,31 +113,68 @@ QString Rendered(const Token& token) {
 struct SelectShape {
     qsizetype from = -1;
     qsizetype orderBy = -1;
+    qsizetype limit = -1;
     QStringList tables;    ///< in the order in which they are named
+    QStringList names;     ///< what the statement calls them: the alias, if there is one
     bool plainRows = true; ///< the rows of the table itself, not sums or groups
 };
+
+/// What the statement calls the table that is named at `at`.
+QString NameOfTable(const QList<Token>& tokens, qsizetype at) {
+    const auto wordAt = [&](qsizetype i) {
+        return i < tokens.size() && tokens[i].kind == TokenKind::Word ? tokens[i].text.toUpper()
+                                                                      : QString();
+    };
+    static const QStringList following = {
+        QStringLiteral("INNER"),   QStringLiteral("LEFT"),      QStringLiteral("CROSS"),
+        QStringLiteral("OUTER"),   QStringLiteral("NATURAL"),   QStringLiteral("JOIN"),
+        QStringLiteral("ON"),      QStringLiteral("USING"),     QStringLiteral("WHERE"),
+        QStringLiteral("GROUP"),   QStringLiteral("HAVING"),    QStringLiteral("ORDER"),
+        QStringLiteral("LIMIT"),   QStringLiteral("UNION"),     QStringLiteral("EXCEPT"),
+        QStringLiteral("INDEXED"), QStringLiteral("INTERSECT"), QStringLiteral("NOT")};
+    if (wordAt(at + 1) == u"AS" && !wordAt(at + 2).isEmpty())
+        return tokens[at + 2].text;
+    const bool alias = !wordAt(at + 1).isEmpty() && !following.contains(wordAt(at + 1));
+    return tokens[alias ? at + 1 : at].text;
+}
 
 SelectShape ShapeOf(const QList<Token>& tokens) {
     SelectShape shape;
     int depth = 0;
+    bool naming = false; // between FROM and what follows the tables
     for (qsizetype i = 0; i < tokens.size(); ++i) {
         const Token& token = tokens[i];
+        if (depth == 0 && (IsWord(token, u"WHERE") || IsWord(token, u"GROUP") ||
+                           IsWord(token, u"ORDER") || IsWord(token, u"LIMIT")))
+            naming = false;
+        // The rows of a query have no order of storing, and a name in quotes is not understood
+        // here.
+        if (naming &&
+            (IsWord(token, u"SELECT") ||
+             (shape.tables.isEmpty() && token.kind != TokenKind::Word && !IsSign(token, u"("))))
+            shape.plainRows = false;
         if (IsSign(token, u"("))
             ++depth;
         else if (IsSign(token, u")"))
             --depth;
-        else if ((depth == 0 && (IsWord(token, u"GROUP") || IsWord(token, u"UNION") ||
-                                 IsWord(token, u"DISTINCT"))) ||
+        else if ((depth == 0 &&
+                  (IsWord(token, u"GROUP") || IsWord(token, u"UNION") || IsWord(token, u"EXCEPT") ||
+                   IsWord(token, u"INTERSECT") || IsWord(token, u"DISTINCT"))) ||
                  (shape.from < 0 && (IsWord(token, u"COUNT") || IsWord(token, u"MAX") ||
                                      IsWord(token, u"MIN") || IsWord(token, u"SUM"))))
             shape.plainRows = false;
-        else if (depth == 0 && IsWord(token, u"FROM") && shape.from < 0)
+        else if (depth == 0 && IsWord(token, u"FROM") && shape.from < 0) {
             shape.from = i;
-        else if (depth == 0 && IsWord(token, u"ORDER") && shape.orderBy < 0)
+            naming = true;
+        } else if (depth == 0 && IsWord(token, u"ORDER") && shape.orderBy < 0)
             shape.orderBy = i;
-        else if (shape.from >= 0 && token.kind == TokenKind::Word &&
-                 (shape.tables.isEmpty() || IsWord(tokens[i - 1], u"JOIN")))
+        else if (depth == 0 && IsWord(token, u"LIMIT"))
+            shape.limit = i;
+        else if (naming && token.kind == TokenKind::Word &&
+                 (shape.tables.isEmpty() || IsWord(tokens[i - 1], u"JOIN"))) {
             shape.tables += token.text;
+            shape.names += NameOfTable(tokens, i);
+        }
     }
     if (shape.tables.isEmpty())
         shape.plainRows = false;
@@ -150,12 +187,12 @@ bool IsTextColumn(const QString& name) {
     return column.size() > 1 && column[0] == u't' && column[1].isUpper();
 }
 
-QString OrderTail(const QList<Token>& tokens, const SelectShape& shape) {
-    const QString keys = shape.tables.join(QStringLiteral(".rowid, ")) + QStringLiteral(".rowid");
+QString OrderTail(const QList<Token>& tokens, const SelectShape& shape, qsizetype end) {
+    const QString keys = shape.names.join(QStringLiteral(".rowid, ")) + QStringLiteral(".rowid");
     if (shape.orderBy < 0)
         return QStringLiteral(" ORDER BY ") + keys;
     QString tail = QStringLiteral(" ORDER BY");
-    for (qsizetype i = shape.orderBy + 2; i < tokens.size(); ++i) {
+    for (qsizetype i = shape.orderBy + 2; i < end; ++i) {
         tail += u' ' + Rendered(tokens[i]);
         if (tokens[i].kind == TokenKind::Word && IsTextColumn(tokens[i].text))
             tail += QStringLiteral(" COLLATE ") + QLatin1String(PeopleCollation);
@@ -179,18 +216,21 @@ EngineSql TranslateSql(const QString& statement, bool withRowKey) {
     }
 
     QString text;
-    const qsizetype end = ordered && shape.orderBy >= 0 ? shape.orderBy : tokens.size();
+    const qsizetype limit = ordered && shape.limit >= 0 ? shape.limit : tokens.size();
+    const qsizetype end = ordered && shape.orderBy >= 0 ? shape.orderBy : limit;
     for (qsizetype i = 0; i < end; ++i) {
         if (i == 1 && IsWord(tokens[0], u"DELETE") && IsSign(tokens[1], u"*"))
             continue;
         if (result.hasRowKey && i == shape.from)
-            text += QStringLiteral(" , %1.rowid").arg(result.table);
+            text += QStringLiteral(" , %1.rowid").arg(shape.names.first());
         if (i > 0)
             text += u' ';
         text += Rendered(tokens[i]);
     }
     if (ordered)
-        text += OrderTail(tokens, shape);
+        text += OrderTail(tokens, shape, limit);
+    for (qsizetype i = limit; i < tokens.size(); ++i)
+        text += u' ' + Rendered(tokens[i]);
     result.text = text.toUtf8();
     return result;
 }

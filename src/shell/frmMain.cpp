@@ -1,6 +1,7 @@
 #include "frmMain.h"
 
 #include "Clock.h"
+#include "DebugMenu.h"
 #include "RunTimeError.h"
 #include "WindowTools.h"
 #include "cReaderOptions.h"
@@ -78,6 +79,9 @@ void frmMain::MDIForm_Load() {
         setWindowTitle(TitleWithVersion());
         UpdateLanguage();
         gReaderOptions = std::make_unique<cReaderOptions>();
+        m_ui->mnuDebug->menuAction()->setVisible(false);
+        if (IsDevelopmentRun())
+            FillDebugMenu(*m_ui->mnuDebug, *this);
         m_ui->lblTitle->setMinimumHeight(PixelsOf(StripHeight - ToolbarHeight));
         m_ui->tbrMain->setMinimumHeight(PixelsOf(ToolbarHeight));
         m_ui->pctMenu->setMinimumHeight(PixelsOf(StripHeight));
@@ -147,6 +151,7 @@ void frmMain::NavigateToolbarButtons(const QString& state) {
     const bool master = m_userType == MasterOperator;
     ToolbarButton(QStringLiteral("setup"))->setVisible(master);
     m_ui->mnuTools->menuAction()->setVisible(master);
+    m_ui->mnuDebug->menuAction()->setVisible(master && IsDevelopmentRun());
     for (QAction* action : {m_ui->mnuFileArchive, m_ui->mnuFileBackup, m_ui->mnuFileRestore})
         action->setEnabled(master);
     for (QAction* action :

@@ -4,11 +4,13 @@
 #include "Clock.h"
 #include "FileDialogs.h"
 #include "Format.h"
+#include "FreeFile.h"
 #include "ProgressWindow.h"
 #include "RunTimeError.h"
 #include "StoreBackup.h"
 #include "StoreRestore.h"
 #include "deMain.h"
+#include "frmArchive.h"
 #include "frmMain.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"
@@ -31,18 +33,12 @@ FileRequest DatabaseFile(const char* title, const QString& name = {}) {
             QStringLiteral("mdb"), name};
 }
 
-/// Asks until the name is new. Empty if the operator cancels.
 QString AskForBackupName(QWidget* parent) {
-    const FileRequest request =
-        DatabaseFile(QT_TR_NOOP("Select backup destination"),
-                     QStringLiteral("WK_Backup_") + Format(Today(), QStringLiteral("yyyy-MM-dd")) +
-                         QStringLiteral(".mdb"));
-    for (;;) {
-        QString path = AskForNewFile(request, Translated, parent);
-        if (!QFileInfo::exists(path))
-            return path;
-        IvMessageBox(Translate("That filename is already in use. Please choose another filename"));
-    }
+    return AskForFreeFile(DatabaseFile(QT_TR_NOOP("Select backup destination"),
+                                       QStringLiteral("WK_Backup_") +
+                                           Format(Today(), QStringLiteral("yyyy-MM-dd")) +
+                                           QStringLiteral(".mdb")),
+                          parent);
 }
 
 /// Asks until the file exists and is not the store itself. Empty if the operator cancels.
@@ -131,7 +127,9 @@ void ReplaceStore(StoreRestore& restore, const QString& source, QWidget* parent)
 
 } // namespace
 
-void frmMain::GoArchive() {}
+void frmMain::GoArchive() {
+    Guarded("frmMain::GoArchive", ErrorShow::Dialog, [this] { frmArchive(this).exec(); });
+}
 
 void frmMain::GoBackup() {
     Guarded("frmMain::GoBackup", ErrorShow::Dialog, [this] {

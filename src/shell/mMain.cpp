@@ -30,11 +30,11 @@ std::unique_ptr<InstanceLock> g_instance;
 std::unique_ptr<frmMain> g_frmMain;
 
 void ReadCommandLine(const QString& commandLine) {
-    gDebugMode = commandLine.contains(QStringLiteral("-debug"));
+    gDebugMode = commandLine.contains(QStringLiteral("-debug")) || IsDevelopmentRun();
     if (gDebugMode)
         WriteLog(AppExeName() + QStringLiteral(" Started at ") + DefaultDateTimeText(Now()));
-    gDemoMode = commandLine.contains(QStringLiteral("-demo"));
-    // The switch is only for that one line. Later tests of the flag find it off.
+    gDemoMode = commandLine.contains(QStringLiteral("-demo")) || IsDevelopmentRun();
+    // It is only for that one line. Later tests of the flag find it off.
     gDebugMode = false;
     gEdition = 0;
 }

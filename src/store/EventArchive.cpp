@@ -161,7 +161,7 @@ std::optional<int> Archive(const ArchiveRange& range, const QString& path,
         WriteHeader(file);
         WriteEvents(file, bounds, written);
         file.Finish();
-        deleted = gConn->Execute(QStringLiteral("DELETE * ") + InRangeAsStored, bounds);
+        deleted = gConn->Execute(QStringLiteral("DELETE * ") + InRange, bounds);
     } catch (const RunTimeError&) {
         if (cancelled)
             return {};

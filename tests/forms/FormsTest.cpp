@@ -7,8 +7,10 @@
 #include "frmAbout.h"
 #include "frmAddButton.h"
 #include "frmAddReader.h"
+#include "frmArchive.h"
 #include "frmCompany.h"
 #include "frmCopyTour.h"
+#include "frmDebugData.h"
 #include "frmDownload.h"
 #include "frmEditButton.h"
 #include "frmEditReader.h"
@@ -83,10 +85,10 @@ std::map<QString, Maker> MakersOf() {
 
 std::map<QString, Maker> AllMakers() {
     auto makers =
-        MakersOf<frmAddButton, frmAddReader, frmCompany, frmCopyTour, frmDownload, frmEditButton,
-                 frmEditReader, frmEditTime, frmGoOnline, frmLogin, frmMDISetup, frmMain,
-                 frmManualID, frmMdiDownload, frmMdiMenu, frmMdiReports, frmPrpComms,
-                 frmRptHardwareListParam, frmRptPatrolSchedule, frmRptCustomParam,
+        MakersOf<frmAddButton, frmAddReader, frmArchive, frmCompany, frmCopyTour, frmDebugData,
+                 frmDownload, frmEditButton, frmEditReader, frmEditTime, frmGoOnline, frmLogin,
+                 frmMDISetup, frmMain, frmManualID, frmMdiDownload, frmMdiMenu, frmMdiReports,
+                 frmPrpComms, frmRptHardwareListParam, frmRptPatrolSchedule, frmRptCustomParam,
                  frmRptReaderReport, frmRptIncidentNew, frmRptIncidentParam, frmRptTour, frmSetTime,
                  frmSplash, frmUserMaintenance>();
     makers["frmAbout"] = [](auto&, auto&) {

@@ -77,6 +77,14 @@ private slots:
             {"2|b", "2|B"});
         row("two columns", names + "WHERE tName < 'a' ORDER BY wType DESC, tName",
             {"2|B", "1|B", "1|Zug"});
+        row("alias and limit", names.chopped(13) + "tblListItems i ORDER BY i.tName LIMIT 2",
+            ordered.mid(0, 2));
+        row("limit only", names + "AS i WHERE i.wType = 1 LIMIT 2", {"1|c", "1|B"});
+        row("query in a query",
+            names + "WHERE tName IN (SELECT x FROM (SELECT 'B' AS x)) AND 'x' || tName = 'xB'",
+            {"1|B", "2|B"});
+        row("name in quotes", names.chopped(13) + "\"tblListItems\" WHERE wType = 1 LIMIT 1",
+            {"1|c"});
         row("ties in turn, whatever the index",
             "INSERT INTO tblEvents (dtDateTime) VALUES (2), (1), (2)\n"
             "SELECT ID FROM tblEvents ORDER BY dtDateTime DESC",

@@ -211,6 +211,25 @@ void AddOptionalText(CLI::App& options, const char* name, QString& value, const 
     });
 }
 
+void AddWordOrOption(CLI::App& options, const char* word, QString& wordValue, const char* wordHelp,
+                     const char* option, const char* optionKind, QString& optionValue,
+                     const char* optionHelp) {
+    const auto add = [&](const char* name, const char* kind, QString& value, const char* help) {
+        AddValue(options, name, kind, help, Presence::Optional,
+                 [&value](const QString& text) -> std::optional<QString> {
+                     value = text;
+                     return {};
+                 });
+    };
+    add(word, "", wordValue, wordHelp);
+    add(option, optionKind, optionValue, optionHelp);
+    options.callback([=, &wordValue, &optionValue] {
+        if (wordValue.isEmpty() == optionValue.isEmpty())
+            throw UsageError(QStringLiteral("either %1 or %2 must be given")
+                                 .arg(QString::fromUtf8(word), QString::fromUtf8(option)));
+    });
+}
+
 void AddWord(CLI::App& options, const char* name, const QStringList& words,
              const std::function<void(qsizetype)>& store, const char* help, Presence presence) {
     AddValue(options, name, words.join(u'|').toUtf8().constData(), help, presence,

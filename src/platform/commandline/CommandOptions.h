@@ -62,6 +62,12 @@ void AddCodes(CLI::App& options, const char* name, QStringList& values, const ch
 /// A name, such as that of a site.
 void AddOptionalText(CLI::App& options, const char* name, QString& value, const char* help);
 
+/// What a command works on: a word of the call, or instead of it the option, whose value the help
+/// calls `optionKind`. One of them must be given.
+void AddWordOrOption(CLI::App& options, const char* word, QString& wordValue, const char* wordHelp,
+                     const char* option, const char* optionKind, QString& optionValue,
+                     const char* optionHelp);
+
 /// One of several words; `store` takes the number of the chosen one.
 void AddWord(CLI::App& options, const char* name, const QStringList& words,
              const std::function<void(qsizetype)>& store, const char* help, Presence presence);

@@ -1,0 +1,176 @@
+#include "StoreDump.h"
+
+#include "FieldTypes.h"
+#include "Format.h"
+#include "RunTimeError.h"
+#include "mDeclareGlobals.h"
+#include "mStore.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+constexpr qsizetype PieceBytes = 64 * 1024;
+constexpr int SchemaRuler = 41;
+
+/// Days of the years 100 to 9999, which can be written as dates.
+constexpr double FirstDay = -657'434, LastDay = 2'958'466;
+
+struct Column {
+    QString name;
+    DataType type;
+    qsizetype width;
+};
+
+std::vector<Column> ColumnsOf(Recordset& rows) {
+    std::vector<Column> columns;
+    int index = 0;
+    for (const QString& name : rows.Columns()) {
+        const DataType type = FieldType(name, rows.FieldAt(index++));
+        const qsizetype width =
+            std::max({name.size(), FieldTypeName(type).size(), qsizetype{DefinedSize(type)}});
+        columns.push_back({WithoutControls(name, u' '), type, width});
+    }
+    return columns;
+}
+
+QString CellText(const Value& value, DataType type) {
+    const bool isText = std::holds_alternative<QString>(value.Data());
+    if (type == adDate && !isText && !value.IsNull() && value.Real() >= FirstDay &&
+        value.Real() < LastDay)
+        return DefaultDateTimeText(value.Date());
+    return isText ? WithoutControls(value.Text(), u' ') : value.Text();
+}
+
+/// Collects lines and passes them on in large pieces.
+class Lines {
+public:
+    explicit Lines(const TakeText& take) : m_take(take) {}
+
+    void Add(const QString& line) {
+        m_piece += line.toUtf8();
+        m_piece += '\n';
+        if (m_piece.size() >= PieceBytes)
+            Flush();
+    }
+    void Flush() { m_take(std::exchange(m_piece, {})); }
+
+private:
+    const TakeText& m_take;
+    QByteArray m_piece;
+};
+
+template <typename Cell>
+QString RowLine(const std::vector<Column>& columns, const Cell& cell) {
+    QString line;
+    int index = 0;
+    for (const Column& column : columns) {
+        line += QStringLiteral("| ");
+        line += cell(column, index++).leftJustified(column.width + 1);
+    }
+    return line + u'|';
+}
+
+QString RulerLine(const std::vector<Column>& columns) {
+    QString line;
+    for (const Column& column : columns)
+        line += u'+' + QString(column.width + 2, u'-');
+    return line;
+}
+
+void AddRows(Recordset& rows, Lines& lines) {
+    const std::vector<Column> columns = ColumnsOf(rows);
+    const QString ruler = RulerLine(columns);
+    lines.Add(ruler);
+    lines.Add(RowLine(columns, [](const Column& column, int) { return column.name; }));
+    lines.Add(
+        RowLine(columns, [](const Column& column, int) { return FieldTypeName(column.type); }));
+    lines.Add(ruler);
+    for (; !rows.Eof(); rows.MoveNext())
+        lines.Add(RowLine(columns, [&](const Column& column, int index) {
+            return CellText(rows.FieldAt(index), column.type);
+        }));
+    lines.Add(ruler);
+}
+
+/// The store's own tables or views.
+QStringList NamesOf(QStringView kind, Connection& store) {
+    QStringList names;
+    for (const auto schema = store.OpenSchema(); !schema->Eof(); schema->MoveNext()) {
+        const QString name = schema->Text(u"TABLE_NAME");
+        if (schema->Text(u"TABLE_TYPE").compare(kind, Qt::CaseInsensitive) == 0 &&
+            !name.startsWith(u"sqlite_"))
+            names += name;
+    }
+    return names;
+}
+
+void AddNames(const char* heading, QStringView kind, Connection& store, Lines& lines) {
+    lines.Add(QString(SchemaRuler, u'-'));
+    lines.Add(QString::fromLatin1(heading));
+    for (const QString& name : NamesOf(kind, store))
+        lines.Add(u'\t' + WithoutControls(name, u' '));
+}
+
+[[noreturn]] void Refuse(const QString& why) {
+    throw RunTimeError(RunTimeErrorNumber::InvalidPropertyValue, why);
+}
+
+} // namespace
+
+std::unique_ptr<Connection> OpenForReading() {
+    auto store = std::make_unique<Connection>();
+    store->Mode = adModeRead;
+    store->Open(ConnectionText(gDatabasePath, StorePassword));
+    store->OnlyRead(
+        QStringLiteral("tblOperators"),
+        QStringLiteral("SELECT LoginName, '••••••••' AS Password FROM main.tblOperators"));
+    return store;
+}
+
+void OpenReading(Recordset& rows, const QString& statement, Connection& store) {
+    static const QRegularExpression quoted(QStringLiteral("'[^']*'|\"[^\"]*\""));
+    static const QRegularExpression comment(QStringLiteral("--|/\\*"));
+    if (QString(statement).remove(u';').trimmed().isEmpty())
+        Refuse(QStringLiteral("There is no statement."));
+    if (QString(statement).remove(quoted).contains(comment))
+        Refuse(QStringLiteral("The statement may not contain comments."));
+    rows.Open(statement, store, adOpenForwardOnly, adLockReadOnly);
+}
+
+QString StatementForTable(const QString& table, Connection& store) {
+    static const QRegularExpression plain(QStringLiteral("^\\w+$"));
+    for (QString name : NamesOf(u"table", store) + NamesOf(u"view", store)) {
+        if (name.compare(table, Qt::CaseInsensitive) != 0)
+            continue;
+        if (!plain.match(name).hasMatch())
+            name = u'"' + name.replace(u'"', QStringLiteral("\"\"")) + u'"';
+        return QStringLiteral("SELECT *  FROM ") + name + u';';
+    }
+    Refuse(QStringLiteral("There is no table \"%1\".").arg(table));
+}
+
+QString TitleForQuery(const QString& statement) {
+    return QStringLiteral("Report for query '") + statement + u'\'';
+}
+
+void WriteRecordSet(Recordset& rows, const QString& title, const TakeText& take) {
+    Lines lines(take);
+    lines.Add(WithoutControls(title, u' '));
+    lines.Add({});
+    if (rows.Eof())
+        lines.Add(QStringLiteral("No records in this table"));
+    else
+        AddRows(rows, lines);
+    lines.Flush();
+}
+
+void WriteSchema(Connection& store, const QString& title, const TakeText& take) {
+    Lines lines(take);
+    lines.Add(WithoutControls(title, u' '));
+    lines.Add({});
+    AddNames("Tables", u"table", store, lines);
+    lines.Add({});
+    AddNames("Views", u"view", store, lines);
+    lines.Flush();
+}
