@@ -24,6 +24,7 @@ public:
 private:
     TranslateText m_translate;
     bool m_countsPages;
+    std::int64_t m_began; ///< by MillisecondsRunning
     Hourglass m_hourglass;
     std::optional<ArrowPointer> m_arrow; // after the hourglass: it goes first
     QProgressDialog m_window;
