@@ -1528,6 +1528,58 @@
         <translation>Die Kopie hat nicht die Zeilen der Datenbank.</translation>
     </message>
     <message>
+        <source>The database was not copied.</source>
+        <translation>Die Datenbank wurde nicht kopiert.</translation>
+    </message>
+    <message>
+        <source>The database itself is damaged.</source>
+        <translation>Die Datenbank selbst ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The folder does not exist.</source>
+        <translation>Den Ordner gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Removed:</source>
+        <translation>Gelöscht:</translation>
+    </message>
+    <message>
+        <source>Not removed:</source>
+        <translation>Nicht gelöscht:</translation>
+    </message>
+    <message>
+        <source>A program was killed while it wrote to this file. Its journal is still beside it.</source>
+        <translation>Ein Programm wurde abgebrochen, während es in diese Datei schrieb. Ihr Journal liegt noch daneben.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read this file.</source>
+        <translation>Sie dürfen diese Datei nicht lesen.</translation>
+    </message>
+    <message>
+        <source>It is not a database of this program, or it is damaged.</source>
+        <translation>Sie ist keine Datenbank dieses Programms, oder sie ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The database is damaged:</source>
+        <translation>Die Datenbank ist beschädigt:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>Es fehlt:</translation>
+    </message>
+    <message>
+        <source>Buttons whose group does not exist:</source>
+        <translation>Knöpfe, deren Gruppe es nicht gibt:</translation>
+    </message>
+    <message>
+        <source>Tour points whose tour does not exist:</source>
+        <translation>Tourpunkte, deren Tour es nicht gibt:</translation>
+    </message>
+    <message>
+        <source>Tour points whose button does not exist:</source>
+        <translation>Tourpunkte, deren Knopf es nicht gibt:</translation>
+    </message>
+    <message>
         <source>Save As</source>
         <translation>Speichern unter</translation>
     </message>

@@ -1,3 +1,4 @@
+#include "FileReplacement.h"
 #include "RunTimeError.h"
 #include "StationApplication.h"
 #include "mMain.h"
@@ -41,6 +42,7 @@ bool Answered(int argc, char* argv[]) {
 int main(int argc, char* argv[]) {
     if (Answered(argc, argv))
         return EXIT_SUCCESS;
+    SurviveFileSizeLimit();
     StationApplication app(argc, argv);
     return app.RunGuarded([&] {
         const StartOutcome outcome = Main(StationApplication::CommandLine());

@@ -1,4 +1,5 @@
 #include "Console.h"
+#include "FileReplacement.h"
 
 #include <QGuiApplication>
 
@@ -35,6 +36,7 @@ QStringList Arguments([[maybe_unused]] int argc, [[maybe_unused]] char* argv[]) 
 
 int main(int argc, char* argv[]) {
     qInstallMessageHandler(OnlyTrace);
+    SurviveFileSizeLimit();
     // A report's page needs fonts but no display, whatever the desktop has set.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // Qt sees none of the arguments; it would take some for its own, such as a value "-style".

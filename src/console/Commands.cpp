@@ -23,6 +23,7 @@ std::vector<Command> Commands() {
     ADD(Archive)
     ADD(Backup)
     ADD(Restore)
+    ADD(Check)
     ADD(Dump)
 #undef ADD
     return commands;

@@ -10,6 +10,7 @@
 #include <windows.h>
 #else
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -32,6 +33,8 @@ QString FileMeantBy(const QString& path) {
 }
 
 #ifdef Q_OS_WIN
+
+void SurviveFileSizeLimit() {}
 
 int FileErrorNumber() {
     const DWORD error = GetLastError();
@@ -77,6 +80,8 @@ void PlaceNewFile(const QString& from, const QString& to) { Move(from, to, 0); }
 void KeepOwnerAndMode(const QString&, const QString&) {}
 
 #else
+
+void SurviveFileSizeLimit() { std::signal(SIGXFSZ, SIG_IGN); }
 
 int FileErrorNumber() {
     switch (errno) {

@@ -8,6 +8,10 @@ QString FileMeantBy(const QString& path);
 /// Files that must survive a killed program and a power cut. Everything that fails throws
 /// RunTimeError with the file's name and the cause; its number is that of FileErrorNumber.
 
+/// Called when a program starts: a file that would become larger than the user may make it is then
+/// a failure of the write. Without this the system kills the program.
+void SurviveFileSizeLimit();
+
 /// Writes a file's data and its folder entry to the disk. The entry is left to the system if its
 /// file system cannot sync a folder.
 void SyncFile(const QString& path);

@@ -3,9 +3,9 @@
 #include "Connection.h"
 #include "Engine.h"
 #include "JournalTrial.h"
-#include "Recordset.h"
 #include "RunTimeError.h"
 #include "StorePassword.h"
+#include "TableExists.h"
 #include "mStore.h"
 #include "mTranslations.h"
 
@@ -42,19 +42,10 @@ QString CauseOfNotOpening(const RunTimeError& error, const QString& path) {
 
 } // namespace
 
-QMap<QString, qint64> RowsPerTable(Connection& store) {
-    QMap<QString, qint64> rows;
-    const auto tables = store.OpenSchema();
-    for (; !tables->Eof(); tables->MoveNext()) {
-        const QString name = tables->Text(u"TABLE_NAME");
-        if (tables->Text(u"TABLE_TYPE") != u"table")
-            continue;
-        Recordset count;
-        count.Open(QStringLiteral("SELECT COUNT(*) FROM \"") +
-                       QString(name).replace(u'"', QStringLiteral("\"\"")) + u'"',
-                   store);
-        rows[name] = count.FieldAt(0).Number();
-    }
+QMap<QString, int> RowsPerTable(Connection& store) {
+    QMap<QString, int> rows;
+    for (const QString& table : TablesOf(store))
+        rows[table] = CountRows(table, store);
     return rows;
 }
 
@@ -101,7 +92,7 @@ std::optional<QString> FaultOf(Connection& store, const WorkProgress& progress) 
     return cancelled ? std::optional<QString>() : fault;
 }
 
-bool ProveCopy(const QString& path, const QMap<QString, qint64>& original,
+bool ProveCopy(const QString& path, const QMap<QString, int>& original,
                const WorkProgress& progress) {
     Connection copy;
     OpenCopy(copy, path);

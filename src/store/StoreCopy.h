@@ -12,7 +12,7 @@ class Connection;
 /// Copies of a store, and whether they are complete. Everything here throws RunTimeError.
 
 /// How many rows each table of a store has, by the table's name.
-QMap<QString, qint64> RowsPerTable(Connection& store);
+QMap<QString, int> RowsPerTable(Connection& store);
 
 /// Reads a file and passes its bytes to `write`. It counts in units of 64 KiB. False if `progress`
 /// has cancelled it. A file that changes while it is copied is a failure.
@@ -28,5 +28,5 @@ std::optional<QString> FaultOf(Connection& store, const WorkProgress& progress);
 
 /// Checks a copy from its first page to its last. Throws if it is damaged, or if it does not have
 /// the same tables with the same numbers of rows as `original`. False if `progress` has cancelled.
-bool ProveCopy(const QString& path, const QMap<QString, qint64>& original,
+bool ProveCopy(const QString& path, const QMap<QString, int>& original,
                const WorkProgress& progress);

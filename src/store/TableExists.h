@@ -1,6 +1,14 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
+
+class Connection;
+
+/// The tables of a store, without the engine's own. Throws RunTimeError.
+QStringList TablesOf(Connection& store);
+
+/// How many rows a table of any name has. Throws RunTimeError.
+int CountRows(const QString& table, Connection& store);
 
 /// True if gConn has a table of exactly this name. Throws RunTimeError.
 bool TableExists(const QString& name);

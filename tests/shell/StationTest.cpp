@@ -21,6 +21,7 @@
 
 #include <QComboBox>
 #include <QDateEdit>
+#include <QFileDialog>
 #include <QMenu>
 #include <QTabBar>
 
@@ -261,6 +262,39 @@ private slots:
         QVERIFY(Action("home")->isEnabled() && !Action("reports")->isEnabled());
         QVERIFY_THROWS_EXCEPTION(RunTimeError, MainWindow()->NavigateToolbarButtons("111"));
         QVERIFY(Action("home")->isEnabled() && !Action("reports")->isEnabled());
+    }
+
+    void BacksUpFromTheMenu() {
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QVERIFY(Start(nullptr));
+        Script script;
+        QStringList proposed;
+        const auto choose = [&](const QString& path) {
+            script.Then([&proposed, path] {
+                auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                if (!dialog)
+                    return false;
+                proposed += QFileInfo(dialog->selectedFiles().value(0)).fileName();
+                auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+                name->setText(path);
+                QTimer::singleShot(0, name, [name] { QTest::keyClick(name, Qt::Key_Return); });
+                return true;
+            });
+        };
+        choose(m_home->File("WK3.MLD"));
+        script.Answer("OK");
+        choose(m_home->File("copy")); // gets the usual ending
+        script.Answer("OK");
+        script.Start();
+        Action("mnuFileBackup")->trigger();
+        QVERIFY(script.Finish());
+        const QString name = "WK_Backup_" + QDate::currentDate().toString(Qt::ISODate) + ".mdb";
+        QCOMPARE(proposed, QStringList({name, name}));
+        QCOMPARE(
+            script.Texts(),
+            (QStringList{"That filename is already in use. Please choose another filename",
+                         "Successfully copied the database to :\n" + m_home->File("copy.mdb")}));
+        QVERIFY(BytesOf(m_home->File("copy.mdb")) == BytesOf(m_home->Store()));
     }
 
     // On every page, what talks to the dock is disabled while the port is closed, and nothing else.

@@ -1,5 +1,7 @@
 #include "ProgressWindow.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 constexpr int AppearsAfter = 1000; // milliseconds
@@ -16,6 +18,7 @@ ProgressWindow::ProgressWindow(const char* title, TranslateText translate, QWidg
     m_window.setWindowModality(Qt::ApplicationModal);
     m_window.setMinimumDuration(AppearsAfter);
     m_window.setAutoReset(false);
+    m_age.start();
 }
 
 bool ProgressWindow::operator()(int done, int all) {
@@ -24,7 +27,12 @@ bool ProgressWindow::operator()(int done, int all) {
         m_window.setLabelText(m_translate(QStringLiteral("Page")) + u' ' +
                               QString::number(done + 1) + u' ' + m_translate(QStringLiteral("of")) +
                               u' ' + QString::number(all));
-    m_window.setValue(done); // handles events once the window is visible
+    if (done != m_window.value()) {
+        m_window.setValue(done);                 // handles events once the window is visible
+    } else if (m_age.hasExpired(AppearsAfter)) { // setValue would do nothing
+        m_window.show();
+        QCoreApplication::processEvents();
+    }
     if (m_window.isVisible() && !m_arrow)
         m_arrow.emplace();
     return !m_window.wasCanceled();

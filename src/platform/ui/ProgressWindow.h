@@ -2,6 +2,7 @@
 
 #include "WindowTools.h"
 
+#include <QElapsedTimer>
 #include <QProgressDialog>
 
 #include <optional>
@@ -26,4 +27,5 @@ private:
     Hourglass m_hourglass;
     std::optional<ArrowPointer> m_arrow; // after the hourglass: it goes first
     QProgressDialog m_window;
+    QElapsedTimer m_age;
 };
