@@ -12,6 +12,7 @@
 #include "TestHome.h"
 #include "TestTable.h"
 #include "TourReportBuilder.h"
+#include "cReaderOptions.h"
 #include "frmMain.h"
 
 #include <QMenu>
@@ -54,6 +55,10 @@ class DiagnosticsTest : public QObject {
 
 private slots:
     void initTestCase() { QLocale::setDefault(QLocale::c()); }
+    void cleanupTestCase() {
+        gReaderOptions.reset();
+        m_home.reset();
+    }
     void init() {
         m_home.reset();
         m_home = std::make_unique<TestHome>(TestHome::DemoSite);

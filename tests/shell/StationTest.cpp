@@ -583,6 +583,7 @@ private slots:
             QVERIFY(log.endsWith("ADOTest Failed. Exiting..."));
             QCOMPARE(log.contains(" Started at "), development);
             QCOMPARE(gDemoMode, development);
+            ReleaseMainWindow();
         }
         qunsetenv("WARDLOCK_DEVELOPMENT");
         QVERIFY(!MainWindow());
