@@ -1,12 +1,8 @@
 #include "ProgressWindow.h"
 
-<<<<<<< HEAD
 #include "Clock.h"
 
 #include <limits>
-=======
-#include <QCoreApplication>
->>>>>>> main
 
 namespace {
 
@@ -27,7 +23,6 @@ ProgressWindow::ProgressWindow(const char* title, TranslateText translate, QWidg
     // step.
     m_window.setMinimumDuration(std::numeric_limits<int>::max());
     m_window.setAutoReset(false);
-    m_age.start();
 }
 
 bool ProgressWindow::operator()(int done, int all) {
@@ -36,20 +31,10 @@ bool ProgressWindow::operator()(int done, int all) {
         m_window.setLabelText(m_translate(QStringLiteral("Page")) + u' ' +
                               QString::number(done + 1) + u' ' + m_translate(QStringLiteral("of")) +
                               u' ' + QString::number(all));
-<<<<<<< HEAD
     m_window.setValue(done);
     if (!m_window.isVisible() && !m_window.wasCanceled() &&
         MillisecondsRunning() - m_began >= AppearsAfter) {
         m_window.show();
-=======
-    if (done != m_window.value()) {
-        m_window.setValue(done);                 // handles events once the window is visible
-    } else if (m_age.hasExpired(AppearsAfter)) { // setValue would do nothing
-        m_window.show();
-        QCoreApplication::processEvents();
-    }
-    if (m_window.isVisible() && !m_arrow)
->>>>>>> main
         m_arrow.emplace();
     }
     if (m_window.isVisible())

@@ -2,7 +2,6 @@
 
 #include "WindowTools.h"
 
-#include <QElapsedTimer>
 #include <QProgressDialog>
 
 #include <optional>
@@ -28,5 +27,4 @@ private:
     Hourglass m_hourglass;
     std::optional<ArrowPointer> m_arrow; // after the hourglass: it goes first
     QProgressDialog m_window;
-    QElapsedTimer m_age;
 };
