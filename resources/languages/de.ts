@@ -1688,6 +1688,10 @@
         <translation>Die gewählte Datei ist keine Datenbank dieses Programms, ihr Kennwort ist ein anderes, oder sie ist beschädigt.</translation>
     </message>
     <message>
+        <source>The chosen file is not a complete database of this program. It lacks </source>
+        <translation>Die gewählte Datei ist keine vollständige Datenbank dieses Programms. Es fehlen: </translation>
+    </message>
+    <message>
         <source>The chosen file is damaged: </source>
         <translation>Die gewählte Datei ist beschädigt: </translation>
     </message>

@@ -4,6 +4,7 @@
 #include "Engine.h"
 #include "FileReplacement.h"
 #include "JournalTrial.h"
+#include "StoreCheck.h"
 #include "StoreCopy.h"
 #include "StoreFailure.h"
 #include "mErrorHandler.h"
@@ -29,23 +30,16 @@ bool IsSameFile(const QString& a, const QString& b) {
 /// Runs the body. What it throws becomes a text that says that the store was not restored, and why.
 /// `inUse`: the store that a failure of the kind FileInUse is about.
 template <typename Body>
-auto Explained(const QString& inUse, Body&& body) {
+auto Explained(const QString& inUse, const QString& copy, Body&& body) {
     try {
         return body();
     } catch (const RunTimeError& error) {
-        QString text = Translate("The database was not restored. It is as it was before.") + u'\n';
-        switch (error.Number()) {
-        case RunTimeErrorNumber::FileInUse:
-            text += CauseOf(error, inUse);
-            break;
-        case RunTimeErrorNumber::DiskFull:
-        case RunTimeErrorNumber::PermissionDenied:
-            text += CauseOf(error, inUse) + u'\n' + error.Description();
-            break;
-        default:
-            text += error.Description();
-        }
-        throw RunTimeError(error.Number(), text);
+        const QString cause = error.Number() == RunTimeErrorNumber::FileInUse
+                                  ? CauseOf(error, inUse)
+                                  : CauseOfCopyFailure(error, copy);
+        throw RunTimeError(error.Number(),
+                           Translate("The database was not restored. It is as it was before.") +
+                               u'\n' + cause);
     }
 }
 
@@ -83,7 +77,7 @@ StoreRestore::Stamp StoreRestore::StampOf(const QString& path) {
 }
 
 bool StoreRestore::MakeCopy(const WorkProgress& progress) {
-    return Explained(m_source, [&] {
+    return Explained(m_source, m_copy, [&] {
         // The engine follows links, so journal and lock are beside the real file.
         const QFileInfo source(QFileInfo(m_source).canonicalFilePath());
         if (!source.exists())
@@ -173,6 +167,10 @@ bool StoreRestore::CheckCopy(const WorkProgress& progress) const {
     const auto fault = FaultOf(copy, progress);
     if (fault && !fault->isEmpty())
         Refuse(Translate("The chosen file is damaged: ") + *fault);
+    const QStringList missing = MissingParts(copy);
+    if (!missing.isEmpty())
+        Refuse(Translate("The chosen file is not a complete database of this program. It lacks ") +
+               missing.join(QStringLiteral(", ")));
     return fault.has_value();
 }
 
@@ -206,7 +204,7 @@ void StoreRestore::Replace() {
                 throw;
         }
     };
-    Explained(m_store, replace);
+    Explained(m_store, m_copy, replace);
     m_checked.reset();
     if (replaced)
         throw RunTimeError(RunTimeErrorNumber::FileNotFound,

@@ -120,6 +120,7 @@ private slots:
             {"reader set-clock --device x --time 2026-02-29T10:00", "expected a time"},
             {"reader set-clock --device x --time 1999-12-31T23:59", "expected a time"},
             {"reader set-options --device x --led --no-led", "--led excludes --no-led"},
+            {"restore x", "--yes is required"},
             {"setup export", "FILE is required"},
             {"setup export a b", "unexpected argument \"b\""}};
         const Office office;
@@ -371,6 +372,26 @@ private slots:
     }
 
     // An option that is not given keeps its value from the last call.
+    // The password is that of the store or, if the store cannot be opened, that of the backup.
+    void Restores() {
+        const Office office, stranger("wrong");
+        const QStringList words{"--home", office.File({}), "restore", office.File("backup.mdb"),
+                                "--yes"};
+        QVERIFY(QFile::copy(office.Store(), office.File("backup.mdb")));
+        const QByteArray backup = BytesOf(office.Store());
+        for (const QByteArray& spoilt : {backup + "?", QByteArray(9999, '?'), QByteArray()}) {
+            QFile::remove(office.Store());
+            if (!spoilt.isEmpty())
+                WriteBytes(office.Store(), spoilt);
+            QCOMPARE(stranger.Run(WARDLOCKCTL, words).status, 1);
+            QVERIFY(BytesOf(office.Store()) == spoilt);
+            const Outcome outcome = office.Run(WARDLOCKCTL, words);
+            QVERIFY2(outcome.status == 0 && outcome.err.isEmpty(), outcome.err.constData());
+            QVERIFY(outcome.out.startsWith("Successfully copied the database\nFrom: "));
+            QVERIFY(BytesOf(office.Store()) == backup);
+        }
+    }
+
     void OptionsAddUp() {
         const Office office;
         Dock dock(Night);
