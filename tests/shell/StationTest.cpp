@@ -55,6 +55,22 @@ void LogIn(Script& script, const QString& password, const char* operatorButton =
     script.Click("frmLogin", "cmdOK");
 }
 
+/// Waits for a file dialog, keeps the name that it proposes, and types this path. Without a path it
+/// cancels.
+void ChooseFile(Script& script, const QString& path, QStringList& proposed) {
+    script.Then([&proposed, path] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return false;
+        proposed += QFileInfo(dialog->selectedFiles().value(0)).fileName();
+        auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+        name->setText(path);
+        const Qt::Key key = path.isEmpty() ? Qt::Key_Escape : Qt::Key_Return;
+        QTimer::singleShot(0, name, [name, key] { QTest::keyClick(name, key); });
+        return true;
+    });
+}
+
 QAction* Action(const char* name) { return Control<QAction>(*MainWindow(), name); }
 
 } // namespace
@@ -269,21 +285,9 @@ private slots:
         QVERIFY(Start(nullptr));
         Script script;
         QStringList proposed;
-        const auto choose = [&](const QString& path) {
-            script.Then([&proposed, path] {
-                auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-                if (!dialog)
-                    return false;
-                proposed += QFileInfo(dialog->selectedFiles().value(0)).fileName();
-                auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
-                name->setText(path);
-                QTimer::singleShot(0, name, [name] { QTest::keyClick(name, Qt::Key_Return); });
-                return true;
-            });
-        };
-        choose(m_home->File("WK3.MLD"));
+        ChooseFile(script, m_home->File("WK3.MLD"), proposed);
         script.Answer("OK");
-        choose(m_home->File("copy")); // gets the usual ending
+        ChooseFile(script, m_home->File("copy"), proposed); // gets the usual ending
         script.Answer("OK");
         script.Start();
         Action("mnuFileBackup")->trigger();
@@ -295,6 +299,65 @@ private slots:
             (QStringList{"That filename is already in use. Please choose another filename",
                          "Successfully copied the database to :\n" + m_home->File("copy.mdb")}));
         QVERIFY(BytesOf(m_home->File("copy.mdb")) == BytesOf(m_home->Store()));
+    }
+
+    void ArchivesFromTheMenu() {
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QVERIFY(Start(nullptr));
+        gConn->Execute("INSERT INTO tblEvents (dtDateTime) VALUES (#2026-11-21 23:59:59#)");
+        const QString question = "Warning: This action will permanently delete the events from the "
+                                 "database.\nAre you sure you want to continue?";
+        QStringList proposed;
+        const auto setDays = [](Script& script, const QDate& first, const QDate& last) {
+            for (const auto& [field, day] :
+                 {std::pair("dtpStartDate", first), std::pair("dtpEndDate", last)})
+                script.With<QDateEdit>("frmArchive", field,
+                                       [day = day](QDateEdit& edit) { edit.setDate(day); });
+            script.Click("frmArchive", "cmdOK");
+        };
+        const QDate day(2026, 11, 21);
+        Script script;
+        QDate first, last;
+        script.With<QDateEdit>("frmArchive", "dtpStartDate",
+                               [&](QDateEdit& edit) { first = edit.date(); });
+        script.With<QDateEdit>("frmArchive", "dtpEndDate",
+                               [&](QDateEdit& edit) { last = edit.date(); });
+        setDays(script, day, day);
+        script.Answer("No"); // the window stays open
+        setDays(script, day.addDays(1), day);
+        script.Answer("Yes");
+        script.Answer("OK"); // none; it stays open
+        setDays(script, day, day);
+        script.Answer("Yes");
+        ChooseFile(script, {}, proposed); // it closes
+        script.Start();
+        Action("mnuFileArchive")->trigger();
+        QVERIFY(script.Finish());
+        QCOMPARE(first, QDate(2000, 1, 1));
+        QCOMPARE(last, QDate::currentDate());
+        QCOMPARE(
+            script.Texts(),
+            (QStringList{question, question,
+                         "There are no stored events within the dates you entered.", question}));
+        QCOMPARE(RowsOf("SELECT COUNT(*) FROM tblEvents"), QStringList("1"));
+
+        Script again;
+        setDays(again, day, day);
+        again.Answer("Yes");
+        ChooseFile(again, m_home->File("old"), proposed); // gets the usual ending
+        again.Answer("OK");
+        again.Start();
+        Action("mnuFileArchive")->trigger();
+        QVERIFY(again.Finish());
+        const QString name = "Archive2026-11-21_to_2026-11-21.csv";
+        QCOMPARE(proposed, QStringList({name, name}));
+        QCOMPARE(again.Texts().value(1), "Events Archived Successfully\nNumber of Events = 1\n"
+                                         "FileName =  " +
+                                             m_home->File("old.Csv"));
+        QVERIFY(BytesOf(m_home->File("old.Csv"))
+                    .endsWith("\"2026-11-21\",\"23:59\",\"\",\"\","
+                              "\"\",\"\",\"\"\r\n"));
+        QCOMPARE(RowsOf("SELECT COUNT(*) FROM tblEvents"), QStringList("0"));
     }
 
     // On every page, what talks to the dock is disabled while the port is closed, and nothing else.
