@@ -1,11 +1,13 @@
 // Compares the store's code with the bare engine: storing a download, reading many rows, reports in
-// a large store, compaction.
+// a large store, the archive, compaction.
 
 #include "Connection.h"
 #include "DataReport.h"
 #include "DatabaseReportBuilder.h"
 #include "Engine.h"
+#include "EventArchive.h"
 #include "Figures.h"
+#include "FileReplacement.h"
 #include "IncidentReportBuilder.h"
 #include "IncidentSitesBuilder.h"
 #include "MemoryImage.h"
@@ -26,6 +28,7 @@
 #include <random>
 #include <sqlcipher/sqlite3.h>
 #include <string>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -545,6 +548,91 @@ void BenchDatabaseMemory(Figures& figures, const QString& path, int argc, char* 
     });
 }
 
+/// The archive without our code around it: select, format, write, sync, delete.
+void ArchiveBare(const QString& store, const QString& path) {
+    Bare bare(store);
+    const QByteArray name = QFile::encodeName(path), part = name + ".part";
+    std::FILE* file = std::fopen(part.constData(), "wb");
+    bare.Run("BEGIN IMMEDIATE");
+    sqlite3_stmt* walk =
+        bare.Prepare("SELECT tPipeID, dtDateTime, tButtonCode, tButtonName, wGroupType, tGroupName "
+                     "FROM tblEvents WHERE +dtDateTime >= 0 AND +dtDateTime <= 100000 ORDER BY ID");
+    const char* const types[] = {"User", "Location", "Event"};
+    std::fputs("\xEF\xBB\xBF\"Date\",\"Time\",\"Button ID\",\"Type\",\"Group Name\",\"Button "
+               "Name\",\"Reader ID\"\r\n",
+               file);
+    const auto text = [walk](int column) { return sqlite3_column_text(walk, column); };
+    while (sqlite3_step(walk) == SQLITE_ROW) {
+        const auto seconds =
+            static_cast<time_t>(std::llround((sqlite3_column_double(walk, 1) - 25569) * 86400));
+        tm moment{};
+        gmtime_r(&seconds, &moment);
+        std::fprintf(
+            file, "\"%04d-%02d-%02d\",\"%02d:%02d\",\"%s\",\"%s\",\"%s\",\"%s\",\"%s\"\r\n",
+            moment.tm_year + 1900, moment.tm_mon + 1, moment.tm_mday, moment.tm_hour, moment.tm_min,
+            text(2), types[sqlite3_column_int(walk, 4)], text(5), text(3), text(0));
+    }
+    sqlite3_finalize(walk);
+    std::fclose(file);
+    SyncFile(path + ".part");
+    bare.Run("DELETE FROM tblEvents WHERE dtDateTime >= 0 AND dtDateTime <= 100000");
+    PlaceNewFile(path + ".part", path);
+    bare.Run("COMMIT");
+}
+
+int ArchiveAll(const QString& path) {
+    const ArchiveRange all{DateTime::FromDays(1), DateTime::FromDays(99'999)};
+    return ArchiveEventsOf(all, path, [](int, int) { return true; }).value_or(0);
+}
+
+void BenchArchive(Figures& figures, const QTemporaryDir& folder, const QString& path) {
+    const QString store = folder.filePath("archived.mdb"), bareStore = folder.filePath("bare.mdb"),
+                  file = folder.filePath("ours.csv"), bareFile = folder.filePath("bare.csv");
+    const auto fresh = [&path](const QString& copy, const QString& written) {
+        QFile::remove(copy);
+        QFile::remove(written);
+        QFile::copy(path, copy);
+    };
+    int archived = 0;
+    const Side ours{[&] {
+                        gConn.reset();
+                        fresh(store, file);
+                        if (!ADOInit(store, StorePassword))
+                            qFatal("the store does not open");
+                    },
+                    [&] { archived = ArchiveAll(file); }};
+    const Side baseline{[&] { fresh(bareStore, bareFile); },
+                        [&] { ArchiveBare(bareStore, bareFile); }};
+    Compare(figures, "archive 1,000,000 events", 3, 1.6, ours, baseline);
+    QFile one(file), other(bareFile);
+    if (archived != EventCount || !one.open(QIODevice::ReadOnly) ||
+        !other.open(QIODevice::ReadOnly) || one.readAll() != other.readAll())
+        qFatal("%d events were archived, or the files differ", archived);
+    gConn.reset();
+}
+
+/// The most memory that archiving a copy of the store takes, in a process of its own.
+double PeakOfArchive(const QTemporaryDir& folder, const QString& path) {
+    const QString store = folder.filePath("peak.mdb"), file = folder.filePath("peak.csv");
+    QFile::remove(store);
+    QFile::remove(file);
+    QFile::copy(path, store);
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(ADOInit(store, StorePassword) && ArchiveAll(file) > 0 ? 0 : 1);
+    int status = 0;
+    rusage used{};
+    if (::wait4(child, &status, 0, &used) != child || status != 0)
+        qFatal("nothing was archived");
+    return static_cast<double>(used.ru_maxrss) * 1024;
+}
+
+void BenchArchiveMemory(Figures& figures, const QTemporaryDir& folder, const QString& many,
+                        const QString& few) {
+    figures.Report("the memory to archive 1,000,000 events or 10,000", "MB",
+                   PeakOfArchive(folder, many) / 1e6, PeakOfArchive(folder, few) / 1e6, 1.2);
+}
+
 void BenchCompaction(Figures& figures, const QTemporaryDir& folder, const QString& path) {
     const QString temp = folder.filePath("temp.mdb"), target = folder.filePath("hand.mdb");
     const QByteArray attach =
@@ -578,6 +666,7 @@ int main(int argc, char* argv[]) {
     const QString many = folder.filePath("main.mdb"), few = folder.filePath("few.mdb");
     MakeStore(many, EventCount);
     MakeStore(few, FewEvents);
+    BenchArchiveMemory(figures, folder, many, few);
     BenchMemory(figures, many);
     BenchDatabaseMemory(figures, many, argc, argv);
     const QGuiApplication app(argc, argv); // reports need fonts
@@ -586,6 +675,7 @@ int main(int argc, char* argv[]) {
     BenchTour(figures, many, few);
     BenchDatabase(figures, many);
     BenchIncidents(figures, folder);
+    BenchArchive(figures, folder, many);
     BenchCompaction(figures, folder, many);
     return figures.ExitStatus();
 }

@@ -3,6 +3,7 @@
 #include "FieldTypes.h"
 #include "Format.h"
 #include "RunTimeError.h"
+#include "TableExists.h"
 #include "mDeclareGlobals.h"
 #include "mStore.h"
 
@@ -93,22 +94,10 @@ void AddRows(Recordset& rows, Lines& lines) {
     lines.Add(ruler);
 }
 
-/// The store's own tables or views.
-QStringList NamesOf(QStringView kind, Connection& store) {
-    QStringList names;
-    for (const auto schema = store.OpenSchema(); !schema->Eof(); schema->MoveNext()) {
-        const QString name = schema->Text(u"TABLE_NAME");
-        if (schema->Text(u"TABLE_TYPE").compare(kind, Qt::CaseInsensitive) == 0 &&
-            !name.startsWith(u"sqlite_"))
-            names += name;
-    }
-    return names;
-}
-
-void AddNames(const char* heading, QStringView kind, Connection& store, Lines& lines) {
+void AddNames(const char* heading, const QStringList& names, Lines& lines) {
     lines.Add(QString(SchemaRuler, u'-'));
     lines.Add(QString::fromLatin1(heading));
-    for (const QString& name : NamesOf(kind, store))
+    for (const QString& name : names)
         lines.Add(u'\t' + WithoutControls(name, u' '));
 }
 
@@ -140,7 +129,7 @@ void OpenReading(Recordset& rows, const QString& statement, Connection& store) {
 
 QString StatementForTable(const QString& table, Connection& store) {
     static const QRegularExpression plain(QStringLiteral("^\\w+$"));
-    for (QString name : NamesOf(u"table", store) + NamesOf(u"view", store)) {
+    for (QString name : TablesOf(store) + ViewsOf(store)) {
         if (name.compare(table, Qt::CaseInsensitive) != 0)
             continue;
         if (!plain.match(name).hasMatch())
@@ -169,8 +158,8 @@ void WriteSchema(Connection& store, const QString& title, const TakeText& take) 
     Lines lines(take);
     lines.Add(WithoutControls(title, u' '));
     lines.Add({});
-    AddNames("Tables", u"table", store, lines);
+    AddNames("Tables", TablesOf(store), lines);
     lines.Add({});
-    AddNames("Views", u"view", store, lines);
+    AddNames("Views", ViewsOf(store), lines);
     lines.Flush();
 }

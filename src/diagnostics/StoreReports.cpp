@@ -47,6 +47,7 @@ void ReportSchema(Connection& connection, const QString& file, const QString& ti
 
 void ArchiveEvents(const QString& sql, const QString& file, DumpView& view) {
     GuardedWithBox("ArchiveEvents", [&] {
+        const EndOfDump end{view}; // also if the statement is refused
         const auto store = OpenForReading();
         const Supervision supervision(*store, [&view] { return view.GoOn(); });
         Recordset rows;

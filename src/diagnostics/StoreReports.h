@@ -13,7 +13,7 @@ public:
     virtual ~DumpView() = default;
     /// Called now and then while a dump is made. False cancels it: then there is no file.
     virtual bool GoOn() = 0;
-    /// The file is written, or will not be.
+    /// The file is written, or will not be. May be called again.
     virtual void End() = 0;
     /// Opens a text file. False if the desktop has no program for it.
     virtual bool OpenText(const QString& path) = 0;

@@ -150,17 +150,18 @@ std::optional<int> Archive(const ArchiveRange& range, const QString& path,
     ArchiveFile file(path);
     Transaction transaction(*gConn);
     const Values bounds = BoundsOf(range);
-    const int all = CountArchived(range);
-    int written = 0, deleted = 0;
+    int all = CountArchived(range), done = 0, written = 0, deleted = 0;
     bool cancelled = false;
     try {
         const Supervision supervision(*gConn, [&] {
-            cancelled = !progress(written, all);
+            cancelled = !progress(done, all);
             return !cancelled;
         });
         WriteHeader(file);
-        WriteEvents(file, bounds, written);
+        WriteEvents(file, bounds, done);
         file.Finish();
+        written = std::exchange(done, 0);
+        all = 0; // the engine does not say how many rows it has deleted so far
         deleted = gConn->Execute(QStringLiteral("DELETE * ") + InRange, bounds);
     } catch (const RunTimeError&) {
         if (cancelled)

@@ -4,8 +4,9 @@
 
 class Connection;
 
-/// The tables of a store, without the engine's own. Throws RunTimeError.
+/// The tables and views of a store, without the engine's own. Throws RunTimeError.
 QStringList TablesOf(Connection& store);
+QStringList ViewsOf(Connection& store);
 
 /// How many rows a table of any name has. Throws RunTimeError.
 int CountRows(const QString& table, Connection& store);

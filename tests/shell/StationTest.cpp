@@ -580,8 +580,16 @@ private slots:
             QCOMPARE(box(), "The program is already running!");
         }
         QFile::remove(m_home->Store());
-        QVERIFY(box().startsWith("*** System Error: Cannot Open the database at "));
-        QVERIFY(m_home->TakeLog().endsWith("ADOTest Failed. Exiting..."));
+        for (const bool development : {false, true}) {
+            qputenv("WARDLOCK_DEVELOPMENT", development ? "1" : "0");
+            QVERIFY(box().startsWith("*** System Error: Cannot Open the database at "));
+            const QString log = m_home->TakeLog();
+            QVERIFY(log.endsWith("ADOTest Failed. Exiting..."));
+            QCOMPARE(log.contains(" Started at "), development);
+            QCOMPARE(gDemoMode, development);
+            ReleaseMainWindow();
+        }
+        qunsetenv("WARDLOCK_DEVELOPMENT");
         QVERIFY(!MainWindow());
     }
 

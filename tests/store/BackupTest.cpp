@@ -153,10 +153,11 @@ private slots:
                                               "Tour points whose tour does not exist: " + points[0],
                                               "Tour points whose button does not exist: 1"}));
         gConn->Execute("DROP TABLE tblReaders");
-        gConn->Execute("ALTER TABLE tblEvents RENAME COLUMN tPipeID TO tPipe");
-        QCOMPARE(MissingParts(*gConn), QStringList({"tblReaders", "tblEvents.tPipeID"}));
+        gConn->Execute("CREATE TABLE tblReaders (tReaderId TEXT)");
+        gConn->Execute("DROP TABLE tblEvents");
+        QCOMPARE(MissingParts(*gConn), QStringList({"tblReaders.tDescription", "tblEvents"}));
         QCOMPARE(ExamineStore(*gConn).Faults(),
-                 QStringList("Missing: tblReaders, tblEvents.tPipeID"));
+                 QStringList("Missing: tblReaders.tDescription, tblEvents"));
     }
 };
 

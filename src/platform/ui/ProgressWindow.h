@@ -2,7 +2,6 @@
 
 #include "WindowTools.h"
 
-#include <QElapsedTimer>
 #include <QProgressDialog>
 
 #include <optional>
@@ -24,8 +23,8 @@ public:
 private:
     TranslateText m_translate;
     bool m_countsPages;
+    std::int64_t m_began; ///< by MillisecondsRunning
     Hourglass m_hourglass;
     std::optional<ArrowPointer> m_arrow; // after the hourglass: it goes first
     QProgressDialog m_window;
-    QElapsedTimer m_age;
 };
