@@ -86,7 +86,7 @@ void OpenCopy(Connection& copy, const QString& path) {
 std::optional<QString> FaultOf(Connection& store, const WorkProgress& progress) {
     bool cancelled = false;
     const QString fault = store.FullCheck([&] {
-        cancelled = !progress(1, 1);
+        cancelled = !progress(0, 1); // the engine does not say how far it is
         return !cancelled;
     });
     return cancelled ? std::optional<QString>() : fault;

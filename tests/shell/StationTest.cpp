@@ -3,7 +3,9 @@
 #include "Controls.h"
 #include "Dock.h"
 #include "Files.h"
+#include "ForkedChild.h"
 #include "InstanceLock.h"
+#include "LockFile.h"
 #include "LookUps.h"
 #include "ResourceLimit.h"
 #include "Settings.h"
@@ -24,6 +26,8 @@
 #include <QFileDialog>
 #include <QMenu>
 #include <QTabBar>
+
+#include <unistd.h>
 
 namespace {
 
@@ -650,6 +654,82 @@ private slots:
         }
         qunsetenv("WARDLOCK_DEVELOPMENT");
         QVERIFY(!MainWindow());
+    }
+
+    // From the setup page, whose recordsets keep the store open. Another program takes the store
+    // while it is closed: the first time the operator gives up, the second time it ends.
+    void RestoresABackup_data() {
+        const TestTable<bool> row("givesUp");
+        row("waits", false);
+        row("gives up", true);
+    }
+    void RestoresABackup() {
+        QFETCH(bool, givesUp);
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        const QString backup = m_home->File("backup.mdb"), lock = m_home->File("main.ldb");
+        QVERIFY(QFile::copy(m_home->Store(), backup));
+        ForkedChild other([&](int) {
+            LockFile file(lock);
+            while (!QFile::exists(m_home->File("go")) || file.Take() != LockFile::Outcome::Taken)
+                ::usleep(200);
+            while (!QFile::exists(m_home->File("end")))
+                ::usleep(200);
+        });
+        QVERIFY(Start(nullptr));
+        gConn->Execute("DELETE * FROM tblReaders");
+        MainWindow()->GoSetup();
+        Script script;
+        const auto choose = [&](const QString& path) {
+            script.Then([path] {
+                auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                if (!dialog)
+                    return false;
+                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+                QTimer::singleShot(0, dialog, &QDialog::accept);
+                return true;
+            });
+        };
+        choose(backup);
+        script.Answer("No");
+        script.Then([] { return Script::Find<QTabBar>("frmMDISetup", "tabSetup") && gConn; });
+        script.Then([this] {
+            QTimer::singleShot(0, MainWindow(), &frmMain::GoRestore);
+            return true;
+        });
+        for (const QString& path : {m_home->File("none.mdb"), m_home->Store()}) {
+            choose(path);
+            script.Answer("OK");
+        }
+        choose(backup);
+        script.Then([this] {
+            WriteBytes(m_home->File("go"), {});
+            return true;
+        });
+        script.Answer("Yes");
+        script.With<QLabel>("frmWaitStore", "", [&](QLabel& label) {
+            QVERIFY(label.text().contains("It is in use by StationTest (process "));
+            if (!givesUp)
+                WriteBytes(m_home->File("end"), {});
+        });
+        if (givesUp)
+            script.Click("frmWaitStore", "");
+        script.Answer("OK");
+        script.Start();
+        MainWindow()->GoRestore();
+        QVERIFY(script.Finish());
+        const QString close = "\nWarning : The program will now close.\nPlease restart the program "
+                              "to continue.";
+        QCOMPARE(script.Texts().last(),
+                 givesUp ? "The database was not restored. It is as it was before." + close
+                         : "Successfully copied the database\nFrom: " + backup +
+                               "\nTo: " + m_home->Store() + close);
+        QVERIFY(!gConn && !MainWindow()->isVisible());
+        other.Kill();
+        ReleaseMainWindow();
+        QVERIFY(m_home->Open());
+        QCOMPARE(CountReaders(), givesUp ? 0 : 1);
+        TestHome::Close();
+        QVERIFY(!QFile::exists(m_home->Store() + ".restore"));
     }
 
     void UnknownLanguageFallsBack() {
