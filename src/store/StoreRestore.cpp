@@ -177,13 +177,15 @@ bool StoreRestore::CheckCopy(const WorkProgress& progress) const {
 bool StoreRestore::LockStore() {
     if (!m_lock && StoreLock::IsHeldHere(m_store))
         return false;
-    try {
-        m_lock.emplace(m_store);
-    } catch (const RunTimeError& error) {
-        if (error.Number() != RunTimeErrorNumber::FileInUse)
-            throw;
-    }
-    return m_lock.has_value();
+    return Explained(m_store, m_copy, [this] {
+        try {
+            m_lock.emplace(m_store);
+        } catch (const RunTimeError& error) {
+            if (error.Number() != RunTimeErrorNumber::FileInUse)
+                throw;
+        }
+        return m_lock.has_value();
+    });
 }
 
 QString StoreRestore::Holder() const {

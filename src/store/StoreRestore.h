@@ -16,8 +16,8 @@ bool IsStoreItself(const QString& store, const QString& path);
 /// rename. If the store is a symbolic link, its target is replaced. The store may also be damaged
 /// or missing.
 ///
-/// MakeCopy and Replace throw RunTimeError with a text for the operator: that the store is as it
-/// was, and why.
+/// A failure throws RunTimeError with a text for the operator: that the store is as it was, and
+/// why.
 class StoreRestore {
 public:
     StoreRestore(const QString& store, const QString& source);
@@ -35,8 +35,7 @@ public:
     const QString& CopyPath() const { return m_copy; }
 
     /// Tries to lock the store until this object goes. False while another process holds it, or
-    /// while something in this process still has it open. Throws RunTimeError if no lock can be
-    /// made.
+    /// while something in this process still has it open.
     bool LockStore();
     /// Who holds the store, for the operator.
     QString Holder() const;
