@@ -1,11 +1,12 @@
 #include "EventArchive.h"
 
 #include "Connection.h"
+#include "FileReplacement.h"
 #include "Format.h"
 #include "OutputFile.h"
 #include "Rows.h"
-#include "RunTimeError.h"
 #include "SqlDate.h"
+#include "StoreFailure.h"
 #include "mTranslations.h"
 
 #include <QDir>
@@ -29,17 +30,10 @@ Values BoundsOf(const ArchiveRange& range) {
             range.EndDate.DatePart() + DateTime::FromTime(23, 59, 59)};
 }
 
-/// The file could not be written, as distinct from a failure of the store.
-class FileFailure : public RunTimeError {
-public:
-    explicit FileFailure(const RunTimeError& error) : RunTimeError(error) {}
-};
-
-/// The file with its lines, written in large pieces. Every failure throws FileFailure.
+/// The file with its lines, written in large pieces. Every failure throws FileError.
 class ArchiveFile {
 public:
-    explicit ArchiveFile(const QString& path) {
-        Try([&] { m_file = std::make_unique<OutputFile>(path, OutputFile::Older::Keep); });
+    explicit ArchiveFile(const QString& path) : m_file(path, OutputFile::Older::Keep) {
         m_buffer.reserve(WrittenAtOnce + WrittenAtOnce / 4);
         m_buffer += "\xEF\xBB\xBF"; // so that spreadsheets show the names correctly
     }
@@ -59,27 +53,17 @@ public:
     /// Complete and on the disk, but without its name.
     void Finish() {
         WriteBuffer();
-        Try([&] { m_file->Finish(); });
+        m_file.Finish();
     }
-    void Commit() {
-        Try([&] { m_file->Commit(); });
-    }
+    void Commit() { m_file.Commit(); }
 
 private:
-    template <typename Work>
-    static void Try(Work&& work) {
-        try {
-            work();
-        } catch (const RunTimeError& error) {
-            throw FileFailure(error);
-        }
-    }
     void WriteBuffer() {
-        Try([&] { m_file->Write(m_buffer); });
+        m_file.Write(m_buffer);
         m_buffer.resize(0); // keeps the memory
     }
 
-    std::unique_ptr<OutputFile> m_file;
+    OutputFile m_file;
     QByteArray m_buffer;
     bool m_lineBegins = true;
 };
@@ -182,7 +166,7 @@ std::optional<int> Archive(const ArchiveRange& range, const QString& path,
             error.Number(),
             FormatStr(Translate("The events were written to %0:s, but they are still "
                                 "in the database: %1:s"),
-                      {QDir::toNativeSeparators(path), error.Description()}));
+                      {QDir::toNativeSeparators(path), CauseOf(error, gDatabasePath)}));
     }
     return written;
 }
@@ -200,10 +184,12 @@ std::optional<int> ArchiveEventsOf(const ArchiveRange& range, const QString& pat
                                    const WorkProgress& progress) {
     try {
         return Archive(range, path, progress);
-    } catch (const FileFailure& failure) {
+    } catch (const FileError& error) {
         IvMessageBox(Translate("File Save Error: Archive Not Saved.  Please Try again.") + u'\n' +
-                     failure.Description());
+                     CauseOf(error, gDatabasePath));
         return {};
+    } catch (const RunTimeError& error) {
+        throw ExplainedError(error.Number(), CauseOf(error, gDatabasePath));
     }
 }
 
