@@ -170,5 +170,5 @@ void frmMain::GoRestore() {
         ReplaceStore(restore, source, this);
     });
     if (closed)
-        ExitApp();
+        close(); // saves the window's place and the reader's options, and then calls ExitApp
 }

@@ -13,6 +13,7 @@
 #include "TableExists.h"
 #include "TestHome.h"
 #include "TestTable.h"
+#include "cReaderOptions.h"
 #include "frmAbout.h"
 #include "frmMain.h"
 #include "frmUserMaintenance.h"
@@ -723,7 +724,7 @@ private slots:
                  givesUp ? "The database was not restored. It is as it was before." + close
                          : "Successfully copied the database\nFrom: " + backup +
                                "\nTo: " + m_home->Store() + close);
-        QVERIFY(!gConn && !MainWindow()->isVisible());
+        QVERIFY(!gConn && !gReaderOptions && !MainWindow()->isVisible());
         other.Kill();
         ReleaseMainWindow();
         QVERIFY(m_home->Open());
