@@ -5,6 +5,9 @@
 /// The file that a symbolic link means, or the path itself. The file need not exist.
 QString FileMeantBy(const QString& path);
 
+/// True if nothing has this name: no file, no folder, and no link, even one that leads nowhere.
+bool IsFreeName(const QString& path);
+
 /// Files that must survive a killed program and a power cut. Everything that fails throws
 /// RunTimeError with the file's name and the cause; its number is that of FileErrorNumber.
 

@@ -29,13 +29,7 @@ Values BoundsOf(const ArchiveRange& range) {
             range.EndDate.DatePart() + DateTime::FromTime(23, 59, 59)};
 }
 
-/// The file could not be written, as distinct from a failure of the store.
-class FileFailure : public RunTimeError {
-public:
-    explicit FileFailure(const RunTimeError& error) : RunTimeError(error) {}
-};
-
-/// The file with its lines, written in large pieces. Every failure throws FileFailure.
+/// The file with its lines, written in large pieces. Every failure throws ArchiveNotSaved.
 class ArchiveFile {
 public:
     explicit ArchiveFile(const QString& path) {
@@ -71,7 +65,10 @@ private:
         try {
             work();
         } catch (const RunTimeError& error) {
-            throw FileFailure(error);
+            throw ArchiveNotSaved(
+                error.Number(),
+                Translate("File Save Error: Archive Not Saved.  Please Try again.") + u'\n' +
+                    error.Description());
         }
     }
     void WriteBuffer() {
@@ -84,8 +81,8 @@ private:
     bool m_lineBegins = true;
 };
 
-/// Dates and times of touches. Most touches are on the day of the one before, and there are only so
-/// many minutes in a day.
+/// Dates and times of touches. Most touches are on the day of the one before, and a day has 1440
+/// minutes.
 class MomentTexts {
 public:
     const QByteArray& DateOf(DateTime moment) {
@@ -145,8 +142,17 @@ void WriteEvents(ArchiveFile& file, const Values& bounds, int& written) {
     }
 }
 
-std::optional<int> Archive(const ArchiveRange& range, const QString& path,
-                           const WorkProgress& progress) {
+} // namespace
+
+int CountArchived(const ArchiveRange& range) { return CountOf(InRange, BoundsOf(range)); }
+
+QString ArchiveFileName(const ArchiveRange& range) {
+    return QStringLiteral("Archive") + SqlDateFmt(range.StartDate) + QStringLiteral("_to_") +
+           SqlDateFmt(range.EndDate) + QStringLiteral(".csv");
+}
+
+std::optional<int> ArchiveEventsOf(const ArchiveRange& range, const QString& path,
+                                   const WorkProgress& progress) {
     ArchiveFile file(path);
     Transaction transaction(*gConn);
     const Values bounds = BoundsOf(range);
@@ -185,26 +191,6 @@ std::optional<int> Archive(const ArchiveRange& range, const QString& path,
                       {QDir::toNativeSeparators(path), error.Description()}));
     }
     return written;
-}
-
-} // namespace
-
-int CountArchived(const ArchiveRange& range) { return CountOf(InRange, BoundsOf(range)); }
-
-QString ArchiveFileName(const ArchiveRange& range) {
-    return QStringLiteral("Archive") + SqlDateFmt(range.StartDate) + QStringLiteral("_to_") +
-           SqlDateFmt(range.EndDate) + QStringLiteral(".csv");
-}
-
-std::optional<int> ArchiveEventsOf(const ArchiveRange& range, const QString& path,
-                                   const WorkProgress& progress) {
-    try {
-        return Archive(range, path, progress);
-    } catch (const FileFailure& failure) {
-        IvMessageBox(Translate("File Save Error: Archive Not Saved.  Please Try again.") + u'\n' +
-                     failure.Description());
-        return {};
-    }
 }
 
 QString ArchivedText(int events, const QString& path) {
