@@ -168,8 +168,6 @@ private slots:
         row("an existing file", "there.csv", "", NotSaved + "The file \"%1\" already exists.");
         row("a folder", "folder", "", NotSaved + "The file \"%1\" already exists.");
         row("a link to nothing", "link", "", NotSaved + "The file \"%1\" already exists.");
-        row("no such folder", "none/old.csv", "",
-            NotSaved + "The file \"%1\" cannot be written: No such file or directory");
         row("a name of the program", "temp.mdb", "",
             NotSaved + "The file \"%1\" is one of the program's own files.");
         row("no deletion", "old.csv", "SELECT RAISE(ABORT, 'not this one')", "not this one");
