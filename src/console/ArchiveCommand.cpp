@@ -2,9 +2,9 @@
 #include "CommandOptions.h"
 #include "ConsoleTools.h"
 #include "EventArchive.h"
+#include "FileReplacement.h"
 #include "mTranslations.h"
 
-#include <QFileInfo>
 #include <QJsonObject>
 
 namespace {
@@ -16,7 +16,7 @@ struct Request {
 };
 
 bool Archive(const Request& request) {
-    if (QFileInfo::exists(request.path)) {
+    if (!IsFreeName(request.path)) {
         Complain(Translate("That filename is already in use. Please choose another filename"));
         return false;
     }

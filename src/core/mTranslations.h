@@ -10,6 +10,8 @@
 /// A text in the present language. Without a dictionary or an entry, the text itself.
 QString Translate(const QString& text);
 QString Translate(const char* text);
+/// The first of these under a name of its own, to be passed to windows that know no dictionary.
+inline QString Translated(const QString& text) { return Translate(text); }
 
 /// The language of what Translate returns, such as "de".
 QString PresentLocale();

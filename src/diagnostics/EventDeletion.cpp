@@ -2,7 +2,7 @@
 
 #include "Clock.h"
 #include "DiagnosticError.h"
-#include "mDeclareGlobals.h"
+#include "Rows.h"
 #include "mErrorHandler.h"
 
 namespace {
@@ -21,7 +21,8 @@ void DeleteAllEvents() {
         return;
     Guarded("DeleteAllEvents of Form frmMain", [] {
         Transaction transaction(*gConn);
-        const int events = gConn->Execute(QStringLiteral("DELETE * FROM tblEvents ;"));
+        const int events = CountOf(QStringLiteral("FROM tblEvents;"), {});
+        gConn->Execute(QStringLiteral("DELETE * FROM tblEvents ;"));
         gConn->Execute(QStringLiteral("DELETE * FROM tblTourPoints;"));
         gConn->Execute(QStringLiteral("DELETE * FROM tblTours;"));
         transaction.Commit();
@@ -32,15 +33,15 @@ void DeleteAllEvents() {
 }
 
 void DeleteTodaysEvents() {
-    const DateTime start = Today();
-    const DateTime end = start + DateTime::FromTime(23, 59, 59);
-    if (!Confirmed("Are you sure you want to delete these records?"))
-        return;
-    const auto remove = [&] {
-        const int events = gConn->Execute(
-            QStringLiteral(
-                "DELETE * FROM tblEvents WHERE (dtDateTime >= ?) AND (dtDateTime <= ?);"),
-            {start, end});
+    const auto remove = [] {
+        const QString todays =
+            QStringLiteral("FROM tblEvents WHERE (dtDateTime >= ?) AND (dtDateTime <= ?);");
+        const DateTime day = Today();
+        const Values bounds = {day, day + DateTime::FromTime(23, 59, 59)};
+        const int events = CountOf(todays, bounds);
+        if (!Confirmed("Are you sure you want to delete these records?"))
+            return;
+        gConn->Execute(QStringLiteral("DELETE * ") + todays, bounds);
         Tell(QStringLiteral("Deleted! %1").arg(events));
     };
     Trapped(remove, [](const RunTimeError& error) {

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// The types of columns that a dump shows. The numbers are published with the names.
+/// The types of columns that a dump shows, with the names and numbers of the ADODB data types.
 enum DataType {
     adEmpty = 0,
     adSmallInt = 2,

@@ -1,5 +1,6 @@
 #include "SampleData.h"
 
+#include "ButtonDetails.h"
 #include "Clock.h"
 #include "DiagnosticError.h"
 #include "Format.h"
@@ -14,10 +15,7 @@ constexpr int Tolerance = 10; ///< minutes
 void Tell(const char* text) { MsgBox(QString::fromUtf8(text), {}, MessageKind::Information); }
 
 Rows ButtonsOfType(GroupType type) {
-    return Rows(QStringLiteral("SELECT tButtonCode, tButtonName, tButtonDesc, tName AS tGroupName, "
-                               "tDesc AS tGroupDesc FROM tblButtons INNER JOIN tblListItems ON "
-                               "tblButtons.lParentID = tblListItems.ID WHERE wType = ?;"),
-                {type});
+    return Rows(QStringLiteral("SELECT tButtonCode, " BUTTON_DETAILS " WHERE wType = ?;"), {type});
 }
 
 int AddTour(DateTime now, DateTime start) {
@@ -58,7 +56,6 @@ void AddPoint(Rows& points, int tour, int index, Rows& location, DateTime interv
 }
 
 void Make(DateTime start, DateTime step) {
-    Transaction transaction(*gConn);
     Rows locations = ButtonsOfType(SiteGroup);
     if (!locations.Any()) {
         Tell("No records");
@@ -69,6 +66,7 @@ void Make(DateTime start, DateTime step) {
         Tell("You must teach at least one reader to create sample data");
         return;
     }
+    Transaction transaction(*gConn);
     const Download download{Now(), readers.first().id};
     const int tour = AddTour(download.time, start);
     NewRows events("tblEvents");

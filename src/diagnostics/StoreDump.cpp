@@ -3,8 +3,10 @@
 #include "FieldTypes.h"
 #include "Format.h"
 #include "RunTimeError.h"
+#include "SqlTranslator.h"
 #include "TableExists.h"
 #include "mDeclareGlobals.h"
+#include "mErrorHandler.h"
 #include "mStore.h"
 
 #include <QRegularExpression>
@@ -111,19 +113,27 @@ std::unique_ptr<Connection> OpenForReading() {
     auto store = std::make_unique<Connection>();
     store->Mode = adModeRead;
     store->Open(ConnectionText(gDatabasePath, StorePassword));
-    store->OnlyRead(
-        QStringLiteral("tblOperators"),
-        QStringLiteral("SELECT LoginName, '••••••••' AS Password FROM main.tblOperators"));
+    // Without this table a damaged store can still be dumped.
+    IgnoringErrors([&] {
+        store->Execute(QStringLiteral("CREATE TEMP TABLE tblOperators AS SELECT LoginName, "
+                                      "'••••••••' AS Password FROM main.tblOperators"));
+    });
+    store->OnlyRead(QStringLiteral("tblOperators"));
     return store;
 }
 
 void OpenReading(Recordset& rows, const QString& statement, Connection& store) {
     static const QRegularExpression quoted(QStringLiteral("'[^']*'|\"[^\"]*\""));
+    static const QRegularExpression mainSchema(QStringLiteral("\\bmain\\W?\\s*\\."),
+                                               QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression comment(QStringLiteral("--|/\\*"));
     if (QString(statement).remove(u';').trimmed().isEmpty())
         Refuse(QStringLiteral("There is no statement."));
     if (QString(statement).remove(quoted).contains(comment))
         Refuse(QStringLiteral("The statement may not contain comments."));
+    // As the engine gets it. A text that merely looks like the schema's name is refused too.
+    if (QString::fromUtf8(TranslateSql(statement).text).contains(mainSchema))
+        Refuse(QStringLiteral("The statement may not name the schema \"main\"."));
     rows.Open(statement, store, adOpenForwardOnly, adLockReadOnly);
 }
 

@@ -13,7 +13,8 @@ using TakeText = std::function<void(const QByteArray& text)>;
 std::unique_ptr<Connection> OpenForReading();
 
 /// Opens the rows of one statement that only reads. They are fetched one by one, so a dump of any
-/// size takes little memory. Throws if it is empty, several statements, or holds comments.
+/// size takes little memory. Throws if it is empty, several statements, holds comments, or names
+/// the schema "main".
 void OpenReading(Recordset& rows, const QString& statement, Connection& store);
 
 /// What the dump of a table is made from. Throws if the store has no such table or view. The name

@@ -11,7 +11,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <set>
 #include <sqlcipher/sqlite3.h>
 
 namespace {
@@ -123,16 +122,7 @@ int Connection::Execute(const QString& statement, const Values& values) {
     return sqlite3_total_changes(m_engine->Handle()) - before;
 }
 
-void Connection::OnlyRead(const QString& table, const QString& standIn) {
-    Execute(QStringLiteral("CREATE TEMP TABLE %1 AS %2").arg(table, standIn));
-    std::set<int> roots;
-    Statement pages(m_engine, "SELECT rootpage FROM main.sqlite_master WHERE tbl_name = ? "
-                              "COLLATE NOCASE");
-    pages.Bind({table});
-    while (pages.Step())
-        roots.insert(sqlite3_column_int(pages.Handle(), 0));
-    m_engine->OnlyRead(std::move(roots));
-}
+void Connection::OnlyRead(const QString& hiddenTable) { m_engine->OnlyRead(hiddenTable); }
 
 QString Connection::QuickCheck() const {
     if (!m_engine)

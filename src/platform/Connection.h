@@ -52,9 +52,10 @@ public:
     /// rows that it changed; those that a trigger changed count too.
     int Execute(const QString& statement, const Values& values = {});
 
-    /// From now on, only statements that read can run. Where they name `table` they get the rows of
-    /// `standIn`, a SELECT. The table itself cannot be read any more, in no way.
-    void OnlyRead(const QString& table, const QString& standIn);
+    /// From now on, only statements that read can run. None can read a column of `hiddenTable`, but
+    /// NATURAL and USING can still compare one. A temporary table of the same name takes its place
+    /// in every statement that does not name the schema "main".
+    void OnlyRead(const QString& hiddenTable);
 
     /// The first fault that the engine's own check finds in the store; empty if there is none.
     /// Reads the whole store.

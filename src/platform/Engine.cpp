@@ -28,12 +28,17 @@ int ComparePeople(void* collator, int leftBytes, const void* left, int rightByte
 }
 
 /// Whether a statement that only reads may do this.
-int AuthorizeReading(void*, int action, const char*, const char* name, const char*, const char*) {
+int AuthorizeReading(void* hiddenTable, int action, const char* table, const char* name,
+                     const char* schema, const char*) {
     switch (action) {
     case SQLITE_SELECT:
-    case SQLITE_READ:
     case SQLITE_RECURSIVE:
         return SQLITE_OK;
+    case SQLITE_READ: {
+        const bool hidden = sqlite3_stricmp(table, static_cast<const char*>(hiddenTable)) == 0 &&
+                            sqlite3_stricmp(schema, "main") == 0;
+        return hidden ? SQLITE_DENY : SQLITE_OK;
+    }
     case SQLITE_FUNCTION:
         for (const char* acting : {"load_extension", "sqlcipher_export", "fts3_tokenizer"})
             if (sqlite3_stricmp(name, acting) == 0)
@@ -109,30 +114,9 @@ void Engine::WhileRunning(std::function<bool()> goOn) {
     sqlite3_progress_handler(m_database, m_goOn ? StepsBetweenCalls : 0, call, this);
 }
 
-void Engine::OnlyRead(std::set<int> hiddenRoots) {
-    m_hiddenRoots = std::move(hiddenRoots);
-    Require(*this, sqlite3_set_authorizer(m_database, AuthorizeReading, nullptr));
-}
-
-/// Looks for hidden pages in the engine's program for the statement. The authorizer cannot hide a
-/// table: the engine does not ask it about columns that NATURAL and USING compare.
-void Engine::RequireNothingHidden(const QByteArray& sql) const {
-    enum { Opcode = 1, P2 = 3, P3 = 4 }; // columns of EXPLAIN
-    sqlite3_stmt* explanation = nullptr;
-    Require(*this, sqlite3_prepare_v2(m_database, ("EXPLAIN " + sql).constData(), -1, &explanation,
-                                      nullptr));
-    bool hidden = false;
-    while (sqlite3_step(explanation) == SQLITE_ROW) {
-        const QByteArray opcode(
-            reinterpret_cast<const char*>(sqlite3_column_text(explanation, Opcode)));
-        const bool opens = opcode == "OpenRead" || opcode == "ReopenIdx" || opcode == "OpenWrite";
-        const bool inStore = sqlite3_column_int(explanation, P3) == 0;
-        hidden |= opens && inStore && m_hiddenRoots.contains(sqlite3_column_int(explanation, P2));
-    }
-    const int code = sqlite3_finalize(explanation);
-    Require(*this, code);
-    if (hidden)
-        Throw(SQLITE_AUTH, QStringLiteral("The statement reads a table that is hidden."));
+void Engine::OnlyRead(const QString& hiddenTable) {
+    m_hiddenTable = hiddenTable.toUtf8();
+    Require(*this, sqlite3_set_authorizer(m_database, AuthorizeReading, m_hiddenTable.data()));
 }
 
 bool Engine::InTransaction() const { return sqlite3_get_autocommit(m_database) == 0; }
@@ -148,13 +132,12 @@ Statement::Statement(std::shared_ptr<Engine> engine, const QByteArray& sql)
     const int code = sqlite3_prepare_v2(m_engine->Handle(), sql.constData(),
                                         static_cast<int>(sql.size()), &statement, &rest);
     if (code == SQLITE_AUTH)
-        Throw(code, QStringLiteral("Only statements that read are allowed."));
+        Throw(code, QStringLiteral("Only statements that read are allowed (%1).")
+                        .arg(QString::fromUtf8(sqlite3_errmsg(m_engine->Handle()))));
     Require(*m_engine, code);
     m_statement.reset(statement);
     if (!QByteArray(rest).trimmed().isEmpty())
         Throw(SQLITE_ERROR, QStringLiteral("Characters found after end of SQL statement."));
-    if (!m_engine->m_hiddenRoots.empty())
-        m_engine->RequireNothingHidden(sql);
 }
 
 void Statement::Bind(int position, const Value& value) {

@@ -9,7 +9,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <set>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -38,18 +37,16 @@ public:
     /// ends the statement with a failure. An empty routine ends this.
     void WhileRunning(std::function<bool()> goOn);
 
-    /// From now on, only statements that read can be prepared, and none that opens one of these
-    /// pages of the file: the roots of tables and indexes.
-    void OnlyRead(std::set<int> hiddenRoots);
+    /// From now on, only statements that read can be prepared, and none that reads a column of this
+    /// table of the store.
+    void OnlyRead(const QString& hiddenTable);
 
 private:
-    friend class Statement;
     void Prepare(const QString& password);
-    void RequireNothingHidden(const QByteArray& sql) const;
 
     std::optional<StoreLock> m_lock;
     std::function<bool()> m_goOn;
-    std::set<int> m_hiddenRoots;
+    QByteArray m_hiddenTable;
     sqlite3* m_database = nullptr;
 };
 

@@ -56,6 +56,11 @@ QString FileMeantBy(const QString& path) {
     return given.isSymLink() ? given.symLinkTarget() : path;
 }
 
+bool IsFreeName(const QString& path) {
+    const QFileInfo file(path);
+    return !file.exists() && !file.isSymLink();
+}
+
 #ifdef Q_OS_WIN
 
 void SurviveFileSizeLimit() {}

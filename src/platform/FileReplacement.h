@@ -7,6 +7,9 @@
 /// The file that a symbolic link means, or the path itself. The file need not exist.
 QString FileMeantBy(const QString& path);
 
+/// True if nothing has this name: no file, no folder, and no link, even one that leads nowhere.
+bool IsFreeName(const QString& path);
+
 /// A failure with a file. Its description has the file's name and the cause.
 class FileError : public RunTimeError {
 public:

@@ -41,7 +41,7 @@ OutputFile::OutputFile(const QString& path, Older older) {
         OpenForReplacing();
         return;
     }
-    if (target.exists() || target.isSymLink())
+    if (!IsFreeName(m_target))
         Refuse(RunTimeErrorNumber::FileExists, QStringLiteral("already exists."));
     OpenPart();
     if (!m_device->isOpen())

@@ -41,10 +41,13 @@ QList<Token> Split(const QString& statement) {
             tokens += {TokenKind::Text, ReadQuoted(statement, at)};
         } else if (c == u'#') {
             tokens += {TokenKind::Date, ReadQuoted(statement, at)};
-        } else if (IsWordCharacter(c)) {
+        } else if (IsWordCharacter(c) || c == u'[') {
             const qsizetype start = at;
-            while (at < statement.size() && IsWordCharacter(statement[at]))
-                ++at;
+            while (at < statement.size() &&
+                   (IsWordCharacter(statement[at]) || statement[at] == u'[')) {
+                const qsizetype end = statement[at] == u'[' ? statement.indexOf(u']', at) : at;
+                at = end < 0 ? statement.size() : end + 1;
+            }
             tokens += {TokenKind::Word, statement.mid(start, at - start)};
         } else {
             // "<=", "<>", "||" and the like stay in one piece.

@@ -19,7 +19,7 @@
 /// The order of storing is, for a join, that of its tables as they are named: the first table's
 /// rows in their order, for each of them the second's, and so on. A LIMIT counts the rows in that
 /// order. The rows of a query in FROM, and of a table named in quotes, come as the engine gives
-/// them.
+/// them. A name in brackets, `[my table]`, stays as it is.
 struct EngineSql {
     QByteArray text;
     /// The table that a recordset on the statement writes to: the one after FROM. Empty for a join

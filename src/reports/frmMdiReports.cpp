@@ -20,7 +20,7 @@ constexpr int KeyRole = Qt::UserRole;
 frmMdiReports::frmMdiReports(ReportViewer& viewer, QWidget* parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::frmMdiReports>()), m_viewer(viewer) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     connect(m_ui->lvwReports, &QTreeWidget::itemDoubleClicked, this, &frmMdiReports::OpenSelected);
     m_ui->lvwReports->installEventFilter(this);
     auto* open =

@@ -31,7 +31,7 @@ QString OurAdvice() {
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::frmAbout>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     ShowIcon(*m_ui->Image1, QStringLiteral("wardlock"));
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 }

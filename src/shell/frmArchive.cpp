@@ -12,8 +12,6 @@
 
 namespace {
 
-QString Translated(const QString& text) { return Translate(text); }
-
 bool Confirmed() {
     return IvMessageBox(Translate("Warning: This action will permanently delete the events from "
                                   "the database.") +
@@ -60,11 +58,13 @@ void frmArchive::cmdOK_Click() {
 
 bool frmArchive::Archive(const ArchiveRange& range, const QString& path) {
     std::optional<int> events;
-    {
+    try {
         ProgressWindow progress(
             QT_TR_NOOP("Archive Events"), Translated, this,
             QT_TR_NOOP("The events are written to the file and then deleted from the database."));
         events = ArchiveEventsOf(range, path, std::ref(progress));
+    } catch (const ArchiveNotSaved& failure) {
+        IvMessageBox(failure.Description());
     }
     if (events)
         IvMessageBox(ArchivedText(*events, path), MessageKind::Information);

@@ -19,8 +19,8 @@ public:
     explicit frmArchive(QWidget* parent);
     ~frmArchive() override;
 
-    /// Always false: the dialog does its work itself and leaves nothing to its caller.
-    bool OK() const { return result() == Accepted; }
+    /// The dialog does its work itself, so no caller has anything to do after it.
+    static constexpr bool OK = false;
     /// The days that were last confirmed.
     DateTime StartDate;
     DateTime EndDate;

@@ -11,7 +11,7 @@
 frmCompany::frmCompany(QWidget* parent)
     : EditorDialog(parent), m_ui(std::make_unique<Ui::frmCompany>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     m_lines = {m_ui->txtLine_0, m_ui->txtLine_1, m_ui->txtLine_2, m_ui->txtLine_3};
     for (std::size_t line = 0; line < m_lines.size(); ++line) {
         m_lines[line]->setText(gCompanyInfo[line]);

@@ -10,7 +10,7 @@
 frmLanguage::frmLanguage(const Dictionary& dictionary, int number, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmLanguage>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     for (int i = 0; i < dictionary.LanguageCount(); ++i)
         m_ui->lstLanguages->addItem(dictionary.Languages(i).nativeName);
     m_ui->lstLanguages->setCurrentRow(number);

@@ -22,7 +22,7 @@ OperatorType LastLogin() {
 
 frmLogin::frmLogin(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::frmLogin>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     setWindowTitle(ShortTitle + QStringLiteral(" - ") + Translate("Version") + u' ' +
                    GetVersionString());
     setWindowIcon(ProgramIcon(QStringLiteral("wardlock")));

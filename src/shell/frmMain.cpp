@@ -55,8 +55,7 @@ frmMain::frmMain()
     : m_ui(std::make_unique<Ui::frmMain>()), m_panelPicture(new QLabel(this)),
       m_panel1(new QLabel(this)), m_panel2(new QLabel(this)) {
     m_ui->setupUi(this);
-    m_viewer =
-        std::make_unique<PreviewViewer>(this, [](const QString& text) { return Translate(text); });
+    m_viewer = std::make_unique<PreviewViewer>(this, Translated);
     m_panel1->setObjectName(QStringLiteral("panel1"));
     m_panel2->setObjectName(QStringLiteral("panel2"));
     m_ui->sbStatusBar->addWidget(m_panelPicture);
@@ -81,7 +80,10 @@ void frmMain::MDIForm_Load() {
         gReaderOptions = std::make_unique<cReaderOptions>();
         m_ui->mnuDebug->menuAction()->setVisible(false);
         if (IsDevelopmentRun())
-            FillDebugMenu(*m_ui->mnuDebug, *this);
+            FillDebugMenu(*m_ui->mnuDebug, *this, [this] {
+                if (m_shown != HomePage)
+                    (this->*Toolbar[m_shown].action)();
+            });
         m_ui->lblTitle->setMinimumHeight(PixelsOf(StripHeight - ToolbarHeight));
         m_ui->tbrMain->setMinimumHeight(PixelsOf(ToolbarHeight));
         m_ui->pctMenu->setMinimumHeight(PixelsOf(StripHeight));
@@ -328,9 +330,7 @@ void frmMain::mnuHelpContents_Click() {
             [](const RunTimeError& error) { IvMessageBox(error.Description()); });
 }
 
-void frmMain::TranslateFrame() {
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
-}
+void frmMain::TranslateFrame() { TranslateWindow(*this, Translated); }
 
 void frmMain::ChangeLanguage() {
     const auto change = [this] {

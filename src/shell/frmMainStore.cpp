@@ -26,8 +26,6 @@ namespace {
 
 constexpr int StorePause = 200; // milliseconds
 
-QString Translated(const QString& text) { return Translate(text); }
-
 FileRequest DatabaseFile(const char* title, const QString& name = {}) {
     return {Translate(title), GetMyDocumentsPath(), Translate("Database Files (*.mdb)"),
             QStringLiteral("mdb"), name};

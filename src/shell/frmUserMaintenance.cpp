@@ -9,7 +9,7 @@
 frmUserMaintenance::frmUserMaintenance(QWidget* parent)
     : EditorDialog(parent), m_ui(std::make_unique<Ui::frmUserMaintenance>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     SelectAllOnFocus(*m_ui->txtPassword);
     SelectAllOnFocus(*m_ui->txtRetypePassword);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmUserMaintenance::cmdOK_Click);

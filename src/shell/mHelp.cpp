@@ -38,7 +38,7 @@ void ShowHelpContents(QWidget* parent) {
     QDialog window(parent);
     Ui::frmHelp ui;
     ui.setupUi(&window);
-    TranslateWindow(window, [](const QString& text) { return Translate(text); });
+    TranslateWindow(window, Translated);
     ui.txtHelp->setMarkdown(QString::fromUtf8(file.readAll()));
     QObject::connect(ui.cmdClose, &QPushButton::clicked, &window, &QDialog::accept);
     window.exec();

@@ -68,8 +68,8 @@ private:
     bool m_lineBegins = true;
 };
 
-/// Dates and times of touches. Most touches are on the day of the one before, and there are only so
-/// many minutes in a day.
+/// Dates and times of touches. Most touches are on the day of the one before, and a day has 1440
+/// minutes.
 class MomentTexts {
 public:
     const QByteArray& DateOf(DateTime moment) {
@@ -185,9 +185,9 @@ std::optional<int> ArchiveEventsOf(const ArchiveRange& range, const QString& pat
     try {
         return Archive(range, path, progress);
     } catch (const FileError& error) {
-        IvMessageBox(Translate("File Save Error: Archive Not Saved.  Please Try again.") + u'\n' +
-                     CauseOf(error, gDatabasePath));
-        return {};
+        throw ArchiveNotSaved(error.Number(),
+                              Translate("File Save Error: Archive Not Saved.  Please Try again.") +
+                                  u'\n' + CauseOf(error, gDatabasePath));
     } catch (const RunTimeError& error) {
         throw ExplainedError(error.Number(), CauseOf(error, gDatabasePath));
     }

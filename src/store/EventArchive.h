@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DateTime.h"
+#include "RunTimeError.h"
 #include "WorkProgress.h"
 
 #include <QString>
@@ -24,14 +25,20 @@ int CountArchived(const ArchiveRange& range);
 /// "Archive2026-11-01_to_2026-11-21.csv".
 QString ArchiveFileName(const ArchiveRange& range);
 
+/// The file could not be written; the store did not fail. The text is for the operator.
+class ArchiveNotSaved : public RunTimeError {
+public:
+    using RunTimeError::RunTimeError;
+};
+
 /// Writes the events to a new file and deletes them from the store, in one transaction. The events
 /// are deleted only after the file is complete and on the disk, and the file gets its name only
 /// after that. A killed program leaves all events in the store, or all of them in the file.
 ///
-/// Gives the number of events. Nothing if `progress` has cancelled it, or if the file could not be
-/// written; a message then says why. In these cases, and if it throws, nothing is deleted and no
-/// file is left, with one exception: if the store fails when the deletion is to be made permanent,
-/// the file is left, and the text of the failure says so.
+/// Gives the number of events, or nothing if `progress` has cancelled it. Throws ArchiveNotSaved if
+/// the file cannot be written. If it is cancelled or throws, nothing is deleted and no file is
+/// left, with one exception: if the store fails when the deletion is to be made permanent, the file
+/// is left, and the text of the failure says so.
 std::optional<int> ArchiveEventsOf(const ArchiveRange& range, const QString& path,
                                    const WorkProgress& progress);
 

@@ -1,9 +1,9 @@
 #include "DebugMenu.h"
 
 #include "Application.h"
-#include "Clock.h"
+#include "ButtonDetails.h"
+#include "DiagnosticError.h"
 #include "EventDeletion.h"
-#include "MessageBox.h"
 #include "ProgressWindow.h"
 #include "SampleData.h"
 #include "StoreDump.h"
@@ -12,10 +12,10 @@
 #include "mErrorHandler.h"
 
 #include <QAction>
-#include <QDesktopServices>
+#include <QDir>
 #include <QInputDialog>
 #include <QMenu>
-#include <QUrl>
+#include <QProcess>
 
 #include <array>
 
@@ -30,10 +30,6 @@ enum Item {
 };
 
 constexpr char AllEvents[] = "SELECT *  FROM tblEvents;";
-
-#define BUTTON_DETAILS                                                                             \
-    "tButtonName, tButtonDesc, tName AS tGroupName, tDesc AS tGroupDesc FROM tblButtons "          \
-    "INNER JOIN tblListItems ON tblButtons.lParentID = tblListItems.ID"
 
 struct DebugItem {
     const char* caption;
@@ -66,41 +62,50 @@ constexpr auto Items = std::to_array<DebugItem>({
     {"Execute Query", "Report_UserQuery.txt"},
 });
 
-/// Shows the progress of a dump and opens its file.
-class DumpWindow : public DumpView {
-public:
-    explicit DumpWindow(QWidget& window)
-        : m_progress(
-              std::in_place, "Report", [](const QString& text) { return text; }, &window,
-              "The report is being written.") {}
+/// Opens a text file with the desktop's program for it. If there is none, a box says where the file
+/// is.
+void OpenText(const QString& path, QWidget& window) {
+    auto* opener = new QProcess(&window);
+    const auto end = [opener, path](bool opened) {
+        opener->deleteLater();
+        if (!opened)
+            MsgBox(QStringLiteral("The report is in this file:\n") + QDir::toNativeSeparators(path),
+                   {}, MessageKind::Information);
+    };
+    QObject::connect(opener, &QProcess::errorOccurred, &window,
+                     [end](QProcess::ProcessError error) {
+                         if (error == QProcess::FailedToStart)
+                             end(false);
+                     });
+    QObject::connect(opener, &QProcess::finished, &window, [end](int code) { end(code == 0); });
+    opener->start(QStringLiteral("xdg-open"), {path});
+}
 
-    bool GoOn() override {
-        constexpr int Pause = 50; // milliseconds
-        if (MillisecondsRunning() < m_next)
-            return true;
-        m_next = MillisecondsRunning() + Pause;
-        return (*m_progress)(m_step++, 0);
-    }
-    void End() override { m_progress.reset(); }
-    bool OpenText(const QString& path) override {
-        return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
-    }
+/// Makes a dump and opens it. A failure is shown when the progress window has gone.
+void Dump(const char* failure, const QString& file, QWidget& window,
+          const std::function<bool(const WorkProgress&)>& write) {
+    const auto body = [&] {
+        ProgressWindow progress(
+            "Report", [](const QString& text) { return text; }, &window,
+            "The report is being written.");
+        return write(std::ref(progress));
+    };
+    const bool written =
+        Trapped(body, [&](const RunTimeError& error) { ShowDiagnosticError(failure, error); });
+    if (written)
+        OpenText(file, window);
+}
 
-private:
-    std::optional<ProgressWindow> m_progress;
-    std::int64_t m_next = 0;
-    int m_step = 0;
-};
-
-void Dump(const QString& sql, const QString& file, QWidget& window) {
-    DumpWindow view(window);
-    ArchiveEvents(sql, file, view);
+void DumpQuery(const QString& sql, const QString& file, QWidget& window) {
+    Dump("Error in Sub ReportRecordSet", file, window,
+         [&](const WorkProgress& progress) { return ArchiveEvents(sql, file, progress); });
 }
 
 void DumpSchema(const QString& file, QWidget& window) {
-    DumpWindow view(window);
-    GuardedWithBox("ReportSchema",
-                   [&] { ReportSchema(*OpenForReading(), file, SchemaTitle, view); });
+    Dump("Error in Sub ReportSchema", file, window, [&](const WorkProgress&) {
+        ReportSchema(*OpenForReading(), file, SchemaTitle);
+        return true;
+    });
 }
 
 void ExecuteQuery(const QString& file, QWidget& window) {
@@ -111,7 +116,7 @@ void ExecuteQuery(const QString& file, QWidget& window) {
     box.setTextValue(QString::fromLatin1(AllEvents));
     box.resize(box.fontMetrics().averageCharWidth() * 80, box.height());
     if (box.exec() == QDialog::Accepted)
-        Dump(box.textValue(), file, window);
+        DumpQuery(box.textValue(), file, window);
 }
 
 void CreateSampleData(QWidget& window) {
@@ -121,23 +126,24 @@ void CreateSampleData(QWidget& window) {
         MakeFakeData(dialog.DateTime(), DateTime::FromTime(0, dialog.Interval()));
 }
 
-void AddDebugMenu(QMenu& menu, int index, const QString& caption, QWidget& window) {
+void AddDebugMenu(QMenu& menu, int index, const QString& caption, QWidget& window,
+                  const std::function<void()>& changed) {
     const bool separator = caption == u"-"; // its text would be shown
     QAction* item = separator ? menu.addSeparator() : menu.addAction(caption);
     item->setObjectName(QStringLiteral("mnuDebugItem_%1").arg(index));
     QObject::connect(item, &QAction::triggered, &window,
-                     [index, &window] { mnuDebugItem_Click(index, window); });
+                     [=, &window] { mnuDebugItem_Click(index, window, changed); });
 }
 
 } // namespace
 
-void FillDebugMenu(QMenu& mnuDebug, QWidget& window) {
+void FillDebugMenu(QMenu& mnuDebug, QWidget& window, const std::function<void()>& changed) {
     int index = 0;
     for (const DebugItem& item : Items)
-        AddDebugMenu(mnuDebug, ++index, QString::fromLatin1(item.caption), window);
+        AddDebugMenu(mnuDebug, ++index, QString::fromLatin1(item.caption), window, changed);
 }
 
-void mnuDebugItem_Click(int index, QWidget& window) {
+void mnuDebugItem_Click(int index, QWidget& window, const std::function<void()>& changed) {
     if (index < 1 || index > static_cast<int>(Items.size())) {
         MsgBox(QStringLiteral("Unknown Debug Cmd (%1)").arg(index), {}, MessageKind::Warning);
         return;
@@ -148,15 +154,18 @@ void mnuDebugItem_Click(int index, QWidget& window) {
     case Schema:
         return DumpSchema(file, window);
     case SampleData:
-        return CreateSampleData(window);
+        CreateSampleData(window);
+        return changed();
     case DeleteToday:
-        return DeleteTodaysEvents();
+        DeleteTodaysEvents();
+        return changed();
     case DeleteAll:
-        return DeleteAllEvents();
+        DeleteAllEvents();
+        return changed();
     case Query:
         return ExecuteQuery(file, window);
     default:
         if (item.sql)
-            Dump(QString::fromLatin1(item.sql), file, window);
+            DumpQuery(QString::fromLatin1(item.sql), file, window);
     }
 }

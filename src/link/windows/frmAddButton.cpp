@@ -20,7 +20,7 @@ frmAddButton::frmAddButton(DockingLink& link, QWidget* parent)
     : EditorDialog(parent), m_ui(std::make_unique<Ui::frmAddButton>()), m_capture(link),
       m_tmrGetID(CaptureInterval) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ShowNone();
     SelectAllOnFocus(*m_ui->txtName);
     connect(m_ui->cmdManual, &QPushButton::clicked, this, &frmAddButton::cmdManual_Click);

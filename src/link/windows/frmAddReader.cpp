@@ -15,7 +15,7 @@
 frmAddReader::frmAddReader(DockingLink& link, QWidget* parent)
     : EditorDialog(parent), m_ui(std::make_unique<Ui::frmAddReader>()), m_link(link) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ShowNone();
     SelectAllOnFocus(*m_ui->txtDesc);
     connect(m_ui->cmdRead, &QPushButton::clicked, this, &frmAddReader::cmdRead_Click);

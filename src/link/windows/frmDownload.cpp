@@ -9,7 +9,7 @@
 frmDownload::frmDownload(DockingLink& link, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmDownload>()), m_transfer(link, *this) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     // The warning keeps its place while it is hidden, so that nothing jumps.
     QSizePolicy policy = m_ui->lblWarning->sizePolicy();
     policy.setRetainSizeWhenHidden(true);

@@ -7,7 +7,7 @@
 frmFirmwareVersion::frmFirmwareVersion(const QString& firmware, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmFirmwareVersion>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     m_ui->Label1->setText(m_ui->Label1->text() + u' ' + firmware);
     ShowIcon(*m_ui->imgReader, QStringLiteral("reader"));
     connect(m_ui->cmdClose, &QPushButton::clicked, this, &QDialog::accept);

@@ -11,7 +11,7 @@
 frmGoOnline::frmGoOnline(DockingLink& link, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmGoOnline>()), m_link(link), m_tmrStart(200) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     ShowIcon(*m_ui->imgDock, QStringLiteral("dock"));
     connect(&m_tmrStart, &Timer::Tick, this, &frmGoOnline::Connect);
     m_tmrStart.SetEnabled(true);

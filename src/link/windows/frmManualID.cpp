@@ -8,7 +8,7 @@
 frmManualID::frmManualID(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmManualID>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     m_ui->lblStatic->setText(
         Translate("Enter the 6 digit button ID.  This is the last 6 digits visible on the front of "
                   "the 'Dallas' Key. Valid characters are 0~9 and A~F."));

@@ -16,7 +16,7 @@ constexpr int LastPort = 8;
 frmPrpComms::frmPrpComms(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmPrpComms>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     connect(m_ui->cboLocalPort, &QComboBox::currentIndexChanged, this, &frmPrpComms::ShowDevice);
     connect(m_ui->cboDevice, &QComboBox::editTextChanged, this, &frmPrpComms::KeepDevice);
     connect(m_ui->cmdSetupOK, &QPushButton::clicked, this, &frmPrpComms::cmdSetupOK_Click);

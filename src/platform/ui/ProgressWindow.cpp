@@ -6,7 +6,9 @@
 
 namespace {
 
-constexpr int AppearsAfter = 1000; // milliseconds
+// Milliseconds.
+constexpr int AppearsAfter = 1000;
+constexpr int BetweenUpdates = 50; ///< handling events takes time
 
 } // namespace
 
@@ -26,6 +28,8 @@ ProgressWindow::ProgressWindow(const char* title, TranslateText translate, QWidg
 }
 
 bool ProgressWindow::operator()(int done, int all) {
+    if (MillisecondsRunning() < m_nextUpdate)
+        return !m_window.wasCanceled();
     m_window.setMaximum(all);
     if (m_countsPages)
         m_window.setLabelText(m_translate(QStringLiteral("Page")) + u' ' +
@@ -39,5 +43,6 @@ bool ProgressWindow::operator()(int done, int all) {
     }
     if (m_window.isVisible())
         DoEvents();
+    m_nextUpdate = MillisecondsRunning() + BetweenUpdates;
     return !m_window.wasCanceled();
 }

@@ -16,14 +16,15 @@ public:
     ProgressWindow(const char* title, TranslateText translate, QWidget* parent,
                    const char* text = nullptr);
 
-    /// A WorkProgress: call it before each page, or now and then. False once the operator has
-    /// cancelled the work.
+    /// A WorkProgress: call it before each page, or now and then. Most calls take no time: the
+    /// window changes every 50 ms at most. False once the operator has cancelled the work.
     bool operator()(int done, int all);
 
 private:
     TranslateText m_translate;
     bool m_countsPages;
     std::int64_t m_began; ///< by MillisecondsRunning
+    std::int64_t m_nextUpdate = 0;
     Hourglass m_hourglass;
     std::optional<ArrowPointer> m_arrow; // after the hourglass: it goes first
     QProgressDialog m_window;

@@ -11,7 +11,7 @@
 frmRptCustomParam::frmRptCustomParam(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptCustomParam>()), m_viewer(viewer) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel, [this] { ShowReport(); });
     JoinPreset(*m_ui->cmdPreset_0, 0);
     JoinPreset(*m_ui->cmdPreset_1, 7);

@@ -17,7 +17,7 @@ frmWaitReport::frmWaitReport(Recordset& rows, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmWaitReport>()), m_rows(rows),
       m_tmrStart(StartsAfter) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(&m_tmrStart, &Timer::Tick, this, [this] {
         m_tmrStart.SetEnabled(false);

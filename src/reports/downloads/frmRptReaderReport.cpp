@@ -12,7 +12,7 @@
 frmRptReaderReport::frmRptReaderReport(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptReaderReport>()), m_viewer(viewer) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     connect(m_ui->imgcboReader, &QComboBox::currentIndexChanged, this,
             &frmRptReaderReport::ReadSelectedReader);
     connect(m_ui->cmdReset, &QPushButton::clicked, this, &frmRptReaderReport::ResetDates);

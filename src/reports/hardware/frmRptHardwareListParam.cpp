@@ -9,7 +9,7 @@
 frmRptHardwareListParam::frmRptHardwareListParam(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptHardwareListParam>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     // Only this box updates the button; docs/why.md says why.
     connect(m_ui->chkLocation, &QCheckBox::clicked, this,
             &frmRptHardwareListParam::UpdatePreviewButton);

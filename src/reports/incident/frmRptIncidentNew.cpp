@@ -11,7 +11,7 @@
 frmRptIncidentNew::frmRptIncidentNew(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptIncidentNew>()), m_viewer(viewer) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel,
                       [this] { cmdPrintPreview_Click(); });
     Guarded("Form_Load of Form frmRptIncidentNew", [this] { InitForm(); });

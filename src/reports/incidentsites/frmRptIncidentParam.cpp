@@ -9,7 +9,7 @@
 frmRptIncidentParam::frmRptIncidentParam(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptIncidentParam>()), m_viewer(viewer) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel,
                       [this] { cmdPrintPreview_Click(); });
     InitParamForm();

@@ -11,7 +11,7 @@
 frmRptPatrolSchedule::frmRptPatrolSchedule(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptPatrolSchedule>()), m_viewer(viewer) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     m_tours.SetColumns({Translate("Tour Name"), Translate("Description"), Translate("Start Time")});
     m_tours.SetIcon(ProgramIcon(QStringLiteral("tour")));
     JoinList(*m_ui->lvwMain, m_tours);

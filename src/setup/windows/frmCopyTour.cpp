@@ -9,7 +9,7 @@
 frmCopyTour::frmCopyTour(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmCopyTour>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     Guarded("Form_Load of Form frmCopyTour", [this] {
         for (const Tour& tour : ToursByName())
             m_ui->cboTours->addItem(tour.name + QStringLiteral(" - ") + tour.description, tour.id);

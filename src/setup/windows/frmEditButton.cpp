@@ -8,7 +8,7 @@
 frmEditButton::frmEditButton(QWidget* parent)
     : EditorDialog(parent), m_ui(std::make_unique<Ui::frmEditButton>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     SelectAllOnFocus(*m_ui->txtName);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmEditButton::cmdOK_Click);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmEditButton::Cancel);

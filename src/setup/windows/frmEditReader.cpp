@@ -8,7 +8,7 @@
 frmEditReader::frmEditReader(QWidget* parent)
     : EditorDialog(parent), m_ui(std::make_unique<Ui::frmEditReader>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     ShowIcon(*m_ui->img1, QStringLiteral("reader"));
     SelectAllOnFocus(*m_ui->txtDesc);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmEditReader::cmdOK_Click);

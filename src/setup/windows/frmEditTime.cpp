@@ -8,7 +8,7 @@
 frmEditTime::frmEditTime(QWidget* parent)
     : EditorDialog(parent), m_ui(std::make_unique<Ui::frmEditTime>()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     SelectAllOnFocus(*m_ui->txtTime);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmEditTime::cmdOK_Click);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmEditTime::Cancel);

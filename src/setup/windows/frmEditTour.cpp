@@ -32,7 +32,7 @@ frmEditTour::frmEditTour(QWidget* parent)
     : EditorDialog(parent), m_ui(std::make_unique<Ui::frmEditTour>()),
       m_newInterval(SavedInterval()) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     if (parent)
         move(parent->pos() + QPoint(PixelsOf(Right), PixelsOf(Below)));
     JoinList(*m_ui->lvwLocations, m_locations);

@@ -33,7 +33,7 @@ const TypeWords& WordsOf(GroupType type) {
 frmListEdit::frmListEdit(DockingLink& link, QWidget* parent)
     : EditorDialog(parent), m_ui(std::make_unique<Ui::frmListEdit>()), m_link(link) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     m_buttons.SetColumns({Translate("Button ID"), Translate("Name"), Translate("Description")});
     JoinList(*m_ui->lvwItems, m_buttons);
     ShareWidth(*m_ui->lvwItems, {20, 40, 39});

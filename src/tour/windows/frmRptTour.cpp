@@ -27,7 +27,7 @@ void SaveOption(const QString& key, bool value) {
 frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptTour>()), m_viewer(viewer) {
     m_ui->setupUi(this);
-    TranslateWindow(*this, [](const QString& text) { return Translate(text); });
+    TranslateWindow(*this, Translated);
     PrepareDateField(*m_ui->dtpStartDate);
     connect(m_ui->imgcboReader, &QComboBox::currentIndexChanged, this,
             &frmRptTour::ReadSelectedReader);
