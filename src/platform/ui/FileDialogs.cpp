@@ -16,7 +16,7 @@ QString Ask(const FileRequest& request, QFileDialog::AcceptMode mode,
     dialog.setDefaultSuffix(request.suffix);
     dialog.selectFile(request.name);
     while (dialog.exec() == QDialog::Accepted) {
-        const QString path = dialog.selectedFiles().value(0);
+        QString path = dialog.selectedFiles().value(0);
         const QFileInfo file(path);
         const char* fault =
             !file.dir().exists()
