@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Please restore a backup. Until then, no reader is erased.</source>
-        <translation>Bitte eine Sicherung zurückspielen. Bis dahin wird kein Leser geleert.</translation>
+        <translation>Bitte eine Sicherung wiederherstellen. Bis dahin wird kein Leser geleert.</translation>
     </message>
     <message>
         <source>Another program is using it.</source>
@@ -61,11 +61,11 @@
     </message>
     <message>
         <source>Its password is different, or it is damaged. If it is damaged, please restore a backup.</source>
-        <translation>Sie hat ein anderes Kennwort, oder sie ist beschädigt. Wenn sie beschädigt ist, bitte eine Sicherung zurückspielen.</translation>
+        <translation>Sie hat ein anderes Kennwort, oder sie ist beschädigt. Wenn sie beschädigt ist, bitte eine Sicherung wiederherstellen.</translation>
     </message>
     <message>
         <source>It is damaged. Please restore a backup.</source>
-        <translation>Sie ist beschädigt. Bitte eine Sicherung zurückspielen.</translation>
+        <translation>Sie ist beschädigt. Bitte eine Sicherung wiederherstellen.</translation>
     </message>
     <message>
         <source>A journal next to the database did not belong to it. The database was opened without this journal.</source>
@@ -1520,8 +1520,8 @@
         <translation>Die Datei wurde verändert, während sie gelesen wurde.</translation>
     </message>
     <message>
-        <source>The copy is damaged: </source>
-        <translation>Die Kopie ist beschädigt: </translation>
+        <source>The copy is damaged: %0:s</source>
+        <translation>Die Kopie ist beschädigt: %0:s</translation>
     </message>
     <message>
         <source>The copy does not have the rows of the database.</source>
@@ -1536,8 +1536,12 @@
         <translation>Die Datenbank selbst ist beschädigt.</translation>
     </message>
     <message>
-        <source>The folder does not exist.</source>
-        <translation>Den Ordner gibt es nicht.</translation>
+        <source>The program itself uses this file. Please choose another filename.</source>
+        <translation>Diese Datei benutzt das Programm selbst. Bitte einen anderen Dateinamen wählen.</translation>
+    </message>
+    <message>
+        <source>The file or its folder does not exist.</source>
+        <translation>Die Datei oder ihren Ordner gibt es nicht.</translation>
     </message>
     <message>
         <source>Removed:</source>
@@ -1597,7 +1601,7 @@
     </message>
     <message>
         <source>Warning: This action will permanently delete the events from the database.</source>
-        <translation>Achtung: Die Ereignisse werden endgültig aus der Datenbank gelöscht.</translation>
+        <translation>Warnung: Diese Aktion löscht die Ereignisse endgültig aus der Datenbank.</translation>
     </message>
     <message>
         <source>Select location of backup database file</source>
@@ -1653,7 +1657,7 @@
     </message>
     <message>
         <source>Restore</source>
-        <translation>Zurückspielen</translation>
+        <translation>Wiederherstellung</translation>
     </message>
     <message>
         <source>The backup is being copied and checked.</source>
@@ -1677,7 +1681,7 @@
     </message>
     <message>
         <source>The database was not restored. It is as it was before.</source>
-        <translation>Die Sicherung wurde nicht zurückgespielt. Die Datenbank ist, wie sie war.</translation>
+        <translation>Die Datenbank wurde nicht wiederhergestellt. Sie ist, wie sie war.</translation>
     </message>
     <message>
         <source>The chosen file is not a database of this program.</source>
@@ -1688,12 +1692,12 @@
         <translation>Die gewählte Datei ist keine Datenbank dieses Programms, ihr Kennwort ist ein anderes, oder sie ist beschädigt.</translation>
     </message>
     <message>
-        <source>The chosen file is not a complete database of this program. It lacks </source>
-        <translation>Die gewählte Datei ist keine vollständige Datenbank dieses Programms. Es fehlen: </translation>
+        <source>The chosen file is not a complete database of this program. It lacks %0:s.</source>
+        <translation>Die gewählte Datei ist keine vollständige Datenbank dieses Programms. Es fehlen: %0:s.</translation>
     </message>
     <message>
-        <source>The chosen file is damaged: </source>
-        <translation>Die gewählte Datei ist beschädigt: </translation>
+        <source>The chosen file is damaged: %0:s</source>
+        <translation>Die gewählte Datei ist beschädigt: %0:s</translation>
     </message>
     <message>
         <source>Another program has used the database meanwhile. Please try again.</source>
@@ -1701,7 +1705,7 @@
     </message>
     <message>
         <source>The database was restored, but the disk reported an error. Please check it.</source>
-        <translation>Die Sicherung wurde zurückgespielt, aber der Datenträger meldete einen Fehler. Bitte prüfen.</translation>
+        <translation>Die Datenbank wurde wiederhergestellt, aber der Datenträger meldete einen Fehler. Bitte prüfen.</translation>
     </message>
 </context>
 </TS>

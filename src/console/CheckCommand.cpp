@@ -3,6 +3,7 @@
 #include "Connection.h"
 #include "ConsoleTable.h"
 #include "ConsoleTools.h"
+#include "RunTimeError.h"
 #include "StoreCheck.h"
 #include "StoreCopy.h"
 #include "mDeclareGlobals.h"
@@ -32,10 +33,12 @@ void Write(const StoreFindings& found, const QString& path, bool json) {
         WriteJson({{QStringLiteral("file"), path},
                    {QStringLiteral("sound"), faults.isEmpty()},
                    {QStringLiteral("faults"), QJsonArray::fromStringList(faults)},
+                   {QStringLiteral("damage"),
+                    found.damage.isEmpty() ? QJsonValue() : QJsonValue(found.damage)},
                    {QStringLiteral("missing"), QJsonArray::fromStringList(found.missing)},
                    {QStringLiteral("rows"), AsObject(found.rows)},
                    {QStringLiteral("lostReferences"), AsObject(found.lost)}});
-    } else {
+    } else if (found.opened) {
         ConsoleTable table{{QStringLiteral("table"), QStringLiteral("rows")}, {}};
         for (auto count = found.rows.begin(); count != found.rows.end(); ++count)
             table.rows += {count.key(), count.value()};
@@ -45,11 +48,21 @@ void Write(const StoreFindings& found, const QString& path, bool json) {
         Complain(fault);
 }
 
+StoreFindings Examine(const QString& path) {
+    Connection copy;
+    try {
+        OpenCopy(copy, path);
+    } catch (const RunTimeError& error) {
+        StoreFindings none;
+        none.opened = false;
+        none.damage = error.Description();
+        return none;
+    }
+    return ExamineStore(copy);
+}
+
 bool Run(const Check& check) {
-    Connection other;
-    if (!check.file.isEmpty())
-        OpenCopy(other, check.file);
-    const StoreFindings found = ExamineStore(check.file.isEmpty() ? *gConn : other);
+    const StoreFindings found = check.file.isEmpty() ? ExamineStore(*gConn) : Examine(check.file);
     Write(found, check.file.isEmpty() ? gDatabasePath : QDir::toNativeSeparators(check.file),
           check.json);
     return found.Faults().isEmpty();

@@ -6,6 +6,7 @@
 #include "CommandOptions.h"
 #include "CommandParser.h"
 #include "ConsoleTools.h"
+#include "FileReplacement.h"
 #include "InstanceLock.h"
 #include "StoreUpkeep.h"
 #include "mDeclareGlobals.h"
@@ -200,6 +201,9 @@ int RunConsole(const QStringList& arguments) {
         Complain(Program + QStringLiteral(": ") + reason +
                  QStringLiteral(" (see \"%1\")").arg(helpCall));
         return WrongUsage;
+    } catch (const FileError& error) {
+        Complain(error.Cause([](const QString& text) { return Translate(text); }));
+        return NotDone;
     } catch (const std::exception& error) {
         Complain(QString::fromUtf8(error.what()));
         return NotDone;

@@ -2,9 +2,10 @@
 #include "Command.h"
 #include "CommandOptions.h"
 #include "ConsoleTools.h"
+#include "Engine.h"
+#include "StoreCheck.h"
 #include "StoreCopy.h"
 #include "StoreRestore.h"
-#include "mErrorHandler.h"
 #include "mOperators.h"
 #include "mStore.h"
 #include "mTranslations.h"
@@ -23,15 +24,20 @@ bool WaitForStore(StoreRestore& restore) {
     return true;
 }
 
-/// Whether the master's password is that of the present store. Nothing if that store cannot be
-/// read: a backup is for this case.
+/// Whether the master's password is that of the present store. Nothing if that store is missing,
+/// damaged or without operators: a backup is for this case.
 std::optional<bool> MayLogInAtStore() {
     std::optional<bool> may;
-    IgnoringErrors([&] {
+    try {
         gConn = std::make_unique<Connection>();
-        gConn->Open(gConnectionString);
-        may = CheckOperator(MasterOperator, GivenPassword(), RememberLogin::No) == MasterOperator;
-    });
+        OpenStore(*gConn, gDatabasePath, StorePassword);
+        if (MissingParts(*gConn).filter(QStringLiteral("tblOperators")).isEmpty())
+            may =
+                CheckOperator(MasterOperator, GivenPassword(), RememberLogin::No) == MasterOperator;
+    } catch (const RunTimeError& error) {
+        if (error.Number() != RunTimeErrorNumber::FileNotFound && !IsDamage(error.Number()))
+            throw NotRestored(error, gDatabasePath);
+    }
     gConn.reset();
     return may;
 }

@@ -17,9 +17,6 @@ namespace {
 
 const QString PasswordProperty = QStringLiteral("jet oledb:database password");
 const QString SourceProperty = QStringLiteral("data source");
-/// One page of the format. A shorter file is not a store, but the engine would take it for a new
-/// one and write to it.
-constexpr qint64 LeastStoreBytes = 1024;
 
 /// In KiB, as a negative number: enough for a store of about two million events.
 constexpr char CacheForTwoPasses[] = "PRAGMA cache_size = -262144";
@@ -57,11 +54,12 @@ QHash<QString, QString> PartsOf(const QString& connectionText) {
 
 void RequireStoreFile(const QString& path) {
     const QFileInfo file(path);
-    if (!file.isFile())
+    if (!file.exists())
         throw RunTimeError(
             RunTimeErrorNumber::FileNotFound,
             QStringLiteral("Could not find file '%1'.").arg(QDir::toNativeSeparators(path)));
-    if (file.size() < LeastStoreBytes)
+    // The engine would take a short file for a new store and write to it.
+    if (!file.isFile() || file.size() < LeastStoreBytes)
         throw RunTimeError(RunTimeErrorNumber::StoreEngine + SQLITE_NOTADB,
                            QStringLiteral("Unrecognized database format '%1'.")
                                .arg(QDir::toNativeSeparators(path)));

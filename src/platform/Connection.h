@@ -114,6 +114,9 @@ private:
     std::shared_ptr<Engine> m_engine;
 };
 
+/// One page of the format. A shorter file is not a store.
+constexpr qint64 LeastStoreBytes = 1024;
+
 /// A value in the form for a connection text, in quotes if it needs them.
 QString ConnectionValue(const QString& value);
 

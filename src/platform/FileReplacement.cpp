@@ -1,7 +1,5 @@
 #include "FileReplacement.h"
 
-#include "RunTimeError.h"
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -20,10 +18,36 @@
 namespace {
 
 [[noreturn]] void Throw(int number, const QString& path, const QString& reason) {
-    throw RunTimeError(number, QDir::toNativeSeparators(path) + QStringLiteral(": ") + reason);
+    throw FileError(number, path, QDir::toNativeSeparators(path) + QStringLiteral(": ") + reason);
 }
 
 } // namespace
+
+QString FileError::Cause(const std::function<QString(const QString&)>& translate) const {
+    const char* words = WordsFor(Number());
+    return words ? translate(QString::fromUtf8(words)) + u'\n' + QDir::toNativeSeparators(m_path)
+                 : Description();
+}
+
+const char* FileError::WordsFor(int number) {
+    switch (number) {
+    case RunTimeErrorNumber::UsedByProgram:
+        return QT_TR_NOOP("The program itself uses this file. Please choose another filename.");
+    case RunTimeErrorNumber::DeviceError:
+        return QT_TR_NOOP(
+            "The disk or the network reported an error. Please check it and try again.");
+    case RunTimeErrorNumber::FileExists:
+        return QT_TR_NOOP("That filename is already in use. Please choose another filename");
+    case RunTimeErrorNumber::DiskFull:
+        return QT_TR_NOOP("The disk is full.");
+    case RunTimeErrorNumber::PermissionDenied:
+        return QT_TR_NOOP("You do not have permission to write to this file or its folder.");
+    case RunTimeErrorNumber::PathNotFound:
+        return QT_TR_NOOP("The file or its folder does not exist.");
+    default:
+        return nullptr;
+    }
+}
 
 QString FileMeantBy(const QString& path) {
     const QFileInfo given(path);
@@ -46,7 +70,9 @@ int FileErrorNumber() {
     return error == ERROR_DISK_FULL       ? RunTimeErrorNumber::DiskFull
            : error == ERROR_ACCESS_DENIED ? RunTimeErrorNumber::PermissionDenied
            : error == ERROR_IO_DEVICE     ? RunTimeErrorNumber::DeviceError
-                                          : RunTimeErrorNumber::FileNotFound;
+           : error == ERROR_PATH_NOT_FOUND || error == ERROR_FILE_NOT_FOUND
+               ? RunTimeErrorNumber::PathNotFound
+               : RunTimeErrorNumber::FileAccess;
 }
 
 void ThrowFileError(const QString& path) {
@@ -99,8 +125,11 @@ int FileErrorNumber() {
         return RunTimeErrorNumber::PermissionDenied;
     case EIO:
         return RunTimeErrorNumber::DeviceError;
+    case ENOENT:
+    case ENOTDIR:
+        return RunTimeErrorNumber::PathNotFound;
     default:
-        return RunTimeErrorNumber::FileNotFound;
+        return RunTimeErrorNumber::FileAccess;
     }
 }
 
@@ -174,7 +203,12 @@ void PlaceNewFile(const QString& from, const QString& to) {
         else
             ThrowFileError(to);
     }
-    SyncFolderOf(to);
+    try {
+        SyncFolderOf(to);
+    } catch (...) {
+        ::unlink(target.constData());
+        throw;
+    }
 }
 
 void KeepOwnerAndMode(const QString& from, const QString& to) {

@@ -2,7 +2,6 @@
 
 #include "FileReplacement.h"
 #include "OwnFiles.h"
-#include "RunTimeError.h"
 #include "StoreLock.h"
 
 #include <QDir>
@@ -34,15 +33,16 @@ OutputFile::OutputFile(const QString& path, Older older) {
     const QFileInfo target(older == Older::Keep ? path : FileMeantBy(path));
     m_target = target.filePath();
     if (StoreLock::IsHeldHere(m_target))
-        Refuse(QStringLiteral("is the open database."));
+        Refuse(RunTimeErrorNumber::UsedByProgram, QStringLiteral("is the open database."));
     if (IsOwnFile(m_target))
-        Refuse(QStringLiteral("is one of the program's own files."));
+        Refuse(RunTimeErrorNumber::UsedByProgram,
+               QStringLiteral("is one of the program's own files."));
     if (older == Older::Replace) {
         OpenForReplacing();
         return;
     }
     if (!IsFreeName(m_target))
-        Refuse(QStringLiteral("already exists."));
+        Refuse(RunTimeErrorNumber::FileExists, QStringLiteral("already exists."));
     OpenPart();
     if (!m_device->isOpen())
         Fail();
@@ -139,14 +139,15 @@ QString OutputFile::CauseOfFailure(QIODevice& device) {
     return device.errorString();
 }
 
-void OutputFile::Refuse(const QString& cause) const {
-    throw RunTimeError(RunTimeErrorNumber::FileInUse,
-                       QStringLiteral("The file \"%1\" ").arg(QDir::toNativeSeparators(m_target)) +
-                           cause);
+void OutputFile::Refuse(int number, const QString& cause) const {
+    throw FileError(number, m_target,
+                    QStringLiteral("The file \"%1\" ").arg(QDir::toNativeSeparators(m_target)) +
+                        cause);
 }
 
-void OutputFile::Fail() const {
-    const QString cause = CauseOfFailure(*m_device);
-    throw RunTimeError(FileErrorNumber(), QStringLiteral("The file \"%1\" cannot be written: %2")
-                                              .arg(QDir::toNativeSeparators(m_target), cause));
+void OutputFile::Fail(QIODevice& device, const QString& path) {
+    const QString cause = CauseOfFailure(device);
+    throw FileError(FileErrorNumber(), path,
+                    QStringLiteral("The file \"%1\" cannot be written: %2")
+                        .arg(QDir::toNativeSeparators(path), cause));
 }

@@ -5,8 +5,8 @@
 #include <memory>
 
 /// A file that is being written, under a temporary name beside its place. It gets its name only
-/// when it is complete and on the disk. Every failure throws RunTimeError, with the file's name and
-/// the cause in its text. A file of the program's own (OwnFiles.h) is refused.
+/// when it is complete and on the disk. Every failure throws FileError. A file of the program's own
+/// (OwnFiles.h) is refused.
 class OutputFile {
 public:
     enum class Older {
@@ -38,6 +38,8 @@ public:
 
     /// Why a write to a device failed or was incomplete.
     static QString CauseOfFailure(QIODevice& device);
+    /// Throws this as a failure to write the file.
+    [[noreturn]] static void Fail(QIODevice& device, const QString& path);
 
 private:
     enum class Way {
@@ -47,8 +49,8 @@ private:
         Straight, ///< the target itself: a device or a pipe
     };
 
-    [[noreturn]] void Refuse(const QString& cause) const;
-    [[noreturn]] void Fail() const;
+    [[noreturn]] void Refuse(int number, const QString& cause) const;
+    [[noreturn]] void Fail() const { Fail(*m_device, m_target); }
     void OpenPart();
     void OpenForReplacing();
     void CopyOver();

@@ -69,7 +69,8 @@ QStringList StoreLock::StoresHeldHere() {
 }
 
 bool StoreLock::IsHeldByAnother(const QString& storePath) {
-    return !IsHeldHere(storePath) && LockFile::IsHeld(LockPathOf(storePath));
+    const QString path = LockPathOf(storePath); // "main.mdb" and "main.bak" have the same one
+    return Held().value(path).expired() && LockFile::IsHeld(path);
 }
 
 LockFile::Holder StoreLock::HolderOf(const QString& storePath) {

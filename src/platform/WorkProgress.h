@@ -3,8 +3,8 @@
 #include <functional>
 #include <utility>
 
-/// Called now and then during long work: `done` of `all` steps are finished. If both are 0, nobody
-/// knows how far the work is. Return false to cancel.
+/// Called now and then during long work: `done` of `all` steps are finished. If `all` is 0,
+/// nobody knows how far the work is. Return false to cancel.
 using WorkProgress = std::function<bool(int done, int all)>;
 
 /// Counts the rows of a report while they are read, and shows now and then how many are done.

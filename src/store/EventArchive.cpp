@@ -1,10 +1,10 @@
 #include "EventArchive.h"
 
 #include "Connection.h"
+#include "FileReplacement.h"
 #include "Format.h"
 #include "OutputFile.h"
 #include "Rows.h"
-#include "RunTimeError.h"
 #include "SqlDate.h"
 #include "mTranslations.h"
 
@@ -29,11 +29,10 @@ Values BoundsOf(const ArchiveRange& range) {
             range.EndDate.DatePart() + DateTime::FromTime(23, 59, 59)};
 }
 
-/// The file with its lines, written in large pieces. Every failure throws ArchiveNotSaved.
+/// The file with its lines, written in large pieces. Every failure throws FileError.
 class ArchiveFile {
 public:
-    explicit ArchiveFile(const QString& path) {
-        Try([&] { m_file = std::make_unique<OutputFile>(path, OutputFile::Older::Keep); });
+    explicit ArchiveFile(const QString& path) : m_file(path, OutputFile::Older::Keep) {
         m_buffer.reserve(WrittenAtOnce + WrittenAtOnce / 4);
         m_buffer += "\xEF\xBB\xBF"; // so that spreadsheets show the names correctly
     }
@@ -53,30 +52,17 @@ public:
     /// Complete and on the disk, but without its name.
     void Finish() {
         WriteBuffer();
-        Try([&] { m_file->Finish(); });
+        m_file.Finish();
     }
-    void Commit() {
-        Try([&] { m_file->Commit(); });
-    }
+    void Commit() { m_file.Commit(); }
 
 private:
-    template <typename Work>
-    static void Try(Work&& work) {
-        try {
-            work();
-        } catch (const RunTimeError& error) {
-            throw ArchiveNotSaved(
-                error.Number(),
-                Translate("File Save Error: Archive Not Saved.  Please Try again.") + u'\n' +
-                    error.Description());
-        }
-    }
     void WriteBuffer() {
-        Try([&] { m_file->Write(m_buffer); });
+        m_file.Write(m_buffer);
         m_buffer.resize(0); // keeps the memory
     }
 
-    std::unique_ptr<OutputFile> m_file;
+    OutputFile m_file;
     QByteArray m_buffer;
     bool m_lineBegins = true;
 };
@@ -142,17 +128,8 @@ void WriteEvents(ArchiveFile& file, const Values& bounds, int& written) {
     }
 }
 
-} // namespace
-
-int CountArchived(const ArchiveRange& range) { return CountOf(InRange, BoundsOf(range)); }
-
-QString ArchiveFileName(const ArchiveRange& range) {
-    return QStringLiteral("Archive") + SqlDateFmt(range.StartDate) + QStringLiteral("_to_") +
-           SqlDateFmt(range.EndDate) + QStringLiteral(".csv");
-}
-
-std::optional<int> ArchiveEventsOf(const ArchiveRange& range, const QString& path,
-                                   const WorkProgress& progress) {
+std::optional<int> Archive(const ArchiveRange& range, const QString& path,
+                           const WorkProgress& progress) {
     ArchiveFile file(path);
     Transaction transaction(*gConn);
     const Values bounds = BoundsOf(range);
@@ -188,9 +165,31 @@ std::optional<int> ArchiveEventsOf(const ArchiveRange& range, const QString& pat
             error.Number(),
             FormatStr(Translate("The events were written to %0:s, but they are still "
                                 "in the database: %1:s"),
-                      {QDir::toNativeSeparators(path), error.Description()}));
+                      {QDir::toNativeSeparators(path), CauseOf(error, gDatabasePath)}));
     }
     return written;
+}
+
+} // namespace
+
+int CountArchived(const ArchiveRange& range) { return CountOf(InRange, BoundsOf(range)); }
+
+QString ArchiveFileName(const ArchiveRange& range) {
+    return QStringLiteral("Archive") + SqlDateFmt(range.StartDate) + QStringLiteral("_to_") +
+           SqlDateFmt(range.EndDate) + QStringLiteral(".csv");
+}
+
+std::optional<int> ArchiveEventsOf(const ArchiveRange& range, const QString& path,
+                                   const WorkProgress& progress) {
+    try {
+        return Archive(range, path, progress);
+    } catch (const FileError& error) {
+        throw ArchiveNotSaved(error.Number(),
+                              Translate("File Save Error: Archive Not Saved.  Please Try again.") +
+                                  u'\n' + CauseOf(error, gDatabasePath));
+    } catch (const RunTimeError& error) {
+        throw ExplainedError(error.Number(), CauseOf(error, gDatabasePath));
+    }
 }
 
 QString ArchivedText(int events, const QString& path) {

@@ -5,7 +5,6 @@
 #include "Format.h"
 #include "OutputFile.h"
 #include "OwnFiles.h"
-#include "RunTimeError.h"
 #include "StoreCopy.h"
 #include "StoreFailure.h"
 #include "mDeclareGlobals.h"
@@ -26,17 +25,12 @@ bool IsScheduledBackupName(const QString& name) {
            QTime::isValid(number(4), number(5), 0);
 }
 
-/// One half of the work, as progress of the whole.
-WorkProgress Half(int half, const WorkProgress& progress) {
-    return [half, &progress](int done, int all) { return progress(half * all + done, 2 * all); };
-}
-
 bool Copy(const QString& target, const WorkProgress& progress) {
     OutputFile file(target, OutputFile::Older::Keep);
     file.TakeRightsOf(gDatabasePath);
     const auto write = [&](const QByteArray& bytes) { file.Write(bytes); };
-    if (!CopyBytes(gDatabasePath, write, Half(0, progress)) ||
-        !ProveCopy(file.Finish(), RowsPerTable(*gConn), Half(1, progress)))
+    if (!CopyBytes(gDatabasePath, write, progress) ||
+        !ProveCopy(file.Finish(), RowsPerTable(*gConn), progress))
         return false;
     file.Commit();
     return true;
@@ -48,11 +42,12 @@ bool BackUpStore(const QString& target, const WorkProgress& progress) {
     try {
         return Copy(target, progress);
     } catch (const RunTimeError& error) {
-        const QString cause = IsDamage(error.Number()) && !gConn->FullCheck().isEmpty()
-                                  ? Translate("The database itself is damaged.")
-                                  : CauseOfCopyFailure(error, target);
-        throw RunTimeError(error.Number(),
-                           Translate("The database was not copied.") + u'\n' + cause);
+        const bool damaged =
+            IsDamage(error.Number()) && !FaultOf(*gConn, progress).value_or(QString()).isEmpty();
+        throw ExplainedError(error.Number(),
+                             Translate("The database was not copied.") + u'\n' +
+                                 (damaged ? Translate("The database itself is damaged.")
+                                          : CauseOf(error, gDatabasePath)));
     }
 }
 
@@ -66,7 +61,8 @@ OldBackups RemoveOldBackups(const QString& newest, int keep) {
     QStringList others;
     for (const QFileInfo& file : made.dir().entryInfoList(QDir::Files | QDir::Hidden, QDir::Name))
         if (IsScheduledBackupName(file.fileName()) && !file.isSymLink() &&
-            file.fileName() != made.fileName() && !IsOwnFile(file.filePath()))
+            file.size() >= LeastStoreBytes && file.fileName() != made.fileName() &&
+            !IsOwnFile(file.filePath()))
             others += file.filePath();
     OldBackups old;
     for (const QString& path : others.mid(0, std::max<qsizetype>(0, others.size() - (keep - 1)))) {

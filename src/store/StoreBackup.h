@@ -23,6 +23,7 @@ struct OldBackups {
     QStringList notRemoved; ///< each with the cause
 };
 /// Keeps the `keep` newest backups in the folder of `newest`, by the times in their names, and
-/// removes the others. Only files with exactly such a name count, and no links. `newest` is kept
-/// whatever its name says: the clock may have been set back. The open store is kept too.
+/// removes the others. Only files with exactly such a name count, no links, and no files that are
+/// too short to be a store. `newest` is kept whatever its name says: the clock may have been set
+/// back. The open store is kept too.
 OldBackups RemoveOldBackups(const QString& newest, int keep);

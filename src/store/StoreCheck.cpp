@@ -60,7 +60,7 @@ QStringList MissingParts(Connection& store) {
 QStringList StoreFindings::Faults() const {
     QStringList faults;
     if (!damage.isEmpty())
-        faults += Translate("The database is damaged:") + u' ' + damage;
+        faults += opened ? Translate("The database is damaged:") + u' ' + damage : damage;
     if (!missing.isEmpty())
         faults += Translate("Missing:") + u' ' + missing.join(QStringLiteral(", "));
     for (const Reference& reference : References) {

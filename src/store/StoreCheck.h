@@ -11,7 +11,8 @@ QStringList MissingParts(Connection& store);
 
 /// What a check of a store found.
 struct StoreFindings {
-    /// The first fault in the file itself; empty if none.
+    bool opened = true;
+    /// The first fault in the file itself; empty if none. If it was not opened, why.
     QString damage;
     QStringList missing;     ///< MissingParts
     QMap<QString, int> rows; ///< by the table's name

@@ -2,8 +2,9 @@
 
 #include "Connection.h"
 #include "Engine.h"
+#include "FileReplacement.h"
 #include "JournalTrial.h"
-#include "RunTimeError.h"
+#include "StoreFailure.h"
 #include "StorePassword.h"
 #include "TableExists.h"
 #include "mStore.h"
@@ -17,27 +18,27 @@ namespace {
 
 constexpr qint64 CopiedAtOnce = 64 * 1024;
 
-[[noreturn]] void ThrowReadFailure(const QFile& file, const QString& cause) {
-    throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                       QDir::toNativeSeparators(file.fileName()) + QStringLiteral(": ") + cause);
+[[noreturn]] void Throw(int number, const QString& path, const QString& cause) {
+    throw ExplainedError(number, QDir::toNativeSeparators(path) + QStringLiteral(": ") + cause);
 }
 
-QString CauseOfNotOpening(const RunTimeError& error, const QString& path) {
-    const bool unfinished = QFileInfo(JournalOf(path)).size() > 0;
-    switch (error.Number()) {
-    case RunTimeErrorNumber::FileNotFound:
-        return Translate("The file does not exist.");
-    case RunTimeErrorNumber::StoreReadOnly:
-    case RunTimeErrorNumber::StoreCannotOpen:
-        return unfinished
-                   ? Translate("A program was killed while it wrote to this file. Its journal "
-                               "is still beside it.")
-                   : Translate("You do not have permission to read this file.");
-    default:
-        return IsDamage(error.Number())
-                   ? Translate("It is not a database of this program, or it is damaged.")
-                   : error.Description();
-    }
+[[noreturn]] void ThrowReadFailure(const QString& path) {
+    if (FileErrorNumber() == RunTimeErrorNumber::PermissionDenied)
+        Throw(RunTimeErrorNumber::PermissionDenied, path,
+              Translate("You do not have permission to read this file."));
+    ThrowFileError(path);
+}
+
+QString CauseOfNotReading(const RunTimeError& error, const QString& path) {
+    if (IsDamage(error.Number()))
+        return Translate("It is not a database of this program, or it is damaged.");
+    if (error.Number() != RunTimeErrorNumber::StoreReadOnly &&
+        error.Number() != RunTimeErrorNumber::StoreCannotOpen)
+        return CauseOf(error, path);
+    return QFileInfo(JournalOf(path)).size() > 0
+               ? Translate("A program was killed while it wrote to this file. Its journal is still "
+                           "beside it.")
+               : Translate("You do not have permission to read this file.");
 }
 
 } // namespace
@@ -54,7 +55,7 @@ bool CopyBytes(const QString& from, const std::function<void(const QByteArray&)>
     QFile file(from);
     const QFileInfo before(from);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        ThrowReadFailure(file, file.errorString());
+        ThrowReadFailure(from);
     const int all = static_cast<int>(before.size() / CopiedAtOnce) + 1;
     for (int done = 0;; ++done) {
         if (!progress(done, std::max(done, all)))
@@ -65,11 +66,12 @@ bool CopyBytes(const QString& from, const std::function<void(const QByteArray&)>
         write(bytes);
     }
     if (file.error() != QFileDevice::NoError)
-        ThrowReadFailure(file, file.errorString());
+        ThrowReadFailure(from);
     const QFileInfo after(from);
     if (after.size() != before.size() || file.pos() != before.size() ||
         after.lastModified() != before.lastModified())
-        ThrowReadFailure(file, Translate("The file was changed while it was read."));
+        Throw(RunTimeErrorNumber::FileAccess, from,
+              Translate("The file was changed while it was read."));
     return true;
 }
 
@@ -78,15 +80,14 @@ void OpenCopy(Connection& copy, const QString& path) {
     try {
         copy.Open(ConnectionText(path, StorePassword));
     } catch (const RunTimeError& error) {
-        throw RunTimeError(error.Number(), QDir::toNativeSeparators(path) + QStringLiteral(": ") +
-                                               CauseOfNotOpening(error, path));
+        Throw(error.Number(), path, CauseOfNotReading(error, path));
     }
 }
 
 std::optional<QString> FaultOf(Connection& store, const WorkProgress& progress) {
     bool cancelled = false;
     const QString fault = store.FullCheck([&] {
-        cancelled = !progress(0, 1); // the engine does not say how far it is
+        cancelled = !progress(0, 0); // the engine does not say how far it is
         return !cancelled;
     });
     return cancelled ? std::optional<QString>() : fault;
@@ -100,10 +101,10 @@ bool ProveCopy(const QString& path, const QMap<QString, int>& original,
     if (!fault)
         return false;
     if (!fault->isEmpty())
-        throw RunTimeError(RunTimeErrorNumber::StoreDamaged,
-                           Translate("The copy is damaged: ") + *fault);
+        throw ExplainedError(RunTimeErrorNumber::StoreDamaged,
+                             FormatStr(Translate("The copy is damaged: %0:s"), {*fault}));
     if (RowsPerTable(copy) != original)
-        throw RunTimeError(RunTimeErrorNumber::StoreEngine,
-                           Translate("The copy does not have the rows of the database."));
+        throw ExplainedError(RunTimeErrorNumber::StoreEngine,
+                             Translate("The copy does not have the rows of the database."));
     return true;
 }

@@ -1,13 +1,12 @@
 #include "StoreFailure.h"
 
 #include "Engine.h"
-#include "RunTimeError.h"
+#include "FileReplacement.h"
 #include "StoreLock.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace {
 
@@ -30,6 +29,11 @@ QString InUse(const LockFile::Holder& holder) {
 } // namespace
 
 QString CauseOf(const RunTimeError& error, const QString& storePath) {
+    if (dynamic_cast<const ExplainedError*>(&error))
+        return error.Description();
+    if (const auto* file = dynamic_cast<const FileError*>(&error))
+        return file->Cause([](const QString& text) { return Translate(text); });
+    const auto words = [](int number) { return Translate(FileError::WordsFor(number)); };
     switch (error.Number()) {
     case RunTimeErrorNumber::FileInUse:
     case Busy:
@@ -38,34 +42,20 @@ QString CauseOf(const RunTimeError& error, const QString& storePath) {
         return Translate("The file does not exist.");
     case RunTimeErrorNumber::DiskFull:
     case Full:
-        return Translate("The disk is full.");
+        return words(RunTimeErrorNumber::DiskFull);
     case RunTimeErrorNumber::PermissionDenied:
     case RunTimeErrorNumber::StoreReadOnly:
     case RunTimeErrorNumber::StoreCannotOpen:
-        return Translate("You do not have permission to write to this file or its folder.");
+        return words(RunTimeErrorNumber::PermissionDenied);
     case NoDatabase:
         return Translate("Its password is different, or it is damaged. If it is damaged, please "
                          "restore a backup.");
     case InputOutput:
     case RunTimeErrorNumber::DeviceError:
-        return Translate(
-            "The disk or the network reported an error. Please check it and try again.");
+        return words(RunTimeErrorNumber::DeviceError);
     default:
         if (IsDamage(error.Number()))
             return Translate("It is damaged. Please restore a backup.");
-        return error.Description();
-    }
-}
-
-QString CauseOfCopyFailure(const RunTimeError& error, const QString& copyPath) {
-    if (!QFileInfo(copyPath).dir().exists())
-        return Translate("The folder does not exist.");
-    switch (error.Number()) {
-    case RunTimeErrorNumber::DiskFull:
-    case RunTimeErrorNumber::PermissionDenied:
-    case RunTimeErrorNumber::DeviceError:
-        return CauseOf(error, copyPath) + u'\n' + error.Description();
-    default:
         return error.Description();
     }
 }

@@ -1,14 +1,17 @@
 #pragma once
 
-#include <QString>
+#include "RunTimeError.h"
 
-class RunTimeError;
+/// A failure whose description is for the operator: translated, and without numbers.
+class ExplainedError : public RunTimeError {
+public:
+    using RunTimeError::RunTimeError;
+};
 
-/// Why a store could not be opened, for the operator: translated, and without numbers.
+/// Why a store, or a file that is made from it, could not be opened, read or written, for the
+/// operator: translated, and without numbers. `storePath`: the store, in case another program uses
+/// it.
 QString CauseOf(const RunTimeError& error, const QString& storePath);
-
-/// Why a copy of the store could not be made, likewise.
-QString CauseOfCopyFailure(const RunTimeError& error, const QString& copyPath);
 
 /// Tells the operator that a journal beside the store belonged to another file, and where it is
 /// now.

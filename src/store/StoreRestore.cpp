@@ -4,9 +4,9 @@
 #include "Engine.h"
 #include "FileReplacement.h"
 #include "JournalTrial.h"
+#include "OutputFile.h"
 #include "StoreCheck.h"
 #include "StoreCopy.h"
-#include "StoreFailure.h"
 #include "mErrorHandler.h"
 #include "mStore.h"
 #include "mTranslations.h"
@@ -27,33 +27,18 @@ bool IsSameFile(const QString& a, const QString& b) {
                                        QFileInfo(b).filesystemFilePath(), error);
 }
 
-/// Runs the body. What it throws becomes a text that says that the store was not restored, and why.
-/// `inUse`: the store that a failure of the kind FileInUse is about.
+/// Runs the body. What it throws becomes NotRestored.
 template <typename Body>
-auto Explained(const QString& inUse, const QString& copy, Body&& body) {
+auto Explained(const QString& path, Body&& body) {
     try {
         return body();
     } catch (const RunTimeError& error) {
-        const QString cause = error.Number() == RunTimeErrorNumber::FileInUse
-                                  ? CauseOf(error, inUse)
-                                  : CauseOfCopyFailure(error, copy);
-        throw RunTimeError(error.Number(),
-                           Translate("The database was not restored. It is as it was before.") +
-                               u'\n' + cause);
+        throw NotRestored(error, path);
     }
 }
 
 [[noreturn]] void Refuse(const QString& reason) {
-    throw RunTimeError(RunTimeErrorNumber::FileNotFound, reason);
-}
-
-void Write(QFile& file, const QByteArray& bytes) {
-    const qint64 written = file.write(bytes);
-    if (written == bytes.size())
-        return;
-    // An incomplete write does not give a cause. The next write does.
-    if (written < 0 || file.write(bytes.mid(written)) != bytes.size() - written)
-        ThrowFileError(file.fileName());
+    throw ExplainedError(RunTimeErrorNumber::FileAccess, reason);
 }
 
 } // namespace
@@ -77,7 +62,7 @@ StoreRestore::Stamp StoreRestore::StampOf(const QString& path) {
 }
 
 bool StoreRestore::MakeCopy(const WorkProgress& progress) {
-    return Explained(m_source, m_copy, [&] {
+    return Explained(m_source, [&] {
         // The engine follows links, so journal and lock are beside the real file.
         const QFileInfo source(QFileInfo(m_source).canonicalFilePath());
         if (!source.exists())
@@ -109,14 +94,16 @@ bool StoreRestore::CopySource(const WorkProgress& progress) {
     const QString journal = JournalOf(m_source);
     const Stamp before = StampOf(m_source), journalBefore = StampOf(journal);
     const bool unfinished = QFileInfo(journal).isFile() && journalBefore.size > 0;
-    if (!CopyFile(m_source, m_copy, progress) ||
-        (unfinished && !CopyFile(journal, JournalOf(m_copy), progress)))
+    if (!CopyFile(m_source, m_copy, progress))
+        return false;
+    if (!unfinished)
+        return true;
+    if (!CopyFile(journal, JournalOf(m_copy), progress))
         return false;
     // The two copies belong together only if nothing was written between them.
     if (StampOf(m_source) != before || StampOf(journal) != journalBefore)
         Refuse(Translate("The file was changed while it was read."));
-    if (unfinished)
-        FinishTransaction();
+    FinishTransaction();
     return true;
 }
 
@@ -127,8 +114,11 @@ bool StoreRestore::CopyFile(const QString& from, const QString& to,
         ThrowFileError(to);
     KeepOwnerAndMode(m_store, to);
     QFile::setPermissions(to, QFile::permissions(to) | QFile::ReadOwner | QFile::WriteOwner);
-    if (!CopyBytes(
-            from, [&](const QByteArray& bytes) { Write(file, bytes); }, progress))
+    const auto write = [&](const QByteArray& bytes) {
+        if (file.write(bytes) != bytes.size())
+            OutputFile::Fail(file, to);
+    };
+    if (!CopyBytes(from, write, progress))
         return false;
     file.close();
     SyncFile(to);
@@ -166,18 +156,19 @@ bool StoreRestore::CheckCopy(const WorkProgress& progress) const {
     }
     const auto fault = FaultOf(copy, progress);
     if (fault && !fault->isEmpty())
-        Refuse(Translate("The chosen file is damaged: ") + *fault);
+        Refuse(FormatStr(Translate("The chosen file is damaged: %0:s"), {*fault}));
     const QStringList missing = MissingParts(copy);
     if (!missing.isEmpty())
-        Refuse(Translate("The chosen file is not a complete database of this program. It lacks ") +
-               missing.join(QStringLiteral(", ")));
+        Refuse(FormatStr(
+            Translate("The chosen file is not a complete database of this program. It lacks %0:s."),
+            {missing.join(QStringLiteral(", "))}));
     return fault.has_value();
 }
 
 bool StoreRestore::LockStore() {
     if (!m_lock && StoreLock::IsHeldHere(m_store))
         return false;
-    return Explained(m_store, m_copy, [this] {
+    return Explained(m_store, [this] {
         try {
             m_lock.emplace(m_store);
         } catch (const RunTimeError& error) {
@@ -193,54 +184,67 @@ QString StoreRestore::Holder() const {
 }
 
 void StoreRestore::Replace() {
-    bool replaced = false;
-    const auto replace = [&] {
+    const bool certain = Explained(m_store, [&] {
         if (!m_checked || StampOf(m_copy) != *m_checked)
             Refuse(Translate("Another program has used the database meanwhile. Please try again."));
-        SettleOldJournal();
-        try {
-            ReplaceFile(m_copy, m_store);
-        } catch (const RunTimeError&) {
-            replaced = StampOf(m_store) == *m_checked; // only the folder could not be synced
-            if (!replaced)
-                throw;
-        }
-    };
-    Explained(m_store, m_copy, replace);
+        RollBackOldStore();
+        return PutCopyInPlace();
+    });
     m_checked.reset();
-    if (replaced)
-        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                           Translate("The database was restored, but the disk reported an error. "
-                                     "Please check it."));
+    if (!certain)
+        throw ExplainedError(RunTimeErrorNumber::DeviceError,
+                             Translate("The database was restored, but the disk reported an error. "
+                                       "Please check it."));
 }
 
 /// The old store's journal must not stay beside the new one. But until the new one is in place, the
 /// old store needs it.
-void StoreRestore::SettleOldJournal() const {
-    const QString journal = JournalOf(m_store);
-    if (!QFileInfo::exists(journal))
+void StoreRestore::RollBackOldStore() const {
+    if (!QFileInfo::exists(JournalOf(m_store)) || !QFileInfo::exists(m_store))
         return;
     Trapped(
         [&] {
             Connection old;
-            old.Open(ConnectionText(m_store, StorePassword));
+            OpenStore(old, m_store, StorePassword);
         },
         [](const RunTimeError& error) {
             MsgBox(QStringLiteral("Error : %1 - ").arg(error.Number()) + error.Description(), {},
                    MessageKind::Warning);
         });
-    if (QFileInfo::exists(journal) && !QFile::remove(journal))
-        ThrowFileError(journal);
-    SyncFile(m_copy); // and the folder
+}
+
+/// A journal that could not be rolled back is removed only after the old store is gone. False if
+/// the copy is in place, but perhaps not yet on the disk.
+bool StoreRestore::PutCopyInPlace() const {
+    const QString journal = JournalOf(m_store), aside = journal + QStringLiteral(".old");
+    const bool unfinished = QFileInfo::exists(journal);
+    try {
+        if (unfinished)
+            ReplaceFile(journal, aside);
+        ReplaceFile(m_copy, m_store);
+    } catch (const RunTimeError&) {
+        if (StampOf(m_store) == *m_checked)
+            return false; // only the folder could not be synced
+        if (unfinished)
+            QFile::rename(aside, journal);
+        throw;
+    }
+    QFile::remove(aside);
+    return true;
+}
+
+ExplainedError NotRestored(const RunTimeError& error, const QString& path) {
+    return {error.Number(), Translate("The database was not restored. It is as it was before.") +
+                                u'\n' + CauseOf(error, path)};
 }
 
 void RemoveRestoreCopy(const QString& store) {
     const QFileInfo copy(CopyOf(FileMeantBy(store)));
-    // With what the engine and the trial of a journal make beside it.
-    const QString name = copy.fileName();
+    // With what the engine, its lock and the trial of a journal make beside it.
+    const QString name = copy.fileName(), lock = copy.completeBaseName() + QStringLiteral(".ldb");
     for (const QString& file :
          copy.dir().entryList(QDir::Files | QDir::System | QDir::Hidden, QDir::NoSort))
-        if (file == name || file.startsWith(name + QStringLiteral("-journal")) ||
+        if (file == name || file == lock || file.startsWith(name + QStringLiteral("-journal")) ||
             file.startsWith(name + QStringLiteral(".trial")))
             QFile::remove(copy.dir().filePath(file));
 }

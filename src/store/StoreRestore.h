@@ -1,5 +1,6 @@
 #pragma once
 
+#include "StoreFailure.h"
 #include "StoreLock.h"
 #include "WorkProgress.h"
 
@@ -16,8 +17,7 @@ bool IsStoreItself(const QString& store, const QString& path);
 /// rename. If the store is a symbolic link, its target is replaced. The store may also be damaged
 /// or missing.
 ///
-/// A failure throws RunTimeError with a text for the operator: that the store is as it was, and
-/// why.
+/// A failure throws ExplainedError: that the store is as it was, and why.
 class StoreRestore {
 public:
     StoreRestore(const QString& store, const QString& source);
@@ -44,7 +44,8 @@ public:
     void Replace();
 
 private:
-    /// Two files that differ have different stamps, whoever made them.
+    /// Tells whether a file has changed: we assume that a file that was written to or exchanged has
+    /// another size, or another time to the precision of the disk.
     struct Stamp {
         qint64 size = 0;
         QDateTime modified;
@@ -56,7 +57,8 @@ private:
     bool CopyFile(const QString& from, const QString& to, const WorkProgress& progress) const;
     void FinishTransaction() const;
     bool CheckCopy(const WorkProgress& progress) const;
-    void SettleOldJournal() const;
+    void RollBackOldStore() const;
+    bool PutCopyInPlace() const;
 
     QString m_store; ///< its real path
     QString m_source;
@@ -64,6 +66,10 @@ private:
     std::optional<Stamp> m_checked; ///< of the copy
     std::optional<StoreLock> m_lock;
 };
+
+/// A failure of a restore, for the operator: that the store is as it was, and why. `path`: the
+/// store, in case another program uses it.
+ExplainedError NotRestored(const RunTimeError& error, const QString& path);
 
 /// Removes what a killed restore has left beside the store. The store must be open or locked here.
 void RemoveRestoreCopy(const QString& store);

@@ -12,15 +12,6 @@ namespace {
 const QString Provider = QStringLiteral("Microsoft.Jet.OLEDB.4.0");
 const QString PasswordProperty = QStringLiteral("Jet OLEDB:Database Password");
 
-void OpenStore(Connection& connection, const QString& path, const QString& password) {
-    connection.Provider = Provider;
-    connection.ConnectionString = QStringLiteral("Data Source=") + ConnectionValue(path);
-    connection.Properties(PasswordProperty) = password;
-    connection.Open();
-    if (!connection.ForeignJournal().isEmpty())
-        TellOfForeignJournal(connection.ForeignJournal());
-}
-
 void LogOpenFailure(const QString& head, const RunTimeError& error) {
     WriteLog(head + QStringLiteral("\nError #%1\n").arg(error.Number()) + error.Description());
 }
@@ -30,6 +21,15 @@ void LogOpenFailure(const QString& head, const RunTimeError& error) {
 QString ConnectionText(const QString& path, const QString& password) {
     return ProviderText + ConnectionValue(path) + u';' + PasswordProperty + QStringLiteral(" = ") +
            password;
+}
+
+void OpenStore(Connection& connection, const QString& path, const QString& password) {
+    connection.Provider = Provider;
+    connection.ConnectionString = QStringLiteral("Data Source=") + ConnectionValue(path);
+    connection.Properties(PasswordProperty) = password;
+    connection.Open();
+    if (!connection.ForeignJournal().isEmpty())
+        TellOfForeignJournal(connection.ForeignJournal());
 }
 
 bool ADOTest(const QString& path, const QString& password) {

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+class Connection;
+
 /// Opens the store.
 
 /// What precedes the path in a connection text.
@@ -11,6 +13,10 @@ inline const QString ProviderText = QStringLiteral("Provider=Microsoft.Jet.OLEDB
 
 /// The store as a connection text.
 QString ConnectionText(const QString& path, const QString& password);
+
+/// Opens a store. Tells the operator if a journal beside it did not belong to it. Throws
+/// RunTimeError.
+void OpenStore(Connection& connection, const QString& path, const QString& password);
 
 /// True if the store can be opened. If not, tells the operator why.
 bool ADOTest(const QString& path, const QString& password);

@@ -165,11 +165,16 @@ private slots:
         const TestTable<QString, QString, QString> row("target", "trigger", "message");
         row("the file grows too large", "large.csv", "",
             NotSaved + "The file \"%1\" cannot be written: File too large");
-        row("an existing file", "there.csv", "", NotSaved + "The file \"%1\" already exists.");
-        row("a folder", "folder", "", NotSaved + "The file \"%1\" already exists.");
-        row("a link to nothing", "link", "", NotSaved + "The file \"%1\" already exists.");
+        row("an existing file", "there.csv", "",
+            NotSaved + "That filename is already in use. Please choose another filename\n%1");
+        row("a folder", "folder", "",
+            NotSaved + "That filename is already in use. Please choose another filename\n%1");
+        row("a link to nothing", "link", "",
+            NotSaved + "That filename is already in use. Please choose another filename\n%1");
+        row("no such folder", "none/old.csv", "",
+            NotSaved + "The file or its folder does not exist.\n%1");
         row("a name of the program", "temp.mdb", "",
-            NotSaved + "The file \"%1\" is one of the program's own files.");
+            NotSaved + "The program itself uses this file. Please choose another filename.\n%1");
         row("no deletion", "old.csv", "SELECT RAISE(ABORT, 'not this one')", "not this one");
         row("one row less", "old.csv", "SELECT RAISE(IGNORE)",
             "3000 events were written, but the database deleted 2999. Nothing was archived.");

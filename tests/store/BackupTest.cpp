@@ -62,14 +62,14 @@ private slots:
 
     void IsRefused_data() {
         const TestTable<QString, QString> row("name", "cause");
-        row("existing", "backups/existing", "already exists");
-        row("a folder", "backups", "already exists");
-        row("a link that leads nowhere", "backups/dangling", "already exists");
-        row("the store", "main.mdb", "is the open database");
-        row("the store by a link", "backups/link", "is the open database");
+        row("existing", "backups/existing", "already in use");
+        row("a folder", "backups", "already in use");
+        row("a link that leads nowhere", "backups/dangling", "already in use");
+        row("the store", "main.mdb", "The program itself uses this file.");
+        row("the store by a link", "backups/link", "The program itself uses this file.");
         for (const QString own : {"main.mdb-journal", "temp.mdb", "Temp.MDB", "error.log"})
-            row(qPrintable(own), own, "one of the program's own files");
-        row("no folder", "nowhere/x.mdb", "The folder does not exist.");
+            row(qPrintable(own), own, "The program itself uses this file.");
+        row("no folder", "nowhere/x.mdb", "The file or its folder does not exist.");
     }
     void IsRefused() {
         QFETCH(QString, name);
@@ -120,7 +120,9 @@ private slots:
             "WK_Backup_2026-11-22_0215.mdb", "WK_Backup_2999-01-01_0000.mdb"};
         const QStringList old = {"WK_Backup_2025-01-01_0000.mdb", "WK_Backup_2026-10-25_0230.mdb"};
         for (const QString& name : kept + old)
-            WriteBytes(Copy(name), "x");
+            WriteBytes(Copy(name), QByteArray(LeastStoreBytes, 'x'));
+        const QString cutShort = "WK_Backup_2026-11-23_0215.mdb";
+        WriteBytes(Copy(cutShort), QByteArray(LeastStoreBytes - 1, 'x'));
         const QString link = "WK_Backup_2024-01-01_0000.mdb";
         QVERIFY(QFile::link(Copy(kept[0]), Copy(link)));
         // The clock was set back: the new backup has the oldest name.
@@ -131,7 +133,7 @@ private slots:
         const OldBackups done = RemoveOldBackups(Copy(made), 3);
         QCOMPARE(done.removed, QStringList({Copy(old[0]), Copy(old[1])}));
         QCOMPARE(done.notRemoved, QStringList());
-        QStringList left = kept + QStringList{link, made};
+        QStringList left = kept + QStringList{link, made, cutShort};
         left.sort();
         QCOMPARE(FilesIn(m_folder), left);
     }

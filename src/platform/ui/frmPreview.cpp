@@ -2,11 +2,11 @@
 
 #include "Application.h"
 #include "DataReport.h"
+#include "FileReplacement.h"
 #include "PreviewArea.h"
 #include "PrintReport.h"
 #include "ProgressWindow.h"
 #include "ReportPdf.h"
-#include "RunTimeError.h"
 
 #include <QAction>
 #include <QApplication>
@@ -194,7 +194,9 @@ void frmPreview::ShowState() {
     m_last->setEnabled(Page() + 1 < pages);
 }
 
-void frmPreview::Tell(const char* text, const QString& reason) {
+void frmPreview::Tell(const char* text, const RunTimeError& error) {
+    const auto* file = dynamic_cast<const FileError*>(&error);
+    const QString reason = file ? file->Cause(m_translate) : error.Description();
     ShowMessage({m_translate(QString::fromUtf8(text)) + QStringLiteral("\r\n") + reason,
                  windowTitle(),
                  MessageKind::Warning,
@@ -217,7 +219,7 @@ void frmPreview::Print() {
         ProgressWindow progress(QT_TR_NOOP("Print"), m_translate, this);
         PrintReport(m_report, printer, Page(), std::ref(progress));
     } catch (const RunTimeError& error) {
-        Tell(QT_TR_NOOP("The report could not be printed."), error.Description());
+        Tell(QT_TR_NOOP("The report could not be printed."), error);
     }
 }
 
@@ -233,7 +235,7 @@ void frmPreview::Export() {
         ProgressWindow progress(QT_TR_NOOP("Export to PDF"), m_translate, this);
         ExportPdf(m_report, dialog.selectedFiles().value(0), std::ref(progress));
     } catch (const RunTimeError& error) {
-        Tell(QT_TR_NOOP("The report could not be exported."), error.Description());
+        Tell(QT_TR_NOOP("The report could not be exported."), error);
     }
 }
 

@@ -13,6 +13,7 @@ class QAction;
 class QLabel;
 class QLineEdit;
 class QToolBar;
+class RunTimeError;
 
 /// The preview window of a report: its pages can be looked at, printed and exported as PDF. A page
 /// is painted when it is looked at, so a report of any length opens at once.
@@ -40,7 +41,7 @@ private:
     void TakeFrameOff();
     void ShowState();
     void TakePageField();
-    void Tell(const char* text, const QString& reason);
+    void Tell(const char* text, const RunTimeError& error);
 
     void EditPage();
     void Print();
