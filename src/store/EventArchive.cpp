@@ -6,7 +6,6 @@
 #include "OutputFile.h"
 #include "Rows.h"
 #include "SqlDate.h"
-#include "StoreFailure.h"
 #include "mTranslations.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DateTime.h"
-#include "RunTimeError.h"
+#include "StoreFailure.h"
 #include "WorkProgress.h"
 
 #include <QString>
@@ -25,10 +25,10 @@ int CountArchived(const ArchiveRange& range);
 /// "Archive2026-11-01_to_2026-11-21.csv".
 QString ArchiveFileName(const ArchiveRange& range);
 
-/// The file could not be written; the store did not fail. The text is for the operator.
-class ArchiveNotSaved : public RunTimeError {
+/// The file could not be written; the store did not fail.
+class ArchiveNotSaved : public ExplainedError {
 public:
-    using RunTimeError::RunTimeError;
+    using ExplainedError::ExplainedError;
 };
 
 /// Writes the events to a new file and deletes them from the store, in one transaction. The events
