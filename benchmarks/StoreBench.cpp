@@ -210,7 +210,7 @@ colPackets MakeImage(int touches) {
         const bool first = packets.Count() == 0;
         const int start = first ? Wire::FirstRecordOffset : Wire::RecordOffset;
         const qsizetype bytes =
-            (first ? Wire::FirstFrameRecords : Wire::FrameRecords) * Wire::RecordBytes;
+            qsizetype{first ? Wire::FirstFrameRecords : Wire::FrameRecords} * Wire::RecordBytes;
         cPacket& packet = packets.Add(QByteArray(start, '\x01') +
                                       records.mid(at, bytes).leftJustified(bytes, '\0') + '\x01');
         packet.Tag = packets.Count();

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr qsizetype PieceBytes = 64 * 1024;
+constexpr qsizetype PieceBytes = qsizetype{64} * 1024;
 constexpr int SchemaRuler = 41;
 
 /// Days of the years 100 to 9999, which can be written as dates.

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr qsizetype WrittenAtOnce = 64 * 1024;
+constexpr qsizetype WrittenAtOnce = qsizetype{64} * 1024;
 
 const QString InRange =
     QStringLiteral("FROM tblEvents WHERE (dtDateTime >= ?) AND (dtDateTime <= ?)");

@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr qint64 CopiedAtOnce = 64 * 1024;
+constexpr qint64 CopiedAtOnce = qint64{64} * 1024;
 
 [[noreturn]] void Throw(int number, const QString& path, const QString& cause) {
     throw ExplainedError(number, QDir::toNativeSeparators(path) + QStringLiteral(": ") + cause);

@@ -38,7 +38,7 @@ public:
     }
     QString Readers() const {
         Open();
-        const QString readers = RowsOf("SELECT tDescription FROM tblReaders").join(u' ');
+        QString readers = RowsOf("SELECT tDescription FROM tblReaders").join(u' ');
         Close();
         return readers;
     }

@@ -208,7 +208,7 @@ private slots:
         QVERIFY(QFile::exists(folder + "/night.ldb") && !QFile::exists(home.File("main.ldb")));
         for (const QString& open : {home.Store(), target, folder + "/night.ldb"})
             QCOMPARE(ErrorOf([&] { OutputFile file(open); }), 55); // must not be overwritten
-        OutputFile(folder + "/night.pdf");
+        const OutputFile allowed(folder + "/night.pdf");
         Connection byText;
         byText.Open(ConnectionText(target, StorePassword));
         WriteBytes(folder + "/temp.mdb", "left over");
