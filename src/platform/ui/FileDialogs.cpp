@@ -9,11 +9,14 @@ constexpr int MostLetters = 100;
 
 QString Ask(const FileRequest& request, QFileDialog::AcceptMode mode,
             const TranslateText& translate, QWidget* parent) {
-    QFileDialog dialog(parent, request.title, request.folder, request.filter);
+    // A folder that does not exist would be proposed as a file.
+    const QString folder = QDir(request.folder).exists() ? request.folder : QDir::homePath();
+    QFileDialog dialog(parent, request.title, folder, request.filter);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    dialog.setDefaultSuffix(request.suffix);
+    if (mode == QFileDialog::AcceptSave) // a file to read has its name already
+        dialog.setDefaultSuffix(request.suffix);
     dialog.selectFile(request.name);
     while (dialog.exec() == QDialog::Accepted) {
         QString path = dialog.selectedFiles().value(0);

@@ -9,7 +9,7 @@ struct FileRequest {
     QString title;
     QString folder; ///< in which the dialog starts
     QString filter; ///< such as "Database Files (*.mdb)"
-    QString suffix; ///< added to a name without one; without a dot
+    QString suffix; ///< added to a new name without one; without a dot
     QString name;   ///< what is proposed; may be empty
 };
 
