@@ -44,7 +44,7 @@ public:
     void Replace();
 
 private:
-    /// Tells whether a file has changed: we assume that a file that was written to or exchanged has
+    /// Says whether a file has changed: we assume that a file that was written to or exchanged has
     /// another size, or another time to the precision of the disk.
     struct Stamp {
         qint64 size = 0;

@@ -14,7 +14,7 @@ inline const QString ProviderText = QStringLiteral("Provider=Microsoft.Jet.OLEDB
 /// The store as a connection text.
 QString ConnectionText(const QString& path, const QString& password);
 
-/// Opens a store. Tells the operator if a journal beside it did not belong to it. Throws
+/// Opens a store. A message says if a journal beside it did not belong to it. Throws
 /// RunTimeError.
 void OpenStore(Connection& connection, const QString& path, const QString& password);
 

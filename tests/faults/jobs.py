@@ -140,10 +140,11 @@ class BigStart(Start):
     template = "big"  # so that the compaction takes long
 
 
-class LinkedStart(BigStart):
-    """The store is a symbolic link and must stay one."""
+class LinkedStore:
+    """Makes a job's store a symbolic link, which must stay one."""
 
     def prepare(self):
+        super().prepare()
         target = self.station.home / "elsewhere.mdb"
         self.station.store.rename(target)
         self.station.store.symlink_to(target)
@@ -152,6 +153,10 @@ class LinkedStart(BigStart):
         if not self.station.store.is_symlink():
             outcome.broken.append("the link was replaced")
         super().judge_store(outcome)
+
+
+class LinkedStart(LinkedStore, BigStart):
+    pass
 
 
 class BigImport(Import):

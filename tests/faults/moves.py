@@ -5,7 +5,7 @@ import csv
 from collections import Counter
 from datetime import datetime, timedelta
 
-from jobs import Job
+from jobs import Job, LinkedStore
 from store import stored_rows
 
 DAY_ZERO = datetime(1899, 12, 30)
@@ -73,19 +73,8 @@ class BigRestore(Restore):
     template = "big"
 
 
-class LinkedRestore(Restore):
-    """The store is a symbolic link and must stay one."""
-
-    def prepare(self):
-        super().prepare()
-        target = self.station.home / "elsewhere.mdb"
-        self.station.store.rename(target)
-        self.station.store.symlink_to(target)
-
-    def judge_store(self, outcome):
-        if not self.station.store.is_symlink():
-            outcome.broken.append("the link was replaced")
-        super().judge_store(outcome)
+class LinkedRestore(LinkedStore, Restore):
+    pass
 
 
 class Archive(Job):
