@@ -202,7 +202,7 @@ int RunConsole(const QStringList& arguments) {
                  QStringLiteral(" (see \"%1\")").arg(helpCall));
         return WrongUsage;
     } catch (const FileError& error) {
-        Complain(error.Cause([](const QString& text) { return Translate(text); }));
+        Complain(error.Cause(Translated));
         return NotDone;
     } catch (const std::exception& error) {
         Complain(QString::fromUtf8(error.what()));

@@ -37,7 +37,12 @@ void WriteOut(const QByteArray& bytes, const QString& path) {
     file.Commit();
 }
 
-void WriteLine(const QString& text) { WriteOut(text.toUtf8() + '\n'); }
+void WriteLine(const QString& text) {
+    QStringList lines = text.split(u'\n');
+    for (QString& line : lines)
+        line = WithoutControls(line);
+    WriteOut(lines.join(u'\n').toUtf8() + '\n');
+}
 
 void WriteJson(const QJsonObject& object) { WriteOut(QJsonDocument(object).toJson()); }
 

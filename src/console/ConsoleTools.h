@@ -19,6 +19,7 @@ void ComplainOfLogin();
 
 /// Writes to a file, or to standard output if the path is empty. Throws RunTimeError.
 void WriteOut(const QByteArray& bytes, const QString& path = {});
+/// To standard output, with the line breaks of the text but without its other control characters.
 void WriteLine(const QString& text);
 void WriteJson(const QJsonObject& object);
 

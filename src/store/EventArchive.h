@@ -33,12 +33,12 @@ public:
 
 /// Writes the events to a new file and deletes them from the store, in one transaction. The events
 /// are deleted only after the file is complete and on the disk, and the file gets its name only
-/// after that. A killed program leaves all events in the store, or all of them in the file.
+/// after that. A killed program leaves all events in the store, in the file, or in both.
 ///
 /// Gives the number of events, or nothing if `progress` has cancelled it. Throws ArchiveNotSaved if
 /// the file cannot be written. If it is cancelled or throws, nothing is deleted and no file is
-/// left, with one exception: if the store fails when the deletion is to be made permanent, the file
-/// is left, and the text of the failure says so.
+/// left, with one exception: if the store's commit fails, the file is left, and the text of the
+/// failure says so.
 std::optional<int> ArchiveEventsOf(const ArchiveRange& range, const QString& path,
                                    const WorkProgress& progress);
 

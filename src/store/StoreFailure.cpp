@@ -32,7 +32,7 @@ QString CauseOf(const RunTimeError& error, const QString& storePath) {
     if (dynamic_cast<const ExplainedError*>(&error))
         return error.Description();
     if (const auto* file = dynamic_cast<const FileError*>(&error))
-        return file->Cause([](const QString& text) { return Translate(text); });
+        return file->Cause(Translated);
     const auto words = [](int number) { return Translate(FileError::WordsFor(number)); };
     switch (error.Number()) {
     case RunTimeErrorNumber::FileInUse:
