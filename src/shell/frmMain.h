@@ -69,7 +69,6 @@ private:
     void ChangeLanguage();
     void ResetLanguage();
     void TranslateFrame();
-    void mnuHelpContents_Click();
     void EditOperator(OperatorType type);
 
     std::unique_ptr<Ui::frmMain> m_ui;

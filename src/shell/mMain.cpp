@@ -84,6 +84,7 @@ bool OpenUnderSplash() {
     splash.ShowPainted();
     splash.ShowMessage(Translate("Initializing Online Help..."));
     SetHelpFile(AppFile(Translate("WK3_ENG.HLP")));
+    InstallHelpKey();
     if (!TestCompactAndOpen(splash))
         return false;
     Sleep(SplashPause);
