@@ -131,8 +131,8 @@ private slots:
         QStringList topics;
         for (int i = 0; i < hits->topLevelItemCount(); ++i)
             topics += hits->topLevelItem(i)->text(0);
-        QCOMPARE(topics, (QStringList{"Tour report", "Tours"}));
-        hits->setCurrentItem(hits->topLevelItem(1)->child(0));
+        QCOMPARE(topics, (QStringList{"First steps", "Tour report", "Tours"}));
+        hits->setCurrentItem(hits->topLevelItem(2)->child(0));
         auto* text = HelpWindow()->findChild<QTextBrowser*>("txtHelp");
         QCOMPARE(ShownTopic(), "tours");
         QVERIFY(text->textCursor().block().text().contains("Tolerance (minutes)"));
