@@ -832,6 +832,18 @@
         <translation>Ende</translation>
     </message>
     <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Einträge</translation>
+    </message>
+    <message>
+        <source>No entry contains this.</source>
+        <translation>Kein Eintrag enthält das.</translation>
+    </message>
+    <message>
         <source>All</source>
         <translation>Alle</translation>
     </message>

@@ -16,6 +16,7 @@
 frmSetTime::frmSetTime(DockingLink& link, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmSetTime>()), m_link(link) {
     m_ui->setupUi(this);
+    EnterGroupsAtChecked(*this);
     Translate();
     m_ui->dtpPanelDate->setDisplayFormat(GetShortDateFormat());
     SelectSectionOnFocus(*m_ui->DTPicker1);

@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTimer>
 #include <QToolBar>
 
@@ -89,6 +90,8 @@ void TranslateWindow(QWidget& window, const TranslateText& translate) {
         } else if (qobject_cast<QGroupBox*>(child) || qobject_cast<QMenu*>(child)) {
             TranslateProperty(*child, "title", translate);
         }
+        if (qobject_cast<QLineEdit*>(child))
+            TranslateProperty(*child, "placeholderText", translate);
         if (qobject_cast<QWidget*>(child)) {
             TranslateProperty(*child, "toolTip", translate);
             TranslateProperty(*child, "accessibleName", translate);
@@ -169,6 +172,22 @@ void SelectSectionOnFocus(QDateTimeEdit& field) {
 }
 
 void SelectAllOnFocus(QLineEdit& field) { field.installEventFilter(new SelectingFilter(&field)); }
+
+void EnterGroupsAtChecked(QWidget& window) {
+    for (QRadioButton* button : window.findChildren<QRadioButton*>()) {
+        const auto enter = [button] {
+            for (QRadioButton* other : button->parentWidget()->findChildren<QRadioButton*>(
+                     QString(), Qt::FindDirectChildrenOnly))
+                other->setFocusPolicy(other == button ? Qt::StrongFocus : Qt::ClickFocus);
+        };
+        QObject::connect(button, &QRadioButton::toggled, button, [enter](bool checked) {
+            if (checked)
+                enter();
+        });
+        if (button->isChecked())
+            enter();
+    }
+}
 
 void FocusAndSelect(QLineEdit& field) {
     field.setFocus();
