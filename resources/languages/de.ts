@@ -464,6 +464,34 @@
         <translation>FALSCHE REIHENFOLGE</translation>
     </message>
     <message>
+        <source>%0:s points: %1:s</source>
+        <translation>%0:s Punkte: %1:s</translation>
+    </message>
+    <message>
+        <source>1 point: %0:s</source>
+        <translation>1 Punkt: %0:s</translation>
+    </message>
+    <message>
+        <source>%0:s, %1:s</source>
+        <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s on time</source>
+        <translation>%0:s pünktlich</translation>
+    </message>
+    <message>
+        <source>%0:s early</source>
+        <translation>%0:s zu früh</translation>
+    </message>
+    <message>
+        <source>%0:s late</source>
+        <translation>%0:s zu spät</translation>
+    </message>
+    <message>
+        <source>%0:s missing</source>
+        <translation>%0:s fehlt</translation>
+    </message>
+    <message>
         <source>NOT ON TOUR</source>
         <translation>NICHT IM RUNDGANG</translation>
     </message>
