@@ -201,9 +201,9 @@ private slots:
             if (!content.isEmpty())
                 WriteBytes(home.File("WK3.MLD"), content);
             ScriptedBoxes boxes;
-            gLanguage = 2;
+            gLanguage = 99;
             OpenDictionary();
-            QCOMPARE(boxes.TakeTexts(), QStringList{"Language 2 could not be displayed\n"
+            QCOMPARE(boxes.TakeTexts(), QStringList{"Language 99 could not be displayed\n"
                                                     "Resetting to default system language..."});
             QCOMPARE(gLanguage, 1);
             QCOMPARE(GetSetting(SettingsApplication, "Properties", "Language"), "1");
@@ -274,7 +274,7 @@ private slots:
         const TestHome home(TestHome::NoStore);
         QVERIFY(QFile::copy(BESIDE + "/WK3.MLD", home.File("WK3.MLD")));
         ScriptedBoxes boxes;
-        gLanguage = 2;
+        gLanguage = 99;
         OpenDictionary();
         QCOMPARE(boxes.TakeTexts(), QStringList());
         QCOMPARE(gDictionary->Languages(2).nativeName, "Deutsch");
