@@ -52,6 +52,18 @@
         <translation>Die Datei ist nicht vorhanden.</translation>
     </message>
     <message>
+        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <translation>Den Ordner %0:s gibt es nicht. Bitte legen Sie ihn an, oder nennen Sie in WARDLOCK_HOME einen anderen.</translation>
+    </message>
+    <message>
+        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <translation>Sie dürfen in den Ordner %0:s nicht schreiben. Bitte lassen Sie sich das Recht dazu geben, oder nennen Sie in WARDLOCK_HOME einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <translation>Es gibt noch keine Datenbank. Bitte starten Sie einmal das Programm Wardlock: Es legt eine an.</translation>
+    </message>
+    <message>
         <source>The disk is full.</source>
         <translation>Der Datenträger ist voll.</translation>
     </message>

@@ -42,7 +42,7 @@ QString TitleWithVersion() {
 void OpenDictionary() {
     gDictionary = std::make_unique<Dictionary>();
     gDictionary->CheckLevel = 2;
-    gDictionary->FileName = AppFile(QStringLiteral("WK3.MLD"));
+    gDictionary->FileName = ProgramFile(QStringLiteral("WK3.MLD"));
     gDictionary->language = gLanguage;
     if (IgnoringErrors([] { gDictionary->Open(); }))
         return;
