@@ -7,6 +7,10 @@
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 
+#include <QGuiApplication>
+#include <QLocale>
+#include <QScopeGuard>
+
 QString Translate(const QString& text) { return gDictionary ? gDictionary->Translate(text) : text; }
 
 QString Translate(const char* text) { return Translate(QString::fromUtf8(text)); }
@@ -39,12 +43,19 @@ QString TitleWithVersion() {
     return FormatStr(Translate("%0:s - Version %1:s"), {GetReportsTitle(), GetVersionString()});
 }
 
+void OpenChosenLanguage() {
+    const auto turn = qScopeGuard(
+        [] { QGuiApplication::setLayoutDirection(QLocale(PresentLocale()).textDirection()); });
+    gDictionary->Open();
+}
+
 void OpenDictionary() {
+    gDictionary.reset(); // its locale ends before the next one's begins
     gDictionary = std::make_unique<Dictionary>();
     gDictionary->CheckLevel = 2;
     gDictionary->FileName = ProgramFile(QStringLiteral("WK3.MLD"));
     gDictionary->language = gLanguage;
-    if (IgnoringErrors([] { gDictionary->Open(); }))
+    if (IgnoringErrors(OpenChosenLanguage))
         return;
     IvMessageBox(gDictionary->Languages(gLanguage).englishName +
                      QStringLiteral(" could not be displayed\n"
@@ -54,5 +65,5 @@ void OpenDictionary() {
     gDictionary->language = gLanguage;
     SaveSetting(SettingsApplication, SettingsSection::Properties, QStringLiteral("Language"),
                 QString::number(gLanguage));
-    IgnoringErrors([] { gDictionary->Open(); });
+    IgnoringErrors(OpenChosenLanguage);
 }

@@ -36,6 +36,10 @@ QString GetVersionString();
 /// The product title with the version, for the main window and the splash window.
 QString TitleWithVersion();
 
+/// Opens gDictionary for its language, and lets all windows run in the language's direction. Throws
+/// what Dictionary::Open throws; the windows then run from left to right.
+void OpenChosenLanguage();
+
 /// Makes gDictionary and opens it for gLanguage. If that language cannot be shown, says so, falls
 /// back to language 1 and saves that.
 void OpenDictionary();

@@ -69,6 +69,7 @@ private:
     void ChangeLanguage();
     void ResetLanguage();
     void TranslateFrame();
+    void ShowLanguage();
     void mnuHelpContents_Click();
     void EditOperator(OperatorType type);
 
