@@ -1,5 +1,6 @@
 #include "WindowTools.h"
 
+#include "PaletteIcon.h"
 #include "RunTimeError.h"
 
 #include <QAbstractButton>
@@ -186,9 +187,9 @@ ArrowPointer::~ArrowPointer() {
 
 QIcon ProgramIcon(const QString& name) {
     const QString path = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");
-    QIcon icon(path);
-    icon.addFile(path, {}, QIcon::Selected); // not tinted with the selection's colour
-    return icon;
+    // These two are pictures with a background of their own.
+    const bool isPicture = name == u"wardlock" || name == u"splash";
+    return isPicture ? QIcon(path) : PaletteIcon(path);
 }
 
 void ShowIcon(QLabel& label, const QString& name) {
