@@ -4,6 +4,7 @@
 #include "Recordset.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
+#include "mReports.h"
 #include "mTranslations.h"
 
 namespace {
@@ -94,7 +95,7 @@ bool cTourReport::LoadReaderEvents() {
                                  "ORDER BY dtDateTime, ID;"),
                   {ReaderId, m_GetStartDate(), m_GetEndDate()});
         if (rows.RecordCount() < 1) {
-            IvMessageBox(Translate("No Data on the report"));
+            TellOfNoData();
             return false;
         }
         for (; !rows.Eof(); rows.MoveNext()) {
@@ -105,6 +106,13 @@ bool cTourReport::LoadReaderEvents() {
         }
         return true;
     });
+}
+
+void cTourReport::TellOfNoData() const {
+    IvMessageBox(Translate("No Data on the report"),
+                 SearchedText({{QT_TR_NOOP("Reader"), ReaderTextOf(ReaderId)},
+                               {QT_TR_NOOP("Tour"), GetTourFullName()}},
+                              m_GetStartDate(), m_GetEndDate()));
 }
 
 DateTime cTourReport::m_GetStartDate() const {

@@ -36,6 +36,8 @@ public:
     /// If the window holds no event at all, a message box says so and it gives false. If it gives
     /// true, there may still be no location touch.
     bool LoadReaderEvents();
+    /// A message box: what was searched holds nothing for the report. The tour must have points.
+    void TellOfNoData() const;
 
 private:
     /// The range of the query for events. The tour must have points.

@@ -104,7 +104,12 @@ MessageAnswer WindowMessageBoxes::Show(const Message& message) {
     box.setIcon(IconOf(message.kind));
     box.setWindowTitle(message.caption);
     box.setTextFormat(Qt::PlainText);
-    box.setText(message.text);
+    box.setText(message.text + message.aboutButtons);
+    if (!message.advice.isEmpty()) {
+        box.setInformativeText(message.advice);
+        for (auto* label : box.findChildren<QLabel*>()) // names may look like HTML
+            label->setTextFormat(Qt::PlainText);
+    }
     const QList<MessageAnswer> answers = AnswersOf(message.buttons);
     QList<QAbstractButton*> buttons;
     for (qsizetype i = 0; i < answers.size(); ++i) {
