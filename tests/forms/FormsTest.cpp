@@ -1,45 +1,12 @@
+#include "AllWindows.h"
 #include "DataReport.h"
 #include "DockingLink.h"
 #include "Recordset.h"
 #include "ReportViewer.h"
 #include "TestHome.h"
 #include "cReaderOptions.h"
-#include "frmAbout.h"
-#include "frmAddButton.h"
-#include "frmAddReader.h"
-#include "frmArchive.h"
-#include "frmCompany.h"
-#include "frmCopyTour.h"
-#include "frmDebugData.h"
-#include "frmDownload.h"
-#include "frmEditButton.h"
-#include "frmEditReader.h"
-#include "frmEditTime.h"
-#include "frmEditTour.h"
-#include "frmFirmwareVersion.h"
-#include "frmGoOnline.h"
-#include "frmLanguage.h"
-#include "frmListEdit.h"
-#include "frmLogin.h"
-#include "frmMDISetup.h"
 #include "frmMain.h"
-#include "frmManualID.h"
-#include "frmMdiDownload.h"
-#include "frmMdiMenu.h"
-#include "frmMdiReports.h"
-#include "frmPreview.h"
-#include "frmPrpComms.h"
-#include "frmRptCustomParam.h"
-#include "frmRptHardwareListParam.h"
-#include "frmRptIncidentNew.h"
-#include "frmRptIncidentParam.h"
-#include "frmRptPatrolSchedule.h"
-#include "frmRptReaderReport.h"
-#include "frmRptTour.h"
-#include "frmSetTime.h"
 #include "frmSplash.h"
-#include "frmUserMaintenance.h"
-#include "frmWaitReport.h"
 #include "mHelp.h"
 #include "mTranslations.h"
 
@@ -62,69 +29,6 @@ namespace {
 class NoViewer : public ReportViewer {
     void Show(DataReport&) override {}
 };
-
-/// How each window is made. The windows of the forms are named after them.
-using Maker = std::function<std::unique_ptr<QWidget>(DockingLink&, ReportViewer&)>;
-
-/// Made as the program makes it: with the link, with the viewer, or with a parent alone.
-template <typename Form>
-std::unique_ptr<QWidget> Make(DockingLink& link, ReportViewer& viewer) {
-    if constexpr (std::is_constructible_v<Form, DockingLink&, QWidget*>)
-        return std::make_unique<Form>(link, nullptr);
-    else if constexpr (std::is_constructible_v<Form, ReportViewer&, QWidget*>)
-        return std::make_unique<Form>(viewer, nullptr);
-    else if constexpr (std::is_constructible_v<Form, QWidget*>)
-        return std::make_unique<Form>(nullptr);
-    else
-        return std::make_unique<Form>();
-}
-template <typename... Forms>
-std::map<QString, Maker> MakersOf() {
-    return {{Forms::staticMetaObject.className(), &Make<Forms>}...};
-}
-
-std::map<QString, Maker> AllMakers() {
-    auto makers =
-        MakersOf<frmAddButton, frmAddReader, frmArchive, frmCompany, frmCopyTour, frmDebugData,
-                 frmDownload, frmEditButton, frmEditReader, frmEditTime, frmGoOnline, frmLogin,
-                 frmMDISetup, frmMain, frmManualID, frmMdiDownload, frmMdiMenu, frmMdiReports,
-                 frmPrpComms, frmRptHardwareListParam, frmRptPatrolSchedule, frmRptCustomParam,
-                 frmRptReaderReport, frmRptIncidentNew, frmRptIncidentParam, frmRptTour, frmSetTime,
-                 frmSplash, frmUserMaintenance>();
-    makers["frmAbout"] = [](auto&, auto&) {
-        auto form = std::make_unique<frmAbout>(nullptr);
-        form->Populate();
-        return form;
-    };
-    makers["frmEditTour"] = [](auto&, auto&) {
-        auto form = std::make_unique<frmEditTour>(nullptr);
-        form->GroupID = 1;
-        form->Populate();
-        return form;
-    };
-    makers["frmFirmwareVersion"] = [](auto&, auto&) {
-        return std::make_unique<frmFirmwareVersion>("3.04", nullptr);
-    };
-    makers["frmLanguage"] = [](auto&, auto&) {
-        return std::make_unique<frmLanguage>(*gDictionary, gLanguage, nullptr);
-    };
-    makers["frmListEdit"] = [](auto& link, auto&) {
-        auto form = std::make_unique<frmListEdit>(link, nullptr);
-        form->ItemType = SiteGroup;
-        form->Update();
-        return form;
-    };
-    makers["frmWaitReport"] = [](auto&, auto&) {
-        static Recordset rows;
-        return std::make_unique<frmWaitReport>(rows, nullptr);
-    };
-    return makers;
-}
-
-const std::map<QString, Maker>& Makers() {
-    static const std::map<QString, Maker> makers = AllMakers();
-    return makers;
-}
 
 QString Called(const QWidget& widget, const QString& text = {}) {
     return QStringLiteral("%1 %2 \"%3\"")
@@ -233,12 +137,6 @@ QStringList ClippedHeadings(QWidget& window) {
     return faults;
 }
 
-/// A page of the main window; anything else is a window of its own.
-bool IsPage(const QWidget& window) {
-    return !qobject_cast<const QDialog*>(&window) && !qobject_cast<const QMainWindow*>(&window) &&
-           !qobject_cast<const frmSplash*>(&window);
-}
-
 /// The narrowest that the operator can make a window, and as high as its texts then need.
 QSize SmallestSize(const QWidget& window) {
     if (IsPage(window))
@@ -284,7 +182,7 @@ private slots:
 
     void NoFormIsForgotten() {
         for (const QString& form : QString(FORMS).split(u','))
-            QVERIFY2(form == "frmHelp" || Makers().contains(form), qPrintable(form));
+            QVERIFY2(form == "frmHelp" || AllWindows().contains(form), qPrintable(form));
     }
 
     void Shows_data() {
@@ -293,7 +191,7 @@ private slots:
         gLanguage = 0;
         OpenDictionary();
         for (int language = 0; language < gDictionary->LanguageCount(); ++language)
-            for (const auto& [form, maker] : Makers())
+            for (const auto& [form, maker] : AllWindows())
                 QTest::addRow("%s in %s", qPrintable(form),
                               qPrintable(gDictionary->Languages(language).englishName))
                     << language << form;
@@ -305,7 +203,7 @@ private slots:
         OpenDictionary();
         DockingLink link;
         NoViewer viewer;
-        const std::unique_ptr<QWidget> window = Makers().at(form)(link, viewer);
+        const std::unique_ptr<QWidget> window = AllWindows().at(form)(link, viewer);
         window->show();
         const QStringList faults = FaultsOf(*window);
         QVERIFY2(faults.isEmpty(), qPrintable(u'\n' + faults.join(u'\n')));

@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDateTimeEdit>
 #include <QDir>
 #include <QFocusEvent>
@@ -93,6 +94,10 @@ void TranslateWindow(QWidget& window, const TranslateText& translate) {
             TranslateProperty(*child, "toolTip", translate);
             TranslateProperty(*child, "accessibleName", translate);
         }
+        // On Linux, a screen reader gets the value of a combo box as its name.
+        if (auto* combo = qobject_cast<QComboBox*>(child);
+            combo && !combo->accessibleName().isEmpty())
+            combo->setAccessibleDescription(combo->accessibleName());
     }
 }
 
