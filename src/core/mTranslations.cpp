@@ -23,6 +23,12 @@ MessageAnswer IvMessageBox(const QString& text, MessageKind kind, MessageButtons
                        : MsgBox(text, caption, kind, buttons);
 }
 
+MessageAnswer IvMessageBox(const QString& text, const QString& advice, MessageKind kind,
+                           MessageButtons buttons) {
+    return gDictionary ? gDictionary->IvMessageBox(text, {}, kind, buttons, advice)
+                       : ShowMessage({text, {}, kind, buttons, ButtonWords(buttons), advice});
+}
+
 QString FormatStr(const QString& pattern, const QStringList& values) {
     return Dictionary::FormatStr(pattern, values);
 }

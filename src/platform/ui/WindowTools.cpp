@@ -1,5 +1,6 @@
 #include "WindowTools.h"
 
+#include "PaletteIcon.h"
 #include "RunTimeError.h"
 
 #include <QAbstractButton>
@@ -111,7 +112,12 @@ MessageAnswer WindowMessageBoxes::Show(const Message& message) {
     box.setIcon(IconOf(message.kind));
     box.setWindowTitle(message.caption);
     box.setTextFormat(Qt::PlainText);
-    box.setText(message.text);
+    box.setText(message.text + message.aboutButtons);
+    if (!message.advice.isEmpty()) {
+        box.setInformativeText(message.advice);
+        for (auto* label : box.findChildren<QLabel*>()) // names may look like HTML
+            label->setTextFormat(Qt::PlainText);
+    }
     const QList<MessageAnswer> answers = AnswersOf(message.buttons);
     QList<QAbstractButton*> buttons;
     for (qsizetype i = 0; i < answers.size(); ++i) {
@@ -210,9 +216,9 @@ ArrowPointer::~ArrowPointer() {
 
 QIcon ProgramIcon(const QString& name) {
     const QString path = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");
-    QIcon icon(path);
-    icon.addFile(path, {}, QIcon::Selected); // not tinted with the selection's colour
-    return icon;
+    // These two are pictures with a background of their own.
+    const bool isPicture = name == u"wardlock" || name == u"splash";
+    return isPicture ? QIcon(path) : PaletteIcon(path);
 }
 
 void ShowIcon(QLabel& label, const QString& name) {
