@@ -784,6 +784,38 @@
         <translation>Hilfetext</translation>
     </message>
     <message>
+        <source>&amp;Search:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>Help on This &amp;Page</source>
+        <translation>Hilfe zu dieser &amp;Seite</translation>
+    </message>
+    <message>
+        <source>The help is in English.</source>
+        <translation>Die Hilfe ist auf Englisch.</translation>
+    </message>
+    <message>
+        <source>It is not a help file of this program.</source>
+        <translation>Sie ist keine Hilfedatei dieses Programms.</translation>
+    </message>
+    <message>
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
     </message>
@@ -1629,7 +1661,7 @@
     </message>
     <message>
         <source>WK3_ENG.HLP</source>
-        <translation>WK3_ENG.HLP</translation>
+        <translation>WK3_DEU.HLP</translation>
     </message>
     <message>
         <source>This folder does not exist. Please choose another one.</source>

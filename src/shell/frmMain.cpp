@@ -109,7 +109,10 @@ void frmMain::ConnectMenu() {
         GoHome();
     });
     connect(m_ui->mnuToolCompany, &QAction::triggered, this, [this] { frmCompany(this).exec(); });
-    connect(m_ui->mnuHelpContents, &QAction::triggered, this, &frmMain::mnuHelpContents_Click);
+    connect(m_ui->mnuHelpContents, &QAction::triggered, this, &ShowHelpContents);
+    connect(m_ui->mnuHelpPage, &QAction::triggered, this, [this] { ShowHelpOn(this); });
+    connect(m_ui->mnuHelp, &QMenu::aboutToShow, this,
+            [this] { m_ui->mnuHelpLanguage->setVisible(HelpIsForeign()); });
     connect(m_ui->mnuHelpAbout, &QAction::triggered, this, [this] {
         frmAbout dialog(this);
         dialog.Populate();
@@ -317,17 +320,6 @@ void frmMain::EditOperator(OperatorType type) {
     frmUserMaintenance dialog(this);
     dialog.FormStart(type);
     dialog.exec();
-}
-
-void frmMain::mnuHelpContents_Click() {
-    if (HelpFile().isEmpty()) {
-        IvMessageBox(Translate("Unable to display Help Contents. There is no Help associated with "
-                               "this project."),
-                     MessageKind::Information);
-        return;
-    }
-    Trapped([this] { ShowHelpContents(this); },
-            [](const RunTimeError& error) { IvMessageBox(error.Description()); });
 }
 
 void frmMain::TranslateFrame() { TranslateWindow(*this, Translated); }

@@ -70,7 +70,6 @@ private:
     void ResetLanguage();
     void TranslateFrame();
     void ShowLanguage();
-    void mnuHelpContents_Click();
     void EditOperator(OperatorType type);
 
     std::unique_ptr<Ui::frmMain> m_ui;
