@@ -60,7 +60,7 @@ void SetHelpFile(const QString& path) { g_helpFile = path; }
 void UpdateLanguage() {
     // The dictionary names each language's help file. Setting the path cannot fail, so there is no
     // fallback here; ShowHelp reports a file that cannot be read.
-    const QString localized = AppFile(Translate("WK3_ENG.HLP"));
+    const QString localized = ProgramFile(Translate("WK3_ENG.HLP"));
     if (QFileInfo::exists(localized))
         SetHelpFile(localized);
     if (g_window && !IgnoringErrors([] { g_window->Load(g_helpFile); }))

@@ -328,21 +328,31 @@ void frmMain::ChangeLanguage() {
     const auto change = [this] {
         if (gDictionary->SelectLanguage(gLanguage)) {
             gDictionary->language = gLanguage;
-            gDictionary->Open();
+            OpenChosenLanguage();
             SaveSetting(SettingsApplication, SettingsSection::Properties,
                         QStringLiteral("Language"), QString::number(gLanguage));
             UpdateLanguage();
         }
-        TranslateFrame();
-        setWindowTitle(TitleWithVersion());
-        InitToolbar();
-        if (auto* home = qobject_cast<frmMdiMenu*>(m_page))
-            home->Translate();
+        ShowLanguage();
     };
     Trapped(change, [this](const RunTimeError& error) {
         ReportError(QStringLiteral("ChangeLanguage of Form frmMain"), error, ErrorShow::LogOnly);
         ResetLanguage();
+        ShowLanguage();
     });
+}
+
+/// Everything of the main window that shows the language. Windows that are opened later take it by
+/// themselves.
+void frmMain::ShowLanguage() {
+    unsetLocale(); // the pages take theirs from this window
+    TranslateFrame();
+    setWindowTitle(TitleWithVersion());
+    InitToolbar();
+    if (m_state.Online()) // otherwise the home page connects, and the state is shown after that
+        ShowDockingDetect(gDockingDetected);
+    if (auto* home = qobject_cast<frmMdiMenu*>(m_page))
+        home->Translate();
 }
 
 void frmMain::ResetLanguage() {
@@ -353,5 +363,5 @@ void frmMain::ResetLanguage() {
     gDictionary->language = gLanguage;
     SaveSetting(SettingsApplication, SettingsSection::Properties, QStringLiteral("Language"),
                 QString::number(gLanguage));
-    IgnoringErrors([] { gDictionary->Open(); });
+    IgnoringErrors(OpenChosenLanguage);
 }

@@ -69,6 +69,7 @@ private:
     void ChangeLanguage();
     void ResetLanguage();
     void TranslateFrame();
+    void ShowLanguage();
     void EditOperator(OperatorType type);
 
     std::unique_ptr<Ui::frmMain> m_ui;
