@@ -120,6 +120,74 @@
         <translation>Dockingstation: nicht gefunden</translation>
     </message>
     <message>
+        <source>%0:s is gone. Plug it in again.</source>
+        <translation>%0:s ist verschwunden. Bitte wieder anschließen.</translation>
+    </message>
+    <message>
+        <source>Last download</source>
+        <translation>Letztes Auslesen</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>noch keines</translation>
+    </message>
+    <message>
+        <source>Tours of the last 24 hours</source>
+        <translation>Rundgänge der letzten 24 Stunden</translation>
+    </message>
+    <message>
+        <source>Click a tour, or press Enter, to open its report.</source>
+        <translation>Ein Klick auf einen Rundgang, oder die Eingabetaste, öffnet seinen Bericht.</translation>
+    </message>
+    <message>
+        <source>No tour was due.</source>
+        <translation>Es war kein Rundgang fällig.</translation>
+    </message>
+    <message>
+        <source>not downloaded or not walked</source>
+        <translation>nicht ausgelesen oder nicht gegangen</translation>
+    </message>
+    <message>
+        <source>On time</source>
+        <translation>Pünktlich</translation>
+    </message>
+    <message>
+        <source>Early</source>
+        <translation>Zu früh</translation>
+    </message>
+    <message>
+        <source>Late</source>
+        <translation>Zu spät</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>First steps</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>Define a site</source>
+        <translation>Ein Objekt anlegen</translation>
+    </message>
+    <message>
+        <source>Add the buttons of the site</source>
+        <translation>Die Kontakte des Objekts aufnehmen</translation>
+    </message>
+    <message>
+        <source>Add a reader</source>
+        <translation>Einen Leser aufnehmen</translation>
+    </message>
+    <message>
+        <source>Plan a tour</source>
+        <translation>Einen Rundgang planen</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>erledigt</translation>
+    </message>
+    <message>
         <source>The touches could not be stored. The reader was not erased.</source>
         <translation>Die Erfassungen konnten nicht gespeichert werden. Der Leser wurde nicht geleert.</translation>
     </message>
@@ -186,6 +254,10 @@
     <message>
         <source>Download Successful</source>
         <translation>Auslesen erfolgreich</translation>
+    </message>
+    <message>
+        <source>Reports of the tours in this download</source>
+        <translation>Berichte zu den ausgelesenen Rundgängen</translation>
     </message>
     <message>
         <source>Data Readings = </source>

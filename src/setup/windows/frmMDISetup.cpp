@@ -59,7 +59,7 @@ frmMDISetup::frmMDISetup(DockingLink& link, QWidget* parent)
     for (const Kind& kind : Kinds())
         m_ui->tabSetup->addTab(ProgramIcon(QString::fromLatin1(kind.icon)), QString());
     Translate();
-    connect(m_ui->tabSetup, &QTabBar::currentChanged, this, &frmMDISetup::ShowTab);
+    connect(m_ui->tabSetup, &QTabBar::currentChanged, this, [this] { ShowTab(); });
     connect(m_ui->lvwProgram, &QTreeView::doubleClicked, this, [this] { Do(&Actions::edit); });
     connect(m_ui->cmdSetup_0, &QPushButton::clicked, this, [this] { Do(&Actions::edit); });
     connect(m_ui->cmdSetup_1, &QPushButton::clicked, this, [this] { Do(&Actions::add); });
@@ -109,6 +109,8 @@ bool frmMDISetup::Confirmed(const QString& question) const {
 }
 
 void frmMDISetup::Start() { ShowTab(); }
+
+void frmMDISetup::ShowTab(int tab) { m_ui->tabSetup->setCurrentIndex(tab); }
 
 void frmMDISetup::ShowTab() {
     emit TitleChanged(::Translate("Setup") + QStringLiteral(": ") + ::Translate(Present().caption));

@@ -22,6 +22,8 @@ public:
 
     /// Shows the first tab.
     void Start();
+    /// Shows a tab by its place: sites, event books, tours, readers.
+    void ShowTab(int tab);
     /// Enables or disables what needs a docking station.
     void ShowLink();
     /// Translates the page's controls.
