@@ -28,7 +28,7 @@ frmMdiMenu::frmMdiMenu(QWidget* parent)
         m_ui->lblMainTitle->setFont(font);
         m_ui->imgIcon->setPixmap(
             ProgramIcon(QStringLiteral("wardlock")).pixmap(QSize(40, 40), devicePixelRatioF()));
-        ShowPicture(*m_ui->imgContact, AppFile(QStringLiteral("contact.bmp")));
+        ShowPicture(*m_ui->imgContact, ProgramFile(QStringLiteral("contact.bmp")));
     });
 }
 

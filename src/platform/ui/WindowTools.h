@@ -64,7 +64,7 @@ private:
     bool m_shown;
 };
 
-/// An icon of the program by its name.
+/// An icon of the program by its name, in the colours of the palette.
 QIcon ProgramIcon(const QString& name);
 
 /// Shows an icon of the program in a label, in the label's maximum size.
