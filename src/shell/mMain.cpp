@@ -5,6 +5,7 @@
 #include "Format.h"
 #include "InstanceLock.h"
 #include "MessageBox.h"
+#include "ReportFont.h"
 #include "StoreUpkeep.h"
 #include "WindowTools.h"
 #include "deMain.h"
@@ -20,6 +21,7 @@
 
 #include <QApplication>
 
+#include <cstdio>
 #include <optional>
 
 namespace {
@@ -46,6 +48,11 @@ bool OpenLanguage() {
             WriteLog(QStringLiteral("Setting Dictionary Object, Language = %1").arg(gLanguage));
         OpenDictionary();
         gDictionary->InstallChooser(&frmLanguage::Choose);
+        // A box could not be read either.
+        if (const QString fault = FontFault(PresentLocale()); !fault.isEmpty()) {
+            WriteLog(fault);
+            std::fprintf(stderr, "%s\n", qPrintable(fault));
+        }
         return true;
     };
     return Trapped(open, [](const RunTimeError& error) {

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QDir>
+#include <QFile>
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -92,6 +93,13 @@ void TranslateWindow(QWidget& window, const TranslateText& translate) {
         if (qobject_cast<QWidget*>(child)) {
             TranslateProperty(*child, "toolTip", translate);
             TranslateProperty(*child, "accessibleName", translate);
+        }
+        // From right to left, Qt would show 23:59 as 59:23.
+        if (auto* time = qobject_cast<QDateTimeEdit*>(child);
+            time && (time->displayedSections() & QDateTimeEdit::HourSection)) {
+            const QString format = time->displayFormat();
+            time->setLayoutDirection(Qt::LeftToRight);
+            time->setDisplayFormat(format);
         }
         // On Linux, a screen reader gets the value of a combo box as its name.
         if (auto* combo = qobject_cast<QComboBox*>(child);
@@ -190,7 +198,10 @@ ArrowPointer::~ArrowPointer() {
 }
 
 QIcon ProgramIcon(const QString& name) {
-    const QString path = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");
+    QString path = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");
+    const QString mirrored = QStringLiteral(":/icons/") + name + QStringLiteral("-rtl.svg");
+    if (QApplication::isRightToLeft() && QFile::exists(mirrored))
+        path = mirrored;
     QIcon icon(path);
     icon.addFile(path, {}, QIcon::Selected); // not tinted with the selection's colour
     return icon;
