@@ -11,6 +11,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDateTimeEdit>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -147,6 +148,16 @@ QSize SmallestSize(const QWidget& window) {
     return size;
 }
 
+/// Hours stand on the left in every language.
+QStringList ReversedTimes(QWidget& window) {
+    QStringList faults;
+    for (const QDateTimeEdit* field : window.findChildren<QDateTimeEdit*>())
+        if ((field->displayedSections() & QDateTimeEdit::HourSection) &&
+            field->text() != field->time().toString(QStringLiteral("HH:mm")))
+            faults += "time: " + Called(*field, field->text());
+    return faults;
+}
+
 /// All faults of a window that is shown, at its usual size and at its smallest. The headings of
 /// lists may be clipped at the smallest size: their columns can be dragged.
 QStringList FaultsOf(QWidget& window) {
@@ -154,7 +165,8 @@ QStringList FaultsOf(QWidget& window) {
         window.resize(800, 500);
     QCoreApplication::processEvents();
     QStringList faults = NamelessWidgets(window) + RepeatedMnemonics(window) +
-                         ClippedTexts(window, "usual size: ") + ClippedHeadings(window);
+                         ReversedTimes(window) + ClippedTexts(window, "usual size: ") +
+                         ClippedHeadings(window);
     window.resize(SmallestSize(window));
     QCoreApplication::processEvents();
     return faults + ClippedTexts(window, "smallest size: ");
