@@ -52,7 +52,7 @@ void OpenSettings() {
     gDictionary = std::make_unique<Dictionary>();
     gDictionary->FileName = ProgramFile(QStringLiteral("WK3.MLD"));
     gDictionary->language = gLanguage;
-    IgnoringErrors([] { gDictionary->Open(); });
+    IgnoringErrors(OpenChosenLanguage);
     ReadRemainingSettings();
     gDatabasePath = AppFile(QStringLiteral("main.mdb"));
     gConnectionString = ConnectionText(gDatabasePath, StorePassword);

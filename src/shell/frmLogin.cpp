@@ -23,6 +23,7 @@ OperatorType LastLogin() {
 frmLogin::frmLogin(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::frmLogin>()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
+    EnterGroupsAtChecked(*this);
     setWindowTitle(ShortTitle + QStringLiteral(" - ") + Translate("Version") + u' ' +
                    GetVersionString());
     setWindowIcon(ProgramIcon(QStringLiteral("wardlock")));

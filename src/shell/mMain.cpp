@@ -108,6 +108,7 @@ bool OpenUnderSplash(bool isFirstStart) {
     splash.ShowPainted();
     splash.ShowMessage(Translate("Initializing Online Help..."));
     SetHelpFile(ProgramFile(Translate("WK3_ENG.HLP")));
+    InstallHelpKey();
     if (!TestCompactAndOpen(splash, isFirstStart))
         return false;
     Sleep(SplashPause);

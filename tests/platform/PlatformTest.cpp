@@ -8,6 +8,7 @@
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
 #include "TestTable.h"
+#include "UserLocale.h"
 #include "mSettings.h"
 #include "mTranslations.h"
 
@@ -301,11 +302,31 @@ private slots:
         QCOMPARE(Translate("no such entry %0:s"), "no such entry %0:s");
         IvMessageBox("x", MessageKind::Question, MessageButtons::YesNo);
         QCOMPARE(boxes.Messages.value(0).buttonTexts, (QStringList{"Ja", "Nein"}));
-        gLanguage = 3;
+        gLanguage = 99;
         OpenDictionary();
         QCOMPARE(boxes.Messages.size(), 2);
         QCOMPARE(Translate("MISSING") + ofQt(), "MISSING&Copy");
         gDictionary.reset();
+        gLanguage = -1;
+    }
+
+    void DatesFollowTheLanguage() {
+        const TestHome home(TestHome::NoStore);
+        QVERIFY(QFile::copy(BESIDE + "/WK3.MLD", home.File("WK3.MLD")));
+        const std::tuple<const char*, int, const char*> locales[] = {
+            {"de_AT", 2, "de_AT"}, {"en_US", 2, "de_DE"}, {"C", 2, "de_DE"},
+            {"de_DE", 0, "en_DE"}, {"it_IT", 0, "en_GB"}, {"it_IT", 1, "en_US"},
+            {"en_US", 0, "en_US"}, {"C", 0, "C"},         {"de_CH", -1, "de_CH"}};
+        for (const auto& [machine, language, shown] : locales) {
+            QLocale::setDefault(QLocale(machine));
+            gLanguage = language;
+            OpenDictionary();
+            OpenChosenLanguage(); // again, as the station does when the language is changed
+            QCOMPARE(QLocale().name(), shown);
+            QCOMPARE(MachineLocale().name(), machine);
+            gDictionary.reset();
+            QCOMPARE(QLocale().name(), machine);
+        }
         gLanguage = -1;
     }
 };
