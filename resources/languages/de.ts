@@ -120,6 +120,74 @@
         <translation>Dockingstation: nicht gefunden</translation>
     </message>
     <message>
+        <source>%0:s is gone. Plug it in again.</source>
+        <translation>%0:s ist verschwunden. Bitte wieder anschließen.</translation>
+    </message>
+    <message>
+        <source>Last download</source>
+        <translation>Letztes Auslesen</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>noch keines</translation>
+    </message>
+    <message>
+        <source>Tours of the last 24 hours</source>
+        <translation>Rundgänge der letzten 24 Stunden</translation>
+    </message>
+    <message>
+        <source>Click a tour, or press Enter, to open its report.</source>
+        <translation>Ein Klick auf einen Rundgang, oder die Eingabetaste, öffnet seinen Bericht.</translation>
+    </message>
+    <message>
+        <source>No tour was due.</source>
+        <translation>Es war kein Rundgang fällig.</translation>
+    </message>
+    <message>
+        <source>not downloaded or not walked</source>
+        <translation>nicht ausgelesen oder nicht gegangen</translation>
+    </message>
+    <message>
+        <source>On time</source>
+        <translation>Pünktlich</translation>
+    </message>
+    <message>
+        <source>Early</source>
+        <translation>Zu früh</translation>
+    </message>
+    <message>
+        <source>Late</source>
+        <translation>Zu spät</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>First steps</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>Define a site</source>
+        <translation>Ein Objekt anlegen</translation>
+    </message>
+    <message>
+        <source>Add the buttons of the site</source>
+        <translation>Die Kontakte des Objekts aufnehmen</translation>
+    </message>
+    <message>
+        <source>Add a reader</source>
+        <translation>Einen Leser aufnehmen</translation>
+    </message>
+    <message>
+        <source>Plan a tour</source>
+        <translation>Einen Rundgang planen</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>erledigt</translation>
+    </message>
+    <message>
         <source>The touches could not be stored. The reader was not erased.</source>
         <translation>Die Erfassungen konnten nicht gespeichert werden. Der Leser wurde nicht geleert.</translation>
     </message>
@@ -186,6 +254,10 @@
     <message>
         <source>Download Successful</source>
         <translation>Auslesen erfolgreich</translation>
+    </message>
+    <message>
+        <source>Reports of the tours in this download</source>
+        <translation>Berichte zu den ausgelesenen Rundgängen</translation>
     </message>
     <message>
         <source>Data Readings = </source>
@@ -786,6 +858,38 @@
     <message>
         <source>Help text</source>
         <translation>Hilfetext</translation>
+    </message>
+    <message>
+        <source>&amp;Search:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>Help on This &amp;Page</source>
+        <translation>Hilfe zu dieser &amp;Seite</translation>
+    </message>
+    <message>
+        <source>The help is in English.</source>
+        <translation>Die Hilfe ist auf Englisch.</translation>
+    </message>
+    <message>
+        <source>It is not a help file of this program.</source>
+        <translation>Sie ist keine Hilfedatei dieses Programms.</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -1532,6 +1636,78 @@
         <translation>Nichts ist gewählt</translation>
     </message>
     <message>
+        <source>No sites yet. A site is a place with location buttons. Press Add for a new one, then Edit to give it its buttons.</source>
+        <translation>Noch keine Objekte. Ein Objekt ist ein Ort mit Kontaktstellen. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Kontaktstellen zuordnen.</translation>
+    </message>
+    <message>
+        <source>No event books yet. The buttons of an event book stand for incidents. Press Add for a new one, then Edit to give it its buttons.</source>
+        <translation>Noch keine Ereignisbücher. Die Chips eines Ereignisbuchs stehen für Ereignisse. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Chips zuordnen.</translation>
+    </message>
+    <message>
+        <source>No tours yet. Press Add for a new one, then Edit to choose its locations.</source>
+        <translation>Noch keine Rundgänge. Mit „Neu“ einen anlegen, dann mit „Bearbeiten“ die Kontaktstellen wählen.</translation>
+    </message>
+    <message>
+        <source>No readers yet. Put a reader into the docking station and press Add. Without a docking station no reader can be added.</source>
+        <translation>Noch keine Leser. Einen Leser in die Dockingstation stecken und „Neu“ drücken. Ohne Dockingstation geht das nicht.</translation>
+    </message>
+    <message>
+        <source>No buttons yet. Press Add, then touch the reader in the docking station with a button.</source>
+        <translation>Noch keine Chips. „Neu“ drücken, dann mit einem Chip den Leser in der Dockingstation berühren.</translation>
+    </message>
+    <message>
+        <source>No buttons yet. A new button is read at the docking station, which is not connected.</source>
+        <translation>Noch keine Chips. Ein neuer Chip wird an der Dockingstation gelesen, und die ist nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>This site has no location buttons yet. Add them on the Setup page: select the site and press Edit.</source>
+        <translation>Dieses Objekt hat noch keine Kontaktstellen. Sie werden in der Einrichtung angelegt: das Objekt wählen und „Bearbeiten“ drücken.</translation>
+    </message>
+    <message>
+        <source>The tour has no points yet. Select a location on the left and press Add, in the order of the tour.</source>
+        <translation>Der Rundgang hat noch keine Punkte. Kontaktstellen in der Reihenfolge des Rundgangs wählen und „Hinzufügen“ drücken.</translation>
+    </message>
+    <message>
+        <source>Shows only the rows that contain this text (Ctrl+F).</source>
+        <translation>Zeigt nur die Zeilen, die diesen Text enthalten (Strg+F).</translation>
+    </message>
+    <message>
+        <source>A touch that is early or late by no more minutes than this counts as on time.</source>
+        <translation>Eine Erfassung, die höchstens so viele Minuten zu früh oder zu spät ist, gilt als pünktlich.</translation>
+    </message>
+    <message>
+        <source>For the first point: the minutes since the start of the tour.</source>
+        <translation>Beim ersten Punkt: die Minuten seit dem Beginn des Rundgangs.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; will be lost.</source>
+        <translation>„%0:s“ geht verloren.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; and its buttons will be lost.</source>
+        <translation>„%0:s“ und die zugehörigen Chips gehen verloren.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; and its points will be lost.</source>
+        <translation>„%0:s“ und alle Punkte des Rundgangs gehen verloren.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; will be lost. Touches that are already downloaded are kept.</source>
+        <translation>„%0:s“ geht verloren. Bereits übertragene Erfassungen bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>The name could not be saved. Nothing was changed.</source>
+        <translation>Der Name konnte nicht gespeichert werden. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The password is empty. Anyone could log in without one.</source>
+        <translation>Das Kennwort ist leer. Jeder könnte sich ohne Kennwort anmelden.</translation>
+    </message>
+    <message>
+        <source>Do you want to save it?</source>
+        <translation>Soll es gespeichert werden?</translation>
+    </message>
+    <message>
         <source>Are you sure you want to delete this item?</source>
         <translation>Soll dieser Eintrag wirklich gelöscht werden?</translation>
     </message>
@@ -1677,7 +1853,7 @@
     </message>
     <message>
         <source>WK3_ENG.HLP</source>
-        <translation>WK3_ENG.HLP</translation>
+        <translation>WK3_DEU.HLP</translation>
     </message>
     <message>
         <source>This folder does not exist. Please choose another one.</source>
