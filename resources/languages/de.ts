@@ -404,8 +404,8 @@
         <translation>kein Gerät</translation>
     </message>
     <message>
-        <source>&amp;Open Report</source>
-        <translation>Bericht ö&amp;ffnen</translation>
+        <source>&amp;Open Report...</source>
+        <translation>Bericht ö&amp;ffnen...</translation>
     </message>
     <message>
         <source>Open the dialog of the selected report</source>
@@ -470,6 +470,10 @@
     <message>
         <source>Event</source>
         <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>E&amp;vent</source>
+        <translation>Ere&amp;ignis</translation>
     </message>
     <message>
         <source>Locations</source>
@@ -992,6 +996,18 @@
         <translation>Vorgaben:</translation>
     </message>
     <message>
+        <source>Only this event; the places that were touched before it are shown with it</source>
+        <translation>Nur dieses Ereignis; mit ihm erscheinen die Orte, die davor berührt wurden</translation>
+    </message>
+    <message>
+        <source>Only touches made while this site was the last one touched</source>
+        <translation>Nur Erfassungen, während dieses Objekt das zuletzt berührte war</translation>
+    </message>
+    <message>
+        <source>Sets the range and makes the report at once</source>
+        <translation>Setzt den Zeitraum und erstellt den Bericht sofort</translation>
+    </message>
+    <message>
         <source>Today</source>
         <translation>Heute</translation>
     </message>
@@ -1024,6 +1040,10 @@
         <translation>Leser</translation>
     </message>
     <message>
+        <source>&amp;Reader</source>
+        <translation>&amp;Leser</translation>
+    </message>
+    <message>
         <source>Report Options</source>
         <translation>Umfang</translation>
     </message>
@@ -1044,12 +1064,24 @@
         <translation>Anfangsdatum</translation>
     </message>
     <message>
+        <source>Start &amp;Time</source>
+        <translation>&amp;Beginn</translation>
+    </message>
+    <message>
+        <source>&amp;Start Date</source>
+        <translation>Anfangsda&amp;tum</translation>
+    </message>
+    <message>
         <source>End Date</source>
         <translation>Enddatum</translation>
     </message>
     <message>
-        <source>End Time</source>
-        <translation>Ende</translation>
+        <source>En&amp;d Date</source>
+        <translation>Enddat&amp;um</translation>
+    </message>
+    <message>
+        <source>End Ti&amp;me</source>
+        <translation>E&amp;nde</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1244,52 +1276,60 @@
         <translation>Datum und Uhrzeit</translation>
     </message>
     <message>
-        <source>Same as PC Clock:</source>
-        <translation>Wie die Uhr des PCs:</translation>
+        <source>Same as &amp;PC Clock:</source>
+        <translation>Wie die Uhr des &amp;PCs:</translation>
     </message>
     <message>
         <source>Custom Time</source>
         <translation>Andere Uhrzeit</translation>
     </message>
     <message>
+        <source>What the reader does at each touch</source>
+        <translation>Was der Leser bei jeder Erfassung tut</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Datum:</translation>
+    </message>
+    <message>
+        <source>Cus&amp;tom Time</source>
+        <translation>And&amp;ere Uhrzeit</translation>
+    </message>
+    <message>
         <source>PC time</source>
         <translation>Uhrzeit des PCs</translation>
     </message>
     <message>
-        <source>Date:</source>
-        <translation>Datum:</translation>
-    </message>
-    <message>
-        <source>Automatically Set Time and Date to PC's settings when downloading Data</source>
-        <translation>Beim Auslesen Uhrzeit und Datum nach dem PC stellen</translation>
+        <source>&amp;Automatically Set Time and Date to PC's settings when downloading Data</source>
+        <translation>Be&amp;im Auslesen Uhrzeit und Datum nach dem PC stellen</translation>
     </message>
     <message>
         <source>Reader Options</source>
         <translation>Signale des Lesers</translation>
     </message>
     <message>
-        <source>Buzzer Enabled</source>
-        <translation>Summer ein</translation>
+        <source>&amp;Buzzer Enabled</source>
+        <translation>S&amp;ummer ein</translation>
     </message>
     <message>
-        <source>LED Enabled</source>
-        <translation>LED ein</translation>
+        <source>&amp;LED Enabled</source>
+        <translation>&amp;LED ein</translation>
     </message>
     <message>
-        <source>Vibration Enabled</source>
-        <translation>Vibration ein</translation>
+        <source>&amp;Vibration Enabled</source>
+        <translation>&amp;Vibration ein</translation>
     </message>
     <message>
         <source>Buzzer Duration</source>
         <translation>Dauer des Summers</translation>
     </message>
     <message>
-        <source>Short</source>
-        <translation>Kurz</translation>
+        <source>S&amp;hort</source>
+        <translation>&amp;Kurz</translation>
     </message>
     <message>
-        <source>Long</source>
-        <translation>Lang</translation>
+        <source>L&amp;ong</source>
+        <translation>La&amp;ng</translation>
     </message>
     <message>
         <source>&amp;Send</source>
@@ -1460,6 +1500,10 @@
         <translation>Objekt</translation>
     </message>
     <message>
+        <source>S&amp;ite</source>
+        <translation>&amp;Objekt</translation>
+    </message>
+    <message>
         <source>Event Book</source>
         <translation>Ereignisbuch</translation>
     </message>
@@ -1570,6 +1614,10 @@
     <message>
         <source>Location</source>
         <translation>Kontaktstelle</translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation>&amp;Kontaktstelle</translation>
     </message>
     <message>
         <source>Add New User</source>

@@ -60,7 +60,11 @@ private:
         QScreen* screen =
             saved && m_what == Placed::SizeAndPlace ? ScreenOf(*saved, m_window) : nullptr;
         const QRect area = (screen ? screen : m_window.screen())->availableGeometry();
-        const QSize wanted = saved ? saved->size() : m_window.size();
+        QSize wanted =
+            (saved ? saved->size() : m_window.size()).expandedTo(m_window.minimumSizeHint());
+        // The texts may be longer than when the size was saved, in another language.
+        if (m_window.hasHeightForWidth())
+            wanted.setHeight(std::max(wanted.height(), m_window.heightForWidth(wanted.width())));
         m_window.resize(wanted.boundedTo(area.size() - Frame));
         if (screen) {
             const QSize outer = m_window.size() + Frame;
