@@ -553,7 +553,7 @@ private slots:
             WriteBytes(path, bytes);
             QCOMPARE(frmAbout::TextFromFile(path), text);
         }
-        QCOMPARE(about(), "Build 0001|Büro <b>");
+        QCOMPARE(about(), "Build 0000|Büro <b>");
         m_home->TakeLog();
         QCOMPARE(frmAbout::TextFromFile(m_home->File("config")), ""); // a folder
         QVERIFY(m_home->TakeLog().contains("TextFromFile of Form frmAbout"));
