@@ -1648,7 +1648,7 @@
         <translation>Dieses Objekt hat noch keine Kontaktstellen. Sie werden in der Einrichtung angelegt: das Objekt wählen und „Bearbeiten“ drücken.</translation>
     </message>
     <message>
-        <source>The tour has no points yet. Select a location on the left and press Add, in the order of the tour.</source>
+        <source>The tour has no points yet. Select a location in the other list and press Add, in the order of the tour.</source>
         <translation>Der Rundgang hat noch keine Kontrollpunkte. Kontaktstellen in der Reihenfolge des Rundgangs wählen und „Hinzufügen“ drücken.</translation>
     </message>
     <message>
