@@ -416,6 +416,10 @@
         <translation>Bericht</translation>
     </message>
     <message>
+        <source>Descri&amp;ption</source>
+        <translation>Beschreib&amp;ung</translation>
+    </message>
+    <message>
         <source>Description</source>
         <translation>Beschreibung</translation>
     </message>
@@ -1060,16 +1064,16 @@
         <translation>Mit Ereignissen</translation>
     </message>
     <message>
+        <source>&amp;Start Date</source>
+        <translation>An&amp;fangsdatum</translation>
+    </message>
+    <message>
         <source>Start Date</source>
         <translation>Anfangsdatum</translation>
     </message>
     <message>
-        <source>Start &amp;Time</source>
-        <translation>&amp;Beginn</translation>
-    </message>
-    <message>
-        <source>&amp;Start Date</source>
-        <translation>Anfangsda&amp;tum</translation>
+        <source>&amp;End Date</source>
+        <translation>&amp;Enddatum</translation>
     </message>
     <message>
         <source>End Date</source>
@@ -1276,8 +1280,12 @@
         <translation>Datum und Uhrzeit</translation>
     </message>
     <message>
-        <source>Same as &amp;PC Clock:</source>
-        <translation>Wie die Uhr des &amp;PCs:</translation>
+        <source>Sa&amp;me as PC Clock:</source>
+        <translation>&amp;Wie die Uhr des PCs:</translation>
+    </message>
+    <message>
+        <source>C&amp;ustom Time</source>
+        <translation>A&amp;ndere Uhrzeit</translation>
     </message>
     <message>
         <source>Custom Time</source>
@@ -1300,8 +1308,12 @@
         <translation>Uhrzeit des PCs</translation>
     </message>
     <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Datum:</translation>
+    </message>
+    <message>
         <source>&amp;Automatically Set Time and Date to PC's settings when downloading Data</source>
-        <translation>Be&amp;im Auslesen Uhrzeit und Datum nach dem PC stellen</translation>
+        <translation>Beim A&amp;uslesen Uhrzeit und Datum nach dem PC stellen</translation>
     </message>
     <message>
         <source>Reader Options</source>
@@ -1309,7 +1321,7 @@
     </message>
     <message>
         <source>&amp;Buzzer Enabled</source>
-        <translation>S&amp;ummer ein</translation>
+        <translation>Summer &amp;ein</translation>
     </message>
     <message>
         <source>&amp;LED Enabled</source>
@@ -1329,7 +1341,7 @@
     </message>
     <message>
         <source>L&amp;ong</source>
-        <translation>La&amp;ng</translation>
+        <translation>Lan&amp;g</translation>
     </message>
     <message>
         <source>&amp;Send</source>
@@ -1392,12 +1404,20 @@
         <translation>Dieser Code ist schon vergeben!</translation>
     </message>
     <message>
-        <source>Read ID</source>
-        <translation>Nummer lesen</translation>
+        <source>&amp;Read ID</source>
+        <translation>Nummer &amp;lesen</translation>
+    </message>
+    <message>
+        <source>&amp;Manual Entry</source>
+        <translation>&amp;Von Hand eingeben</translation>
     </message>
     <message>
         <source>Manual Entry</source>
         <translation>Von Hand eingeben</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>Na&amp;me</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1472,8 +1492,8 @@
         <translation>&amp;Löschen</translation>
     </message>
     <message>
-        <source>Tour Copy</source>
-        <translation>Rundgang kopieren</translation>
+        <source>Tour &amp;Copy</source>
+        <translation>Rundgang &amp;kopieren</translation>
     </message>
     <message>
         <source>Definitions</source>
@@ -1540,36 +1560,44 @@
         <translation>&amp;Zeit ändern</translation>
     </message>
     <message>
-        <source>Minutes since the previous point</source>
-        <translation>Minuten seit dem vorigen Kontrollpunkt</translation>
+        <source>&amp;Minutes since the previous point</source>
+        <translation>&amp;Minuten seit dem vorigen Kontrollpunkt</translation>
     </message>
     <message>
         <source>Select Tour to copy</source>
         <translation>Rundgang zum Kopieren wählen</translation>
     </message>
     <message>
-        <source>Name:</source>
-        <translation>Name:</translation>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
     </message>
     <message>
-        <source>Description :</source>
-        <translation>Beschreibung:</translation>
+        <source>Descri&amp;ption :</source>
+        <translation>&amp;Beschreibung:</translation>
     </message>
     <message>
-        <source>Tour Start Time:</source>
-        <translation>Beginn:</translation>
+        <source>Tour Start Ti&amp;me:</source>
+        <translation>Be&amp;ginn:</translation>
     </message>
     <message>
-        <source>Tolerance (minutes):</source>
-        <translation>Toleranz (Minuten):</translation>
+        <source>To&amp;lerance (minutes):</source>
+        <translation>&amp;Toleranz (Minuten):</translation>
     </message>
     <message>
-        <source>Site:</source>
-        <translation>Objekt:</translation>
+        <source>S&amp;ite:</source>
+        <translation>Ob&amp;jekt:</translation>
+    </message>
+    <message>
+        <source>A&amp;vailable Locations</source>
+        <translation>&amp;Verfügbare Kontaktstellen</translation>
     </message>
     <message>
         <source>Available Locations</source>
         <translation>Verfügbare Kontaktstellen</translation>
+    </message>
+    <message>
+        <source>Current T&amp;our Locations</source>
+        <translation>&amp;Kontrollpunkte des Rundgangs</translation>
     </message>
     <message>
         <source>Current Tour Locations</source>
@@ -1641,7 +1669,7 @@
     </message>
     <message>
         <source>No event books yet. The buttons of an event book stand for incidents. Press Add for a new one, then Edit to give it its buttons.</source>
-        <translation>Noch keine Ereignisbücher. Die Chips eines Ereignisbuchs stehen für Ereignisse. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Chips zuordnen.</translation>
+        <translation>Noch keine Ereignisbücher. Die Kontakte eines Ereignisbuchs stehen für Ereignisse. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Kontakte zuordnen.</translation>
     </message>
     <message>
         <source>No tours yet. Press Add for a new one, then Edit to choose its locations.</source>
@@ -1649,23 +1677,23 @@
     </message>
     <message>
         <source>No readers yet. Put a reader into the docking station and press Add. Without a docking station no reader can be added.</source>
-        <translation>Noch keine Leser. Einen Leser in die Dockingstation stecken und „Neu“ drücken. Ohne Dockingstation geht das nicht.</translation>
+        <translation>Noch keine Leser. Einen Leser in die Dockingstation einsetzen und „Neu“ drücken. Ohne Dockingstation geht das nicht.</translation>
     </message>
     <message>
         <source>No buttons yet. Press Add, then touch the reader in the docking station with a button.</source>
-        <translation>Noch keine Chips. „Neu“ drücken, dann mit einem Chip den Leser in der Dockingstation berühren.</translation>
+        <translation>Noch keine Kontakte. „Neu“ drücken, dann mit einem Kontakt den Leser in der Dockingstation berühren.</translation>
     </message>
     <message>
         <source>No buttons yet. A new button is read at the docking station, which is not connected.</source>
-        <translation>Noch keine Chips. Ein neuer Chip wird an der Dockingstation gelesen, und die ist nicht verbunden.</translation>
+        <translation>Noch keine Kontakte. Ein neuer Kontakt wird an der Dockingstation gelesen, und die ist nicht verbunden.</translation>
     </message>
     <message>
         <source>This site has no location buttons yet. Add them on the Setup page: select the site and press Edit.</source>
         <translation>Dieses Objekt hat noch keine Kontaktstellen. Sie werden in der Einrichtung angelegt: das Objekt wählen und „Bearbeiten“ drücken.</translation>
     </message>
     <message>
-        <source>The tour has no points yet. Select a location on the left and press Add, in the order of the tour.</source>
-        <translation>Der Rundgang hat noch keine Punkte. Kontaktstellen in der Reihenfolge des Rundgangs wählen und „Hinzufügen“ drücken.</translation>
+        <source>The tour has no points yet. Select a location in the other list and press Add, in the order of the tour.</source>
+        <translation>Der Rundgang hat noch keine Kontrollpunkte. Kontaktstellen in der Reihenfolge des Rundgangs wählen und „Hinzufügen“ drücken.</translation>
     </message>
     <message>
         <source>Shows only the rows that contain this text (Ctrl+F).</source>
@@ -1677,7 +1705,7 @@
     </message>
     <message>
         <source>For the first point: the minutes since the start of the tour.</source>
-        <translation>Beim ersten Punkt: die Minuten seit dem Beginn des Rundgangs.</translation>
+        <translation>Beim ersten Kontrollpunkt: die Minuten seit dem Beginn des Rundgangs.</translation>
     </message>
     <message>
         <source>&quot;%0:s&quot; will be lost.</source>
@@ -1685,11 +1713,11 @@
     </message>
     <message>
         <source>&quot;%0:s&quot; and its buttons will be lost.</source>
-        <translation>„%0:s“ und die zugehörigen Chips gehen verloren.</translation>
+        <translation>„%0:s“ und die zugehörigen Kontakte gehen verloren.</translation>
     </message>
     <message>
         <source>&quot;%0:s&quot; and its points will be lost.</source>
-        <translation>„%0:s“ und alle Punkte des Rundgangs gehen verloren.</translation>
+        <translation>„%0:s“ und alle Kontrollpunkte gehen verloren.</translation>
     </message>
     <message>
         <source>&quot;%0:s&quot; will be lost. Touches that are already downloaded are kept.</source>
