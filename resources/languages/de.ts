@@ -1068,16 +1068,12 @@
         <translation>An&amp;fangsdatum</translation>
     </message>
     <message>
-        <source>Start Date</source>
-        <translation>Anfangsdatum</translation>
+        <source>Start &amp;Time</source>
+        <translation>Anfangs&amp;zeit</translation>
     </message>
     <message>
         <source>&amp;End Date</source>
         <translation>&amp;Enddatum</translation>
-    </message>
-    <message>
-        <source>End Date</source>
-        <translation>Enddatum</translation>
     </message>
     <message>
         <source>En&amp;d Date</source>
@@ -1300,16 +1296,8 @@
         <translation>&amp;Datum:</translation>
     </message>
     <message>
-        <source>Cus&amp;tom Time</source>
-        <translation>And&amp;ere Uhrzeit</translation>
-    </message>
-    <message>
         <source>PC time</source>
         <translation>Uhrzeit des PCs</translation>
-    </message>
-    <message>
-        <source>&amp;Date:</source>
-        <translation>&amp;Datum:</translation>
     </message>
     <message>
         <source>&amp;Automatically Set Time and Date to PC's settings when downloading Data</source>
