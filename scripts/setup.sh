@@ -10,8 +10,8 @@ build_packages=(build-essential cmake ninja-build pkg-config ccache qt6-base-dev
     qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-serialport-dev
     qt6-svg-dev libgl-dev libsqlcipher-dev libcups2-dev libcli11-dev)
 run_packages=(libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core)
-# Tests read the text of PDFs and open the store with the stock shell.
-test_packages=(poppler-utils sqlcipher)
+# Tests read the text of PDFs, open the store with the stock shell, and read windows as a screen reader.
+test_packages=(poppler-utils sqlcipher xvfb dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi)
 lint_packages=(clang-format clang-tidy python3)
 # The fault campaigns kill programs with strace and cut the power of small file systems.
 fault_packages=(python3 sqlcipher strace e2fsprogs xfsprogs)

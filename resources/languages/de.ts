@@ -52,6 +52,18 @@
         <translation>Die Datei ist nicht vorhanden.</translation>
     </message>
     <message>
+        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <translation>Den Ordner %0:s gibt es nicht. Bitte legen Sie ihn an, oder nennen Sie in WARDLOCK_HOME einen anderen.</translation>
+    </message>
+    <message>
+        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <translation>Sie dürfen in den Ordner %0:s nicht schreiben. Bitte lassen Sie sich das Recht dazu geben, oder nennen Sie in WARDLOCK_HOME einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <translation>Es gibt noch keine Datenbank. Bitte starten Sie einmal das Programm Wardlock: Es legt eine an.</translation>
+    </message>
+    <message>
         <source>The disk is full.</source>
         <translation>Der Datenträger ist voll.</translation>
     </message>
@@ -232,6 +244,14 @@
         <translation>Auslesen fehlgeschlagen</translation>
     </message>
     <message>
+        <source>Remove the cause, and then download the reader again.</source>
+        <translation>Bitte die Ursache beseitigen und den Leser dann noch einmal auslesen.</translation>
+    </message>
+    <message>
+        <source>All touches are still in the reader.</source>
+        <translation>Alle Erfassungen sind noch im Leser.</translation>
+    </message>
+    <message>
         <source>Download Successful</source>
         <translation>Auslesen erfolgreich</translation>
     </message>
@@ -252,12 +272,28 @@
         <translation>Die Uhr des Lesers konnte nicht gestellt werden. Bitte noch einmal versuchen.</translation>
     </message>
     <message>
+        <source>The download itself is complete. The clock can be set with Reader Options in the Tools menu.</source>
+        <translation>Das Auslesen selbst ist abgeschlossen. Die Uhr lässt sich im Menü Extras unter „Leser einstellen“ stellen.</translation>
+    </message>
+    <message>
         <source>Are you sure you want to clear the reader? </source>
         <translation>Soll der Speicher des Lesers wirklich geleert werden? </translation>
     </message>
     <message>
+        <source>The reader that was downloaded last:</source>
+        <translation>Zuletzt ausgelesener Leser:</translation>
+    </message>
+    <message>
+        <source>Touches that have not been downloaded yet will be lost.</source>
+        <translation>Erfassungen, die noch nicht ausgelesen sind, gehen verloren.</translation>
+    </message>
+    <message>
         <source>Reader Erase Failed.  Try again?</source>
         <translation>Der Leser konnte nicht geleert werden. Noch einmal versuchen?</translation>
+    </message>
+    <message>
+        <source>As long as the reader keeps its touches, each further download stores them again.</source>
+        <translation>Solange der Leser seine Erfassungen behält, speichert jedes weitere Auslesen sie noch einmal.</translation>
     </message>
     <message>
         <source>Reader Erased</source>
@@ -270,6 +306,30 @@
     <message>
         <source>Download Error</source>
         <translation>Fehler beim Auslesen</translation>
+    </message>
+    <message>
+        <source>The names of the buttons could not be read from the database. See error.log for the reason.</source>
+        <translation>Die Namen der Kontakte konnten nicht aus der Datenbank gelesen werden. Der Grund steht in error.log.</translation>
+    </message>
+    <message>
+        <source>What the reader sent was not complete or not valid. Please try again.</source>
+        <translation>Die Daten des Lesers waren unvollständig oder ungültig. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The connection to the docking station was lost. Check its cable and try again.</source>
+        <translation>Die Verbindung zur Dockingstation ist abgebrochen. Bitte das Kabel prüfen und noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The docking station could not read the reader. Take it out, put it in again, and try once more.</source>
+        <translation>Die Dockingstation konnte den Leser nicht auslesen. Bitte herausnehmen, wieder einsetzen und noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Put the reader into the docking station so that it sits firmly.</source>
+        <translation>Bitte den Leser fest in die Dockingstation einsetzen.</translation>
+    </message>
+    <message>
+        <source>The reader stopped answering. Leave it in the docking station until the download is complete, and try again.</source>
+        <translation>Der Leser antwortet nicht mehr. Bitte bis zum Ende des Auslesens in der Dockingstation lassen und noch einmal versuchen.</translation>
     </message>
     <message>
         <source>Downloading data from reader</source>
@@ -348,6 +408,10 @@
         <translation>Bericht ö&amp;ffnen</translation>
     </message>
     <message>
+        <source>Open the dialog of the selected report</source>
+        <translation>Das Fenster des gewählten Berichts öffnen</translation>
+    </message>
+    <message>
         <source>Report Name</source>
         <translation>Bericht</translation>
     </message>
@@ -422,6 +486,14 @@
     <message>
         <source>You must add at least one reader before this report can be used</source>
         <translation>Für diesen Bericht muss mindestens ein Leser angelegt sein</translation>
+    </message>
+    <message>
+        <source>A master adds tours on the Setup page.</source>
+        <translation>Rundgänge legt der Einsatzleiter auf der Seite Einrichtung an.</translation>
+    </message>
+    <message>
+        <source>A master adds readers on the Setup page.</source>
+        <translation>Leser legt der Einsatzleiter auf der Seite Einrichtung an.</translation>
     </message>
     <message>
         <source>You must add at least one tour before this report can be used</source>
@@ -516,6 +588,14 @@
         <translation>Fehler beim Anlegen des Rundgangs</translation>
     </message>
     <message>
+        <source>The tour has no points. A master adds them on the Setup page.</source>
+        <translation>Der Rundgang hat keine Punkte. Der Einsatzleiter legt sie auf der Seite Einrichtung an.</translation>
+    </message>
+    <message>
+        <source>This tour does not exist any more, or it cannot be read.</source>
+        <translation>Diesen Rundgang gibt es nicht mehr, oder er ist nicht lesbar.</translation>
+    </message>
+    <message>
         <source>The settings cannot be saved. Changes you make now are lost when the program ends.</source>
         <translation>Die Einstellungen können nicht gespeichert werden. Änderungen gehen beim Beenden verloren.</translation>
     </message>
@@ -602,6 +682,14 @@
     <message>
         <source>No Data on the report</source>
         <translation>Keine Daten für den Bericht</translation>
+    </message>
+    <message>
+        <source>See error.log for the reason.</source>
+        <translation>Der Grund steht in error.log.</translation>
+    </message>
+    <message>
+        <source>Please check these choices, and whether the reader has been downloaded.</source>
+        <translation>Bitte diese Angaben prüfen, und ob der Leser ausgelesen ist.</translation>
     </message>
     <message>
         <source>There is no data to show for these parameters</source>
@@ -768,6 +856,38 @@
         <translation>Hilfetext</translation>
     </message>
     <message>
+        <source>&amp;Search:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>Help on This &amp;Page</source>
+        <translation>Hilfe zu dieser &amp;Seite</translation>
+    </message>
+    <message>
+        <source>The help is in English.</source>
+        <translation>Die Hilfe ist auf Englisch.</translation>
+    </message>
+    <message>
+        <source>It is not a help file of this program.</source>
+        <translation>Sie ist keine Hilfedatei dieses Programms.</translation>
+    </message>
+    <message>
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
     </message>
@@ -932,6 +1052,18 @@
         <translation>Ende</translation>
     </message>
     <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Einträge</translation>
+    </message>
+    <message>
+        <source>No entry contains this.</source>
+        <translation>Kein Eintrag enthält das.</translation>
+    </message>
+    <message>
         <source>All</source>
         <translation>Alle</translation>
     </message>
@@ -974,6 +1106,18 @@
     <message>
         <source>There must be at least one reader selected to create a report</source>
         <translation>Für den Bericht muss mindestens ein Leser gewählt sein</translation>
+    </message>
+    <message>
+        <source>An event was deleted meanwhile. Please open the dialog of the report again.</source>
+        <translation>Ein Ereignis wurde inzwischen gelöscht. Bitte das Fenster des Berichts noch einmal öffnen.</translation>
+    </message>
+    <message>
+        <source>No reader is defined.</source>
+        <translation>Es ist kein Leser angelegt.</translation>
+    </message>
+    <message>
+        <source>No event is defined. A master adds event books on the Setup page.</source>
+        <translation>Es ist kein Ereignis angelegt. Ereignisbücher legt der Einsatzleiter auf der Seite Einrichtung an.</translation>
     </message>
     <message>
         <source>There must be at least one event selected to create a report</source>
@@ -1174,6 +1318,14 @@
     <message>
         <source>Reader update failed.  Please try again.</source>
         <translation>Der Leser konnte nicht eingestellt werden. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The options were set, but the clock was not.</source>
+        <translation>Die Optionen wurden gesetzt, die Uhr aber nicht gestellt.</translation>
+    </message>
+    <message>
+        <source>The clock was set, but the options were not.</source>
+        <translation>Die Uhr wurde gestellt, die Optionen aber nicht.</translation>
     </message>
     <message>
         <source>Add New Reader</source>
@@ -1581,7 +1733,7 @@
     </message>
     <message>
         <source>WK3_ENG.HLP</source>
-        <translation>WK3_ENG.HLP</translation>
+        <translation>WK3_DEU.HLP</translation>
     </message>
     <message>
         <source>This folder does not exist. Please choose another one.</source>

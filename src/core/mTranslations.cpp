@@ -7,6 +7,10 @@
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 
+#include <QGuiApplication>
+#include <QLocale>
+#include <QScopeGuard>
+
 QString Translate(const QString& text) { return gDictionary ? gDictionary->Translate(text) : text; }
 
 QString Translate(const char* text) { return Translate(QString::fromUtf8(text)); }
@@ -17,6 +21,12 @@ MessageAnswer IvMessageBox(const QString& text, MessageKind kind, MessageButtons
                            const QString& caption) {
     return gDictionary ? gDictionary->IvMessageBox(text, caption, kind, buttons)
                        : MsgBox(text, caption, kind, buttons);
+}
+
+MessageAnswer IvMessageBox(const QString& text, const QString& advice, MessageKind kind,
+                           MessageButtons buttons) {
+    return gDictionary ? gDictionary->IvMessageBox(text, {}, kind, buttons, advice)
+                       : ShowMessage({text, {}, kind, buttons, ButtonWords(buttons), advice});
 }
 
 QString FormatStr(const QString& pattern, const QStringList& values) {
@@ -39,12 +49,19 @@ QString TitleWithVersion() {
     return FormatStr(Translate("%0:s - Version %1:s"), {GetReportsTitle(), GetVersionString()});
 }
 
+void OpenChosenLanguage() {
+    const auto turn = qScopeGuard(
+        [] { QGuiApplication::setLayoutDirection(QLocale(PresentLocale()).textDirection()); });
+    gDictionary->Open();
+}
+
 void OpenDictionary() {
+    gDictionary.reset(); // its locale ends before the next one's begins
     gDictionary = std::make_unique<Dictionary>();
     gDictionary->CheckLevel = 2;
-    gDictionary->FileName = AppFile(QStringLiteral("WK3.MLD"));
+    gDictionary->FileName = ProgramFile(QStringLiteral("WK3.MLD"));
     gDictionary->language = gLanguage;
-    if (IgnoringErrors([] { gDictionary->Open(); }))
+    if (IgnoringErrors(OpenChosenLanguage))
         return;
     IvMessageBox(gDictionary->Languages(gLanguage).englishName +
                      QStringLiteral(" could not be displayed\n"
@@ -54,5 +71,5 @@ void OpenDictionary() {
     gDictionary->language = gLanguage;
     SaveSetting(SettingsApplication, SettingsSection::Properties, QStringLiteral("Language"),
                 QString::number(gLanguage));
-    IgnoringErrors([] { gDictionary->Open(); });
+    IgnoringErrors(OpenChosenLanguage);
 }

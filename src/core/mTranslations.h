@@ -20,6 +20,10 @@ QString PresentLocale();
 MessageAnswer IvMessageBox(const QString& text, MessageKind kind = MessageKind::Warning,
                            MessageButtons buttons = MessageButtons::Ok,
                            const QString& caption = {});
+/// The same, with a second paragraph: the cause, and what to do next. It may be empty.
+MessageAnswer IvMessageBox(const QString& text, const QString& advice,
+                           MessageKind kind = MessageKind::Warning,
+                           MessageButtons buttons = MessageButtons::Ok);
 
 /// Replaces "%0:s" and so on in a translated pattern.
 QString FormatStr(const QString& pattern, const QStringList& values);
@@ -35,6 +39,10 @@ QString LegalNotice();
 QString GetVersionString();
 /// The product title with the version, for the main window and the splash window.
 QString TitleWithVersion();
+
+/// Opens gDictionary for its language, and lets all windows run in the language's direction. Throws
+/// what Dictionary::Open throws; the windows then run from left to right.
+void OpenChosenLanguage();
 
 /// Makes gDictionary and opens it for gLanguage. If that language cannot be shown, says so, falls
 /// back to language 1 and saves that.

@@ -1,6 +1,7 @@
 #include "Dictionary.h"
 
 #include "RunTimeError.h"
+#include "UserLocale.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -35,6 +36,8 @@ void Dictionary::Unload() {
     m_translator.reset();
     m_libraryTexts.reset(); // also removes it from the application
     m_languages.clear();
+    m_shown = -1;
+    UseMachineLocale();
     if (!m_registered.isEmpty())
         QResource::unregisterResource(m_registered, Root);
     m_registered.clear();
@@ -50,32 +53,36 @@ void Dictionary::Open() {
         ThrowUnreadable(QDir::toNativeSeparators(FileName));
     for (const auto& entry : QJsonDocument::fromJson(list.readAll()).array())
         m_languages += {entry[u"englishName"].toString(), entry[u"nativeName"].toString(),
-                        entry[u"locale"].toString()};
+                        entry[u"locale"].toString(), entry[u"formats"].toString()};
     const int number = language < 0 ? SystemLanguage() : language;
     if (number >= m_languages.size())
         ThrowUnreadable(QStringLiteral("no language %1").arg(number));
-    const QString locale = m_languages[number].locale;
-    if (locale.isEmpty())
-        return;
-    auto translator = std::make_unique<QTranslator>();
-    if (!translator->load(u':' + Root + u'/' + locale + QStringLiteral(".qm")))
-        ThrowUnreadable(m_languages[number].englishName);
-    m_translator = std::move(translator);
-    LoadLibraryTexts(locale);
+    const auto& [englishName, nativeName, locale, formats] = m_languages[number];
+    if (!locale.isEmpty()) {
+        auto translator = std::make_unique<QTranslator>();
+        if (!translator->load(u':' + Root + u'/' + locale + QStringLiteral(".qm")))
+            ThrowUnreadable(englishName);
+        m_translator = std::move(translator);
+        LoadLibraryTexts(locale);
+    }
+    UseLocaleOf(QLocale(formats.isEmpty() ? locale : formats));
+    m_shown = number;
 }
 
-/// If the catalogue is missing, only Qt's own texts stay in English.
+/// If the catalogue is missing, only Qt's own texts stay in English. Some languages have one only
+/// for the country with most speakers.
 void Dictionary::LoadLibraryTexts(const QString& locale) {
     auto translator = std::make_unique<QTranslator>();
-    if (!translator->load(QStringLiteral("qtbase_") + locale,
-                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    if (!translator->load(QStringLiteral("qtbase_") + locale, folder) &&
+        !translator->load(QStringLiteral("qtbase_") + QLocale(locale).name(), folder))
         return;
     QCoreApplication::installTranslator(translator.get());
     m_libraryTexts = std::move(translator);
 }
 
 int Dictionary::SystemLanguage() const {
-    const QString system = QLocale().name();
+    const QString system = MachineLocale().name();
     for (int number = 0; number < m_languages.size(); ++number) {
         const QString locale = m_languages[number].locale;
         if (!locale.isEmpty() && (system == locale || system.startsWith(locale + u'_')))
@@ -87,10 +94,12 @@ int Dictionary::SystemLanguage() const {
 Language Dictionary::Languages(int number) const {
     if (number >= 0 && number < m_languages.size())
         return m_languages[number];
-    if (number < 0)
-        return {QLocale::languageToString(QLocale().language()), QLocale().nativeLanguageName(),
-                QLocale().name()};
-    return {QStringLiteral("Language %1").arg(number), {}, {}};
+    if (number < 0) {
+        const QLocale machine = MachineLocale();
+        return {QLocale::languageToString(machine.language()), machine.nativeLanguageName(),
+                machine.name(), machine.name()};
+    }
+    return {QStringLiteral("Language %1").arg(number), {}, {}, {}};
 }
 
 QString Dictionary::Translate(const QString& text) const {
@@ -107,8 +116,9 @@ QString Dictionary::Locale() const {
 bool Dictionary::SelectLanguage(int& number) { return m_chooser && m_chooser(*this, number); }
 
 MessageAnswer Dictionary::IvMessageBox(const QString& text, const QString& caption,
-                                       MessageKind kind, MessageButtons buttons) const {
-    Message message{text, caption, kind, buttons, {}};
+                                       MessageKind kind, MessageButtons buttons,
+                                       const QString& advice) const {
+    Message message{text, caption, kind, buttons, {}, advice};
     for (const QString& word : ButtonWords(buttons))
         message.buttonTexts += Translate(word);
     return ShowMessage(message);

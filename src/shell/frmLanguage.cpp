@@ -13,11 +13,11 @@ frmLanguage::frmLanguage(const Dictionary& dictionary, int number, QWidget* pare
     TranslateWindow(*this, Translated);
     for (int i = 0; i < dictionary.LanguageCount(); ++i)
         m_ui->lstLanguages->addItem(dictionary.Languages(i).nativeName);
-    m_ui->lstLanguages->setCurrentRow(number);
     connect(m_ui->lstLanguages, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
     connect(m_ui->lstLanguages, &QListWidget::currentRowChanged, this,
             [this](int row) { m_ui->cmdOK->setEnabled(row >= 0); });
-    m_ui->cmdOK->setEnabled(number >= 0 && number < dictionary.LanguageCount());
+    m_ui->cmdOK->setEnabled(false);
+    m_ui->lstLanguages->setCurrentRow(number < 0 ? dictionary.ShownLanguage() : number);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }

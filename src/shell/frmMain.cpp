@@ -117,7 +117,10 @@ void frmMain::ConnectMenu() {
         GoHome();
     });
     connect(m_ui->mnuToolCompany, &QAction::triggered, this, [this] { frmCompany(this).exec(); });
-    connect(m_ui->mnuHelpContents, &QAction::triggered, this, &frmMain::mnuHelpContents_Click);
+    connect(m_ui->mnuHelpContents, &QAction::triggered, this, &ShowHelpContents);
+    connect(m_ui->mnuHelpPage, &QAction::triggered, this, [this] { ShowHelpOn(this); });
+    connect(m_ui->mnuHelp, &QMenu::aboutToShow, this,
+            [this] { m_ui->mnuHelpLanguage->setVisible(HelpIsForeign()); });
     connect(m_ui->mnuHelpAbout, &QAction::triggered, this, [this] {
         frmAbout dialog(this);
         dialog.Populate();
@@ -400,38 +403,37 @@ void frmMain::EditOperator(OperatorType type) {
     dialog.exec();
 }
 
-void frmMain::mnuHelpContents_Click() {
-    if (HelpFile().isEmpty()) {
-        IvMessageBox(Translate("Unable to display Help Contents. There is no Help associated with "
-                               "this project."),
-                     MessageKind::Information);
-        return;
-    }
-    Trapped([this] { ShowHelpContents(this); },
-            [](const RunTimeError& error) { IvMessageBox(error.Description()); });
-}
-
 void frmMain::TranslateFrame() { TranslateWindow(*this, Translated); }
 
 void frmMain::ChangeLanguage() {
     const auto change = [this] {
         if (gDictionary->SelectLanguage(gLanguage)) {
             gDictionary->language = gLanguage;
-            gDictionary->Open();
+            OpenChosenLanguage();
             SaveSetting(SettingsApplication, SettingsSection::Properties,
                         QStringLiteral("Language"), QString::number(gLanguage));
             UpdateLanguage();
         }
-        TranslateFrame();
-        setWindowTitle(TitleWithVersion());
-        InitToolbar();
-        if (auto* home = qobject_cast<frmMdiMenu*>(m_page))
-            home->Translate();
+        ShowLanguage();
     };
     Trapped(change, [this](const RunTimeError& error) {
         ReportError(QStringLiteral("ChangeLanguage of Form frmMain"), error, ErrorShow::LogOnly);
         ResetLanguage();
+        ShowLanguage();
     });
+}
+
+/// Everything of the main window that shows the language. Windows that are opened later take it by
+/// themselves.
+void frmMain::ShowLanguage() {
+    unsetLocale(); // the pages take theirs from this window
+    TranslateFrame();
+    setWindowTitle(TitleWithVersion());
+    InitToolbar();
+    if (m_state.Online()) // otherwise the home page connects, and the state is shown after that
+        ShowDockingDetect(gDockingDetected);
+    if (auto* home = qobject_cast<frmMdiMenu*>(m_page))
+        home->Translate();
 }
 
 void frmMain::ResetLanguage() {
@@ -442,5 +444,5 @@ void frmMain::ResetLanguage() {
     gDictionary->language = gLanguage;
     SaveSetting(SettingsApplication, SettingsSection::Properties, QStringLiteral("Language"),
                 QString::number(gLanguage));
-    IgnoringErrors([] { gDictionary->Open(); });
+    IgnoringErrors(OpenChosenLanguage);
 }

@@ -79,7 +79,7 @@ private:
     void ChangeLanguage();
     void ResetLanguage();
     void TranslateFrame();
-    void mnuHelpContents_Click();
+    void ShowLanguage();
     void EditOperator(OperatorType type);
 
     std::unique_ptr<Ui::frmMain> m_ui;

@@ -91,7 +91,7 @@ void frmMdiMenu::ShowStation(bool detected, int port, const QString& device) {
 /// The delivered picture is drawn for white paper. Where it is used, the drawing itself is shown,
 /// which has no background. A customer's own picture is shown as it is.
 void frmMdiMenu::ReadPicture() {
-    const QString path = AppFile(QStringLiteral("contact.bmp"));
+    const QString path = ProgramFile(QStringLiteral("contact.bmp"));
     m_picture = QPixmap(path);
     if (m_picture.isNull())
         ShowPicture(*m_ui->imgContact, path); // fails with the file's name

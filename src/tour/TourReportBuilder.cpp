@@ -2,6 +2,7 @@
 
 #include "Format.h"
 #include "ScratchTable.h"
+#include "StoreFailure.h"
 #include "TourExceptionTable.h"
 #include "TourWords.h"
 #include "darTourException.h"
@@ -22,10 +23,13 @@ QString PlaceText(const QString& group, const QString& name) {
 
 QString ClockText(DateTime time) { return Format(time, QStringLiteral("hh:nn")); }
 
-void ShowFailure(const char* code) {
+void ShowFailure(const char* code, const QString& advice) {
     IvMessageBox(Translate("Error in creating new Tour") + QStringLiteral("\r\n") +
-                 QString::fromUtf8(code));
+                     QString::fromUtf8(code),
+                 advice);
 }
+
+QString SeeTheLog() { return Translate("See error.log for the reason."); }
 
 /// Writes the report's lines from the evaluation.
 class LineWriter {
@@ -88,21 +92,23 @@ private:
 /// Loads the tour and matches it. False if there is nothing to report; a message box has said why.
 bool LoadTour(cTourReport& tour) {
     if (!tour.LoadTourHeader()) {
-        ShowFailure("<ERROR #0001>");
+        ShowFailure("<ERROR #0001>",
+                    Translate("This tour does not exist any more, or it cannot be read."));
         return false;
     }
     if (!tour.LoadTourPoints()) {
-        ShowFailure("<ERROR #0002>");
+        ShowFailure("<ERROR #0002>", Translate("The tour has no points. A master adds them on the "
+                                               "Setup page."));
         return false;
     }
     if (!tour.LoadReaderEvents())
         return false;
     if (tour.Buttons().empty()) {
-        IvMessageBox(Translate("No Data on the report"));
+        tour.TellOfNoData();
         return false;
     }
     if (!TryToMatchTourPoints(tour)) {
-        ShowFailure("<ERROR #0004>");
+        ShowFailure("<ERROR #0004>", SeeTheLog());
         return false;
     }
     return true;
@@ -114,13 +120,13 @@ bool WriteTable(cTourReport& tour, const TourReportRequest& request, TourExcepti
     const auto make = [] {
         const bool made = TourExceptionTable::ResetTempTourTable();
         if (!made)
-            ShowFailure("<ERROR #0005>");
+            ShowFailure("<ERROR #0005>", SeeTheLog());
         return made;
     };
     return table.Fill(make, [&] {
         const auto outcomes = AssignTouches(tour);
         if (!outcomes) {
-            ShowFailure("<ERROR #0006>");
+            ShowFailure("<ERROR #0006>", SeeTheLog());
             return false;
         }
         counts = CountPoints(tour, *outcomes);
@@ -142,6 +148,7 @@ void Print(const cTourReport& tour, const TourReportRequest& request, const Poin
                            {u"lblCompanyInfo", CompanyText()},
                            {u"lblSummary", PointSummary(counts)},
                            {u"lblOptions", Translate(request.IncludeEvents ? "Yes" : "No")}});
+    NameDocument(report, {tour.TourName, request.ReaderText}, tour.StartDate, tour.StartDate);
     SetFrameText(report, u"Label17", u"Label19", u"Label16", u"lblEndOfReport");
     report.SetText({{u"lblTitleReaderID", Translate("Reader ID:")},
                     {u"lblDate", Translate("Tour Date:")},
@@ -177,7 +184,7 @@ void BuildTourReport(const TourReportRequest& request, ReportViewer& viewer) {
             [](const RunTimeError& error) {
                 ReportError(QStringLiteral("BuildTourReport of Form frmRptTour"), error,
                             ErrorShow::LogOnly);
-                ShowFailure("<ERROR #9999>");
+                ShowFailure("<ERROR #9999>", CauseOf(error, gDatabasePath));
             });
     table.Close();
     TourExceptionTable::Drop();

@@ -4,6 +4,7 @@
 #include "Recordset.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
+#include "mReports.h"
 #include "mTranslations.h"
 
 namespace {
@@ -84,7 +85,7 @@ bool cTourReport::LoadReaderEvents() {
     return Guarded("LoadReaderEvents of Class Module cTourReport", [this] {
         const bool any = ReadReaderEvents();
         if (!any)
-            IvMessageBox(Translate("No Data on the report"));
+            TellOfNoData();
         return any;
     });
 }
@@ -108,6 +109,13 @@ bool cTourReport::ReadReaderEvents() {
             m_buttons.back().Events.push_back(EventOf(rows));
     }
     return rows.RecordCount() > 0;
+}
+
+void cTourReport::TellOfNoData() const {
+    IvMessageBox(Translate("No Data on the report"),
+                 SearchedText({{QT_TR_NOOP("Reader"), ReaderTextOf(ReaderId)},
+                               {QT_TR_NOOP("Tour"), GetTourFullName()}},
+                              m_GetStartDate(), m_GetEndDate()));
 }
 
 DateTime cTourReport::m_GetStartDate() const {

@@ -38,6 +38,8 @@ public:
     bool LoadReaderEvents();
     /// The same without the message. Throws RunTimeError.
     bool ReadReaderEvents();
+    /// A message box: what was searched holds nothing for the report. The tour must have points.
+    void TellOfNoData() const;
 
 private:
     /// The range of the query for events. The tour must have points.

@@ -8,6 +8,7 @@
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
 #include "TestTable.h"
+#include "UserLocale.h"
 #include "mSettings.h"
 #include "mTranslations.h"
 
@@ -164,6 +165,23 @@ private slots:
         QCOMPARE(GetSetting("Other", "Info", "Line", "fallback"), "fallback");
     }
 
+    // A disk that fills up in the middle of the file.
+    void SettingsThatAreCut() {
+        const TestHome home(TestHome::NoStore);
+        const QString before(500, u'b');
+        SaveSetting("Wardlock Lite", "Info", "Line", before);
+        const QString file = home.File("config/Wardlock/Wardlock Lite.conf");
+        const QByteArray whole = BytesOf(file);
+        for (const rlim_t most : {0, 100, 700}) {
+            {
+                const ResourceLimit limit(RLIMIT_FSIZE, most);
+                SaveSetting("Wardlock Lite", "Info", "Other", QString(600, u'o'));
+            }
+            QCOMPARE(BytesOf(file), whole);
+        }
+        QCOMPARE(QDir(home.File("config/Wardlock")).entryList(QDir::Files).size(), 1);
+    }
+
     // One message, not one for each write. There is another one after a write has succeeded.
     void SettingsThatCannotBeWritten() {
         const TestHome home(TestHome::NoStore);
@@ -201,9 +219,9 @@ private slots:
             if (!content.isEmpty())
                 WriteBytes(home.File("WK3.MLD"), content);
             ScriptedBoxes boxes;
-            gLanguage = 2;
+            gLanguage = 99;
             OpenDictionary();
-            QCOMPARE(boxes.TakeTexts(), QStringList{"Language 2 could not be displayed\n"
+            QCOMPARE(boxes.TakeTexts(), QStringList{"Language 99 could not be displayed\n"
                                                     "Resetting to default system language..."});
             QCOMPARE(gLanguage, 1);
             QCOMPARE(GetSetting(SettingsApplication, "Properties", "Language"), "1");
@@ -284,11 +302,31 @@ private slots:
         QCOMPARE(Translate("no such entry %0:s"), "no such entry %0:s");
         IvMessageBox("x", MessageKind::Question, MessageButtons::YesNo);
         QCOMPARE(boxes.Messages.value(0).buttonTexts, (QStringList{"Ja", "Nein"}));
-        gLanguage = 3;
+        gLanguage = 99;
         OpenDictionary();
         QCOMPARE(boxes.Messages.size(), 2);
         QCOMPARE(Translate("MISSING") + ofQt(), "MISSING&Copy");
         gDictionary.reset();
+        gLanguage = -1;
+    }
+
+    void DatesFollowTheLanguage() {
+        const TestHome home(TestHome::NoStore);
+        QVERIFY(QFile::copy(BESIDE + "/WK3.MLD", home.File("WK3.MLD")));
+        const std::tuple<const char*, int, const char*> locales[] = {
+            {"de_AT", 2, "de_AT"}, {"en_US", 2, "de_DE"}, {"C", 2, "de_DE"},
+            {"de_DE", 0, "en_DE"}, {"it_IT", 0, "en_GB"}, {"it_IT", 1, "en_US"},
+            {"en_US", 0, "en_US"}, {"C", 0, "C"},         {"de_CH", -1, "de_CH"}};
+        for (const auto& [machine, language, shown] : locales) {
+            QLocale::setDefault(QLocale(machine));
+            gLanguage = language;
+            OpenDictionary();
+            OpenChosenLanguage(); // again, as the station does when the language is changed
+            QCOMPARE(QLocale().name(), shown);
+            QCOMPARE(MachineLocale().name(), machine);
+            gDictionary.reset();
+            QCOMPARE(QLocale().name(), machine);
+        }
         gLanguage = -1;
     }
 };

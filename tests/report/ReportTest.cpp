@@ -11,6 +11,7 @@
 #include "TestTable.h"
 #include "darTourException.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QImage>
 #include <QPainter>
@@ -388,6 +389,30 @@ private slots:
             QVERIFY2(info.contains("CreationDate: D:20261105220758"), qPrintable(info));
             QVERIFY(BytesOf(path).contains("/Lang (de)\n"));
         }
+    }
+
+    // The texts of these pages have no letter of the language.
+    void MirroredFromRightToLeft() {
+        const CountedRows source(20);
+        const auto report = SmallReport();
+        report->SetDataSource(&source);
+        const auto ink = [&] { return InkWithin(Painted(*report, 0), 118, 11); };
+        QVERIFY(std::abs(ink().left - 55) < 1);
+        const double width = ink().right - ink().left;
+        const QByteArray text = ReportText(*report);
+        report->SetLanguage("ar");
+        const Ink mirrored = ink();
+        QVERIFY2(std::abs(mirrored.right - 155) < 1 &&
+                     std::abs(mirrored.right - mirrored.left - width) < 0.3,
+                 qPrintable(QString::number(mirrored.right)));
+        QString marked = QString::fromUtf8(ReportText(*report));
+        QVERIFY(marked.contains(QStringLiteral("\n\u200F\u2068Row 1\u2069\n")));
+        QCOMPARE(marked.remove(QRegularExpression("[\u200F\u2068\u2069]")).toUtf8(), text);
+        QBuffer pdf;
+        QVERIFY(pdf.open(QIODevice::WriteOnly) && ExportPdf(*report, pdf));
+        QVERIFY(pdf.data().contains("/Lang (ar)\n/ViewerPreferences << /Direction /R2L >>\n"));
+        report->SetLanguage("de");
+        QVERIFY(std::abs(ink().left - 55) < 1);
     }
 
     void PlaceholdersAreTheLayoutsOnly() {

@@ -5,6 +5,7 @@
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
 #include "TestTable.h"
+#include "WindowPlace.h"
 #include "frmAddButton.h"
 #include "frmEditButton.h"
 #include "frmEditTime.h"
@@ -15,6 +16,8 @@
 #include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QListView>
+#include <QScreen>
 #include <QTabBar>
 #include <QTimeEdit>
 
@@ -411,6 +414,72 @@ private slots:
         QCOMPARE(m_boxes.TakeTexts().size(), 1);
         Press(*moved, "cmdCancel");
         QVERIFY(!moved->isVisible() && m_boxes.TakeTexts().isEmpty());
+    }
+
+    // Columns fit their rows, and stay as the operator made them: in a narrower list, and in the
+    // next run.
+    void ColumnsAreKept() {
+        gConn->Execute(
+            "UPDATE tblListItems SET tName = 'A site with a name of thirty-eight letters' "
+            "WHERE ID = 1");
+        auto page = Page(Sites);
+        const auto header = [&] { return Control<QTreeView>(*page, "lvwProgram")->header(); };
+        QTRY_COMPARE(header()->length(), header()->viewport()->width());
+        const QAbstractItemView* view = Control<QTreeView>(*page, "lvwProgram");
+        QVERIFY(header()->sectionSize(0) > view->sizeHintForColumn(0));
+        header()->resizeSection(0, header()->length() / 4);
+        QCOMPARE(header()->length(), header()->viewport()->width());
+        page->resize(600, 400);
+        QVERIFY(std::abs(header()->sectionSize(0) * 4 - header()->length()) < 12);
+        Control<QTabBar>(*page, "tabSetup")->setCurrentIndex(TourTab);
+        QVERIFY(header()->sectionSize(0) * 3 > header()->length());
+        page = Page(Sites);
+        QVERIFY(std::abs(header()->sectionSize(0) * 4 - header()->length()) < 12);
+    }
+
+    // What is typed in the list of sites searches; only an entry that is chosen becomes the value.
+    void SitesAreSearched() {
+        const auto editor = Editor();
+        auto* sites = Control<QComboBox>(*editor, "imgCboSites");
+        auto* search = Control<QLineEdit>(*sites, "txtSearch");
+        sites->setFocus();
+        QTest::keyClick(sites, Qt::Key_T); // in both names
+        QTest::keyClicks(search, "OW");
+        QCOMPARE(RowsIn(*Control<QListView>(*sites, "lvwFound")), QStringList("Office Tower"));
+        QTest::keyClick(search, Qt::Key_Escape);
+        QCOMPARE(sites->currentText(), "Harbour Warehouse");
+        sites->showPopup();
+        QTest::keyClicks(Control<QListView>(*sites, "lvwFound"), "xyz");
+        QTest::keyClick(search, Qt::Key_Return);
+        QVERIFY(search->isVisible());
+        QCOMPARE(sites->currentText(), "Harbour Warehouse");
+        search->setText("tow");
+        QTest::keyClick(search, Qt::Key_Return);
+        QVERIFY(!search->isVisible() && editor->isVisible());
+        QCOMPARE(sites->currentText(), "Office Tower");
+        QVERIFY(RowsIn(*Control<QTreeView>(*editor, "lvwLocations"))
+                    .join(u'\n')
+                    .contains("Server room"));
+    }
+
+    // A dialog opens as it was left, but not beyond the screen.
+    void DialogsRememberTheirPlace() {
+        const auto shown = [&](const QRect& place) {
+            frmEditButton dialog(nullptr);
+            RememberPlace(dialog);
+            dialog.show();
+            const QRect was(dialog.pos(), dialog.size());
+            dialog.move(place.topLeft());
+            dialog.resize(place.size());
+            dialog.hide();
+            return was;
+        };
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        const QRect inside(30, 40, 420, 260);
+        shown(inside);
+        QCOMPARE(shown(QRect(-5000, 40, 9000, 260)), inside);
+        QVERIFY(screen.contains(shown(QRect(screen.right() - 100, 40, 420, 260))));
+        QVERIFY(screen.contains(shown(inside)));
     }
 
     // What cannot be saved stays in the editor.

@@ -4,6 +4,7 @@
 #include "RowSource.h"
 #include "RunTimeError.h"
 
+#include <QLocale>
 #include <QPagedPaintDevice>
 
 DataReport::DataReport(ReportLayout layout)
@@ -11,6 +12,12 @@ DataReport::DataReport(ReportLayout layout)
     m_fonts.reserve(m_layout.fonts.size());
     for (const FontFace& face : m_layout.fonts)
         m_fonts.emplace_back(m_layout.fontFamilies, face);
+}
+
+void DataReport::SetLanguage(const QString& language) {
+    m_language = language;
+    m_rightToLeft = !language.isEmpty() && QLocale(language).textDirection() == Qt::RightToLeft;
+    m_fitted.clear(); // texts that were aligned for the other direction
 }
 
 ReportSection& DataReport::Sections(QStringView name) {
@@ -79,7 +86,8 @@ void DataReport::PaintPage(QPainter& painter, int page, DateTime printedAt) cons
     PagePainter canvas(painter, m_fonts, m_fitted,
                        {QString::number(page + 1), QString::number(PageCount()),
                         Format(printedAt, QStringLiteral("Short Date")),
-                        Format(printedAt, QStringLiteral("Short Time"))});
+                        Format(printedAt, QStringLiteral("Short Time"))},
+                       m_rightToLeft ? m_layout.contentWidth : 0);
     QPoint at((m_layout.page.width() - m_layout.contentWidth) / 2, m_layout.marginTop);
     const auto paintSection = [&](SectionKind kind) {
         if (const ReportSection* section = m_layout.SectionOf(kind)) {

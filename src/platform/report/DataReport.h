@@ -33,12 +33,18 @@ public:
     const QString& Caption() const { return m_caption; }
     void SetCaption(const QString& caption) { m_caption = caption; }
 
-    /// Who makes the report and the language of its texts, such as "de"; both for PDF, and empty if
-    /// not set.
+    /// What distinguishes this report from others, for the name of a file: the title, with the
+    /// tour, reader and dates. The title alone if not set.
+    QString DocumentName() const { return m_documentName.isEmpty() ? m_caption : m_documentName; }
+    void SetDocumentName(const QString& name) { m_documentName = name; }
+
+    /// Who makes the report and the language of its texts, such as "de"; empty if not set. In a
+    /// language that is written from right to left, the pages are mirrored (PagePainter.h).
     const QString& Author() const { return m_author; }
     void SetAuthor(const QString& author) { m_author = author; }
     const QString& Language() const { return m_language; }
-    void SetLanguage(const QString& language) { m_language = language; }
+    void SetLanguage(const QString& language);
+    bool RightToLeft() const { return m_rightToLeft; }
 
     const ReportLayout& Layout() const { return m_layout; }
     /// The section of that name; upper and lower case are the same. It belongs to the report.
@@ -92,8 +98,10 @@ private:
     std::vector<ReportFont> m_fonts;
     mutable FittedTexts m_fitted{500};
     QString m_caption;
+    QString m_documentName;
     QString m_author;
     QString m_language;
+    bool m_rightToLeft = false;
     const RowSource* m_rows = nullptr;
     std::array<std::vector<int>, SectionKinds> m_columns;
     Pagination m_pages;

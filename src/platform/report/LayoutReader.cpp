@@ -1,9 +1,9 @@
 #include "CheckedJson.h"
 #include "ReportLayout.h"
 #include "RunTimeError.h"
+#include "UserLocale.h"
 
 #include <QFile>
-#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -23,9 +23,9 @@ int Length(CheckedJson& node, const char* key, std::optional<double> otherwise =
     return static_cast<int>(std::lround(node.Number(key, 0, LongestMillimetres, otherwise) * 100));
 }
 
-/// The countries whose offices print on Letter paper.
+/// The countries whose offices print on Letter paper. The printer is where the machine is.
 bool CountryUsesLetter() {
-    switch (QLocale().territory()) {
+    switch (MachineLocale().territory()) {
     case QLocale::Belize:
     case QLocale::Canada:
     case QLocale::Chile:

@@ -42,8 +42,9 @@ QString PageWords::Expanded(const QString& pattern) const {
 }
 
 PagePainter::PagePainter(QPainter& painter, const std::vector<ReportFont>& fonts,
-                         FittedTexts& fitted, PageWords words)
-    : m_painter(painter), m_fonts(fonts), m_fitted(fitted), m_words(std::move(words)) {
+                         FittedTexts& fitted, PageWords words, int mirroredWidth)
+    : m_painter(painter), m_fonts(fonts), m_fitted(fitted), m_words(std::move(words)),
+      m_mirroredWidth(mirroredWidth) {
     m_painter.save();
     m_painter.setRenderHint(QPainter::TextAntialiasing);
     // A rule must be one sharp line, not two grey ones.
@@ -88,10 +89,23 @@ void PagePainter::PaintFixed(const ReportControl& control, QPoint origin) {
     }
 }
 
+QRect PagePainter::BoxOf(const ControlStyle& style, QPoint origin) const {
+    QRect box = style.box;
+    if (m_mirroredWidth > 0)
+        box.moveLeft(m_mirroredWidth - box.left() - box.width());
+    return box.translated(origin);
+}
+
+Qt::Alignment PagePainter::AlignmentOf(const ControlStyle& style) const {
+    constexpr Qt::Alignment sides = Qt::AlignLeft | Qt::AlignRight;
+    const bool atASide = (style.alignment & sides) != 0;
+    return m_mirroredWidth > 0 && atASide ? style.alignment ^ sides : style.alignment;
+}
+
 void PagePainter::PaintLine(const ControlStyle& style, QPoint origin) {
-    const QPoint from = style.box.topLeft() + origin;
-    const QPoint to = from + QPoint(style.box.width(), style.box.height());
-    DrawLine(from, to, style.colour, style.thickness);
+    const QRect box = BoxOf(style, origin);
+    const QPoint to = box.topLeft() + QPoint(box.width(), box.height());
+    DrawLine(box.topLeft(), to, style.colour, style.thickness);
 }
 
 /// The thickness is a whole number of the device's dots, so that equal lines look equal everywhere.
@@ -109,7 +123,7 @@ void PagePainter::PaintText(const ControlStyle& style, QPoint origin, const QStr
                             bool mayHaveLines) {
     if (text.isEmpty())
         return;
-    const QRectF box = style.box.translated(origin);
+    const QRectF box = BoxOf(style, origin);
     if (IsRule(text)) {
         PaintRule(style, box, text);
         return;
@@ -139,9 +153,10 @@ void PagePainter::PaintRule(const ControlStyle& style, const QRectF& box, const 
     const qreal down =
         FirstBaseline(style, box, 1) +
         (text.startsWith(u'-') ? -font.StrikeOutPosition() : font.UnderlinePosition());
-    const QPointF from(box.left(), std::min(down, box.bottom() - font.LineThickness()));
-    DrawLine(from, from + QPointF(std::min(width, box.width()), 0), style.colour,
-             font.LineThickness());
+    const qreal length = std::min(width, box.width());
+    const qreal left = m_mirroredWidth > 0 ? box.right() - length : box.left();
+    const QPointF from(left, std::min(down, box.bottom() - font.LineThickness()));
+    DrawLine(from, from + QPointF(length, 0), style.colour, font.LineThickness());
 }
 
 bool PagePainter::PaintPlainly(const ControlStyle& style, const QRectF& box,
@@ -152,13 +167,14 @@ bool PagePainter::PaintPlainly(const ControlStyle& style, const QRectF& box,
             return font.SurelyFits(line, box.width());
         }))
         return false;
+    const Qt::Alignment alignment = AlignmentOf(style);
     qreal baseline = FirstBaseline(style, box, lines.size());
     for (const QString& line : lines) {
         if (!line.isEmpty()) {
             qreal left = box.left() + font.LeftOverhang(line.front());
-            if (style.alignment & Qt::AlignRight)
+            if (alignment & Qt::AlignRight)
                 left = box.right() - font.Width(line) - font.RightOverhang(line.back());
-            else if (style.alignment & Qt::AlignHCenter)
+            else if (alignment & Qt::AlignHCenter)
                 left = box.left() + (box.width() - font.Width(line)) / 2;
             m_painter.drawText(QPointF(left, baseline), line);
         }
@@ -174,7 +190,7 @@ void PagePainter::PaintFitted(const ControlStyle& style, const QRectF& box,
         kept->Paint(m_painter, box.topLeft());
         return;
     }
-    auto text = std::make_unique<FittedText>(FontOf(style), lines, box.size(), style.alignment);
+    auto text = std::make_unique<FittedText>(FontOf(style), lines, box.size(), AlignmentOf(style));
     text->Paint(m_painter, box.topLeft());
     m_fitted.insert(key, text.release());
 }

@@ -27,10 +27,15 @@ using FittedTexts = QCache<std::pair<const ControlStyle*, QString>, FittedText>;
 
 /// Paints the sections of one page. The painter's unit is a hundredth of a millimetre. Its
 /// destructor restores the painter's state.
+///
+/// A page can be mirrored, for a language that is written from right to left: each control changes
+/// sides within its section, and what was aligned to the left is aligned to the right. The texts
+/// themselves run as their letters demand: numbers and codes are the same on both pages.
 class PagePainter {
 public:
+    /// `mirroredWidth` is the width of the sections if the page is mirrored, and 0 if not.
     PagePainter(QPainter& painter, const std::vector<ReportFont>& fonts, FittedTexts& fitted,
-                PageWords words);
+                PageWords words, int mirroredWidth);
     ~PagePainter();
     PagePainter(const PagePainter&) = delete;
     PagePainter& operator=(const PagePainter&) = delete;
@@ -43,6 +48,8 @@ public:
 
 private:
     void PaintFixed(const ReportControl& control, QPoint origin);
+    QRect BoxOf(const ControlStyle& style, QPoint origin) const;
+    Qt::Alignment AlignmentOf(const ControlStyle& style) const;
     void PaintLine(const ControlStyle& style, QPoint origin);
     void DrawLine(QPointF from, QPointF to, const QColor& colour, qreal thickness);
     void PaintText(const ControlStyle& style, QPoint origin, const QString& text,
@@ -59,6 +66,7 @@ private:
     const std::vector<ReportFont>& m_fonts;
     FittedTexts& m_fitted;
     PageWords m_words;
+    int m_mirroredWidth;
     int m_font = -1; ///< the painter's present font; its present colour follows
     QColor m_colour;
 };

@@ -108,6 +108,8 @@ void PdfStream::AppendProperties() {
     entries = Entry("/Type", "/Catalog") + Entry("/Pages", pages.captured(1).toLatin1());
     if (!m_properties.language.isEmpty())
         entries += Entry("/Lang", '(' + m_properties.language.toLatin1() + ')');
+    if (m_properties.rightToLeft)
+        entries += Entry("/ViewerPreferences", "<< /Direction /R2L >>");
     more += Dictionary(root, entries);
     const qint64 tableAt = m_size + more.size();
     more += "xref\n" + TableLine(info, m_size) + TableLine(root, rootAt) + "trailer\n<<\n" +

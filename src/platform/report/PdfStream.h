@@ -9,8 +9,9 @@
 struct PdfProperties {
     QString title;
     QString author;
-    QString language; ///< such as "de"
-    DateTime created; ///< local time
+    QString language;         ///< such as "de"
+    bool rightToLeft = false; ///< a viewer then turns the pages from right to left
+    DateTime created;         ///< local time
 };
 
 /// Passes a document of QPdfWriter on to a device while it is written, and adds what that writer

@@ -133,7 +133,13 @@ private:
     void AddLine(QString line) {
         while (line.endsWith(u' '))
             line.chop(1);
+        if (m_report.RightToLeft() && !line.isEmpty())
+            line.prepend(QChar(0x200F));
         m_text += WithoutControls(line).toUtf8() + '\n';
+    }
+
+    QString Isolated(const QString& text) const {
+        return m_report.RightToLeft() ? QChar(0x2068) + text + QChar(0x2069) : text;
     }
 
     QString TextOf(const ReportControl& label) const {
@@ -185,7 +191,8 @@ private:
             width = std::max(width, pair.label.size() + 2);
         for (const Pair& pair : pairs) {
             if (!pair.label.isEmpty())
-                AddLine(pair.label.leftJustified(width) + pair.value);
+                AddLine(Isolated(pair.label) + QString(width - pair.label.size(), u' ') +
+                        Isolated(pair.value));
             else
                 for (const QString& line : pair.value.split(u'\n'))
                     if (const QString text = line.trimmed(); !text.isEmpty())
@@ -221,6 +228,7 @@ private:
 
     void WriteLine(const std::vector<Place>& places, qsizetype row) {
         QString line;
+        qsizetype length = 0; // of what can be seen of it
         for (const auto& [control, column] : places) {
             QString text = column < 0
                                ? TextOf(*control)
@@ -229,10 +237,11 @@ private:
                 continue;
             if (IsRule(text))
                 text.truncate(Letters(control->Style().box.width()));
-            if (!line.isEmpty())
-                line += u' ';
-            line = line.leftJustified(Letters(control->Style().box.left())) +
-                   text.replace(u'\n', u' ').remove(u'\r');
+            text.replace(u'\n', u' ').remove(u'\r');
+            const qsizetype left = std::max<qsizetype>(length + (line.isEmpty() ? 0 : 1),
+                                                       Letters(control->Style().box.left()));
+            line += QString(left - length, u' ') + Isolated(text);
+            length = left + text.size();
         }
         AddLine(line);
     }

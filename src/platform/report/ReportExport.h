@@ -18,6 +18,11 @@
 /// - the rows with the headers and footers of their groups. Each text is placed as on paper, or
 ///   further to the right if there is no room.
 /// - the report footer.
+///
+/// In a language that is written from right to left, the first column still comes first: the
+/// program that shows the text puts it on the right. So that it does, each line begins with the
+/// mark U+200F, and each text is isolated from its neighbours (U+2068, U+2069). The marks take no
+/// room.
 QByteArray ReportText(const DataReport& report);
 
 /// Comma-separated: a line of the columns' names, then the rows. Every field is quoted.

@@ -21,7 +21,8 @@ namespace {
 
 bool ExportPdf(const DataReport& report, QIODevice& device, const WorkProgress& progress) {
     const DateTime printedAt = Now();
-    PdfStream stream(device, {report.Caption(), report.Author(), report.Language(), printedAt});
+    PdfStream stream(device, {report.Caption(), report.Author(), report.Language(),
+                              report.RightToLeft(), printedAt});
     QPdfWriter writer(&stream);
     writer.setPageSize(report.Paper());
     writer.setPageMargins(QMarginsF());

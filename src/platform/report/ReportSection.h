@@ -54,7 +54,7 @@ struct ControlStyle {
     QRect box;                 ///< within its section
     int font = 0;              ///< position in ReportLayout::fonts
     QColor colour = Qt::black; ///< of text or line
-    Qt::Alignment alignment;   ///< absolute: left is left in every language
+    Qt::Alignment alignment;   ///< as box, for a page that is not mirrored
     int thickness = 0;         ///< of a line, which is centred on its box's top or left edge
 };
 

@@ -1,7 +1,6 @@
 #include "RowListModel.h"
 
 #include <QCollator>
-#include <QEvent>
 #include <QTreeView>
 
 #include <algorithm>
@@ -143,43 +142,4 @@ void SelectPlace(QTreeView& list, int place) {
     const int last = list.model()->rowCount() - 1;
     if (place >= 0 && last >= 0)
         list.setCurrentIndex(list.model()->index(std::min(place, last), 0));
-}
-
-namespace {
-
-/// Belongs to a list and keeps the shares of its columns.
-class ColumnShares : public QObject {
-public:
-    explicit ColumnShares(QTreeView& list) : QObject(&list), m_list(list) {
-        setObjectName(QStringLiteral("columnShares"));
-        list.viewport()->installEventFilter(this);
-    }
-    void Set(const QList<int>& hundredths) {
-        m_hundredths = hundredths;
-        Apply();
-    }
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Resize)
-            Apply();
-        return false;
-    }
-
-private:
-    void Apply() {
-        const int width = m_list.viewport()->width();
-        for (int column = 0; column < m_hundredths.size(); ++column)
-            m_list.setColumnWidth(column, width * m_hundredths[column] / 100);
-    }
-
-    QTreeView& m_list;
-    QList<int> m_hundredths;
-};
-
-} // namespace
-
-void ShareWidth(QTreeView& list, const QList<int>& hundredths) {
-    QObject* shares = list.findChild<QObject*>(QStringLiteral("columnShares"));
-    if (!shares)
-        shares = new ColumnShares(list);
-    static_cast<ColumnShares*>(shares)->Set(hundredths);
 }

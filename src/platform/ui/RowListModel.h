@@ -62,5 +62,3 @@ int SelectedPlace(const QTreeView& list);
 /// Selects the row at a place and scrolls to it. A place beyond the end means the last row; one
 /// below 0 does nothing.
 void SelectPlace(QTreeView& list, int place);
-/// Gives each column its share of the width, in hundredths, now and whenever the list is resized.
-void ShareWidth(QTreeView& list, const QList<int>& hundredths);

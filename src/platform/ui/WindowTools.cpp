@@ -1,10 +1,12 @@
 #include "WindowTools.h"
 
+#include "PaletteIcon.h"
 #include "RunTimeError.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDateTimeEdit>
 #include <QDir>
 #include <QFocusEvent>
@@ -15,6 +17,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTimer>
 #include <QToolBar>
 
@@ -88,10 +91,16 @@ void TranslateWindow(QWidget& window, const TranslateText& translate) {
         } else if (qobject_cast<QGroupBox*>(child) || qobject_cast<QMenu*>(child)) {
             TranslateProperty(*child, "title", translate);
         }
+        if (qobject_cast<QLineEdit*>(child))
+            TranslateProperty(*child, "placeholderText", translate);
         if (qobject_cast<QWidget*>(child)) {
             TranslateProperty(*child, "toolTip", translate);
             TranslateProperty(*child, "accessibleName", translate);
         }
+        // On Linux, a screen reader gets the value of a combo box as its name.
+        if (auto* combo = qobject_cast<QComboBox*>(child);
+            combo && !combo->accessibleName().isEmpty())
+            combo->setAccessibleDescription(combo->accessibleName());
     }
 }
 
@@ -103,7 +112,12 @@ MessageAnswer WindowMessageBoxes::Show(const Message& message) {
     box.setIcon(IconOf(message.kind));
     box.setWindowTitle(message.caption);
     box.setTextFormat(Qt::PlainText);
-    box.setText(message.text);
+    box.setText(message.text + message.aboutButtons);
+    if (!message.advice.isEmpty()) {
+        box.setInformativeText(message.advice);
+        for (auto* label : box.findChildren<QLabel*>()) // names may look like HTML
+            label->setTextFormat(Qt::PlainText);
+    }
     const QList<MessageAnswer> answers = AnswersOf(message.buttons);
     QList<QAbstractButton*> buttons;
     for (qsizetype i = 0; i < answers.size(); ++i) {
@@ -165,6 +179,22 @@ void SelectSectionOnFocus(QDateTimeEdit& field) {
 
 void SelectAllOnFocus(QLineEdit& field) { field.installEventFilter(new SelectingFilter(&field)); }
 
+void EnterGroupsAtChecked(QWidget& window) {
+    for (QRadioButton* button : window.findChildren<QRadioButton*>()) {
+        const auto enter = [button] {
+            for (QRadioButton* other : button->parentWidget()->findChildren<QRadioButton*>(
+                     QString(), Qt::FindDirectChildrenOnly))
+                other->setFocusPolicy(other == button ? Qt::StrongFocus : Qt::ClickFocus);
+        };
+        QObject::connect(button, &QRadioButton::toggled, button, [enter](bool checked) {
+            if (checked)
+                enter();
+        });
+        if (button->isChecked())
+            enter();
+    }
+}
+
 void FocusAndSelect(QLineEdit& field) {
     field.setFocus();
     field.selectAll();
@@ -186,9 +216,9 @@ ArrowPointer::~ArrowPointer() {
 
 QIcon ProgramIcon(const QString& name) {
     const QString path = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");
-    QIcon icon(path);
-    icon.addFile(path, {}, QIcon::Selected); // not tinted with the selection's colour
-    return icon;
+    // These two are pictures with a background of their own.
+    const bool isPicture = name == u"wardlock" || name == u"splash";
+    return isPicture ? QIcon(path) : PaletteIcon(path);
 }
 
 void ShowIcon(QLabel& label, const QString& name) {

@@ -1,6 +1,7 @@
 #include "frmEditTour.h"
 
 #include "Format.h"
+#include "ListColumns.h"
 #include "LookUps.h"
 #include "NameField.h"
 #include "Number.h"
@@ -41,8 +42,6 @@ frmEditTour::frmEditTour(QWidget* parent)
     SelectAllOnFocus(*m_ui->txtTolerance);
     m_drag = new TourListDrag(*m_ui->lvwLocations, *m_ui->lvwSelected);
     connect(m_drag, &TourListDrag::Dropped, this, &frmEditTour::DropOn);
-    // As wide as the layout allows, not as wide as its longest name.
-    m_ui->imgCboSites->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_ui->imgCboSites->setMinimumContentsLength(20);
     connect(m_ui->imgCboSites, &QComboBox::currentIndexChanged, this,
             [this] { Guarded("FillLocations of Form frmEditTour", [this] { FillLocations(); }); });
@@ -92,8 +91,8 @@ void frmEditTour::Populate() {
         m_selected.SetColumns(
             {Translate("Minutes"), Translate("Site"), Translate("Location"), Translate("Time")});
         m_selected.SetIcon(icon);
-        ShareWidth(*m_ui->lvwLocations, {50, 49});
-        ShareWidth(*m_ui->lvwSelected, {17, 33, 33, 16});
+        ManageColumns(*m_ui->lvwLocations, QStringLiteral("frmEditTour.Locations"));
+        ManageColumns(*m_ui->lvwSelected, QStringLiteral("frmEditTour.Selected"));
         FillSites();
         FillLocations();
         m_draft.Load(GroupID);

@@ -1,5 +1,6 @@
 #include "frmListEdit.h"
 
+#include "ListColumns.h"
 #include "NameField.h"
 #include "WindowTools.h"
 #include "frmAddButton.h"
@@ -36,7 +37,7 @@ frmListEdit::frmListEdit(DockingLink& link, QWidget* parent)
     TranslateWindow(*this, Translated);
     m_buttons.SetColumns({Translate("Button ID"), Translate("Name"), Translate("Description")});
     JoinList(*m_ui->lvwItems, m_buttons);
-    ShareWidth(*m_ui->lvwItems, {20, 40, 39});
+    ManageColumns(*m_ui->lvwItems, QStringLiteral("frmListEdit"), {20, 40, 40});
     m_ui->lvwItems->sortByColumn(NameColumn, Qt::AscendingOrder);
     SelectAllOnFocus(*m_ui->txtName);
     // A new button can only be read from a reader in the station.

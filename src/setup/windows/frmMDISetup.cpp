@@ -1,6 +1,7 @@
 #include "frmMDISetup.h"
 
 #include "Format.h"
+#include "ListColumns.h"
 #include "WindowTools.h"
 #include "frmAddReader.h"
 #include "frmCopyTour.h"
@@ -12,6 +13,7 @@
 #include "ui_frmMDISetup.h"
 
 #include <QKeyEvent>
+#include <QShortcut>
 
 const QList<frmMDISetup::Kind>& frmMDISetup::Kinds() {
     using Page = frmMDISetup;
@@ -25,25 +27,25 @@ const QList<frmMDISetup::Kind>& frmMDISetup::Kinds() {
          "location",
          SiteGroup,
          {QT_TR_NOOP("Name"), QT_TR_NOOP("Description")},
-         {40, 59},
+         {40, 60},
          groups},
         {QT_TR_NOOP("Event Books"),
          "event",
          EventBookGroup,
          {QT_TR_NOOP("Name"), QT_TR_NOOP("Description")},
-         {40, 59},
+         {40, 60},
          groups},
         {QT_TR_NOOP("Tours"),
          "tour",
          UserGroup,
          {QT_TR_NOOP("Tour Name"), QT_TR_NOOP("Start Time"), QT_TR_NOOP("Description")},
-         {40, 15, 44},
+         {40, 15, 45},
          tours},
         {QT_TR_NOOP("Readers"),
          "reader",
          UserGroup,
          {QT_TR_NOOP("Reader ID"), QT_TR_NOOP("Description")},
-         {30, 69},
+         {30, 70},
          readers},
     };
     return kinds;
@@ -63,6 +65,14 @@ frmMDISetup::frmMDISetup(DockingLink& link, QWidget* parent)
     connect(m_ui->cmdSetup_1, &QPushButton::clicked, this, [this] { Do(&Actions::add); });
     connect(m_ui->cmdSetup_2, &QPushButton::clicked, this, [this] { Do(&Actions::remove); });
     connect(m_ui->cmdTourCopy, &QPushButton::clicked, this, &frmMDISetup::cmdTourCopy_Click);
+    for (const int step : {1, -1}) {
+        auto* shortcut = new QShortcut(this);
+        shortcut->setKeys(step > 0 ? QKeySequence::NextChild : QKeySequence::PreviousChild);
+        connect(shortcut, &QShortcut::activated, this, [this, step] {
+            const int tabs = m_ui->tabSetup->count();
+            m_ui->tabSetup->setCurrentIndex((m_ui->tabSetup->currentIndex() + step + tabs) % tabs);
+        });
+    }
     setFocusProxy(m_ui->lvwProgram);
 }
 
@@ -111,7 +121,9 @@ void frmMDISetup::ShowTab() {
     m_rows.SetColumns(headers);
     m_rows.SetIcon(ProgramIcon(QString::fromLatin1(Present().icon)));
     m_ui->lvwProgram->sortByColumn(0, Qt::AscendingOrder);
-    ShareWidth(*m_ui->lvwProgram, Present().widths);
+    ManageColumns(*m_ui->lvwProgram,
+                  QStringLiteral("frmMDISetup.") + QString::fromLatin1(Present().icon),
+                  Present().widths);
     FillList();
     SelectPlace(*m_ui->lvwProgram, 0);
 }

@@ -30,6 +30,7 @@ frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptTour>()), m_viewer(viewer) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
+    EnterGroupsAtChecked(*this);
     PrepareDateField(*m_ui->dtpStartDate);
     connect(m_ui->imgcboReader, &QComboBox::currentIndexChanged, this,
             &frmRptTour::ReadSelectedReader);
