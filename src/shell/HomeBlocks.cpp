@@ -3,6 +3,7 @@
 #include "Clock.h"
 #include "Downloads.h"
 #include "Format.h"
+#include "ListColumns.h"
 #include "TourWords.h"
 #include "WindowTools.h"
 #include "mErrorHandler.h"
@@ -112,10 +113,10 @@ HomeBlocks::HomeBlocks(QWidget* parent) : QWidget(parent) {
     m_tours->setRootIsDecorated(false);
     m_tours->setUniformRowHeights(true);
     m_tours->setAllColumnsShowFocus(true);
-    m_tours->setMinimumHeight(80);
+    m_tours->setMinimumHeight(90);
+    m_tours->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_tours->setColumnCount(MissingColumn + 1);
-    m_tours->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_tours->header()->setStretchLastSection(false);
+    ManageColumns(*m_tours, QStringLiteral("HomeTours"));
     m_tours->installEventFilter(this);
     connect(m_tours, &QTreeWidget::itemClicked, this, &HomeBlocks::OpenCurrent);
     m_noTours = new QLabel(m_toursBox);
