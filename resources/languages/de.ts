@@ -1588,6 +1588,78 @@
         <translation>Nichts ist gewählt</translation>
     </message>
     <message>
+        <source>No sites yet. A site is a place with location buttons. Press Add for a new one, then Edit to give it its buttons.</source>
+        <translation>Noch keine Objekte. Ein Objekt ist ein Ort mit Kontaktstellen. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Kontaktstellen zuordnen.</translation>
+    </message>
+    <message>
+        <source>No event books yet. The buttons of an event book stand for incidents. Press Add for a new one, then Edit to give it its buttons.</source>
+        <translation>Noch keine Ereignisbücher. Die Chips eines Ereignisbuchs stehen für Ereignisse. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Chips zuordnen.</translation>
+    </message>
+    <message>
+        <source>No tours yet. Press Add for a new one, then Edit to choose its locations.</source>
+        <translation>Noch keine Rundgänge. Mit „Neu“ einen anlegen, dann mit „Bearbeiten“ die Kontaktstellen wählen.</translation>
+    </message>
+    <message>
+        <source>No readers yet. Put a reader into the docking station and press Add. Without a docking station no reader can be added.</source>
+        <translation>Noch keine Leser. Einen Leser in die Dockingstation stecken und „Neu“ drücken. Ohne Dockingstation geht das nicht.</translation>
+    </message>
+    <message>
+        <source>No buttons yet. Press Add, then touch the reader in the docking station with a button.</source>
+        <translation>Noch keine Chips. „Neu“ drücken, dann mit einem Chip den Leser in der Dockingstation berühren.</translation>
+    </message>
+    <message>
+        <source>No buttons yet. A new button is read at the docking station, which is not connected.</source>
+        <translation>Noch keine Chips. Ein neuer Chip wird an der Dockingstation gelesen, und die ist nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>This site has no location buttons yet. Add them on the Setup page: select the site and press Edit.</source>
+        <translation>Dieses Objekt hat noch keine Kontaktstellen. Sie werden in der Einrichtung angelegt: das Objekt wählen und „Bearbeiten“ drücken.</translation>
+    </message>
+    <message>
+        <source>The tour has no points yet. Select a location on the left and press Add, in the order of the tour.</source>
+        <translation>Der Rundgang hat noch keine Punkte. Kontaktstellen in der Reihenfolge des Rundgangs wählen und „Hinzufügen“ drücken.</translation>
+    </message>
+    <message>
+        <source>Shows only the rows that contain this text (Ctrl+F).</source>
+        <translation>Zeigt nur die Zeilen, die diesen Text enthalten (Strg+F).</translation>
+    </message>
+    <message>
+        <source>A touch that is early or late by no more minutes than this counts as on time.</source>
+        <translation>Eine Erfassung, die höchstens so viele Minuten zu früh oder zu spät ist, gilt als pünktlich.</translation>
+    </message>
+    <message>
+        <source>For the first point: the minutes since the start of the tour.</source>
+        <translation>Beim ersten Punkt: die Minuten seit dem Beginn des Rundgangs.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; will be lost.</source>
+        <translation>„%0:s“ geht verloren.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; and its buttons will be lost.</source>
+        <translation>„%0:s“ und die zugehörigen Chips gehen verloren.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; and its points will be lost.</source>
+        <translation>„%0:s“ und alle Punkte des Rundgangs gehen verloren.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; will be lost. Touches that are already downloaded are kept.</source>
+        <translation>„%0:s“ geht verloren. Bereits übertragene Erfassungen bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>The name could not be saved. Nothing was changed.</source>
+        <translation>Der Name konnte nicht gespeichert werden. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The password is empty. Anyone could log in without one.</source>
+        <translation>Das Kennwort ist leer. Jeder könnte sich ohne Kennwort anmelden.</translation>
+    </message>
+    <message>
+        <source>Do you want to save it?</source>
+        <translation>Soll es gespeichert werden?</translation>
+    </message>
+    <message>
         <source>Are you sure you want to delete this item?</source>
         <translation>Soll dieser Eintrag wirklich gelöscht werden?</translation>
     </message>

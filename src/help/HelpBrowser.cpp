@@ -42,7 +42,11 @@ QPixmap Framed(const QByteArray& content, int width, double dense, const QColor&
 } // namespace
 
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
-    connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::Dress);
+    // source() still gives the old one during the signal.
+    connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) {
+        m_topic = url.fileName().chopped(3);
+        Dress();
+    });
 }
 
 void HelpBrowser::SetBook(const HelpBook& book) {
@@ -60,8 +64,6 @@ void HelpBrowser::ShowTopic(const QString& topic, int block) {
     verticalScrollBar()->setValue(
         qRound(document()->documentLayout()->blockBoundingRect(wanted).top()));
 }
-
-QString HelpBrowser::Topic() const { return source().fileName().chopped(3); }
 
 QPixmap HelpBrowser::Picture(const QString& name) const {
     const int width = viewport()->width() - qRound(2 * document()->documentMargin());

@@ -6,6 +6,7 @@
 #include "Format.h"
 #include "InstanceLock.h"
 #include "MessageBox.h"
+#include "ReportFont.h"
 #include "StoreFailure.h"
 #include "StoreFolder.h"
 #include "StoreUpkeep.h"
@@ -24,6 +25,7 @@
 #include <QApplication>
 #include <QFileInfo>
 
+#include <cstdio>
 #include <optional>
 
 namespace {
@@ -50,6 +52,11 @@ bool OpenLanguage() {
             WriteLog(QStringLiteral("Setting Dictionary Object, Language = %1").arg(gLanguage));
         OpenDictionary();
         gDictionary->InstallChooser(&frmLanguage::Choose);
+        // A box could not be read either.
+        if (const QString fault = FontFault(PresentLocale()); !fault.isEmpty()) {
+            WriteLog(fault);
+            std::fprintf(stderr, "%s\n", qPrintable(fault));
+        }
         return true;
     };
     return Trapped(open, [](const RunTimeError& error) {

@@ -11,11 +11,13 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDateTimeEdit>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSettings>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
@@ -146,6 +148,16 @@ QSize SmallestSize(const QWidget& window) {
     return size;
 }
 
+/// Hours stand on the left in every language.
+QStringList ReversedTimes(QWidget& window) {
+    QStringList faults;
+    for (const QDateTimeEdit* field : window.findChildren<QDateTimeEdit*>())
+        if ((field->displayedSections() & QDateTimeEdit::HourSection) &&
+            field->text() != field->time().toString(QStringLiteral("HH:mm")))
+            faults += "time: " + Called(*field, field->text());
+    return faults;
+}
+
 /// All faults of a window that is shown, at its usual size and at its smallest. The headings of
 /// lists may be clipped at the smallest size: their columns can be dragged.
 QStringList FaultsOf(QWidget& window) {
@@ -153,7 +165,8 @@ QStringList FaultsOf(QWidget& window) {
         window.resize(800, 500);
     QCoreApplication::processEvents();
     QStringList faults = NamelessWidgets(window) + RepeatedMnemonics(window) +
-                         ClippedTexts(window, "usual size: ") + ClippedHeadings(window);
+                         ReversedTimes(window) + ClippedTexts(window, "usual size: ") +
+                         ClippedHeadings(window);
     window.resize(SmallestSize(window));
     QCoreApplication::processEvents();
     return faults + ClippedTexts(window, "smallest size: ");
@@ -202,6 +215,8 @@ private slots:
     void Shows() {
         QFETCH(const int, language);
         QFETCH(const QString, form);
+        // No window has the size at which the one before was left.
+        QSettings("Wardlock", "Wardlock Lite").remove("Windows");
         gLanguage = language;
         OpenDictionary();
         DockingLink link;

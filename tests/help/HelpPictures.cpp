@@ -106,7 +106,7 @@ void TakeReport() {
         preview->resize(640, 520);
         Control<QAction>(*preview, "fit-page")->trigger();
         Take(*preview, "preview");
-        preview->resize(640, 640);
+        preview->resize(600, 500);
         Control<QAction>(*preview, "fit-width")->trigger();
         Take(*preview, "tour-report");
         QTimer::singleShot(0, preview, &QWidget::close);

@@ -145,7 +145,8 @@ private slots:
         SelectPlace(*list, 0);
         QTest::keyClick(list, Qt::Key_Delete);
         QCOMPARE(RowsIn(*list).size(), 3); // the answer was No
-        QCOMPARE(m_boxes.TakeTexts(), {"Are you sure you want to delete it?"});
+        QCOMPARE(m_boxes.TakeTexts(),
+                 {"Are you sure you want to delete it?\n\n\"Event Book 001\" will be lost."});
         m_boxes.Answers = {MessageAnswer::Yes};
         QTest::keyClick(list, Qt::Key_Delete);
         QCOMPARE(RowsIn(*list),
@@ -159,7 +160,8 @@ private slots:
         for (int i = 0; i < 3; ++i)
             Press(*page, "cmdSetup_2");
         QCOMPARE(m_boxes.TakeTexts().first(),
-                 "The selected group contains sub-items\nAre you sure you want to delete it?");
+                 "The selected group contains sub-items\nAre you sure you want to delete "
+                 "it?\n\n\"Incidents\" and its buttons will be lost.");
         QVERIFY(RowsIn(*list).isEmpty());
         QVERIFY(!Control<QPushButton>(*page, "cmdSetup_0")->isEnabled() &&
                 !Control<QPushButton>(*page, "cmdSetup_2")->isEnabled());
@@ -188,7 +190,9 @@ private slots:
         QCOMPARE(m_boxes.TakeTexts().size(), 2);
         m_boxes.Answers = {MessageAnswer::Yes};
         Press(*page, "cmdSetup_2");
-        QCOMPARE(m_boxes.TakeTexts(), {"Are you sure you want to delete this reader? 0A0B0C0D"});
+        QCOMPARE(m_boxes.TakeTexts(),
+                 {"Are you sure you want to delete this reader? 0A0B0C0D\n\n\"Day reader\" will be "
+                  "lost. Touches that are already downloaded are kept."});
         QCOMPARE(RowsIn(*list).size(), 1);
     }
 
@@ -237,7 +241,8 @@ private slots:
                                       "1A422B|Quay stairs|Top step rail", "Quay"}));
         QCOMPARE(m_boxes.TakeTexts(),
                  (QStringList{"That name is already used.  Please enter another name.",
-                              "Are you sure you want to delete this item?"}));
+                              "Are you sure you want to delete this item?\n\n\"Aft bollard\" will "
+                              "be lost. Touches that are already downloaded are kept."}));
         QCOMPARE(RowsIn(*list).last(), "Quay|Pier 4, north side");
     }
 
@@ -264,8 +269,9 @@ private slots:
         QCOMPARE(RowsOf("SELECT tDesc, iTolerance, dtStartTime FROM tblTours WHERE ID = 4"),
                  QStringList(" |5|0"));
         Press(*page, "cmdSetup_2");
-        QCOMPARE(m_boxes.TakeTexts(), {"The selected Tour contains data.\nAre you sure you want to "
-                                       "delete this tour?"});
+        QCOMPARE(m_boxes.TakeTexts(),
+                 {"The selected Tour contains data.\nAre you sure you want to "
+                  "delete this tour?\n\n\"Tour 002\" and its points will be lost."});
         gConn->Execute("DELETE * FROM tblButtons");
         Press(*page, "cmdSetup_0");
         QCOMPARE(m_boxes.TakeTexts(),
@@ -414,6 +420,38 @@ private slots:
         QCOMPARE(m_boxes.TakeTexts().size(), 1);
         Press(*moved, "cmdCancel");
         QVERIFY(!moved->isVisible() && m_boxes.TakeTexts().isEmpty());
+    }
+
+    // A new site can be named in the list at once. The filter hides rows, and what is hidden is
+    // neither edited nor deleted.
+    void NamingAndFiltering() {
+        gConn->Execute("DELETE * FROM tblListItems");
+        const auto page = Page(Sites);
+        auto* list = Control<QTreeView>(*page, "lvwProgram");
+        auto* filter = Control<QLineEdit>(*page, "txtFilter");
+        QVERIFY(Control(*page, "listHint")->isVisible());
+        for (const char* name : {"Depot", " Depot ", "Yard"}) {
+            Press(*page, "cmdSetup_1");
+            auto* field = list->viewport()->findChild<QLineEdit*>();
+            QVERIFY(field && Control(*page, "listHint")->isHidden());
+            field->setText(name);
+            QTest::keyClick(field, Qt::Key_Return);
+            QTRY_VERIFY(!list->viewport()->findChild<QLineEdit*>());
+            QCoreApplication::processEvents();
+        }
+        QCOMPARE(m_boxes.TakeTexts(), {"That name is already used.  Please enter another name."});
+        QCOMPARE(RowsIn(*list), (QStringList{"Depot|", "Site 001|", "Yard|"}));
+        filter->setText("yar");
+        QVERIFY(list->isRowHidden(0, {}) && list->currentIndex().data() == "Yard");
+        filter->setText("none");
+        QVERIFY(!Control<QPushButton>(*page, "cmdSetup_2")->isEnabled());
+        QTest::keyClick(page.get(), Qt::Key_Delete);
+        QVERIFY(m_boxes.TakeTexts().isEmpty());
+        Press(*page, "cmdSetup_1"); // a new row is always seen
+        QCOMPARE(list->currentIndex().data(), "Site 002");
+        QVERIFY(!list->isRowHidden(0, {}));
+        QTest::keyClick(page.get(), Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(Control<QTabBar>(*page, "tabSetup")->currentIndex(), EventBooks);
     }
 
     // Columns fit their rows, and stay as the operator made them: in a narrower list, and in the

@@ -1,5 +1,8 @@
 #include "ReportFont.h"
 
+#include <QFontDatabase>
+#include <QLocale>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -25,6 +28,14 @@ QFont MakeFont(const QStringList& families, const FontFace& face) {
 bool IsControl(char16_t letter) { return letter < 0x20 || (letter >= 0x7f && letter < 0xa0); }
 
 } // namespace
+
+QString FontFault(const QString& language) {
+    const bool arabic = QLocale(language).script() == QLocale::ArabicScript;
+    return QFontDatabase::families(arabic ? QFontDatabase::Arabic : QFontDatabase::Any).isEmpty()
+               ? QStringLiteral("This computer has no font that can show the texts. Please install "
+                                "one, such as the package fonts-dejavu-core.")
+               : QString();
+}
 
 ReportFont::ReportFont(const QStringList& families, const FontFace& face)
     : m_font(MakeFont(families, face)), m_metrics(m_font), m_points(face.points),

@@ -8,6 +8,10 @@
 
 #include <vector>
 
+/// Why reports in a language, such as "ar", cannot be read on this machine: it has no font for
+/// them. Empty if it has one.
+QString FontFault(const QString& language);
+
 /// A font of a report with the measures that painting often needs. All lengths are hundredths of a
 /// millimetre. At that scale, glyph widths rounded to whole units look right at every resolution.
 class ReportFont {

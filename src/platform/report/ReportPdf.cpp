@@ -20,6 +20,8 @@ namespace {
 } // namespace
 
 bool ExportPdf(const DataReport& report, QIODevice& device, const WorkProgress& progress) {
+    if (const QString fault = FontFault(report.Language()); !fault.isEmpty())
+        Fail(fault);
     const DateTime printedAt = Now();
     PdfStream stream(device, {report.Caption(), report.Author(), report.Language(),
                               report.RightToLeft(), printedAt});

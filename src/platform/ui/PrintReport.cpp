@@ -105,6 +105,8 @@ QByteArray JobOf(const QPrinter& printer, const QString& path) {
 /// a queue cannot be taken back, and abort() does nothing. The same goes for a PDF.
 bool PrintReport(const DataReport& report, QPrinter& printer, int currentPage,
                  const WorkProgress& progress) {
+    if (const QString fault = FontFault(report.Language()); !fault.isEmpty())
+        PrintingFailed(printer, fault);
     const std::vector<int> sheets = SheetsOf(printer, report.PageCount(), currentPage);
     if (sheets.empty())
         PrintingFailed(printer, QStringLiteral("The report has none of the pages asked for."));

@@ -58,12 +58,25 @@ int RowListModel::AlignmentOf(int column) const {
 QVariant RowListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole || role == Qt::EditRole)
         return m_rows[index.row()].texts.value(index.column());
     if (role == Qt::TextAlignmentRole)
         return AlignmentOf(index.column());
     const bool hasIcon = index.column() == 0 && !m_icon.isNull();
     return role == Qt::DecorationRole && hasIcon ? QVariant(m_icon) : QVariant();
+}
+
+Qt::ItemFlags RowListModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return index.isValid() && index.column() == m_editable ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool RowListModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable) ||
+        value.toString() == index.data().toString())
+        return false;
+    emit Edited(m_rows[index.row()].tag, value.toString());
+    return true;
 }
 
 QVariant RowListModel::headerData(int section, Qt::Orientation orientation, int role) const {

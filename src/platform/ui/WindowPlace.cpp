@@ -38,16 +38,17 @@ QScreen* ScreenOf(const QRect& place, const QWidget& window) {
 
 class WindowPlace : public QObject {
 public:
-    WindowPlace(QWidget& window, Placed what)
-        : QObject(&window), m_window(window), m_what(what),
-          m_name(QString::fromLatin1(window.metaObject()->className())) {
+    WindowPlace(QWidget& window, Placed what) : QObject(&window), m_window(window), m_what(what) {
         window.installEventFilter(this);
     }
 
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Show && !event->spontaneous())
+        // Not earlier: a base class may have asked for this, before the window has its class.
+        if (event->type() == QEvent::Show && !event->spontaneous()) {
+            m_name = QString::fromLatin1(m_window.metaObject()->className());
             Restore();
-        else if (event->type() == QEvent::Hide && !event->spontaneous())
+        }
+        if (event->type() == QEvent::Hide && !event->spontaneous())
             Save();
         return false;
     }

@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QDir>
+#include <QFile>
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -96,6 +97,13 @@ void TranslateWindow(QWidget& window, const TranslateText& translate) {
         if (qobject_cast<QWidget*>(child)) {
             TranslateProperty(*child, "toolTip", translate);
             TranslateProperty(*child, "accessibleName", translate);
+        }
+        // From right to left, Qt would show 23:59 as 59:23.
+        if (auto* time = qobject_cast<QDateTimeEdit*>(child);
+            time && (time->displayedSections() & QDateTimeEdit::HourSection)) {
+            const QString format = time->displayFormat();
+            time->setLayoutDirection(Qt::LeftToRight);
+            time->setDisplayFormat(format);
         }
         // On Linux, a screen reader gets the value of a combo box as its name.
         if (auto* combo = qobject_cast<QComboBox*>(child);
@@ -215,7 +223,10 @@ ArrowPointer::~ArrowPointer() {
 }
 
 QIcon ProgramIcon(const QString& name) {
-    const QString path = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");
+    QString path = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");
+    const QString mirrored = QStringLiteral(":/icons/") + name + QStringLiteral("-rtl.svg");
+    if (QApplication::isRightToLeft() && QFile::exists(mirrored))
+        path = mirrored;
     // These two are pictures with a background of their own.
     const bool isPicture = name == u"wardlock" || name == u"splash";
     return isPicture ? QIcon(path) : PaletteIcon(path);

@@ -20,6 +20,8 @@ using TranslateText = std::function<QString(const QString&)>;
 /// accessible names, menus. Texts
 /// that are set by code, such as list headers, are left alone. The English texts are kept, so it
 /// can be called again for another language.
+///
+/// A field for a time always runs from left to right.
 void TranslateWindow(QWidget& window, const TranslateText& translate);
 
 /// Real message boxes, over the active window.
@@ -64,7 +66,8 @@ private:
     bool m_shown;
 };
 
-/// An icon of the program by its name, in the colours of the palette.
+/// An icon of the program by its name, in the colours of the palette. If the windows run from right
+/// to left, the one whose name also has "-rtl", if there is one.
 QIcon ProgramIcon(const QString& name);
 
 /// Shows an icon of the program in a label, in the label's maximum size.

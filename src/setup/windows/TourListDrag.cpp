@@ -8,6 +8,7 @@
 namespace {
 
 constexpr int CueHeight = 4;
+constexpr int PointerGap = 14;     ///< pixels between the pointer and the label
 constexpr int ScrollEdge = 14;     ///< pixels from the list's edge within which it scrolls
 constexpr int ScrollInterval = 80; ///< ms for each row
 
@@ -134,7 +135,10 @@ void TourListDrag::Begin() {
 }
 
 void TourListDrag::Follow() {
-    m_lblDragDrop->move(m_lblDragDrop->parentWidget()->mapFromGlobal(m_pointer) + QPoint(14, 10));
+    const bool rightToLeft = m_lblDragDrop->isRightToLeft(); // the label hangs behind the pointer
+    m_lblDragDrop->move(
+        m_lblDragDrop->parentWidget()->mapFromGlobal(m_pointer) +
+        QPoint(rightToLeft ? -PointerGap - m_lblDragDrop->width() : PointerGap, 10));
     const bool overSelected = ListUnder(m_pointer) == &m_lvwSelected;
     if (overSelected)
         ShowCue(InsertPositionAt(m_pointer));

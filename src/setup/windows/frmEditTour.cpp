@@ -2,6 +2,7 @@
 
 #include "Format.h"
 #include "ListColumns.h"
+#include "ListHint.h"
 #include "LookUps.h"
 #include "NameField.h"
 #include "Number.h"
@@ -30,7 +31,7 @@ int SavedInterval() {
 } // namespace
 
 frmEditTour::frmEditTour(QWidget* parent)
-    : EditorDialog(parent), m_ui(std::make_unique<Ui::frmEditTour>()),
+    : EditorDialog(parent, Placed::SizeOnly), m_ui(std::make_unique<Ui::frmEditTour>()),
       m_newInterval(SavedInterval()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
@@ -93,9 +94,15 @@ void frmEditTour::Populate() {
         m_selected.SetIcon(icon);
         ManageColumns(*m_ui->lvwLocations, QStringLiteral("frmEditTour.Locations"));
         ManageColumns(*m_ui->lvwSelected, QStringLiteral("frmEditTour.Selected"));
+        m_draft.Load(GroupID);
+        ShowWhenEmpty(*m_ui->lvwLocations,
+                      Translate("This site has no location buttons yet. Add them on the Setup "
+                                "page: select the site and press Edit."));
+        ShowWhenEmpty(*m_ui->lvwSelected,
+                      Translate("The tour has no points yet. Select a location on the left and "
+                                "press Add, in the order of the tour."));
         FillSites();
         FillLocations();
-        m_draft.Load(GroupID);
         ShowPoints(0);
         m_ui->cmdOK->setEnabled(true);
     });
@@ -107,6 +114,10 @@ void frmEditTour::FillSites() {
     const QIcon icon = ProgramIcon(QStringLiteral("location"));
     for (const Group& site : SitesByName())
         m_ui->imgCboSites->addItem(icon, site.name, site.id);
+    if (m_draft.Count() > 0)
+        m_ui->imgCboSites->setCurrentIndex(
+            std::max(0, m_ui->imgCboSites->findText(m_draft.Points().front().site,
+                                                    Qt::MatchExactly | Qt::MatchCaseSensitive)));
 }
 
 void frmEditTour::FillLocations() {
