@@ -158,7 +158,7 @@ int main(int argc, char** argv) {
     Action("download")->trigger();
     Script::Find<QAbstractButton>("frmMdiDownload", "cmdOnline_0")->click();
     Take(Frame(), "download");
-    Frame().resize(700, 600);
+    Frame().resize(780, 560);
     Action("home")->trigger();
     QTest::qWait(500); // the page fills in
     Take(Frame(), "home");
