@@ -3,6 +3,7 @@
 #include "DockingLink.h"
 #include "Recordset.h"
 #include "ReportViewer.h"
+#include "Settings.h"
 #include "TestHome.h"
 #include "cReaderOptions.h"
 #include "frmMain.h"
@@ -216,6 +217,8 @@ private slots:
         QFETCH(const QString, form);
         gLanguage = language;
         OpenDictionary();
+        // Its size is not that of the row before.
+        SaveSetting(SettingsApplication, QStringLiteral("Windows"), form, {});
         DockingLink link;
         NoViewer viewer;
         const std::unique_ptr<QWidget> window = AllWindows().at(form)(link, viewer);
