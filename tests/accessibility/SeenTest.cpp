@@ -141,7 +141,7 @@ QStringList FaintTexts(QWidget& window) {
 QStringList UnseenFocus(QWidget& window) {
     QStringList faults;
     QTest::keyClick(&window, Qt::Key_Shift); // the operator uses the keyboard
-    QList<QPointer<QWidget>> widgets; // the mark of the focus goes when the focus goes
+    QList<QPointer<QWidget>> widgets;        // the mark of the focus goes when the focus goes
     for (QWidget* widget : window.findChildren<QWidget*>())
         widgets += widget;
     for (QWidget* widget : widgets) {

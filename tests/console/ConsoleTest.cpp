@@ -251,7 +251,8 @@ private slots:
                 office.Ctl(QLatin1String("report ") + words +
                            " --from 2026-11-21T00:00 --to 2026-11-22T23:59 --format json");
             QCOMPARE(outcome.status, 1);
-            QVERIFY2(outcome.err.startsWith(sentence.simplified().toUtf8()), outcome.err.constData());
+            QVERIFY2(outcome.err.startsWith(sentence.simplified().toUtf8()),
+                     outcome.err.constData());
             QCOMPARE(outcome.err.count('\n'), 1);
             QCOMPARE(outcome.Json()[u"message"].toString(), sentence);
         };
