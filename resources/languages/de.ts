@@ -1068,20 +1068,16 @@
         <translation>An&amp;fangsdatum</translation>
     </message>
     <message>
-        <source>Start Date</source>
-        <translation>Anfangsdatum</translation>
-    </message>
-    <message>
         <source>&amp;End Date</source>
         <translation>&amp;Enddatum</translation>
     </message>
     <message>
-        <source>End Date</source>
-        <translation>Enddatum</translation>
-    </message>
-    <message>
         <source>En&amp;d Date</source>
         <translation>Enddat&amp;um</translation>
+    </message>
+    <message>
+        <source>Start &amp;Time</source>
+        <translation>&amp;Beginn</translation>
     </message>
     <message>
         <source>End Ti&amp;me</source>
@@ -1294,14 +1290,6 @@
     <message>
         <source>What the reader does at each touch</source>
         <translation>Was der Leser bei jeder Erfassung tut</translation>
-    </message>
-    <message>
-        <source>&amp;Date:</source>
-        <translation>&amp;Datum:</translation>
-    </message>
-    <message>
-        <source>Cus&amp;tom Time</source>
-        <translation>And&amp;ere Uhrzeit</translation>
     </message>
     <message>
         <source>PC time</source>
