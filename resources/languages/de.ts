@@ -1068,16 +1068,16 @@
         <translation>An&amp;fangsdatum</translation>
     </message>
     <message>
+        <source>Start &amp;Time</source>
+        <translation>Anfangs&amp;zeit</translation>
+    </message>
+    <message>
         <source>&amp;End Date</source>
         <translation>&amp;Enddatum</translation>
     </message>
     <message>
         <source>En&amp;d Date</source>
         <translation>Enddat&amp;um</translation>
-    </message>
-    <message>
-        <source>Start &amp;Time</source>
-        <translation>&amp;Beginn</translation>
     </message>
     <message>
         <source>End Ti&amp;me</source>
@@ -1292,12 +1292,12 @@
         <translation>Was der Leser bei jeder Erfassung tut</translation>
     </message>
     <message>
-        <source>PC time</source>
-        <translation>Uhrzeit des PCs</translation>
-    </message>
-    <message>
         <source>&amp;Date:</source>
         <translation>&amp;Datum:</translation>
+    </message>
+    <message>
+        <source>PC time</source>
+        <translation>Uhrzeit des PCs</translation>
     </message>
     <message>
         <source>&amp;Automatically Set Time and Date to PC's settings when downloading Data</source>
