@@ -9,6 +9,8 @@
 #include "mTranslations.h"
 #include "ui_frmRptPatrolSchedule.h"
 
+#include <algorithm>
+
 frmRptPatrolSchedule::frmRptPatrolSchedule(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptPatrolSchedule>()), m_viewer(viewer) {
     m_ui->setupUi(this);
@@ -40,8 +42,11 @@ void frmRptPatrolSchedule::LoadTours() {
 /// The columns take more than the width of the list, so it scrolls sideways.
 void frmRptPatrolSchedule::SizeColumns() {
     int column = 0;
-    for (const int hundredths : {30, 50, 30})
-        m_ui->lvwMain->setColumnWidth(column++, ColumnWidth(m_ui->lvwMain->width(), hundredths));
+    for (const int hundredths : {30, 50, 30}) {
+        const int share = ColumnWidth(m_ui->lvwMain->width(), hundredths);
+        const int heading = m_ui->lvwMain->header()->sectionSizeHint(column);
+        m_ui->lvwMain->setColumnWidth(column++, std::max(share, heading));
+    }
 }
 
 void frmRptPatrolSchedule::resizeEvent(QResizeEvent* event) {
