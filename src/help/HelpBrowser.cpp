@@ -23,6 +23,15 @@ QSet<QString> PicturesOf(const QTextDocument& document) {
     return names;
 }
 
+/// Links get their colour from the palette of the screen, which may be too light for paper.
+void BlackenLinks(QTextDocument& document) {
+    QTextCharFormat black;
+    black.setForeground(Qt::black);
+    QTextCursor cursor(&document);
+    cursor.select(QTextCursor::Document);
+    cursor.mergeCharFormat(black);
+}
+
 /// The picture in its natural width, or narrower if it does not fit, with a frame around it.
 QPixmap Framed(const QByteArray& content, int width, double dense, const QColor& frame) {
     const QImage image = QImage::fromData(content);
@@ -120,6 +129,7 @@ void HelpBrowser::Print(QPrinter& printer) const {
     QTextDocument paper;
     paper.setMarkdown(QString::fromUtf8(m_book->Content(source().fileName())));
     DressHelp(paper);
+    BlackenLinks(paper);
     for (const QString& name : PicturesOf(paper))
         paper.addResource(QTextDocument::ImageResource, QUrl(name),
                           Framed(m_book->Content(name), PrintedWidth, PixelsOfPicture, Qt::gray));

@@ -87,7 +87,7 @@ HomeBlocks::HomeBlocks(QWidget* parent) : QWidget(parent) {
     m_station->setWordWrap(true);
     m_device = new QLabel(stationBox);
     m_device->setWordWrap(true);
-    m_retry = new QPushButton(QStringLiteral("Retry"), stationBox);
+    m_retry = new QPushButton(QString::fromUtf8(QT_TR_NOOP("Retry")), stationBox);
     m_retry->setObjectName(QStringLiteral("cmdRetry"));
     station->addWidget(m_stationIcon, 0, 0, Qt::AlignTop);
     station->addWidget(m_station, 0, 1);

@@ -155,10 +155,14 @@ int main(int argc, char** argv) {
     TakeThen(login, "frmLogin", "login", "cmdOK");
     Run("login", login, [] { Main({}); });
     Frame().resize(641, 446);
-    Take(Frame(), "home");
     Action("download")->trigger();
     Script::Find<QAbstractButton>("frmMdiDownload", "cmdOnline_0")->click();
     Take(Frame(), "download");
+    Frame().resize(700, 600);
+    Action("home")->trigger();
+    QTest::qWait(500); // the page fills in
+    Take(Frame(), "home");
+    Frame().resize(641, 446);
     TakeSetup();
     TakeReport();
     Script archive, options;
