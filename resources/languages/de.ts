@@ -649,7 +649,7 @@
     </message>
     <message>
         <source>%0:s missing</source>
-        <translation>%0:s fehlt</translation>
+        <translation>%0:s fehlend</translation>
     </message>
     <message>
         <source>NOT ON TOUR</source>

@@ -113,7 +113,7 @@ HomeBlocks::HomeBlocks(QWidget* parent) : QWidget(parent) {
     m_tours->setRootIsDecorated(false);
     m_tours->setUniformRowHeights(true);
     m_tours->setAllColumnsShowFocus(true);
-    m_tours->setMinimumHeight(90);
+    m_tours->setMinimumHeight(70);
     m_tours->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_tours->setColumnCount(MissingColumn + 1);
     ManageColumns(*m_tours, QStringLiteral("HomeTours"));

@@ -185,14 +185,14 @@ void frmMain::ShowChosen(QAction& action, bool chosen) {
     const QString key = action.objectName();
     QIcon icon = ProgramIcon(key);
     QWidget* button = m_ui->tbrMain->widgetForAction(&action);
-    QPalette colours = palette();
+    QPalette colours; // everything else comes from the window
     QFont letters = font();
     if (chosen) {
         const QPixmap picture = icon.pixmap(m_ui->tbrMain->iconSize(), devicePixelRatioF());
         icon = QIcon(picture);
         icon.addPixmap(picture, QIcon::Disabled, QIcon::On);
         for (const auto role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text})
-            colours.setColor(QPalette::Disabled, role, colours.color(QPalette::Active, role));
+            colours.setColor(QPalette::Disabled, role, palette().color(QPalette::Active, role));
     }
     letters.setBold(chosen);
     action.setIcon(icon);
@@ -210,6 +210,12 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+void frmMain::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_open && m_page)
+        MarkPage();
 }
 
 /// Disables the button of the page that is shown.

@@ -45,6 +45,7 @@ public:
     void SetUserType(OperatorType type) { m_userType = type; }
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
