@@ -217,6 +217,7 @@ private slots:
         QFETCH(const QString, form);
         gLanguage = language;
         OpenDictionary();
+        QCOMPARE(gLanguage, language);
         // Its size is not that of the row before.
         SaveSetting(SettingsApplication, QStringLiteral("Windows"), form, {});
         DockingLink link;
