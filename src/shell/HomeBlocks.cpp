@@ -142,7 +142,7 @@ HomeBlocks::HomeBlocks(QWidget* parent) : QWidget(parent) {
     all->addWidget(stationBox, 0, 0);
     all->addWidget(downloadBox, 0, 1);
     all->addWidget(m_toursBox, 1, 0, 1, 2);
-    all->addWidget(m_stepsBox, 2, 0, 1, 2);
+    all->addWidget(m_stepsBox, 1, 0, 1, 2);
     all->setColumnStretch(0, 1);
     all->setColumnStretch(1, 1);
     all->setRowStretch(1, 1);
