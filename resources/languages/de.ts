@@ -52,6 +52,18 @@
         <translation>Die Datei ist nicht vorhanden.</translation>
     </message>
     <message>
+        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <translation>Den Ordner %0:s gibt es nicht. Bitte legen Sie ihn an, oder nennen Sie in WARDLOCK_HOME einen anderen.</translation>
+    </message>
+    <message>
+        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <translation>Sie dürfen in den Ordner %0:s nicht schreiben. Bitte lassen Sie sich das Recht dazu geben, oder nennen Sie in WARDLOCK_HOME einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <translation>Es gibt noch keine Datenbank. Bitte starten Sie einmal das Programm Wardlock: Es legt eine an.</translation>
+    </message>
+    <message>
         <source>The disk is full.</source>
         <translation>Der Datenträger ist voll.</translation>
     </message>
@@ -106,6 +118,74 @@
     <message>
         <source>Docking Station : Not Detected</source>
         <translation>Dockingstation: nicht gefunden</translation>
+    </message>
+    <message>
+        <source>%0:s is gone. Plug it in again.</source>
+        <translation>%0:s ist verschwunden. Bitte wieder anschließen.</translation>
+    </message>
+    <message>
+        <source>Last download</source>
+        <translation>Letztes Auslesen</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>noch keines</translation>
+    </message>
+    <message>
+        <source>Tours of the last 24 hours</source>
+        <translation>Rundgänge der letzten 24 Stunden</translation>
+    </message>
+    <message>
+        <source>Click a tour, or press Enter, to open its report.</source>
+        <translation>Ein Klick auf einen Rundgang, oder die Eingabetaste, öffnet seinen Bericht.</translation>
+    </message>
+    <message>
+        <source>No tour was due.</source>
+        <translation>Es war kein Rundgang fällig.</translation>
+    </message>
+    <message>
+        <source>not downloaded or not walked</source>
+        <translation>nicht ausgelesen oder nicht gegangen</translation>
+    </message>
+    <message>
+        <source>On time</source>
+        <translation>Pünktlich</translation>
+    </message>
+    <message>
+        <source>Early</source>
+        <translation>Zu früh</translation>
+    </message>
+    <message>
+        <source>Late</source>
+        <translation>Zu spät</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>First steps</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message>
+        <source>Define a site</source>
+        <translation>Ein Objekt anlegen</translation>
+    </message>
+    <message>
+        <source>Add the buttons of the site</source>
+        <translation>Die Kontakte des Objekts aufnehmen</translation>
+    </message>
+    <message>
+        <source>Add a reader</source>
+        <translation>Einen Leser aufnehmen</translation>
+    </message>
+    <message>
+        <source>Plan a tour</source>
+        <translation>Einen Rundgang planen</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>erledigt</translation>
     </message>
     <message>
         <source>The touches could not be stored. The reader was not erased.</source>
@@ -164,8 +244,20 @@
         <translation>Auslesen fehlgeschlagen</translation>
     </message>
     <message>
+        <source>Remove the cause, and then download the reader again.</source>
+        <translation>Bitte die Ursache beseitigen und den Leser dann noch einmal auslesen.</translation>
+    </message>
+    <message>
+        <source>All touches are still in the reader.</source>
+        <translation>Alle Erfassungen sind noch im Leser.</translation>
+    </message>
+    <message>
         <source>Download Successful</source>
         <translation>Auslesen erfolgreich</translation>
+    </message>
+    <message>
+        <source>Reports of the tours in this download</source>
+        <translation>Berichte zu den ausgelesenen Rundgängen</translation>
     </message>
     <message>
         <source>Data Readings = </source>
@@ -180,12 +272,28 @@
         <translation>Die Uhr des Lesers konnte nicht gestellt werden. Bitte noch einmal versuchen.</translation>
     </message>
     <message>
+        <source>The download itself is complete. The clock can be set with Reader Options in the Tools menu.</source>
+        <translation>Das Auslesen selbst ist abgeschlossen. Die Uhr lässt sich im Menü Extras unter „Leser einstellen“ stellen.</translation>
+    </message>
+    <message>
         <source>Are you sure you want to clear the reader? </source>
         <translation>Soll der Speicher des Lesers wirklich geleert werden? </translation>
     </message>
     <message>
+        <source>The reader that was downloaded last:</source>
+        <translation>Zuletzt ausgelesener Leser:</translation>
+    </message>
+    <message>
+        <source>Touches that have not been downloaded yet will be lost.</source>
+        <translation>Erfassungen, die noch nicht ausgelesen sind, gehen verloren.</translation>
+    </message>
+    <message>
         <source>Reader Erase Failed.  Try again?</source>
         <translation>Der Leser konnte nicht geleert werden. Noch einmal versuchen?</translation>
+    </message>
+    <message>
+        <source>As long as the reader keeps its touches, each further download stores them again.</source>
+        <translation>Solange der Leser seine Erfassungen behält, speichert jedes weitere Auslesen sie noch einmal.</translation>
     </message>
     <message>
         <source>Reader Erased</source>
@@ -198,6 +306,30 @@
     <message>
         <source>Download Error</source>
         <translation>Fehler beim Auslesen</translation>
+    </message>
+    <message>
+        <source>The names of the buttons could not be read from the database. See error.log for the reason.</source>
+        <translation>Die Namen der Kontakte konnten nicht aus der Datenbank gelesen werden. Der Grund steht in error.log.</translation>
+    </message>
+    <message>
+        <source>What the reader sent was not complete or not valid. Please try again.</source>
+        <translation>Die Daten des Lesers waren unvollständig oder ungültig. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The connection to the docking station was lost. Check its cable and try again.</source>
+        <translation>Die Verbindung zur Dockingstation ist abgebrochen. Bitte das Kabel prüfen und noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The docking station could not read the reader. Take it out, put it in again, and try once more.</source>
+        <translation>Die Dockingstation konnte den Leser nicht auslesen. Bitte herausnehmen, wieder einsetzen und noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>Put the reader into the docking station so that it sits firmly.</source>
+        <translation>Bitte den Leser fest in die Dockingstation einsetzen.</translation>
+    </message>
+    <message>
+        <source>The reader stopped answering. Leave it in the docking station until the download is complete, and try again.</source>
+        <translation>Der Leser antwortet nicht mehr. Bitte bis zum Ende des Auslesens in der Dockingstation lassen und noch einmal versuchen.</translation>
     </message>
     <message>
         <source>Downloading data from reader</source>
@@ -276,6 +408,10 @@
         <translation>Bericht ö&amp;ffnen</translation>
     </message>
     <message>
+        <source>Open the dialog of the selected report</source>
+        <translation>Das Fenster des gewählten Berichts öffnen</translation>
+    </message>
+    <message>
         <source>Report Name</source>
         <translation>Bericht</translation>
     </message>
@@ -350,6 +486,14 @@
     <message>
         <source>You must add at least one reader before this report can be used</source>
         <translation>Für diesen Bericht muss mindestens ein Leser angelegt sein</translation>
+    </message>
+    <message>
+        <source>A master adds tours on the Setup page.</source>
+        <translation>Rundgänge legt der Einsatzleiter auf der Seite Einrichtung an.</translation>
+    </message>
+    <message>
+        <source>A master adds readers on the Setup page.</source>
+        <translation>Leser legt der Einsatzleiter auf der Seite Einrichtung an.</translation>
     </message>
     <message>
         <source>You must add at least one tour before this report can be used</source>
@@ -444,6 +588,14 @@
         <translation>Fehler beim Anlegen des Rundgangs</translation>
     </message>
     <message>
+        <source>The tour has no points. A master adds them on the Setup page.</source>
+        <translation>Der Rundgang hat keine Punkte. Der Einsatzleiter legt sie auf der Seite Einrichtung an.</translation>
+    </message>
+    <message>
+        <source>This tour does not exist any more, or it cannot be read.</source>
+        <translation>Diesen Rundgang gibt es nicht mehr, oder er ist nicht lesbar.</translation>
+    </message>
+    <message>
         <source>The settings cannot be saved. Changes you make now are lost when the program ends.</source>
         <translation>Die Einstellungen können nicht gespeichert werden. Änderungen gehen beim Beenden verloren.</translation>
     </message>
@@ -462,6 +614,34 @@
     <message>
         <source>OUT OF SEQUENCE</source>
         <translation>FALSCHE REIHENFOLGE</translation>
+    </message>
+    <message>
+        <source>%0:s points: %1:s</source>
+        <translation>%0:s Punkte: %1:s</translation>
+    </message>
+    <message>
+        <source>1 point: %0:s</source>
+        <translation>1 Punkt: %0:s</translation>
+    </message>
+    <message>
+        <source>%0:s, %1:s</source>
+        <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s on time</source>
+        <translation>%0:s pünktlich</translation>
+    </message>
+    <message>
+        <source>%0:s early</source>
+        <translation>%0:s zu früh</translation>
+    </message>
+    <message>
+        <source>%0:s late</source>
+        <translation>%0:s zu spät</translation>
+    </message>
+    <message>
+        <source>%0:s missing</source>
+        <translation>%0:s fehlt</translation>
     </message>
     <message>
         <source>NOT ON TOUR</source>
@@ -502,6 +682,14 @@
     <message>
         <source>No Data on the report</source>
         <translation>Keine Daten für den Bericht</translation>
+    </message>
+    <message>
+        <source>See error.log for the reason.</source>
+        <translation>Der Grund steht in error.log.</translation>
+    </message>
+    <message>
+        <source>Please check these choices, and whether the reader has been downloaded.</source>
+        <translation>Bitte diese Angaben prüfen, und ob der Leser ausgelesen ist.</translation>
     </message>
     <message>
         <source>There is no data to show for these parameters</source>
@@ -668,6 +856,38 @@
         <translation>Hilfetext</translation>
     </message>
     <message>
+        <source>&amp;Search:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>Help on This &amp;Page</source>
+        <translation>Hilfe zu dieser &amp;Seite</translation>
+    </message>
+    <message>
+        <source>The help is in English.</source>
+        <translation>Die Hilfe ist auf Englisch.</translation>
+    </message>
+    <message>
+        <source>It is not a help file of this program.</source>
+        <translation>Sie ist keine Hilfedatei dieses Programms.</translation>
+    </message>
+    <message>
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
     </message>
@@ -832,6 +1052,18 @@
         <translation>Ende</translation>
     </message>
     <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Einträge</translation>
+    </message>
+    <message>
+        <source>No entry contains this.</source>
+        <translation>Kein Eintrag enthält das.</translation>
+    </message>
+    <message>
         <source>All</source>
         <translation>Alle</translation>
     </message>
@@ -874,6 +1106,18 @@
     <message>
         <source>There must be at least one reader selected to create a report</source>
         <translation>Für den Bericht muss mindestens ein Leser gewählt sein</translation>
+    </message>
+    <message>
+        <source>An event was deleted meanwhile. Please open the dialog of the report again.</source>
+        <translation>Ein Ereignis wurde inzwischen gelöscht. Bitte das Fenster des Berichts noch einmal öffnen.</translation>
+    </message>
+    <message>
+        <source>No reader is defined.</source>
+        <translation>Es ist kein Leser angelegt.</translation>
+    </message>
+    <message>
+        <source>No event is defined. A master adds event books on the Setup page.</source>
+        <translation>Es ist kein Ereignis angelegt. Ereignisbücher legt der Einsatzleiter auf der Seite Einrichtung an.</translation>
     </message>
     <message>
         <source>There must be at least one event selected to create a report</source>
@@ -1074,6 +1318,14 @@
     <message>
         <source>Reader update failed.  Please try again.</source>
         <translation>Der Leser konnte nicht eingestellt werden. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The options were set, but the clock was not.</source>
+        <translation>Die Optionen wurden gesetzt, die Uhr aber nicht gestellt.</translation>
+    </message>
+    <message>
+        <source>The clock was set, but the options were not.</source>
+        <translation>Die Uhr wurde gestellt, die Optionen aber nicht.</translation>
     </message>
     <message>
         <source>Add New Reader</source>
@@ -1336,6 +1588,78 @@
         <translation>Nichts ist gewählt</translation>
     </message>
     <message>
+        <source>No sites yet. A site is a place with location buttons. Press Add for a new one, then Edit to give it its buttons.</source>
+        <translation>Noch keine Objekte. Ein Objekt ist ein Ort mit Kontaktstellen. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Kontaktstellen zuordnen.</translation>
+    </message>
+    <message>
+        <source>No event books yet. The buttons of an event book stand for incidents. Press Add for a new one, then Edit to give it its buttons.</source>
+        <translation>Noch keine Ereignisbücher. Die Chips eines Ereignisbuchs stehen für Ereignisse. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Chips zuordnen.</translation>
+    </message>
+    <message>
+        <source>No tours yet. Press Add for a new one, then Edit to choose its locations.</source>
+        <translation>Noch keine Rundgänge. Mit „Neu“ einen anlegen, dann mit „Bearbeiten“ die Kontaktstellen wählen.</translation>
+    </message>
+    <message>
+        <source>No readers yet. Put a reader into the docking station and press Add. Without a docking station no reader can be added.</source>
+        <translation>Noch keine Leser. Einen Leser in die Dockingstation stecken und „Neu“ drücken. Ohne Dockingstation geht das nicht.</translation>
+    </message>
+    <message>
+        <source>No buttons yet. Press Add, then touch the reader in the docking station with a button.</source>
+        <translation>Noch keine Chips. „Neu“ drücken, dann mit einem Chip den Leser in der Dockingstation berühren.</translation>
+    </message>
+    <message>
+        <source>No buttons yet. A new button is read at the docking station, which is not connected.</source>
+        <translation>Noch keine Chips. Ein neuer Chip wird an der Dockingstation gelesen, und die ist nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>This site has no location buttons yet. Add them on the Setup page: select the site and press Edit.</source>
+        <translation>Dieses Objekt hat noch keine Kontaktstellen. Sie werden in der Einrichtung angelegt: das Objekt wählen und „Bearbeiten“ drücken.</translation>
+    </message>
+    <message>
+        <source>The tour has no points yet. Select a location on the left and press Add, in the order of the tour.</source>
+        <translation>Der Rundgang hat noch keine Punkte. Kontaktstellen in der Reihenfolge des Rundgangs wählen und „Hinzufügen“ drücken.</translation>
+    </message>
+    <message>
+        <source>Shows only the rows that contain this text (Ctrl+F).</source>
+        <translation>Zeigt nur die Zeilen, die diesen Text enthalten (Strg+F).</translation>
+    </message>
+    <message>
+        <source>A touch that is early or late by no more minutes than this counts as on time.</source>
+        <translation>Eine Erfassung, die höchstens so viele Minuten zu früh oder zu spät ist, gilt als pünktlich.</translation>
+    </message>
+    <message>
+        <source>For the first point: the minutes since the start of the tour.</source>
+        <translation>Beim ersten Punkt: die Minuten seit dem Beginn des Rundgangs.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; will be lost.</source>
+        <translation>„%0:s“ geht verloren.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; and its buttons will be lost.</source>
+        <translation>„%0:s“ und die zugehörigen Chips gehen verloren.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; and its points will be lost.</source>
+        <translation>„%0:s“ und alle Punkte des Rundgangs gehen verloren.</translation>
+    </message>
+    <message>
+        <source>&quot;%0:s&quot; will be lost. Touches that are already downloaded are kept.</source>
+        <translation>„%0:s“ geht verloren. Bereits übertragene Erfassungen bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>The name could not be saved. Nothing was changed.</source>
+        <translation>Der Name konnte nicht gespeichert werden. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The password is empty. Anyone could log in without one.</source>
+        <translation>Das Kennwort ist leer. Jeder könnte sich ohne Kennwort anmelden.</translation>
+    </message>
+    <message>
+        <source>Do you want to save it?</source>
+        <translation>Soll es gespeichert werden?</translation>
+    </message>
+    <message>
         <source>Are you sure you want to delete this item?</source>
         <translation>Soll dieser Eintrag wirklich gelöscht werden?</translation>
     </message>
@@ -1481,7 +1805,7 @@
     </message>
     <message>
         <source>WK3_ENG.HLP</source>
-        <translation>WK3_ENG.HLP</translation>
+        <translation>WK3_DEU.HLP</translation>
     </message>
     <message>
         <source>This folder does not exist. Please choose another one.</source>

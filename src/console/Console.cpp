@@ -8,6 +8,7 @@
 #include "ConsoleTools.h"
 #include "FileReplacement.h"
 #include "InstanceLock.h"
+#include "StoreFolder.h"
 #include "StoreUpkeep.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
@@ -49,7 +50,7 @@ void OpenSettings() {
     ReadLanguageSetting();
     // Only the station needs a dictionary; without one the texts are English.
     gDictionary = std::make_unique<Dictionary>();
-    gDictionary->FileName = AppFile(QStringLiteral("WK3.MLD"));
+    gDictionary->FileName = ProgramFile(QStringLiteral("WK3.MLD"));
     gDictionary->language = gLanguage;
     IgnoringErrors(OpenChosenLanguage);
     ReadRemainingSettings();
@@ -59,6 +60,15 @@ void OpenSettings() {
 
 /// Opens the store and checks the login. If that fails, says why and returns false.
 bool OpenStation(OperatorType login) {
+    if (IsNewStoreFolder()) {
+        TellOfUnopenedStore(gDatabasePath, Translate("There is no database yet. Please start the "
+                                                     "station once: it makes one."));
+        return false;
+    }
+    if (const QString fault = FaultOfStoreFolder(); !fault.isEmpty()) {
+        TellOfUnopenedStore(gDatabasePath, fault);
+        return false;
+    }
     if (!ADOTest(gDatabasePath, StorePassword) || !ADOInit(gDatabasePath, StorePassword))
         return false;
     RemoveLeftoverCopies(AppFile(QStringLiteral("temp.mdb")));
@@ -102,33 +112,26 @@ QString Overview() {
         text += QLatin1String(command.access == Access::MasterOnly ? "* " : "  ") +
                 command.words.leftJustified(width) + command.description + u'\n';
     return text +
-           QStringLiteral("\n"
-                          "\"wardlockctl COMMAND --help\" lists the options of a command. "
-                          "They may come before\n"
-                          "or after the command's words.\n"
-                          "\n"
-                          "--home is the folder of the store. Without it, the folder is that "
-                          "of the environment\n"
-                          "variable WARDLOCK_HOME, or the program's own. The environment "
-                          "variable\n"
-                          "WARDLOCK_PASSWORD holds the operator's password. Only the master may "
-                          "use a\n"
-                          "command with a \"*\".\n"
-                          "\n"
-                          "wardlockctl gives up after 3 seconds if the docking station does not "
-                          "answer, and\n"
-                          "after at most 15 if it stops answering later.\n"
-                          "\n"
-                          "exit status: 0 done, 1 failed or only partly done, 2 wrong usage\n");
+           QStringLiteral(
+               "\n"
+               "\"wardlockctl COMMAND --help\" lists the options of a command. "
+               "They may come before\n"
+               "or after the command's words.\n"
+               "\n"
+               "--home is the folder of the store. Without it, the folder is that "
+               "of the environment\n"
+               "variable WARDLOCK_HOME, or that of the station: see \"wardlock --help\". The\n"
+               "environment variable WARDLOCK_PASSWORD holds the operator's password.\n"
+               "Only the master may use a command with a \"*\".\n"
+               "\n"
+               "wardlockctl gives up after 3 seconds if the docking station does not "
+               "answer, and\n"
+               "after at most 15 if it stops answering later.\n"
+               "\n"
+               "exit status: 0 done, 1 failed or only partly done, 2 wrong usage\n");
 }
 
-QString VersionText() {
-    return QStringLiteral("%1 %2.%3.%4\n")
-        .arg(Program)
-        .arg(AppMajor())
-        .arg(AppMinor())
-        .arg(AppRevision());
-}
+QString VersionText() { return Program + u' ' + QString::fromLatin1(AppVersionText()) + u'\n'; }
 
 /// What can follow the first word of a command.
 QStringList SecondWordsOf(const QString& first) {

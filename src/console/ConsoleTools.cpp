@@ -48,7 +48,10 @@ void WriteJson(const QJsonObject& object) { WriteOut(QJsonDocument(object).toJso
 
 MessageAnswer ConsoleBoxes::Show(const Message& message) {
     if (message.buttons != MessageButtons::YesNo) {
-        Complain(message.text);
+        const QString between = message.text.endsWith(u'.') || message.advice.isEmpty()
+                                    ? QStringLiteral(" ")
+                                    : QStringLiteral(": ");
+        Complain(message.text + between + message.advice);
         m_last = message.text;
     }
     return HarmlessAnswer(message.buttons);

@@ -31,7 +31,7 @@ public:
     ~ConsoleBoxes() override { InstallMessageBoxes(nullptr); }
 
     MessageAnswer Show(const Message& message) override;
-    /// The last notice; empty if there was none.
+    /// The last notice, without its advice; empty if there was none.
     const QString& Last() const { return m_last; }
 
 private:

@@ -4,15 +4,27 @@
 #include "SetupFile.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
+constexpr qint64 LargestDocument = qint64{64} * 1024 * 1024;
+
+[[noreturn]] void Refuse(const QString& path, const QString& reason) {
+    throw RunTimeError(RunTimeErrorNumber::FileAccess, path + QStringLiteral(": ") + reason);
+}
+
+/// No more than the size that the file has now: some files of the system have no end.
 bool ImportFrom(const QString& path) {
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) // reading a pipe or a device might never end
+        Refuse(path, QStringLiteral("not a file"));
+    if (info.size() > LargestDocument)
+        Refuse(path, QStringLiteral("larger than 64 MB"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw RunTimeError(RunTimeErrorNumber::FileNotFound,
-                           path + QStringLiteral(": ") + file.errorString());
-    ImportSetup(file.readAll());
+        Refuse(path, file.errorString());
+    ImportSetup(file.read(info.size()));
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "Engine.h"
 #include "StoreCheck.h"
 #include "StoreCopy.h"
+#include "StoreFolder.h"
 #include "StoreRestore.h"
 #include "mOperators.h"
 #include "mStore.h"
@@ -49,6 +50,8 @@ bool MayLogInAtCopy(const QString& path) {
 }
 
 bool RestoreFrom(const QString& source) {
+    if (IsNewStoreFolder())
+        MakeUserDataFolder(); // a new computer gets the store of the old one
     StoreRestore restore(gDatabasePath, source);
     if (!WaitForStore(restore)) {
         Complain(Translate("The database was not restored. It is as it was before.") + u' ' +

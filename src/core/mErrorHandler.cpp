@@ -31,11 +31,16 @@ void ReportError(const QString& procedure, const RunTimeError& error, ErrorShow 
                              .arg(AppMajor())
                              .arg(Format(AppMinor(), QStringLiteral("00")))
                              .arg(AppRevision()) +
-                         QStringLiteral("Error = '") + error.Description() +
-                         QStringLiteral("'\n (Click 'OK' to continue or 'Cancel' to exit the "
-                                        "program) ");
+                         QStringLiteral("Error = '") + error.Description() + u'\'';
+    const MessageButtons buttons = MessageButtons::OkCancel;
     const auto answer =
-        MsgBox(text, QStringLiteral("Error"), MessageKind::Information, MessageButtons::OkCancel);
+        ShowMessage({.text = text,
+                     .caption = QStringLiteral("Error"),
+                     .kind = MessageKind::Information,
+                     .buttons = buttons,
+                     .buttonTexts = ButtonWords(buttons),
+                     .aboutButtons = QStringLiteral(
+                         "\n (Click 'OK' to continue or 'Cancel' to exit the program) ")});
     if (answer == MessageAnswer::Cancel)
         EndProgram();
 }

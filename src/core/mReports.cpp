@@ -24,6 +24,29 @@ QString DateRangeText(DateTime from, DateTime to) {
                      {MomentText(from, 1), MomentText(to, 1)});
 }
 
+QString SearchedText(const QList<ReportFilter>& filters, DateTime from, DateTime to) {
+    QString text;
+    for (const auto& [title, value] : filters)
+        if (!value.isEmpty())
+            text += Translate(title) + QStringLiteral(": ") + value + u'\n';
+    return text + Translate("From:") + u' ' + MomentText(from, 1) + u'\n' + Translate("To:") +
+           u' ' + MomentText(to, 1) + u'\n' +
+           Translate("Please check these choices, and whether the reader has been downloaded.");
+}
+
+void NameDocument(DataReport& report, const QStringList& about, DateTime from, DateTime to) {
+    constexpr qsizetype LongestPart = 30;
+    QStringList parts{report.Caption()};
+    for (const QString& part : about)
+        parts += part.left(LongestPart).trimmed();
+    const auto day = [](DateTime date) { return Format(date, QStringLiteral("yyyy-mm-dd")); };
+    parts += day(from);
+    if (to.DatePart() != from.DatePart())
+        parts += day(to);
+    parts.removeAll({});
+    report.SetDocumentName(parts.join(QStringLiteral(" - ")));
+}
+
 void SetFrameText(darReport& report, QStringView printDate, QStringView product, QStringView page,
                   QStringView endOfReport) {
     report.SetText({{printDate, Translate("Print Date:")},

@@ -23,6 +23,12 @@ MessageAnswer IvMessageBox(const QString& text, MessageKind kind, MessageButtons
                        : MsgBox(text, caption, kind, buttons);
 }
 
+MessageAnswer IvMessageBox(const QString& text, const QString& advice, MessageKind kind,
+                           MessageButtons buttons) {
+    return gDictionary ? gDictionary->IvMessageBox(text, {}, kind, buttons, advice)
+                       : ShowMessage({text, {}, kind, buttons, ButtonWords(buttons), advice});
+}
+
 QString FormatStr(const QString& pattern, const QStringList& values) {
     return Dictionary::FormatStr(pattern, values);
 }
@@ -53,7 +59,7 @@ void OpenDictionary() {
     gDictionary.reset(); // its locale ends before the next one's begins
     gDictionary = std::make_unique<Dictionary>();
     gDictionary->CheckLevel = 2;
-    gDictionary->FileName = AppFile(QStringLiteral("WK3.MLD"));
+    gDictionary->FileName = ProgramFile(QStringLiteral("WK3.MLD"));
     gDictionary->language = gLanguage;
     if (IgnoringErrors(OpenChosenLanguage))
         return;

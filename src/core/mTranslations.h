@@ -20,6 +20,10 @@ QString PresentLocale();
 MessageAnswer IvMessageBox(const QString& text, MessageKind kind = MessageKind::Warning,
                            MessageButtons buttons = MessageButtons::Ok,
                            const QString& caption = {});
+/// The same, with a second paragraph: the cause, and what to do next. It may be empty.
+MessageAnswer IvMessageBox(const QString& text, const QString& advice,
+                           MessageKind kind = MessageKind::Warning,
+                           MessageButtons buttons = MessageButtons::Ok);
 
 /// Replaces "%0:s" and so on in a translated pattern.
 QString FormatStr(const QString& pattern, const QStringList& values);

@@ -18,6 +18,25 @@ namespace docksim {
 namespace {
 
 constexpr char kUsage[] = "usage: docksim [--scenario FILE] [--log FILE|-] [--link PATH]";
+constexpr char kHelp[] =
+    "\n"
+    "       docksim --help | --version\n"
+    "\n"
+    "A docking station with a reader, on a pseudo-terminal: for demonstrations, for training, and "
+    "for\n"
+    "tests. When it is ready, it prints the path of its device. It runs until it reads \"quit\" "
+    "from\n"
+    "standard input or is interrupted.\n"
+    "\n"
+    "Options:\n"
+    "  --scenario FILE   the reader, its memory and its faults (default: an empty reader "
+    "00000001)\n"
+    "  --log FILE        writes every frame to this file; \"-\" is standard error\n"
+    "  --link PATH       makes this symbolic link to the device while docksim runs\n"
+    "  --help            shows this text\n"
+    "  --version         shows the version\n"
+    "\n"
+    "exit status: 0 ended, 1 the pseudo-terminal failed, 2 wrong usage or a wrong scenario\n";
 
 // A station's frame takes 20 ms at 9600 bits per second. After half a second the station has given
 // up.
@@ -32,14 +51,15 @@ struct Arguments {
     std::string log;
     std::string link;
     bool help = false;
+    bool version = false;
 };
 
 // Throws ParseError.
 Arguments ParseArguments(const std::vector<std::string>& words) {
     Arguments arguments;
     for (size_t i = 0; i < words.size(); ++i) {
-        if (words[i] == "--help") {
-            arguments.help = true;
+        if (words[i] == "--help" || words[i] == "--version") {
+            (words[i] == "--help" ? arguments.help : arguments.version) = true;
             continue;
         }
         std::string* place = words[i] == "--scenario" ? &arguments.scenario
@@ -239,7 +259,11 @@ int RunDocksim(const std::vector<std::string>& arguments) {
     try {
         const Arguments parsed = ParseArguments(arguments);
         if (parsed.help) {
-            std::cout << kUsage << std::endl;
+            std::cout << kUsage << kHelp << std::flush;
+            return 0;
+        }
+        if (parsed.version) {
+            std::cout << "docksim " << WARDLOCK_VERSION << std::endl;
             return 0;
         }
         Simulator(parsed).Run();

@@ -98,7 +98,9 @@ bool MemoryDownload::Store() {
              u'\n' + Translate("Touches stored: ") +
              QStringLiteral("%1 / %2").arg(m_outcome.rowsStored).arg(m_outcome.touches.size()));
     m_saidWhyNotErased = true;
-    IvMessageBox(m_text + u'\n' + cause);
+    IvMessageBox(m_text + u'\n' + cause,
+                 Translate("All touches are still in the reader.") + u' ' +
+                     Translate("Remove the cause, and then download the reader again."));
     return false;
 }
 
@@ -107,7 +109,9 @@ bool MemoryDownload::SetClock() {
         return false;
     const bool set = m_link.SetClockToNow();
     if (!set)
-        IvMessageBox(Translate("Reader Clock update failed.  Please try again."));
+        IvMessageBox(Translate("Reader Clock update failed.  Please try again."),
+                     Translate("The download itself is complete. The clock can be set with Reader "
+                               "Options in the Tools menu."));
     return set;
 }
 
@@ -127,8 +131,7 @@ bool MemoryDownload::EraseIfSure(ReaderErasure& erasure, bool silent) {
     if (!erasure.IsAllowed())
         return false;
     if (!silent) {
-        if (IvMessageBox(Translate("Are you sure you want to clear the reader? "),
-                         MessageKind::Question, MessageButtons::YesNo) != MessageAnswer::Yes)
+        if (!MayClearReader({}, m_outcome.readerId))
             return false;
         m_view.ShowStatus({}); // the text of an earlier erase
     }

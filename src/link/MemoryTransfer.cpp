@@ -33,7 +33,11 @@ MemoryTransfer::MemoryTransfer(DockingLink& link, TransferView& view)
       m_tmrTimeout(WatchdogInterval) {
     connect(&m_tmrStart, &Timer::Tick, this, &MemoryTransfer::BeginReading);
     connect(&m_tmrGetPackets, &Timer::Tick, this, &MemoryTransfer::TakePacket);
-    connect(&m_tmrTimeout, &Timer::Tick, this, [this] { Fail(Translate("Download Error")); });
+    connect(&m_tmrTimeout, &Timer::Tick, this, [this] {
+        Fail(Translate("Download Error"),
+             Translate("The reader stopped answering. Leave it in the docking station until the "
+                       "download is complete, and try again."));
+    });
 }
 
 MemoryTransfer::~MemoryTransfer() = default;
@@ -74,7 +78,7 @@ void MemoryTransfer::BeginReading() {
         },
         [this](const RunTimeError& error) {
             Trace(error.Description());
-            Fail(Translate("Download Error"));
+            FailWithoutStation();
         });
 }
 
@@ -92,7 +96,7 @@ void MemoryTransfer::TakePacket() {
     m_link.InBuffer().GetPacket(frame, received);
     if (!received) {
         if (!m_link.comPort().PortOpen()) // the dock was unplugged, and all it sent has been read
-            Fail(Translate("Download Error"));
+            FailWithoutStation();
         return;
     }
     Trace(BytesToHex(frame));
@@ -102,13 +106,16 @@ void MemoryTransfer::TakePacket() {
         m_view.ShowProgressText(Percent(m_frameCount, m_frameTotal, "0"));
     switch (result) {
     case NoReader:
-        Fail(Translate("Reader not detected. Check reader and try again."));
+        Fail(Translate("Reader not detected. Check reader and try again."),
+             Translate("Put the reader into the docking station so that it sits firmly."));
         break;
     case TransferFault:
-        Fail(Translate("Download Error") + QStringLiteral(" (002)"));
+        Fail(Translate("Download Error") + QStringLiteral(" (002)"),
+             Translate("The docking station could not read the reader. Take it out, put it in "
+                       "again, and try once more."));
         break;
     case Failed:
-        Fail(Translate("Download Error"));
+        FailWithDoubt();
         break;
     case Running:
         m_tmrTimeout.SetEnabled(false);
@@ -220,7 +227,7 @@ void MemoryTransfer::EndReading() {
     if (m_closed)
         return;
     if (!ImageAgrees()) {
-        Fail(Translate("Download Error"));
+        FailWithDoubt();
         return;
     }
     const bool processed = ProcessData();
@@ -229,7 +236,9 @@ void MemoryTransfer::EndReading() {
     if (processed)
         Finish();
     else
-        Fail(Translate("Download Error"));
+        Fail(Translate("Download Error"),
+             Translate("The names of the buttons could not be read from the database. See "
+                       "error.log for the reason."));
 }
 
 bool MemoryTransfer::ImageAgrees() {
@@ -285,7 +294,18 @@ void MemoryTransfer::Finish() {
     Close();
 }
 
-void MemoryTransfer::Fail(const QString& text) {
+void MemoryTransfer::FailWithoutStation() {
+    Fail(Translate("Download Error"),
+         Translate("The connection to the docking station was lost. Check its cable and try "
+                   "again."));
+}
+
+void MemoryTransfer::FailWithDoubt() {
+    Fail(Translate("Download Error"),
+         Translate("What the reader sent was not complete or not valid. Please try again."));
+}
+
+void MemoryTransfer::Fail(const QString& text, const QString& advice) {
     if (m_closed)
         return;
     m_view.ShowWarning(false);
@@ -295,7 +315,9 @@ void MemoryTransfer::Fail(const QString& text) {
         return;
     m_view.Beep();
     m_buttons.clear();
-    IvMessageBox(text, MessageKind::Warning);
+    IvMessageBox(text, FirstFrameMustDo()
+                           ? advice
+                           : advice + u'\n' + Translate("All touches are still in the reader."));
     m_ok = false;
     Close();
 }

@@ -107,7 +107,10 @@ private:
     bool ProcessData();
     void ShowProgress(int value, int maximum);
     void Finish();
-    void Fail(const QString& text);
+    void FailWithoutStation();
+    /// The image is not believed.
+    void FailWithDoubt();
+    void Fail(const QString& text, const QString& advice);
     void Close();
 
     DockingLink& m_link;

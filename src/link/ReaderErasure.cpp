@@ -1,9 +1,21 @@
 #include "ReaderErasure.h"
 
 #include "DockingLink.h"
+#include "LookUps.h"
 #include "MemoryDownload.h"
 #include "mDeclareGlobals.h"
 #include "mTranslations.h"
+
+bool MayClearReader(const QString& docked, const QString& lastRead) {
+    QString advice = Translate("Touches that have not been downloaded yet will be lost.");
+    if (!docked.isEmpty())
+        advice = Translate("Reader") + QStringLiteral(": ") + ReaderTextOf(docked) + u'\n' + advice;
+    else if (!lastRead.isEmpty())
+        advice += u'\n' + Translate("The reader that was downloaded last:") + u' ' +
+                  ReaderTextOf(lastRead);
+    return IvMessageBox(Translate("Are you sure you want to clear the reader? ") + docked, advice,
+                        MessageKind::Question, MessageButtons::YesNo) == MessageAnswer::Yes;
+}
 
 bool ReaderErasure::IsAllowed() {
     if (gStoreDamaged) {
@@ -35,8 +47,8 @@ bool ReaderErasure::Run() {
             SayWhyNot(Translate("The reader was taken out of the station. It was not erased."));
         do {
             if (gWaitCancelled ||
-                IvMessageBox(Translate("Reader Erase Failed.  Try again?"), MessageKind::Question,
-                             MessageButtons::YesNo) != MessageAnswer::Yes)
+                IvMessageBox(Translate("Reader Erase Failed.  Try again?"), Consequence(),
+                             MessageKind::Question, MessageButtons::YesNo) != MessageAnswer::Yes)
                 return false;
         } while (!RightReaderIsDocked());
     }
@@ -64,14 +76,21 @@ bool ReaderErasure::RightReaderIsDocked() {
 /// It is not known which reader was docked at the first try, so the operator is asked about this
 /// one, once.
 bool ReaderErasure::DockedReaderIsConfirmed(const QString& readerId) {
-    if (readerId != m_readId &&
-        IvMessageBox(Translate("Are you sure you want to clear the reader? ") + readerId,
-                     MessageKind::Question, MessageButtons::YesNo) == MessageAnswer::Yes)
+    if (readerId != m_readId && MayClearReader(readerId))
         m_readId = readerId;
     return readerId == m_readId;
 }
 
 void ReaderErasure::SayWhyNot(const QString& text) {
     m_saidWhyNot = true;
-    IvMessageBox(text);
+    IvMessageBox(text, m_readFrame.isEmpty() ? QString() : Consequence());
+}
+
+/// Without a frame it is not known whether the reader still has its touches: perhaps only the reply
+/// to the erase was lost.
+QString ReaderErasure::Consequence() const {
+    return m_readFrame.isEmpty()
+               ? Translate("Put the reader into the docking station so that it sits firmly.")
+               : Translate("As long as the reader keeps its touches, each further download stores "
+                           "them again.");
 }

@@ -7,6 +7,11 @@
 class DockingLink;
 class DownloadView;
 
+/// Asks the operator whether the reader may be erased, and says what would be lost. `docked` and
+/// `lastRead` are identifiers: of the reader that is docked, and of the one that was downloaded
+/// last. Each is empty if it is not known.
+bool MayClearReader(const QString& docked, const QString& lastRead = {});
+
 /// Erases the docked reader, if it may be erased.
 ///
 /// Nothing is erased if the open store is damaged, or if the memory that was read did not end where
@@ -33,6 +38,8 @@ private:
     bool RightReaderIsDocked();
     bool DockedReaderIsConfirmed(const QString& readerId);
     void SayWhyNot(const QString& text);
+    /// What the operator should know or do if the reader was not erased, translated.
+    QString Consequence() const;
 
     DockingLink& m_link;
     DownloadView& m_view;

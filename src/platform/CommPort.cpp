@@ -103,6 +103,7 @@ void CommPort::HandleError(int error) {
             Raise(comEvReceive);
         SetPortOpen(false);
         Raise(comEventDCB);
+        emit Lost();
         break;
     default:
         Raise(comEventDCB);
@@ -122,6 +123,14 @@ QStringList SerialDevices() {
         return a.size() != b.size() ? a.size() < b.size() : a < b;
     });
     return devices;
+}
+
+bool DeviceExists(const QString& device) {
+#ifdef Q_OS_WIN
+    return SerialDevices().contains(device);
+#else
+    return QFile::exists(device);
+#endif
 }
 
 QString DeviceOfPort(int number) {

@@ -52,6 +52,8 @@ public:
 signals:
     /// Something happened; CommEvent says what.
     void OnComm();
+    /// The device is gone, and the port has closed itself.
+    void Lost();
 
 private:
     void Raise(Event event);
@@ -74,5 +76,7 @@ void ChooseDevice(int number, const QString& device);
 /// Makes every port number mean `device` until the process ends. For a device named on the command
 /// line.
 void OverrideDevice(const QString& device);
+/// False once a device is unplugged.
+bool DeviceExists(const QString& device);
 /// The machine's serial devices, in order.
 QStringList SerialDevices();

@@ -116,8 +116,9 @@ QString Dictionary::Locale() const {
 bool Dictionary::SelectLanguage(int& number) { return m_chooser && m_chooser(*this, number); }
 
 MessageAnswer Dictionary::IvMessageBox(const QString& text, const QString& caption,
-                                       MessageKind kind, MessageButtons buttons) const {
-    Message message{text, caption, kind, buttons, {}};
+                                       MessageKind kind, MessageButtons buttons,
+                                       const QString& advice) const {
+    Message message{text, caption, kind, buttons, {}, advice};
     for (const QString& word : ButtonWords(buttons))
         message.buttonTexts += Translate(word);
     return ShowMessage(message);

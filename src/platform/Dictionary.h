@@ -60,9 +60,10 @@ public:
     bool SelectLanguage(int& number);
     void InstallChooser(Chooser chooser) { m_chooser = chooser; }
 
-    /// A message box. The text must be translated already; the buttons are translated here.
+    /// A message box. Text and advice must be translated already; the buttons are translated here.
     MessageAnswer IvMessageBox(const QString& text, const QString& caption, MessageKind kind,
-                               MessageButtons buttons = MessageButtons::Ok) const;
+                               MessageButtons buttons = MessageButtons::Ok,
+                               const QString& advice = {}) const;
 
     /// Replaces "%0:s", "%1:s" ... in the pattern by the values. Marks within a value are not
     /// replaced.

@@ -10,6 +10,8 @@ class StandardErrorBoxes : public MessageBoxes {
 public:
     MessageAnswer Show(const Message& message) override {
         QTextStream(stderr) << message.text << Qt::endl;
+        if (!message.advice.isEmpty())
+            QTextStream(stderr) << message.advice << Qt::endl;
         return HarmlessAnswer(message.buttons);
     }
 };

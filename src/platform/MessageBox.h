@@ -12,11 +12,15 @@ enum class MessageAnswer { Ok, Cancel, Yes, No, Retry, Ignore };
 
 struct Message {
     QString text;
-    QString caption;
+    QString caption = {};
     MessageKind kind = MessageKind::Warning;
     MessageButtons buttons = MessageButtons::Ok;
     /// The words on the buttons, in the order of their names in MessageButtons.
-    QList<QString> buttonTexts;
+    QList<QString> buttonTexts = {};
+    /// The cause and the next step, as a paragraph below the text; may be empty.
+    QString advice = {};
+    /// What the text goes on to say about its buttons, for a box that has some; may be empty.
+    QString aboutButtons = {};
 };
 
 class MessageBoxes {

@@ -2,6 +2,7 @@
 
 #include "Number.h"
 #include "RunTimeError.h"
+#include "SettingsFile.h"
 
 #include <QDir>
 #include <QSettings>
@@ -15,7 +16,7 @@ SettingsLost g_settingsLost = nullptr;
 bool g_lost = false;
 
 QSettings Open(const QString& application) {
-    return {QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Wardlock"), application};
+    return {SettingsFormat(), QSettings::UserScope, QStringLiteral("Wardlock"), application};
 }
 
 double Numeric(const QString& text) {
@@ -37,11 +38,7 @@ int ToWholeNumber(const QString& text) {
 
 QString GetSetting(const QString& application, const QString& section, const QString& key,
                    const QString& fallback) {
-    const QVariant value = Open(application).value(section + u'/' + key, fallback);
-    // A text with a comma that was edited by hand is read as a list.
-    return value.typeId() == QMetaType::QStringList
-               ? value.toStringList().join(QStringLiteral(", "))
-               : value.toString();
+    return Open(application).value(section + u'/' + key, fallback).toString();
 }
 
 void SaveSetting(const QString& application, const QString& section, const QString& key,

@@ -11,6 +11,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int KeyRole = Qt::UserRole;
@@ -23,11 +25,17 @@ frmMdiReports::frmMdiReports(ReportViewer& viewer, QWidget* parent)
     TranslateWindow(*this, Translated);
     connect(m_ui->lvwReports, &QTreeWidget::itemDoubleClicked, this, &frmMdiReports::OpenSelected);
     m_ui->lvwReports->installEventFilter(this);
-    auto* open =
-        new QAction(ProgramIcon(QStringLiteral("report")), Translate("&Open Report"), this);
+    auto* open = new QAction(ProgramIcon(QStringLiteral("report")), m_ui->cmdOpen->text(), this);
     open->setShortcut(QKeySequence::Open);
     connect(open, &QAction::triggered, this, &frmMdiReports::OpenSelected);
     addAction(open);
+    m_ui->cmdOpen->setIcon(open->icon());
+    m_ui->cmdOpen->setToolTip(Translate("Open the dialog of the selected report") +
+                              QStringLiteral(" (") +
+                              open->shortcut().toString(QKeySequence::NativeText) + u')');
+    connect(m_ui->cmdOpen, &QPushButton::clicked, this, &frmMdiReports::OpenSelected);
+    connect(m_ui->lvwReports, &QTreeWidget::itemSelectionChanged, this,
+            [this] { m_ui->cmdOpen->setEnabled(SelectedRow()); });
     m_ui->lvwReports->addAction(open);
     m_ui->lvwReports->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_ui->lvwReports->header()->setStretchLastSection(false);
@@ -59,9 +67,14 @@ void frmMdiReports::AddReportItem(const QString& key, const QString& name,
 }
 
 void frmMdiReports::SizeColumns() {
-    const int half = ColumnWidth(m_ui->lvwReports->width(), 50);
-    m_ui->lvwReports->setColumnWidth(0, half);
-    m_ui->lvwReports->setColumnWidth(1, half);
+    QTreeWidget& list = *m_ui->lvwReports;
+    const int half = ColumnWidth(list.width(), 50);
+    // A description that is longer than its half takes what the names do not need.
+    for (const int column : {0, 1})
+        list.resizeColumnToContents(column);
+    const int names = list.columnWidth(0), descriptions = list.columnWidth(1);
+    list.setColumnWidth(1, std::max(half, descriptions));
+    list.setColumnWidth(0, std::max(names, half - std::max(0, descriptions - half)));
 }
 
 void frmMdiReports::resizeEvent(QResizeEvent* event) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "DockWatch.h"
 #include "DockingLink.h"
+#include "mDeclareGlobals.h"
 
 /// The main window's docking link, whether it is online, and whether a docking station has
 /// answered. Only this class changes these two. Whatever needs a docking station is enabled or
@@ -8,9 +10,16 @@
 class LinkState : public QObject {
     Q_OBJECT
 public:
+    /// `isBusy`: a conversation may be running, so nothing may be sent or opened by itself.
+    explicit LinkState(std::function<bool()> isBusy);
+
     DockingLink& Link() { return m_link; }
     bool Online() const { return m_online; }
+    /// A station was there and is gone. Its device is watched.
+    bool IsMissed() const { return !gDockingDetected && !m_watch.Device().isEmpty(); }
 
+    /// Closes the port before the program connects.
+    void PrepareToConnect();
     void Set(bool online, bool detected);
     /// Closes the port; the link is then offline.
     void Close();
@@ -20,8 +29,15 @@ public:
 signals:
     /// `detected`: there is a docking station to talk to.
     void Changed(bool detected);
+    /// The device of the station has gone, or the station was found again on it. Comes after
+    /// Changed.
+    void StationGone(const QString& device);
+    void StationFound(const QString& device);
 
 private:
+    void Publish(bool online, bool detected);
+
     DockingLink m_link;
+    DockWatch m_watch;
     bool m_online = false;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AccessibleLooks.h"
 #include "WindowTools.h"
 
 #include <QApplication>
@@ -23,4 +24,5 @@ public:
 
 private:
     WindowMessageBoxes m_boxes;
+    AccessibleLooks m_looks;
 };

@@ -6,6 +6,7 @@
 #include "FileDialogs.h"
 #include "FreeFile.h"
 #include "ProgressWindow.h"
+#include "WindowPlace.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"
 #include "ui_frmArchive.h"
@@ -25,6 +26,7 @@ frmArchive::frmArchive(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmArchive>()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
+    RememberPlace(*this);
     for (QDateEdit* field : {m_ui->dtpStartDate, m_ui->dtpEndDate}) {
         PrepareDateField(*field);
         field->setMaximumDate(QDate(9999, 12, 31));

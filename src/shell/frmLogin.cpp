@@ -23,12 +23,13 @@ OperatorType LastLogin() {
 frmLogin::frmLogin(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::frmLogin>()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
+    EnterGroupsAtChecked(*this);
     setWindowTitle(ShortTitle + QStringLiteral(" - ") + Translate("Version") + u' ' +
                    GetVersionString());
     setWindowIcon(ProgramIcon(QStringLiteral("wardlock")));
     (LastLogin() == MasterOperator ? m_ui->optUser_0 : m_ui->optUser_1)->setChecked(true);
     Guarded("LoadSplashImage of Form frmSplash",
-            [this] { ShowPicture(*m_ui->imgLogo, AppFile(QStringLiteral("login.bmp"))); });
+            [this] { ShowPicture(*m_ui->imgLogo, ProgramFile(QStringLiteral("login.bmp"))); });
     SelectAllOnFocus(*m_ui->txtEnteredPassword);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmLogin::cmdOK_Click);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmLogin::cmdCancel_Click);

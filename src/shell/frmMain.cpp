@@ -2,6 +2,7 @@
 
 #include "Clock.h"
 #include "DebugMenu.h"
+#include "ReportProposal.h"
 #include "RunTimeError.h"
 #include "WindowTools.h"
 #include "cReaderOptions.h"
@@ -13,6 +14,7 @@
 #include "frmMdiMenu.h"
 #include "frmMdiReports.h"
 #include "frmPreview.h"
+#include "frmRptTour.h"
 #include "frmUserMaintenance.h"
 #include "mErrorHandler.h"
 #include "mHelp.h"
@@ -22,7 +24,9 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QScreen>
 #include <QToolButton>
 
 #include <array>
@@ -49,6 +53,8 @@ constexpr int LeastWidth = 8000, LeastHeight = 6585;
 constexpr int StripHeight = 1125, ToolbarHeight = 825;
 constexpr int LeastButtonWidth = 700;
 
+const QSize MostFirstSize(1100, 800); ///< pixels
+
 } // namespace
 
 frmMain::frmMain()
@@ -63,6 +69,8 @@ frmMain::frmMain()
     m_ui->sbStatusBar->addPermanentWidget(m_panel2);
     setWindowIcon(ProgramIcon(QStringLiteral("wardlock")));
     connect(&m_state, &LinkState::Changed, this, &frmMain::MarkPage);
+    connect(&m_state, &LinkState::StationGone, this, &frmMain::ShowStationGone);
+    connect(&m_state, &LinkState::StationFound, this, &frmMain::ShowStationFound);
     MDIForm_Load();
 }
 
@@ -109,7 +117,10 @@ void frmMain::ConnectMenu() {
         GoHome();
     });
     connect(m_ui->mnuToolCompany, &QAction::triggered, this, [this] { frmCompany(this).exec(); });
-    connect(m_ui->mnuHelpContents, &QAction::triggered, this, &frmMain::mnuHelpContents_Click);
+    connect(m_ui->mnuHelpContents, &QAction::triggered, this, &ShowHelpContents);
+    connect(m_ui->mnuHelpPage, &QAction::triggered, this, [this] { ShowHelpOn(this); });
+    connect(m_ui->mnuHelp, &QMenu::aboutToShow, this,
+            [this] { m_ui->mnuHelpLanguage->setVisible(HelpIsForeign()); });
     connect(m_ui->mnuHelpAbout, &QAction::triggered, this, [this] {
         frmAbout dialog(this);
         dialog.Populate();
@@ -127,8 +138,10 @@ void frmMain::InitToolbar() {
         action->setToolTip(Translate(row.caption) + QStringLiteral(" (") +
                            action->shortcut().toString(QKeySequence::NativeText) + u')');
         connect(action, &QAction::triggered, this, [this, row] { (this->*row.action)(); });
+        action->setCheckable(true);
         auto* button = static_cast<QToolButton*>(m_ui->tbrMain->widgetForAction(action));
         button->setFocusPolicy(Qt::TabFocus);
+        button->installEventFilter(this);
         button->setAccessibleName(Translate(row.caption));
     }
     QAction* first = m_ui->tbrMain->actions().first();
@@ -148,8 +161,10 @@ void frmMain::NavigateToolbarButtons(const QString& state) {
                            QStringLiteral("NavigateToolbarButtons: %1 marks for %2 buttons")
                                .arg(marks.size())
                                .arg(buttons.size()));
-    for (qsizetype i = 0; i < buttons.size(); ++i)
+    for (qsizetype i = 0; i < buttons.size(); ++i) {
         buttons[i]->setEnabled(marks[i] == u'1');
+        ShowChosen(*buttons[i], i == m_shown);
+    }
     const bool master = m_userType == MasterOperator;
     ToolbarButton(QStringLiteral("setup"))->setVisible(master);
     m_ui->mnuTools->menuAction()->setVisible(master);
@@ -161,6 +176,39 @@ void frmMain::NavigateToolbarButtons(const QString& state) {
         action->setEnabled(master && gDockingDetected);
     if (!gDockingDetected)
         ToolbarButton(QStringLiteral("download"))->setEnabled(false);
+}
+
+/// The button of the present page is disabled, but must look chosen and not forbidden: it keeps the
+/// colours of an enabled one, and is checked, which screen readers say.
+void frmMain::ShowChosen(QAction& action, bool chosen) {
+    action.setChecked(chosen);
+    const QString key = action.objectName();
+    QIcon icon = ProgramIcon(key);
+    QWidget* button = m_ui->tbrMain->widgetForAction(&action);
+    QPalette colours = palette();
+    QFont letters = font();
+    if (chosen) {
+        icon.addPixmap(icon.pixmap(m_ui->tbrMain->iconSize(), devicePixelRatioF()), QIcon::Disabled,
+                       QIcon::On);
+        for (const auto role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text})
+            colours.setColor(QPalette::Disabled, role, colours.color(QPalette::Active, role));
+    }
+    letters.setBold(chosen);
+    action.setIcon(icon);
+    button->setPalette(colours);
+    button->setFont(letters);
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    auto* button = qobject_cast<QToolButton*>(watched);
+    if (button && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            button->click();
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 /// Disables the button of the page that is shown.
@@ -199,13 +247,38 @@ void frmMain::GoHome() {
     if (!UnloadPage())
         return;
     auto* page = new frmMdiMenu(m_ui->pageArea);
+    page->SetUserType(m_userType);
+    connect(page, &frmMdiMenu::RetryWanted, this, &frmMain::GoConnect);
+    connect(page, &frmMdiMenu::ReportWanted, this, &frmMain::OpenTourReport);
+    connect(page, &frmMdiMenu::SetupWanted, this, &frmMain::GoSetupTab);
+    connect(&m_state, &LinkState::Changed, page, [this, page] { ShowHomeStation(*page); });
     ShowPage(HomePage, page);
     page->Translate();
     SetTitle(Translate("Home"));
     IgnoringErrors([this] { MarkPage(); });
     m_state.Port = SavedPortNumber();
+    ShowHomeStation(*page);
     if (!m_state.Online())
         IgnoringErrors([this] { GoConnect(); });
+}
+
+void frmMain::ShowHomeStation(frmMdiMenu& page) {
+    page.ShowStation(gDockingDetected, m_state.Port, DeviceOfPort(m_state.Port));
+}
+
+void frmMain::OpenTourReport(const ReportProposal& proposal) {
+    Guarded("OpenTourReport of Form frmMain", [&] {
+        frmRptTour dialog(*m_viewer, this);
+        dialog.Title(Translate("Tour / Exception Report"));
+        dialog.Propose(proposal);
+        dialog.exec();
+    });
+}
+
+void frmMain::GoSetupTab(int tab) {
+    GoSetup();
+    if (auto* page = qobject_cast<frmMDISetup*>(m_page))
+        page->ShowTab(tab);
 }
 
 void frmMain::GoOnline() {
@@ -215,6 +288,7 @@ void frmMain::GoOnline() {
         SetTitle(Translate("Download"));
         m_downloadPage = new frmMdiDownload(m_state.Link(), m_ui->pageArea);
         connect(m_downloadPage, &frmMdiDownload::BusyChanged, this, &frmMain::ShowBusy);
+        connect(m_downloadPage, &frmMdiDownload::ReportWanted, this, &frmMain::OpenTourReport);
         connect(m_downloadPage, &frmMdiDownload::StatusChanged, m_panel2, &QLabel::setText);
         connect(&m_state, &LinkState::Changed, m_downloadPage, &frmMdiDownload::ShowLink);
         ShowPage(DownloadPage, m_downloadPage);
@@ -260,8 +334,18 @@ void frmMain::RestoreSavedPosition() {
         return;
     }
     setWindowState(Qt::WindowNoState);
-    move(saved("MainLeft", 0), saved("MainTop", 0));
     resize(saved("MainWidth", 9615), saved("MainHeight", 6690));
+    move(saved("MainLeft", 0), saved("MainTop", 0));
+    const bool first =
+        GetSetting(SettingsApplication, SettingsSection::Settings, QStringLiteral("MainWidth"))
+            .isEmpty();
+    const QRect onScreen = screen()->availableGeometry();
+    if (first) {
+        resize(size().expandedTo((onScreen.size() * 2 / 3).boundedTo(MostFirstSize)));
+        move(onScreen.center() - rect().center());
+    } else if (!QGuiApplication::screenAt(geometry().center())) { // that screen is gone
+        move(onScreen.topLeft());
+    }
 }
 
 void frmMain::MDIForm_Unload() {
@@ -317,17 +401,6 @@ void frmMain::EditOperator(OperatorType type) {
     frmUserMaintenance dialog(this);
     dialog.FormStart(type);
     dialog.exec();
-}
-
-void frmMain::mnuHelpContents_Click() {
-    if (HelpFile().isEmpty()) {
-        IvMessageBox(Translate("Unable to display Help Contents. There is no Help associated with "
-                               "this project."),
-                     MessageKind::Information);
-        return;
-    }
-    Trapped([this] { ShowHelpContents(this); },
-            [](const RunTimeError& error) { IvMessageBox(error.Description()); });
 }
 
 void frmMain::TranslateFrame() { TranslateWindow(*this, Translated); }

@@ -9,6 +9,8 @@
 
 class QLabel;
 class frmMdiDownload;
+class frmMdiMenu;
+struct ReportProposal;
 class ReportViewer;
 namespace Ui {
 class frmMain;
@@ -44,6 +46,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void MDIForm_Load();
@@ -56,7 +59,14 @@ private:
     bool UnloadPage();
     void ShowPage(Page kind, QWidget* page);
     void MarkPage();
+    void ShowChosen(QAction& action, bool chosen);
     void ShowBusy(bool busy);
+    bool MayBeTalking() const;
+    void ShowStationGone(const QString& device);
+    void ShowStationFound(const QString& device);
+    void OpenTourReport(const ReportProposal& proposal);
+    void GoSetupTab(int tab);
+    void ShowHomeStation(frmMdiMenu& page);
     void ShowStatus(const QString& text, const QString& icon);
 
     void GoConnect();
@@ -70,12 +80,11 @@ private:
     void ResetLanguage();
     void TranslateFrame();
     void ShowLanguage();
-    void mnuHelpContents_Click();
     void EditOperator(OperatorType type);
 
     std::unique_ptr<Ui::frmMain> m_ui;
     std::unique_ptr<ReportViewer> m_viewer;
-    LinkState m_state;
+    LinkState m_state{[this] { return MayBeTalking(); }};
     QLabel* m_panelPicture;
     QLabel* m_panel1;
     QLabel* m_panel2;

@@ -15,12 +15,13 @@
 #include "mTranslations.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 
 void frmMain::GoConnect() {
     for (bool done = false; !done;) {
         done = true;
-        m_state.Link().ClosePort();
+        m_state.PrepareToConnect();
         DoEventsWithoutInput();
         frmGoOnline dialog(m_state.Link(), this);
         dialog.Online = m_state.Online();
@@ -46,6 +47,23 @@ void frmMain::GoConnect() {
         ShowOnlineMode(m_state.Online());
         ShowDockingDetect(gDockingDetected);
     }
+}
+
+/// Every conversation has a modal window over it or makes the download page busy.
+bool frmMain::MayBeTalking() const {
+    return QApplication::activeModalWidget() || (m_downloadPage && m_downloadPage->Busy());
+}
+
+void frmMain::ShowStationGone(const QString& device) {
+    ShowDockingDetect(false);
+    m_panel2->setText(FormatStr(Translate("%0:s is gone. Plug it in again."), {device}));
+    WriteLog(QStringLiteral("The docking station at %1 is gone").arg(device));
+}
+
+void frmMain::ShowStationFound(const QString& device) {
+    ShowDockingDetect(true);
+    m_panel2->clear();
+    WriteLog(QStringLiteral("The docking station at %1 is back").arg(device));
 }
 
 void frmMain::GoOffline() { m_state.Close(); }

@@ -1,13 +1,42 @@
 #include "frmMdiMenu.h"
 
 #include "Application.h"
+#include "HomeBlocks.h"
 #include "WindowTools.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"
 #include "ui_frmMdiMenu.h"
 
+#include <QPainter>
+
+#include <algorithm>
+
 namespace {
+
+constexpr int RefreshInterval = 60'000;                         ///< ms
+constexpr int LeastPictureHeight = 40, MostPictureHeight = 110; ///< pixels
+const QString OwnPicture = QStringLiteral(":/pictures/contact.svg");
+
+/// True if the file is the one that is delivered with the program. Compared when made small, so
+/// that another version of the drawing library makes no difference.
+bool IsOwnPicture(const QPixmap& file) {
+    const QSize small(40, 20);
+    QImage own(small, QImage::Format_RGB32);
+    own.fill(Qt::white);
+    QPainter painter(&own);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(QRect(QPoint(), small), QIcon(OwnPicture).pixmap(file.size()));
+    painter.end();
+    const QImage other = file.toImage()
+                             .scaled(small, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                             .convertToFormat(QImage::Format_RGB32);
+    qint64 difference = 0;
+    for (int y = 0; y < small.height(); ++y)
+        for (int x = 0; x < small.width(); ++x)
+            difference += std::abs(qGray(own.pixel(x, y)) - qGray(other.pixel(x, y)));
+    return difference < qint64{8} * small.width() * small.height();
+}
 
 constexpr int Margin = 120; ///< twips, left and right
 constexpr int VersionFromBottom = 1000;
@@ -16,8 +45,18 @@ constexpr int CopyrightFromBottom = 360;
 } // namespace
 
 frmMdiMenu::frmMdiMenu(QWidget* parent)
-    : QWidget(parent), m_ui(std::make_unique<Ui::frmMdiMenu>()) {
+    : QWidget(parent), m_tmrRefresh(RefreshInterval), m_ui(std::make_unique<Ui::frmMdiMenu>()) {
     m_ui->setupUi(this);
+    m_blocks = new HomeBlocks(this);
+    m_ui->areaBlocks->setWidget(m_blocks);
+    m_ui->areaBlocks->viewport()->setAutoFillBackground(false);
+    m_blocks->setAutoFillBackground(false);
+    setFocusProxy(m_blocks->findChild<QWidget*>(QStringLiteral("lvwTours")));
+    connect(m_blocks, &HomeBlocks::RetryWanted, this, &frmMdiMenu::RetryWanted);
+    connect(m_blocks, &HomeBlocks::ReportWanted, this, &frmMdiMenu::ReportWanted);
+    connect(m_blocks, &HomeBlocks::SetupWanted, this, &frmMdiMenu::SetupWanted);
+    connect(&m_tmrRefresh, &Timer::Tick, m_blocks, &HomeBlocks::Fill);
+    m_tmrRefresh.SetEnabled(true);
     Guarded("Form_Load of Form frmMdiMenu", [this] {
         gCommActive = false;
         setBackgroundRole(QPalette::Base); // the pictures are drawn for this background
@@ -28,7 +67,7 @@ frmMdiMenu::frmMdiMenu(QWidget* parent)
         m_ui->lblMainTitle->setFont(font);
         m_ui->imgIcon->setPixmap(
             ProgramIcon(QStringLiteral("wardlock")).pixmap(QSize(40, 40), devicePixelRatioF()));
-        ShowPicture(*m_ui->imgContact, AppFile(QStringLiteral("contact.bmp")));
+        ReadPicture();
     });
 }
 
@@ -39,7 +78,25 @@ void frmMdiMenu::Translate() {
     m_ui->lblMainTitle->setText(GetReportsTitle());
     m_ui->lblVersionMsg->setText(::Translate("Version") + u' ' + GetVersionString());
     m_ui->lblCopyright->setText(LegalNotice());
+    m_blocks->Fill();
     ResizeForm();
+}
+
+void frmMdiMenu::SetUserType(OperatorType type) { m_blocks->SetUserType(type); }
+
+void frmMdiMenu::ShowStation(bool detected, int port, const QString& device) {
+    m_blocks->ShowStation(detected, port, device);
+}
+
+/// The delivered picture is drawn for white paper. Where it is used, the drawing itself is shown,
+/// which has no background. A customer's own picture is shown as it is.
+void frmMdiMenu::ReadPicture() {
+    const QString path = ProgramFile(QStringLiteral("contact.bmp"));
+    m_picture = QPixmap(path);
+    if (m_picture.isNull())
+        ShowPicture(*m_ui->imgContact, path); // fails with the file's name
+    if (IsOwnPicture(m_picture))
+        m_picture = QIcon(OwnPicture).pixmap(m_picture.size());
 }
 
 void frmMdiMenu::ResizeForm() {
@@ -53,8 +110,23 @@ void frmMdiMenu::ResizeForm() {
     m_ui->lblCopyright->setGeometry(margin, height() - PixelsOf(CopyrightFromBottom), width,
                                     m_ui->lblCopyright->sizeHint().height());
     const int pictureTop = 3 * margin + titleHeight;
-    m_ui->imgContact->setGeometry(margin, pictureTop, width,
-                                  std::max(0, versionTop - pictureTop - margin));
+    const int room = std::max(0, versionTop - pictureTop - margin);
+    // The picture takes what the blocks leave.
+    int pictureHeight =
+        std::clamp(room - m_blocks->sizeHint().height() - margin, 0, MostPictureHeight);
+    if (pictureHeight < LeastPictureHeight)
+        pictureHeight = 0;
+    m_ui->imgContact->setVisible(pictureHeight > 0 && !m_picture.isNull());
+    if (m_ui->imgContact->isVisibleTo(this)) {
+        const qreal ratio = devicePixelRatioF();
+        QPixmap scaled = m_picture.scaled(QSizeF(width * ratio, pictureHeight * ratio).toSize(),
+                                          Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        scaled.setDevicePixelRatio(ratio);
+        m_ui->imgContact->setPixmap(scaled);
+        m_ui->imgContact->setGeometry(margin, pictureTop, width, pictureHeight);
+    }
+    const int blocksTop = pictureTop + (pictureHeight > 0 ? pictureHeight + margin : 0);
+    m_ui->areaBlocks->setGeometry(margin, blocksTop, width, std::max(0, versionTop - blocksTop));
     const QSize icon = m_ui->imgIcon->sizeHint();
     const int iconLeft = isRightToLeft() ? margin : this->width() - icon.width() - margin;
     m_ui->imgIcon->setGeometry(QRect(QPoint(iconLeft, margin), icon));

@@ -6,6 +6,16 @@
 #include "mTranslations.h"
 #include "ui_frmUserMaintenance.h"
 
+namespace {
+
+bool EmptyPasswordConfirmed() {
+    return IvMessageBox(Translate("The password is empty. Anyone could log in without one.") +
+                            QStringLiteral("\n\n") + Translate("Do you want to save it?"),
+                        MessageKind::Question, MessageButtons::YesNo) == MessageAnswer::Yes;
+}
+
+} // namespace
+
 frmUserMaintenance::frmUserMaintenance(QWidget* parent)
     : EditorDialog(parent), m_ui(std::make_unique<Ui::frmUserMaintenance>()) {
     m_ui->setupUi(this);
@@ -52,6 +62,10 @@ void frmUserMaintenance::cmdOK_Click() {
         IvMessageBox(
             Translate("A password cannot contain line breaks or other control characters."));
         FocusAndSelect(*m_ui->txtPassword);
+        return;
+    }
+    if (m_ui->txtPassword->text().isEmpty() && !EmptyPasswordConfirmed()) {
+        m_ui->txtPassword->setFocus();
         return;
     }
     if (Update())

@@ -2,10 +2,13 @@
 
 #include "Application.h"
 #include "Clock.h"
+#include "DeliveredStore.h"
 #include "Format.h"
 #include "InstanceLock.h"
 #include "MessageBox.h"
 #include "ReportFont.h"
+#include "StoreFailure.h"
+#include "StoreFolder.h"
 #include "StoreUpkeep.h"
 #include "WindowTools.h"
 #include "deMain.h"
@@ -20,6 +23,7 @@
 #include "mTranslations.h"
 
 #include <QApplication>
+#include <QFileInfo>
 
 #include <cstdio>
 #include <optional>
@@ -61,10 +65,30 @@ bool OpenLanguage() {
     });
 }
 
+/// Makes the empty store of the first start. A failure is not logged: the log would make the next
+/// start take the folder for one that has lost its store.
+bool MakeFirstStore() {
+    return QFileInfo::exists(gDatabasePath) ||
+           Trapped(
+               [] {
+                   MakeDeliveredStore(gDatabasePath, StoreContent::Empty);
+                   return true;
+               },
+               [](const RunTimeError& error) {
+                   TellOfUnopenedStore(gDatabasePath, CauseOf(error, gDatabasePath));
+               });
+}
+
 /// Tests, compacts and opens the store, and connects the report data environment.
-bool TestCompactAndOpen(frmSplash& splash) {
+bool TestCompactAndOpen(frmSplash& splash, bool isFirstStart) {
     splash.ShowMessage(Translate("Opening Database..."));
     gDatabasePath = AppFile(QStringLiteral("main.mdb"));
+    if (const QString fault = FaultOfStoreFolder(); !fault.isEmpty()) {
+        TellOfUnopenedStore(gDatabasePath, fault);
+        return false;
+    }
+    if (isFirstStart && !MakeFirstStore())
+        return false;
     if (gDebugMode)
         WriteLog(QStringLiteral("Database path = ") + gDatabasePath);
     gConnectionString = ConnectionText(gDatabasePath, StorePassword);
@@ -84,14 +108,15 @@ bool TestCompactAndOpen(frmSplash& splash) {
     return true;
 }
 
-bool OpenUnderSplash() {
+bool OpenUnderSplash(bool isFirstStart) {
     frmSplash splash;
     splash.ShowVersion(TitleWithVersion());
     splash.ShowMessage(Translate("Loading Application..."));
     splash.ShowPainted();
     splash.ShowMessage(Translate("Initializing Online Help..."));
-    SetHelpFile(AppFile(Translate("WK3_ENG.HLP")));
-    if (!TestCompactAndOpen(splash))
+    SetHelpFile(ProgramFile(Translate("WK3_ENG.HLP")));
+    InstallHelpKey();
+    if (!TestCompactAndOpen(splash, isFirstStart))
         return false;
     Sleep(SplashPause);
     splash.repaint();
@@ -110,6 +135,9 @@ void CloseAfterFailedLogin() {
 } // namespace
 
 StartOutcome Main(const QString& commandLine) {
+    const bool isFirstStart = IsNewStoreFolder();
+    if (isFirstStart)
+        MakeUserDataFolder(); // before the instance lock, which is named after the folder
     ReportLostSettings();
     ReadCommandLine(commandLine);
     if (!OpenLanguage())
@@ -121,7 +149,7 @@ StartOutcome Main(const QString& commandLine) {
         return StartOutcome::Failed;
     }
     std::optional<Hourglass> hourglass(std::in_place);
-    if (!OpenUnderSplash())
+    if (!OpenUnderSplash(isFirstStart))
         return StartOutcome::Failed;
     OperatorType login;
     bool refused;

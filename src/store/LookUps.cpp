@@ -1,6 +1,7 @@
 #include "LookUps.h"
 
 #include "Rows.h"
+#include "mErrorHandler.h"
 
 namespace {
 
@@ -123,6 +124,12 @@ QList<Reader> ReadersByDescription() {
 std::optional<Reader> FindReader(const QString& id) {
     return First(Rows(QStringLiteral("SELECT * FROM tblReaders WHERE tReaderId = ? ; "), {id}),
                  ReaderOf);
+}
+
+QString ReaderTextOf(const QString& id) {
+    std::optional<Reader> reader;
+    IgnoringErrors([&] { reader = FindReader(id); });
+    return reader ? ReaderText(*reader) : id;
 }
 
 int CountReaders() { return CountRows("tblReaders"); }

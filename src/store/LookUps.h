@@ -61,6 +61,9 @@ struct Reader {
 inline QString ReaderText(const Reader& reader) {
     return reader.id + QStringLiteral(" - ") + reader.description;
 }
+/// The same for an identifier, for messages: the identifier alone if the reader has not been taught
+/// or cannot be read. Does not throw.
+QString ReaderTextOf(const QString& id);
 QList<Reader> Readers();
 QList<Reader> ReadersById();
 QList<Reader> ReadersByDescription();

@@ -57,7 +57,8 @@ bool CopyBytes(const QString& from, const std::function<void(const QByteArray&)>
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         ThrowReadFailure(from);
     const int all = static_cast<int>(before.size() / CopiedAtOnce) + 1;
-    for (int done = 0;; ++done) {
+    // Not to its end: some files of the system have none.
+    for (int done = 0; file.pos() < before.size(); ++done) {
         if (!progress(done, std::max(done, all)))
             return false;
         const QByteArray bytes = file.read(CopiedAtOnce);

@@ -3,6 +3,7 @@
 #include "Engine.h"
 #include "FileReplacement.h"
 #include "StoreLock.h"
+#include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"
 
@@ -58,6 +59,11 @@ QString CauseOf(const RunTimeError& error, const QString& storePath) {
             return Translate("It is damaged. Please restore a backup.");
         return error.Description();
     }
+}
+
+void TellOfReportFailure(const RunTimeError& error) {
+    IvMessageBox(Translate("The report could not be created. See error.log for the reason."),
+                 CauseOf(error, gDatabasePath));
 }
 
 void TellOfForeignJournal(const QString& journalPath) {

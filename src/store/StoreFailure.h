@@ -13,6 +13,10 @@ public:
 /// it.
 QString CauseOf(const RunTimeError& error, const QString& storePath);
 
+/// Tells the operator that a report could not be made from the open store, and why. The log has the
+/// failure already.
+void TellOfReportFailure(const RunTimeError& error);
+
 /// Tells the operator that a journal beside the store belonged to another file, and where it is
 /// now.
 void TellOfForeignJournal(const QString& journalPath);

@@ -32,6 +32,12 @@ void OpenStore(Connection& connection, const QString& path, const QString& passw
         TellOfForeignJournal(connection.ForeignJournal());
 }
 
+void TellOfUnopenedStore(const QString& path, const QString& cause) {
+    MsgBox(QStringLiteral("*** System Error: Cannot Open the database at ") + path +
+               QStringLiteral("\n\n") + cause,
+           {}, MessageKind::Warning);
+}
+
 bool ADOTest(const QString& path, const QString& password) {
     if (gDebugMode)
         WriteLog(QStringLiteral("In ADOTest, DBpath= ") + path + QStringLiteral(",  DBPassword= ") +
@@ -43,9 +49,7 @@ bool ADOTest(const QString& path, const QString& password) {
     };
     return Trapped(test, [&](const RunTimeError& error) {
         LogOpenFailure(QStringLiteral("ADOTest Failed. Exiting..."), error);
-        MsgBox(QStringLiteral("*** System Error: Cannot Open the database at ") + path +
-                   QStringLiteral("\n\n") + CauseOf(error, path),
-               {}, MessageKind::Warning);
+        TellOfUnopenedStore(path, CauseOf(error, path));
     });
 }
 

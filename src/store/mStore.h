@@ -18,6 +18,9 @@ QString ConnectionText(const QString& path, const QString& password);
 /// RunTimeError.
 void OpenStore(Connection& connection, const QString& path, const QString& password);
 
+/// Tells the operator that the store cannot be opened, and why.
+void TellOfUnopenedStore(const QString& path, const QString& cause);
+
 /// True if the store can be opened. If not, tells the operator why.
 bool ADOTest(const QString& path, const QString& password);
 

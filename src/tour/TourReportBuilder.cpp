@@ -2,8 +2,9 @@
 
 #include "Format.h"
 #include "ScratchTable.h"
+#include "StoreFailure.h"
 #include "TourExceptionTable.h"
-#include "TourMatching.h"
+#include "TourWords.h"
 #include "darTourException.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
@@ -22,78 +23,43 @@ QString PlaceText(const QString& group, const QString& name) {
 
 QString ClockText(DateTime time) { return Format(time, QStringLiteral("hh:nn")); }
 
-void ShowFailure(const char* code) {
+void ShowFailure(const char* code, const QString& advice) {
     IvMessageBox(Translate("Error in creating new Tour") + QStringLiteral("\r\n") +
-                 QString::fromUtf8(code));
+                     QString::fromUtf8(code),
+                 advice);
 }
 
-QString StatusWord(TouchClass touchClass) {
-    switch (touchClass) {
-    case TouchClass::Early:
-        return Translate("EARLY");
-    case TouchClass::OnTime:
-        return Translate("ON TIME");
-    case TouchClass::Late:
-        return Translate("LATE");
-    case TouchClass::OutOfSequence:
-        return Translate("OUT OF SEQUENCE");
-    case TouchClass::NotOnTour:
-        return Translate("NOT ON TOUR");
-    case TouchClass::NotAssigned:
-        break;
-    }
-    return {};
-}
+QString SeeTheLog() { return Translate("See error.log for the reason."); }
 
-/// Writes the report's lines in one pass over points and touches. The order of the steps matters: a
-/// touch that is assigned to a point is used up for all later points, whether it is printed or not.
+/// Writes the report's lines from the evaluation.
 class LineWriter {
 public:
-    LineWriter(cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table)
+    LineWriter(const cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table)
         : m_tour(tour), m_request(request), m_table(table) {}
 
-    /// False if a point's neighbours could not be found.
-    bool WriteAll() {
-        for (std::size_t i = 0; i < m_tour.TourPoints().size(); ++i)
-            if (!WritePoint(i))
-                return false;
+    void WriteAll(const std::vector<PointOutcome>& outcomes) {
+        for (std::size_t i = 0; i < outcomes.size(); ++i)
+            WritePoint(m_tour.TourPoints()[i], outcomes[i]);
         if (m_noLinesWritten) {
             m_table.WriteNote(Translate("NO EXCEPTIONS"));
             m_table.WriteSeparator();
         }
-        return true;
     }
 
 private:
-    bool WritePoint(std::size_t position) {
-        const cTourPoint& point = m_tour.TourPoints()[position];
-        cTourPoint previous, next;
-        if (!GetPrevAndNextTourPoints(position, m_tour.TourPoints(), point.PointDateTime, previous,
-                                      next))
-            return false;
-        const QString status = Translate(point.PointOK ? "ON TIME" : "EXCEPTION");
-        bool tourLineWritten = false;
-        colLocations left;
-        for (cLocation& touch : m_tour.Buttons()) {
-            const TouchClass touchClass = Classify(touch, point, previous, next, m_tour);
-            m_showPoint = !(point.PointOK && !m_request.ShowAll);
-            if (touchClass == TouchClass::NotAssigned) {
-                left.push_back(std::move(touch));
-                continue;
-            }
-            if (!m_showPoint)
-                continue;
-            if (!tourLineWritten)
-                WriteTourLine(point, status);
-            tourLineWritten = true;
-            WriteTouch(touch, touchClass);
-        }
+    void WritePoint(const cTourPoint& point, const PointOutcome& outcome) {
         // If no touch was left, m_showPoint is still that of an earlier point. So if points that
         // need no line have used up all touches, the points after them get no line either.
-        if (m_showPoint && !tourLineWritten)
+        if (outcome.touchesWereLeft)
+            m_showPoint = !(point.PointOK && !m_request.ShowAll);
+        if (!m_showPoint)
+            return;
+        if (outcome.touches.empty())
             WriteTourLine(point, Translate("MISSING"));
-        m_tour.Buttons() = std::move(left);
-        return true;
+        else
+            WriteTourLine(point, Translate(point.PointOK ? "ON TIME" : "EXCEPTION"));
+        for (const AssignedTouch& assigned : outcome.touches)
+            WriteTouch(assigned.touch, assigned.touchClass);
     }
 
     void WriteTourLine(const cTourPoint& point, const QString& status) {
@@ -116,7 +82,7 @@ private:
                                     PlaceText(event.GroupName, event.Name));
     }
 
-    cTourReport& m_tour;
+    const cTourReport& m_tour;
     const TourReportRequest& m_request;
     TourExceptionTable& m_table;
     bool m_noLinesWritten = true;
@@ -126,44 +92,51 @@ private:
 /// Loads the tour and matches it. False if there is nothing to report; a message box has said why.
 bool LoadTour(cTourReport& tour) {
     if (!tour.LoadTourHeader()) {
-        ShowFailure("<ERROR #0001>");
+        ShowFailure("<ERROR #0001>",
+                    Translate("This tour does not exist any more, or it cannot be read."));
         return false;
     }
     if (!tour.LoadTourPoints()) {
-        ShowFailure("<ERROR #0002>");
+        ShowFailure("<ERROR #0002>", Translate("The tour has no points. A master adds them on the "
+                                               "Setup page."));
         return false;
     }
     if (!tour.LoadReaderEvents())
         return false;
     if (tour.Buttons().empty()) {
-        IvMessageBox(Translate("No Data on the report"));
+        tour.TellOfNoData();
         return false;
     }
     if (!TryToMatchTourPoints(tour)) {
-        ShowFailure("<ERROR #0004>");
+        ShowFailure("<ERROR #0004>", SeeTheLog());
         return false;
     }
     return true;
 }
 
 /// Creates the scratch table and writes all lines. False after a message box.
-bool WriteTable(cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table) {
+bool WriteTable(cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table,
+                PointCounts& counts) {
     const auto make = [] {
         const bool made = TourExceptionTable::ResetTempTourTable();
         if (!made)
-            ShowFailure("<ERROR #0005>");
+            ShowFailure("<ERROR #0005>", SeeTheLog());
         return made;
     };
     return table.Fill(make, [&] {
-        const bool written = LineWriter(tour, request, table).WriteAll();
-        if (!written)
-            ShowFailure("<ERROR #0006>");
-        return written;
+        const auto outcomes = AssignTouches(tour);
+        if (!outcomes) {
+            ShowFailure("<ERROR #0006>", SeeTheLog());
+            return false;
+        }
+        counts = CountPoints(tour, *outcomes);
+        LineWriter(tour, request, table).WriteAll(*outcomes);
+        return true;
     });
 }
 
-void Print(const cTourReport& tour, const TourReportRequest& request, TourExceptionTable& table,
-           ReportViewer& viewer) {
+void Print(const cTourReport& tour, const TourReportRequest& request, const PointCounts& counts,
+           TourExceptionTable& table, ReportViewer& viewer) {
     darTourException report;
     report.SetDataSource(&table.Rows());
     report.SetReportParam({{u"lblPrintDate", PrintDateText(4)},
@@ -173,7 +146,9 @@ void Print(const cTourReport& tour, const TourReportRequest& request, TourExcept
                            {u"lblReportTitle", GetReportTitle(request.ShowAll)},
                            {u"lblTolerance", QString::number(tour.Tolerance)},
                            {u"lblCompanyInfo", CompanyText()},
+                           {u"lblSummary", PointSummary(counts)},
                            {u"lblOptions", Translate(request.IncludeEvents ? "Yes" : "No")}});
+    NameDocument(report, {tour.TourName, request.ReaderText}, tour.StartDate, tour.StartDate);
     SetFrameText(report, u"Label17", u"Label19", u"Label16", u"lblEndOfReport");
     report.SetText({{u"lblTitleReaderID", Translate("Reader ID:")},
                     {u"lblDate", Translate("Tour Date:")},
@@ -183,6 +158,8 @@ void Print(const cTourReport& tour, const TourReportRequest& request, TourExcept
                     {u"lblSite", Translate("Site/Location")},
                     {u"lblActualTime", Translate("Status")},
                     {u"lblShowEvents", Translate("Show Events:")}});
+    for (const QStringView status : {u"txtStatus", u"txtEventStatus"})
+        report.Control(status).SetSigns(StatusSigns());
     ShowLayoutFrame(report, viewer);
 }
 
@@ -195,18 +172,19 @@ QString GetReportTitle(bool showAll) {
 void BuildTourReport(const TourReportRequest& request, ReportViewer& viewer) {
     cTourReport tour;
     TourExceptionTable table;
+    PointCounts counts;
     const auto fill = [&] {
-        tour = {}; // writing the lines uses up the touches
+        tour = {}; // the evaluation uses up the touches
         tour.TourID = request.TourID;
         tour.StartDate = request.StartDate;
         tour.ReaderId = request.ReaderId;
-        return LoadTour(tour) && WriteTable(tour, request, table);
+        return LoadTour(tour) && WriteTable(tour, request, table, counts);
     };
-    Trapped([&] { WithScratchTables(fill, [&] { Print(tour, request, table, viewer); }); },
+    Trapped([&] { WithScratchTables(fill, [&] { Print(tour, request, counts, table, viewer); }); },
             [](const RunTimeError& error) {
                 ReportError(QStringLiteral("BuildTourReport of Form frmRptTour"), error,
                             ErrorShow::LogOnly);
-                ShowFailure("<ERROR #9999>");
+                ShowFailure("<ERROR #9999>", CauseOf(error, gDatabasePath));
             });
     table.Close();
     TourExceptionTable::Drop();

@@ -4,6 +4,7 @@
 #include "Recordset.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
+#include "mReports.h"
 #include "mTranslations.h"
 
 namespace {
@@ -82,29 +83,39 @@ bool cTourReport::LoadTourPoints() {
 
 bool cTourReport::LoadReaderEvents() {
     return Guarded("LoadReaderEvents of Class Module cTourReport", [this] {
-        const int margin = Tolerance >= 1 && Tolerance < 60 ? Tolerance : WindowWithoutTolerance;
-        TourWindow = DateTime::FromTime(0, margin);
-        m_buttons.clear();
-        Recordset rows;
-        OpenQuery(rows,
-                  QStringLiteral("SELECT ID, dtDateTime, tButtonCode, tButtonName, tButtonDesc, "
-                                 "tGroupName, tGroupDesc, wGroupType FROM tblEvents "
-                                 "WHERE ((wGroupType = 1) OR (wGroupType = 2)) AND (tPipeID = ?) "
-                                 "AND (dtDateTime >= ?) AND (dtDateTime <= ?) "
-                                 "ORDER BY dtDateTime, ID;"),
-                  {ReaderId, m_GetStartDate(), m_GetEndDate()});
-        if (rows.RecordCount() < 1) {
-            IvMessageBox(Translate("No Data on the report"));
-            return false;
-        }
-        for (; !rows.Eof(); rows.MoveNext()) {
-            if (rows.Number(u"wGroupType") == SiteGroup)
-                m_buttons.push_back(LocationOf(rows));
-            else if (!m_buttons.empty()) // an event before the first location has no place
-                m_buttons.back().Events.push_back(EventOf(rows));
-        }
-        return true;
+        const bool any = ReadReaderEvents();
+        if (!any)
+            TellOfNoData();
+        return any;
     });
+}
+
+bool cTourReport::ReadReaderEvents() {
+    const int margin = Tolerance >= 1 && Tolerance < 60 ? Tolerance : WindowWithoutTolerance;
+    TourWindow = DateTime::FromTime(0, margin);
+    m_buttons.clear();
+    Recordset rows;
+    OpenQuery(rows,
+              QStringLiteral("SELECT ID, dtDateTime, tButtonCode, tButtonName, tButtonDesc, "
+                             "tGroupName, tGroupDesc, wGroupType FROM tblEvents "
+                             "WHERE ((wGroupType = 1) OR (wGroupType = 2)) AND (tPipeID = ?) "
+                             "AND (dtDateTime >= ?) AND (dtDateTime <= ?) "
+                             "ORDER BY dtDateTime, ID;"),
+              {ReaderId, m_GetStartDate(), m_GetEndDate()});
+    for (; !rows.Eof(); rows.MoveNext()) {
+        if (rows.Number(u"wGroupType") == SiteGroup)
+            m_buttons.push_back(LocationOf(rows));
+        else if (!m_buttons.empty()) // an event before the first location has no place
+            m_buttons.back().Events.push_back(EventOf(rows));
+    }
+    return rows.RecordCount() > 0;
+}
+
+void cTourReport::TellOfNoData() const {
+    IvMessageBox(Translate("No Data on the report"),
+                 SearchedText({{QT_TR_NOOP("Reader"), ReaderTextOf(ReaderId)},
+                               {QT_TR_NOOP("Tour"), GetTourFullName()}},
+                              m_GetStartDate(), m_GetEndDate()));
 }
 
 DateTime cTourReport::m_GetStartDate() const {

@@ -36,6 +36,10 @@ public:
     /// If the window holds no event at all, a message box says so and it gives false. If it gives
     /// true, there may still be no location touch.
     bool LoadReaderEvents();
+    /// The same without the message. Throws RunTimeError.
+    bool ReadReaderEvents();
+    /// A message box: what was searched holds nothing for the report. The tour must have points.
+    void TellOfNoData() const;
 
 private:
     /// The range of the query for events. The tour must have points.

@@ -29,7 +29,7 @@ inline void Type(Script& script, const QString& window, const char* field, const
 }
 
 /// A list's rows. Each row is a text, its columns separated by "|".
-inline QStringList RowsIn(const QTreeView& list) {
+inline QStringList RowsIn(const QAbstractItemView& list) {
     QStringList rows;
     for (int row = 0; row < list.model()->rowCount(); ++row) {
         QStringList texts;

@@ -5,14 +5,14 @@
 #include "Files.h"
 #include "Recordset.h"
 #include "Schema.h"
+#include "SettingsFile.h"
 
-#include <QSettings>
 #include <QTest>
 
 TestHome::TestHome(Content content) {
     SetAppPath(m_folder.path());
     gConnectionString = ConnectionText(Store(), StorePassword);
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("config"));
+    QSettings::setPath(SettingsFormat(), QSettings::UserScope, File("config"));
     if (content == NoStore)
         return;
     CreateStoreFile(Store(), StorePassword);

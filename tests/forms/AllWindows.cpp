@@ -1,6 +1,8 @@
 #include "AllWindows.h"
 
+#include "Application.h"
 #include "DockingLink.h"
+#include "HelpBook.h"
 #include "Recordset.h"
 #include "ReportViewer.h"
 #include "frmAbout.h"
@@ -17,6 +19,7 @@
 #include "frmEditTour.h"
 #include "frmFirmwareVersion.h"
 #include "frmGoOnline.h"
+#include "frmHelp.h"
 #include "frmLanguage.h"
 #include "frmListEdit.h"
 #include "frmLogin.h"
@@ -82,6 +85,11 @@ std::map<QString, WindowMaker> MakeAll() {
     };
     makers["frmFirmwareVersion"] = [](auto&, auto&) {
         return std::make_unique<frmFirmwareVersion>("3.04", nullptr);
+    };
+    makers["frmHelp"] = [](auto&, auto&) {
+        auto form = std::make_unique<frmHelp>(AppFile(Translate("WK3_ENG.HLP")));
+        form->ShowTopic(HelpBook::Contents);
+        return form;
     };
     makers["frmLanguage"] = [](auto&, auto&) {
         return std::make_unique<frmLanguage>(*gDictionary, gLanguage, nullptr);

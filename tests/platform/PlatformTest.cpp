@@ -165,6 +165,23 @@ private slots:
         QCOMPARE(GetSetting("Other", "Info", "Line", "fallback"), "fallback");
     }
 
+    // A disk that fills up in the middle of the file.
+    void SettingsThatAreCut() {
+        const TestHome home(TestHome::NoStore);
+        const QString before(500, u'b');
+        SaveSetting("Wardlock Lite", "Info", "Line", before);
+        const QString file = home.File("config/Wardlock/Wardlock Lite.conf");
+        const QByteArray whole = BytesOf(file);
+        for (const rlim_t most : {0, 100, 700}) {
+            {
+                const ResourceLimit limit(RLIMIT_FSIZE, most);
+                SaveSetting("Wardlock Lite", "Info", "Other", QString(600, u'o'));
+            }
+            QCOMPARE(BytesOf(file), whole);
+        }
+        QCOMPARE(QDir(home.File("config/Wardlock")).entryList(QDir::Files).size(), 1);
+    }
+
     // One message, not one for each write. There is another one after a write has succeeded.
     void SettingsThatCannotBeWritten() {
         const TestHome home(TestHome::NoStore);
@@ -202,9 +219,9 @@ private slots:
             if (!content.isEmpty())
                 WriteBytes(home.File("WK3.MLD"), content);
             ScriptedBoxes boxes;
-            gLanguage = 2;
+            gLanguage = 99;
             OpenDictionary();
-            QCOMPARE(boxes.TakeTexts(), QStringList{"Language 2 could not be displayed\n"
+            QCOMPARE(boxes.TakeTexts(), QStringList{"Language 99 could not be displayed\n"
                                                     "Resetting to default system language..."});
             QCOMPARE(gLanguage, 1);
             QCOMPARE(GetSetting(SettingsApplication, "Properties", "Language"), "1");

@@ -5,6 +5,7 @@
 #include "ScriptedBoxes.h"
 #include "TestHome.h"
 #include "TestTable.h"
+#include "WindowPlace.h"
 #include "frmAddButton.h"
 #include "frmEditButton.h"
 #include "frmEditTime.h"
@@ -15,6 +16,8 @@
 #include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QListView>
+#include <QScreen>
 #include <QTabBar>
 #include <QTimeEdit>
 
@@ -142,7 +145,8 @@ private slots:
         SelectPlace(*list, 0);
         QTest::keyClick(list, Qt::Key_Delete);
         QCOMPARE(RowsIn(*list).size(), 3); // the answer was No
-        QCOMPARE(m_boxes.TakeTexts(), {"Are you sure you want to delete it?"});
+        QCOMPARE(m_boxes.TakeTexts(),
+                 {"Are you sure you want to delete it?\n\n\"Event Book 001\" will be lost."});
         m_boxes.Answers = {MessageAnswer::Yes};
         QTest::keyClick(list, Qt::Key_Delete);
         QCOMPARE(RowsIn(*list),
@@ -156,7 +160,8 @@ private slots:
         for (int i = 0; i < 3; ++i)
             Press(*page, "cmdSetup_2");
         QCOMPARE(m_boxes.TakeTexts().first(),
-                 "The selected group contains sub-items\nAre you sure you want to delete it?");
+                 "The selected group contains sub-items\nAre you sure you want to delete "
+                 "it?\n\n\"Incidents\" and its buttons will be lost.");
         QVERIFY(RowsIn(*list).isEmpty());
         QVERIFY(!Control<QPushButton>(*page, "cmdSetup_0")->isEnabled() &&
                 !Control<QPushButton>(*page, "cmdSetup_2")->isEnabled());
@@ -185,7 +190,9 @@ private slots:
         QCOMPARE(m_boxes.TakeTexts().size(), 2);
         m_boxes.Answers = {MessageAnswer::Yes};
         Press(*page, "cmdSetup_2");
-        QCOMPARE(m_boxes.TakeTexts(), {"Are you sure you want to delete this reader? 0A0B0C0D"});
+        QCOMPARE(m_boxes.TakeTexts(),
+                 {"Are you sure you want to delete this reader? 0A0B0C0D\n\n\"Day reader\" will be "
+                  "lost. Touches that are already downloaded are kept."});
         QCOMPARE(RowsIn(*list).size(), 1);
     }
 
@@ -234,7 +241,8 @@ private slots:
                                       "1A422B|Quay stairs|Top step rail", "Quay"}));
         QCOMPARE(m_boxes.TakeTexts(),
                  (QStringList{"That name is already used.  Please enter another name.",
-                              "Are you sure you want to delete this item?"}));
+                              "Are you sure you want to delete this item?\n\n\"Aft bollard\" will "
+                              "be lost. Touches that are already downloaded are kept."}));
         QCOMPARE(RowsIn(*list).last(), "Quay|Pier 4, north side");
     }
 
@@ -261,8 +269,9 @@ private slots:
         QCOMPARE(RowsOf("SELECT tDesc, iTolerance, dtStartTime FROM tblTours WHERE ID = 4"),
                  QStringList(" |5|0"));
         Press(*page, "cmdSetup_2");
-        QCOMPARE(m_boxes.TakeTexts(), {"The selected Tour contains data.\nAre you sure you want to "
-                                       "delete this tour?"});
+        QCOMPARE(m_boxes.TakeTexts(),
+                 {"The selected Tour contains data.\nAre you sure you want to "
+                  "delete this tour?\n\n\"Tour 002\" and its points will be lost."});
         gConn->Execute("DELETE * FROM tblButtons");
         Press(*page, "cmdSetup_0");
         QCOMPARE(m_boxes.TakeTexts(),
@@ -411,6 +420,104 @@ private slots:
         QCOMPARE(m_boxes.TakeTexts().size(), 1);
         Press(*moved, "cmdCancel");
         QVERIFY(!moved->isVisible() && m_boxes.TakeTexts().isEmpty());
+    }
+
+    // A new site can be named in the list at once. The filter hides rows, and what is hidden is
+    // neither edited nor deleted.
+    void NamingAndFiltering() {
+        gConn->Execute("DELETE * FROM tblListItems");
+        const auto page = Page(Sites);
+        auto* list = Control<QTreeView>(*page, "lvwProgram");
+        auto* filter = Control<QLineEdit>(*page, "txtFilter");
+        QVERIFY(Control(*page, "listHint")->isVisible());
+        for (const char* name : {"Depot", " Depot ", "Yard"}) {
+            Press(*page, "cmdSetup_1");
+            auto* field = list->viewport()->findChild<QLineEdit*>();
+            QVERIFY(field && Control(*page, "listHint")->isHidden());
+            field->setText(name);
+            QTest::keyClick(field, Qt::Key_Return);
+            QTRY_VERIFY(!list->viewport()->findChild<QLineEdit*>());
+            QCoreApplication::processEvents();
+        }
+        QCOMPARE(m_boxes.TakeTexts(), {"That name is already used.  Please enter another name."});
+        QCOMPARE(RowsIn(*list), (QStringList{"Depot|", "Site 001|", "Yard|"}));
+        filter->setText("yar");
+        QVERIFY(list->isRowHidden(0, {}) && list->currentIndex().data() == "Yard");
+        filter->setText("none");
+        QVERIFY(!Control<QPushButton>(*page, "cmdSetup_2")->isEnabled());
+        QTest::keyClick(page.get(), Qt::Key_Delete);
+        QVERIFY(m_boxes.TakeTexts().isEmpty());
+        Press(*page, "cmdSetup_1"); // a new row is always seen
+        QCOMPARE(list->currentIndex().data(), "Site 002");
+        QVERIFY(!list->isRowHidden(0, {}));
+        QTest::keyClick(page.get(), Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(Control<QTabBar>(*page, "tabSetup")->currentIndex(), EventBooks);
+    }
+
+    // Columns fit their rows, and stay as the operator made them: in a narrower list, and in the
+    // next run.
+    void ColumnsAreKept() {
+        gConn->Execute(
+            "UPDATE tblListItems SET tName = 'A site with a name of thirty-eight letters' "
+            "WHERE ID = 1");
+        auto page = Page(Sites);
+        const auto header = [&] { return Control<QTreeView>(*page, "lvwProgram")->header(); };
+        QTRY_COMPARE(header()->length(), header()->viewport()->width());
+        const QAbstractItemView* view = Control<QTreeView>(*page, "lvwProgram");
+        QVERIFY(header()->sectionSize(0) > view->sizeHintForColumn(0));
+        header()->resizeSection(0, header()->length() / 4);
+        QCOMPARE(header()->length(), header()->viewport()->width());
+        page->resize(600, 400);
+        QVERIFY(std::abs(header()->sectionSize(0) * 4 - header()->length()) < 12);
+        Control<QTabBar>(*page, "tabSetup")->setCurrentIndex(TourTab);
+        QVERIFY(header()->sectionSize(0) * 3 > header()->length());
+        page = Page(Sites);
+        QVERIFY(std::abs(header()->sectionSize(0) * 4 - header()->length()) < 12);
+    }
+
+    // What is typed in the list of sites searches; only an entry that is chosen becomes the value.
+    void SitesAreSearched() {
+        const auto editor = Editor();
+        auto* sites = Control<QComboBox>(*editor, "imgCboSites");
+        auto* search = Control<QLineEdit>(*sites, "txtSearch");
+        sites->setFocus();
+        QTest::keyClick(sites, Qt::Key_T); // in both names
+        QTest::keyClicks(search, "OW");
+        QCOMPARE(RowsIn(*Control<QListView>(*sites, "lvwFound")), QStringList("Office Tower"));
+        QTest::keyClick(search, Qt::Key_Escape);
+        QCOMPARE(sites->currentText(), "Harbour Warehouse");
+        sites->showPopup();
+        QTest::keyClicks(Control<QListView>(*sites, "lvwFound"), "xyz");
+        QTest::keyClick(search, Qt::Key_Return);
+        QVERIFY(search->isVisible());
+        QCOMPARE(sites->currentText(), "Harbour Warehouse");
+        search->setText("tow");
+        QTest::keyClick(search, Qt::Key_Return);
+        QVERIFY(!search->isVisible() && editor->isVisible());
+        QCOMPARE(sites->currentText(), "Office Tower");
+        QVERIFY(RowsIn(*Control<QTreeView>(*editor, "lvwLocations"))
+                    .join(u'\n')
+                    .contains("Server room"));
+    }
+
+    // A dialog opens as it was left, but not beyond the screen.
+    void DialogsRememberTheirPlace() {
+        const auto shown = [&](const QRect& place) {
+            frmEditButton dialog(nullptr);
+            RememberPlace(dialog);
+            dialog.show();
+            const QRect was(dialog.pos(), dialog.size());
+            dialog.move(place.topLeft());
+            dialog.resize(place.size());
+            dialog.hide();
+            return was;
+        };
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        const QRect inside(30, 40, 420, 260);
+        shown(inside);
+        QCOMPARE(shown(QRect(-5000, 40, 9000, 260)), inside);
+        QVERIFY(screen.contains(shown(QRect(screen.right() - 100, 40, 420, 260))));
+        QVERIFY(screen.contains(shown(inside)));
     }
 
     // What cannot be saved stays in the editor.

@@ -542,7 +542,7 @@ private slots:
             Action("mnuHelpAbout")->trigger();
             return script.Finish() ? shown : QString();
         };
-        QVERIFY(about().startsWith("Build 0001|For a description"));
+        QVERIFY(about().startsWith("Build 0000|For a description"));
         const QString path = m_home->File("contact.txt");
         const std::pair<QByteArray, QString> files[] = {
             {QByteArray(4097, 'x'), {}},

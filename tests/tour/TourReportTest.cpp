@@ -3,11 +3,14 @@
 
 #include "Clock.h"
 #include "Connection.h"
+#include "DueTours.h"
 #include "Engine.h"
+#include "Format.h"
 #include "ResourceLimit.h"
 #include "TableExists.h"
 #include "TourReportBuilder.h"
 #include "TourSite.h"
+#include "TourWords.h"
 #include "cTourReport.h"
 
 #include <QTest>
@@ -18,7 +21,7 @@ using namespace TourSite;
 
 namespace {
 
-const QString Reader = QStringLiteral("4B5831A7");
+const QString ReaderId = QStringLiteral("4B5831A7");
 const DateTime TourDay = DateTime::FromMilliseconds(Day * 1000);
 const QString Round = QStringLiteral("08:00 A, 08:30 B, 09:00 C");
 const QString NoData = QStringLiteral("No Data on the report");
@@ -35,7 +38,7 @@ class TourReportTest : public QObject {
 
     QString Report(int tour, bool showAll = false, bool events = false, DateTime day = TourDay) {
         m_viewer.Shown = 0;
-        BuildTourReport({tour, day, Reader, "4B5831A7 - Night", events, showAll}, m_viewer);
+        BuildTourReport({tour, day, ::ReaderId, "4B5831A7 - Night", events, showAll}, m_viewer);
         return m_viewer.Shown == 0 ? m_boxes.TakeTexts().join(u'/') : Shortened(m_viewer.Rows);
     }
 
@@ -43,7 +46,7 @@ class TourReportTest : public QObject {
         cTourReport report;
         report.TourID = tour;
         report.StartDate = day;
-        report.ReaderId = Reader;
+        report.ReaderId = ::ReaderId;
         if (!report.LoadTourHeader() || !report.LoadTourPoints() || !report.LoadReaderEvents())
             qFatal("tour %d does not load", tour);
         return report;
@@ -85,6 +88,7 @@ private slots:
                                              {"lblReaderID", "4B5831A7 - Night"},
                                              {"lblTolerance", "5"},
                                              {"lblOptions", "Yes"},
+                                             {"lblSummary", "3 points: 1 late, 2 missing"},
                                              {"lblCompanyInfo", "Kestrel\r\n\r\nPier 4\r\n%d"},
                                              {"lblEndOfReport", "End Of Report"}};
         for (auto label = labels.begin(); label != labels.end(); ++label)
@@ -92,6 +96,39 @@ private slots:
         Report(1);
         QCOMPARE(m_viewer.Caption, "Exception Report");
         QCOMPARE(m_viewer.Labels.value("lblOptions"), "No");
+        // A button that was touched early and late counts once, one among strangers is missing.
+        gConn->Execute("DELETE * FROM tblEvents");
+        AddTouches("08:00 A, 08:20 B, 08:40 B, 09:00 D");
+        Report(1);
+        QCOMPARE(m_viewer.Labels.value("lblSummary"), "3 points: 1 on time, 1 early, 1 missing");
+    }
+
+    static QString Due(double fromHour, double toHour) {
+        const auto at = [](double hour) { return TourDay + DateTime::FromStore(hour / 24); };
+        QStringList lines;
+        for (const DueTour& due : DueTours(at(fromHour), at(toHour)))
+            lines += due.tour.name + u' ' + Format(due.start, "dd hh:nn") + u' ' +
+                     (due.reader ? due.reader->id : QString(u'-')) + u' ' +
+                     PointSummary(due.points);
+        return lines.join("; ");
+    }
+
+    void ToursThatWereDue() {
+        AddTour("23:30 A, 24:10 B, 24:40 C", 5); // ends on the next day at 00:45:59
+        AddTour({}, 5);
+        const QString missing = "Round 28 23:30 - 3 points: 3 missing";
+        QCOMPARE(Due(0, 0.76), QString());
+        QCOMPARE(Due(0, 0.77), missing);
+        QCOMPARE(Due(0.77, 24), QString());
+        QCOMPARE(Due(-47, 0.77), missing + "; Round 27 23:30 - 3 points: 3 missing");
+        // The second reader walked it late, the third only met the guard at C.
+        AddTouches("23:31 A, 24:12 B, 24:50 D", "4B5831A7");
+        AddTouches("24:20 A, 24:30 B", "22222222");
+        AddTouches("24:40 C", "33333333");
+        const QString walked = "Round 29 23:30 4B5831A7 3 points: 2 on time, 1 missing";
+        QCOMPARE(Due(24, 48), "Round 29 23:30 33333333 3 points: 1 on time, 2 missing; " + walked);
+        AddTouches("24:39 C", "4B5831A7");
+        QCOMPARE(Due(24, 48), "Round 29 23:30 4B5831A7 3 points: 3 on time");
     }
 
     void LoadingATour() {
@@ -152,7 +189,7 @@ private slots:
                                              "frmRptTour\t("));
         gConn->Execute("DROP VIEW tblXXXException");
         m_viewer.OnShow = [] { throw RunTimeError(5, "No paper"); };
-        BuildTourReport({round, TourDay, Reader, {}, false, false}, m_viewer);
+        BuildTourReport({round, TourDay, ReaderId, {}, false, false}, m_viewer);
         m_viewer.OnShow = {};
         QCOMPARE(m_boxes.TakeTexts(), QStringList(Failed + "<ERROR #9999>"));
         QCOMPARE(m_home->TakeLog(), "Error 5 in BuildTourReport of Form frmRptTour\t(No paper)");

@@ -2,6 +2,10 @@
 
 #include "mTranslations.h"
 
+EditorDialog::EditorDialog(QWidget* parent, Placed placed) : QDialog(parent) {
+    RememberPlace(*this, placed);
+}
+
 void EditorDialog::reject() {
     if (m_unchanged.value_or(Entered()) == Entered()) {
         QDialog::reject();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "WindowPlace.h"
+
 #include <QDialog>
 #include <QStringList>
 
@@ -10,7 +12,7 @@
 class EditorDialog : public QDialog {
     Q_OBJECT
 public:
-    using QDialog::QDialog;
+    explicit EditorDialog(QWidget* parent, Placed placed = Placed::SizeAndPlace);
 
     /// True if the dialog was closed by OK.
     bool OK() const { return result() == Accepted; }

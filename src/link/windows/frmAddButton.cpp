@@ -17,8 +17,8 @@ constexpr int FlashPause = 100;
 } // namespace
 
 frmAddButton::frmAddButton(DockingLink& link, QWidget* parent)
-    : EditorDialog(parent), m_ui(std::make_unique<Ui::frmAddButton>()), m_capture(link),
-      m_tmrGetID(CaptureInterval) {
+    : EditorDialog(parent, Placed::SizeOnly), m_ui(std::make_unique<Ui::frmAddButton>()),
+      m_capture(link), m_tmrGetID(CaptureInterval) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
     CapturedIdControls{*m_ui->img1, *m_ui->lblMsg, *m_ui->cmdOK}.ShowNone();

@@ -1,6 +1,7 @@
 #include "frmManualID.h"
 
 #include "ButtonCapture.h"
+#include "WindowPlace.h"
 #include "WindowTools.h"
 #include "mTranslations.h"
 #include "ui_frmManualID.h"
@@ -9,6 +10,7 @@ frmManualID::frmManualID(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmManualID>()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
+    RememberPlace(*this);
     m_ui->lblStatic->setText(
         Translate("Enter the 6 digit button ID.  This is the last 6 digits visible on the front of "
                   "the 'Dallas' Key. Valid characters are 0~9 and A~F."));

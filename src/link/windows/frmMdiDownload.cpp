@@ -1,7 +1,11 @@
 #include "frmMdiDownload.h"
 
+#include "Clock.h"
 #include "DockingLink.h"
+#include "Downloads.h"
+#include "DueTours.h"
 #include "Format.h"
+#include "TourWords.h"
 #include "WindowTools.h"
 #include "frmDownload.h"
 #include "mDeclareGlobals.h"
@@ -14,9 +18,13 @@
 #include <QHeaderView>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
+
+/// After a long time in a drawer, a reader has more tours than anybody wants offered.
+constexpr int MostDays = 31, MostOffers = 5;
 
 /// Each column's share of the width, in hundredths.
 constexpr int ColumnShares[] = {10, 15, 10, 10, 20, 35};
@@ -66,13 +74,46 @@ void frmMdiDownload::ShowLink(bool detected) {
 }
 
 void frmMdiDownload::cmdOnline_Click(int index) {
-    if (index == 0)
+    if (index == 0) {
+        m_ui->fraReports->hide();
         m_download.Run();
-    else
+        Guarded("OfferReports of Form frmMdiDownload", [this] { OfferReports(); });
+    } else
         Guarded("cmdOnline_Click of Form frmMdiDownload", [this] {
             bool succeeded = false;
             EraseReader(false, succeeded);
         });
+}
+
+void frmMdiDownload::OfferReports() {
+    const MemoryDownload::Outcome& outcome = m_download.LastOutcome();
+    if (outcome.rowsStored == 0)
+        return;
+    const auto [first, last] = std::minmax_element(
+        outcome.touches.begin(), outcome.touches.end(),
+        [](const cRawButton& a, const cRawButton& b) { return a.DateAndTime < b.DateAndTime; });
+    const DateTime now = Now();
+    const DateTime before =
+        DownloadBefore(outcome.readerId, first->DateAndTime).value_or(first->DateAndTime);
+    const QList<DueTour> due = DueToursOfReader(
+        outcome.readerId, std::max(before, now - DateTime::FromDays(MostDays)), now);
+    qDeleteAll(m_ui->fraReports->findChildren<QPushButton*>());
+    for (const DueTour& tour : due.first(std::min<qsizetype>(due.size(), MostOffers))) {
+        auto* offer = new QPushButton(ProgramIcon(QStringLiteral("report")),
+                                      tour.tour.name + QStringLiteral(" - ") +
+                                          Format(tour.start, QStringLiteral("Short Date")) +
+                                          QStringLiteral(" - ") + PointSummary(tour.points),
+                                      m_ui->fraReports);
+        const ReportProposal proposal{outcome.readerId, tour.tour.id, tour.start.DatePart()};
+        connect(offer, &QPushButton::clicked, this,
+                [this, proposal] { emit ReportWanted(proposal); });
+        m_ui->layReports->addWidget(offer);
+    }
+    m_ui->fraReports->setVisible(!due.isEmpty());
+    ProposeAfterDownload(
+        due.isEmpty()
+            ? ReportProposal{outcome.readerId, 0, last->DateAndTime.DatePart()}
+            : ReportProposal{outcome.readerId, due.first().tour.id, due.first().start.DatePart()});
 }
 
 void frmMdiDownload::EraseReader(bool silent, bool& succeeded) {
@@ -89,8 +130,10 @@ void frmMdiDownload::ShowBusy(bool busy) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
     else
         QApplication::restoreOverrideCursor();
-    m_ui->cmdOnline_0->setEnabled(!busy);
-    m_ui->cmdOnline_1->setEnabled(!busy);
+    // The station may have gone meanwhile. Tests run the page without a main window.
+    const bool usable = !busy && m_link.comPort().PortOpen();
+    m_ui->cmdOnline_0->setEnabled(usable);
+    m_ui->cmdOnline_1->setEnabled(usable);
     emit BusyChanged(busy);
     if (!busy && std::exchange(m_closeWhenDone, false)) {
         gWaitCancelled = false;

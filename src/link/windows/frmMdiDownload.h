@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MemoryDownload.h"
+#include "ReportProposal.h"
 #include "RowListModel.h"
 
 #include <QWidget>
@@ -32,6 +33,8 @@ signals:
     /// While busy, everything else in the main window is disabled.
     void BusyChanged(bool busy);
     void StatusChanged(const QString& text);
+    /// The operator wants the report of a tour that was downloaded.
+    void ReportWanted(const ReportProposal& proposal);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -40,6 +43,8 @@ protected:
 private:
     void cmdOnline_Click(int index);
     void SizeColumns();
+    /// Offers the reports of the tours that were due since the reader's download before this one.
+    void OfferReports();
 
     TransferResult RunTransfer(TransferPurpose purpose) override;
     void ShowBusy(bool busy) override;

@@ -16,6 +16,7 @@
 frmSetTime::frmSetTime(DockingLink& link, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmSetTime>()), m_link(link) {
     m_ui->setupUi(this);
+    EnterGroupsAtChecked(*this);
     Translate();
     m_ui->dtpPanelDate->setDisplayFormat(GetShortDateFormat());
     SelectSectionOnFocus(*m_ui->DTPicker1);
@@ -102,7 +103,11 @@ void frmSetTime::Send() {
                          Format(moment, QStringLiteral("hh:nn  dd mmm yyyy")),
                      MessageKind::Information);
     else if (!calledOff)
-        IvMessageBox(::Translate("Reader update failed.  Please try again."));
+        IvMessageBox(::Translate("Reader update failed.  Please try again."),
+                     ::Translate(clockSet     ? "The clock was set, but the options were not."
+                                 : optionsSet ? "The options were set, but the clock was not."
+                                              : "Put the reader into the docking station so that "
+                                                "it sits firmly."));
 }
 
 void frmSetTime::reject() {

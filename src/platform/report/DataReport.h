@@ -33,6 +33,11 @@ public:
     const QString& Caption() const { return m_caption; }
     void SetCaption(const QString& caption) { m_caption = caption; }
 
+    /// What distinguishes this report from others, for the name of a file: the title, with the
+    /// tour, reader and dates. The title alone if not set.
+    QString DocumentName() const { return m_documentName.isEmpty() ? m_caption : m_documentName; }
+    void SetDocumentName(const QString& name) { m_documentName = name; }
+
     /// Who makes the report and the language of its texts, such as "de"; empty if not set. In a
     /// language that is written from right to left, the pages are mirrored (PagePainter.h).
     const QString& Author() const { return m_author; }
@@ -93,6 +98,7 @@ private:
     std::vector<ReportFont> m_fonts;
     mutable FittedTexts m_fitted{500};
     QString m_caption;
+    QString m_documentName;
     QString m_author;
     QString m_language;
     bool m_rightToLeft = false;

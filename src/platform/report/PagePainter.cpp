@@ -68,7 +68,7 @@ void PagePainter::PaintRow(const ReportSection& section, QPoint origin, const Ro
             PaintFixed(controls[i], origin);
         else
             PaintText(controls[i].Style(), origin,
-                      controls[i].TextOf(rows.ValueAt(row, columns[i])));
+                      controls[i].PrintedTextOf(rows.ValueAt(row, columns[i])));
     }
 }
 

@@ -31,6 +31,12 @@ QString ReportControl::TextOf(const Value& value) const {
     return date ? Format(*date, m_dataFormat) : *text;
 }
 
+QString ReportControl::PrintedTextOf(const Value& value) const {
+    const QString text = TextOf(value);
+    const auto sign = m_signs.constFind(text);
+    return sign == m_signs.constEnd() ? text : *sign + u' ' + text;
+}
+
 ReportSection::ReportSection(QString name, SectionKind kind, int height)
     : m_name(std::move(name)), m_kind(kind), m_height(height) {}
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QHash>
 #include <QRect>
 #include <QString>
 
@@ -80,6 +81,10 @@ public:
     void SetDataFormat(const QString& format) { m_dataFormat = format; }
     /// What a text box shows of a value of its column.
     QString TextOf(const Value& value) const;
+    /// Values that are printed with a sign and a blank before them. TextOf, and so every export,
+    /// has the value alone.
+    void SetSigns(const QHash<QString, QString>& signs) { m_signs = signs; }
+    QString PrintedTextOf(const Value& value) const;
 
 private:
     QString m_name;
@@ -89,6 +94,7 @@ private:
     CaptionKind m_captionKind = CaptionKind::Pattern;
     QString m_dataField;
     QString m_dataFormat;
+    QHash<QString, QString> m_signs;
 };
 
 /// A band across the page with its controls.

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QRegularExpression>
 
 namespace {
 
@@ -40,6 +41,23 @@ QString Ask(const FileRequest& request, QFileDialog::AcceptMode mode,
 }
 
 } // namespace
+
+QString SafeFileName(QString text) {
+    static const QRegularExpression unfit(QStringLiteral("[\\p{C}\\p{Zl}\\p{Zp}<>:\"/\\\\|?*]+"));
+    static const QRegularExpression ends(QStringLiteral("^[\\s.~-]+|[\\s.]+$"));
+    static const QRegularExpression device(
+        QStringLiteral("^(con|prn|aux|nul|com\\d|lpt\\d)(?=\\.|$)"),
+        QRegularExpression::CaseInsensitiveOption);
+    constexpr qsizetype MostBytes = 200; // with a suffix, and beside the names of temporary files
+    text = QString::fromUtf8(text.toUtf8()); // half a character would end the search
+    text = text.replace(unfit, QStringLiteral(" ")).simplified();
+    text = text.left(MostLetters - 10);
+    while (text.toUtf8().size() > MostBytes)
+        text.chop(1);
+    if (!text.isEmpty() && text.back().isHighSurrogate())
+        text.chop(1);
+    return text.remove(ends).replace(device, QStringLiteral("\\1_"));
+}
 
 QString AskForNewFile(const FileRequest& request, const TranslateText& translate, QWidget* parent) {
     return Ask(request, QFileDialog::AcceptSave, translate, parent);

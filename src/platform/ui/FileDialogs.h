@@ -13,6 +13,10 @@ struct FileRequest {
     QString name;   ///< what is proposed; may be empty
 };
 
+/// A text as a file name, without its suffix, that every system takes: without letters that are
+/// forbidden or cannot be seen, and short enough. May be empty.
+QString SafeFileName(QString text);
+
 /// Asks for the name of a new file. The dialog does not mind an existing file: the caller decides
 /// what that means. Names have at most 100 letters. Empty if the operator cancels.
 QString AskForNewFile(const FileRequest& request, const TranslateText& translate, QWidget* parent);

@@ -1,7 +1,6 @@
 #include "RowListModel.h"
 
 #include <QCollator>
-#include <QEvent>
 #include <QTreeView>
 
 #include <algorithm>
@@ -59,12 +58,25 @@ int RowListModel::AlignmentOf(int column) const {
 QVariant RowListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole || role == Qt::EditRole)
         return m_rows[index.row()].texts.value(index.column());
     if (role == Qt::TextAlignmentRole)
         return AlignmentOf(index.column());
     const bool hasIcon = index.column() == 0 && !m_icon.isNull();
     return role == Qt::DecorationRole && hasIcon ? QVariant(m_icon) : QVariant();
+}
+
+Qt::ItemFlags RowListModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return index.isValid() && index.column() == m_editable ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool RowListModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable) ||
+        value.toString() == index.data().toString())
+        return false;
+    emit Edited(m_rows[index.row()].tag, value.toString());
+    return true;
 }
 
 QVariant RowListModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -143,43 +155,4 @@ void SelectPlace(QTreeView& list, int place) {
     const int last = list.model()->rowCount() - 1;
     if (place >= 0 && last >= 0)
         list.setCurrentIndex(list.model()->index(std::min(place, last), 0));
-}
-
-namespace {
-
-/// Belongs to a list and keeps the shares of its columns.
-class ColumnShares : public QObject {
-public:
-    explicit ColumnShares(QTreeView& list) : QObject(&list), m_list(list) {
-        setObjectName(QStringLiteral("columnShares"));
-        list.viewport()->installEventFilter(this);
-    }
-    void Set(const QList<int>& hundredths) {
-        m_hundredths = hundredths;
-        Apply();
-    }
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Resize)
-            Apply();
-        return false;
-    }
-
-private:
-    void Apply() {
-        const int width = m_list.viewport()->width();
-        for (int column = 0; column < m_hundredths.size(); ++column)
-            m_list.setColumnWidth(column, width * m_hundredths[column] / 100);
-    }
-
-    QTreeView& m_list;
-    QList<int> m_hundredths;
-};
-
-} // namespace
-
-void ShareWidth(QTreeView& list, const QList<int>& hundredths) {
-    QObject* shares = list.findChild<QObject*>(QStringLiteral("columnShares"));
-    if (!shares)
-        shares = new ColumnShares(list);
-    static_cast<ColumnShares*>(shares)->Set(hundredths);
 }

@@ -25,6 +25,9 @@ public:
     /// The small picture in front of every row.
     void SetIcon(const QIcon& icon);
     void SetRows(QList<ListRow> rows);
+    /// The column whose texts can be edited in the list; none at first, or below 0. The model does
+    /// not change a text itself: Edited says what was typed.
+    void SetEditable(int column) { m_editable = column; }
 
     /// The row at a place in the current order.
     const ListRow& Row(int place) const { return m_rows[place]; }
@@ -35,10 +38,16 @@ public:
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     /// By text, ignoring case. A column below 0 keeps the current order.
     void sort(int column, Qt::SortOrder order) override;
+
+signals:
+    /// Another text was typed into the row with that tag.
+    void Edited(const QVariant& tag, const QString& text);
 
 private:
     QList<int> SortedPlaces() const;
@@ -49,6 +58,7 @@ private:
     QList<int> m_centred;
     QIcon m_icon;
     QList<ListRow> m_rows;
+    int m_editable = -1;
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };
@@ -62,5 +72,3 @@ int SelectedPlace(const QTreeView& list);
 /// Selects the row at a place and scrolls to it. A place beyond the end means the last row; one
 /// below 0 does nothing.
 void SelectPlace(QTreeView& list, int place);
-/// Gives each column its share of the width, in hundredths, now and whenever the list is resized.
-void ShareWidth(QTreeView& list, const QList<int>& hundredths);

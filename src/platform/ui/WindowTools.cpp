@@ -1,5 +1,6 @@
 #include "WindowTools.h"
 
+#include "PaletteIcon.h"
 #include "RunTimeError.h"
 
 #include <QAbstractButton>
@@ -17,6 +18,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTimer>
 #include <QToolBar>
 
@@ -90,6 +92,8 @@ void TranslateWindow(QWidget& window, const TranslateText& translate) {
         } else if (qobject_cast<QGroupBox*>(child) || qobject_cast<QMenu*>(child)) {
             TranslateProperty(*child, "title", translate);
         }
+        if (qobject_cast<QLineEdit*>(child))
+            TranslateProperty(*child, "placeholderText", translate);
         if (qobject_cast<QWidget*>(child)) {
             TranslateProperty(*child, "toolTip", translate);
             TranslateProperty(*child, "accessibleName", translate);
@@ -116,7 +120,12 @@ MessageAnswer WindowMessageBoxes::Show(const Message& message) {
     box.setIcon(IconOf(message.kind));
     box.setWindowTitle(message.caption);
     box.setTextFormat(Qt::PlainText);
-    box.setText(message.text);
+    box.setText(message.text + message.aboutButtons);
+    if (!message.advice.isEmpty()) {
+        box.setInformativeText(message.advice);
+        for (auto* label : box.findChildren<QLabel*>()) // names may look like HTML
+            label->setTextFormat(Qt::PlainText);
+    }
     const QList<MessageAnswer> answers = AnswersOf(message.buttons);
     QList<QAbstractButton*> buttons;
     for (qsizetype i = 0; i < answers.size(); ++i) {
@@ -178,6 +187,22 @@ void SelectSectionOnFocus(QDateTimeEdit& field) {
 
 void SelectAllOnFocus(QLineEdit& field) { field.installEventFilter(new SelectingFilter(&field)); }
 
+void EnterGroupsAtChecked(QWidget& window) {
+    for (QRadioButton* button : window.findChildren<QRadioButton*>()) {
+        const auto enter = [button] {
+            for (QRadioButton* other : button->parentWidget()->findChildren<QRadioButton*>(
+                     QString(), Qt::FindDirectChildrenOnly))
+                other->setFocusPolicy(other == button ? Qt::StrongFocus : Qt::ClickFocus);
+        };
+        QObject::connect(button, &QRadioButton::toggled, button, [enter](bool checked) {
+            if (checked)
+                enter();
+        });
+        if (button->isChecked())
+            enter();
+    }
+}
+
 void FocusAndSelect(QLineEdit& field) {
     field.setFocus();
     field.selectAll();
@@ -202,9 +227,9 @@ QIcon ProgramIcon(const QString& name) {
     const QString mirrored = QStringLiteral(":/icons/") + name + QStringLiteral("-rtl.svg");
     if (QApplication::isRightToLeft() && QFile::exists(mirrored))
         path = mirrored;
-    QIcon icon(path);
-    icon.addFile(path, {}, QIcon::Selected); // not tinted with the selection's colour
-    return icon;
+    // These two are pictures with a background of their own.
+    const bool isPicture = name == u"wardlock" || name == u"splash";
+    return isPicture ? QIcon(path) : PaletteIcon(path);
 }
 
 void ShowIcon(QLabel& label, const QString& name) {

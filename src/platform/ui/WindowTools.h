@@ -16,7 +16,8 @@ class QWidget;
 
 using TranslateText = std::function<QString(const QString&)>;
 
-/// Translates a window and its controls: title, captions, tool tips, accessible names, menus. Texts
+/// Translates a window and its controls: title, captions, tool tips, hints in empty fields,
+/// accessible names, menus. Texts
 /// that are set by code, such as list headers, are left alone. The English texts are kept, so it
 /// can be called again for another language.
 ///
@@ -35,6 +36,10 @@ void SelectAllOnFocus(QLineEdit& field);
 /// Selects the part of a date or time that gets the focus or is clicked, so that typing replaces
 /// it.
 void SelectSectionOnFocus(QDateTimeEdit& field);
+
+/// From now on the Tab key enters each group of radio buttons of the window at the one that is
+/// checked. A group is all those with the same parent.
+void EnterGroupsAtChecked(QWidget& window);
 
 /// Shows the operator where a mistake is: gives the field the focus and selects its text.
 void FocusAndSelect(QLineEdit& field);
@@ -61,8 +66,8 @@ private:
     bool m_shown;
 };
 
-/// An icon of the program by its name. If the windows run from right to left, the one whose name
-/// also has "-rtl", if there is one.
+/// An icon of the program by its name, in the colours of the palette. If the windows run from right
+/// to left, the one whose name also has "-rtl", if there is one.
 QIcon ProgramIcon(const QString& name);
 
 /// Shows an icon of the program in a label, in the label's maximum size.

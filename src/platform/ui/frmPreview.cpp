@@ -2,6 +2,7 @@
 
 #include "Application.h"
 #include "DataReport.h"
+#include "FileDialogs.h"
 #include "FileReplacement.h"
 #include "PreviewArea.h"
 #include "PrintReport.h"
@@ -36,13 +37,6 @@ QString KeysText(const QList<QKeySequence>& keys) {
     return keys.isEmpty()
                ? QString()
                : QStringLiteral(" (") + keys.first().toString(QKeySequence::NativeText) + u')';
-}
-
-/// A title as a file name that is valid on every system.
-QString FileName(QString title) {
-    static const QRegularExpression unfit(QStringLiteral("[\\x00-\\x1f<>:\"/\\\\|?*]+"));
-    title = title.replace(unfit, QStringLiteral(" ")).simplified();
-    return title.isEmpty() ? QStringLiteral("Report") : title;
 }
 
 } // namespace
@@ -228,7 +222,8 @@ void frmPreview::Export() {
                        QStringLiteral("PDF (*.pdf)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("pdf"));
-    dialog.selectFile(FileName(m_report.Caption()) + QStringLiteral(".pdf"));
+    const QString name = SafeFileName(m_report.DocumentName());
+    dialog.selectFile((name.isEmpty() ? QStringLiteral("Report") : name) + QStringLiteral(".pdf"));
     if (dialog.exec() != QDialog::Accepted)
         return;
     try {

@@ -4,6 +4,7 @@
 #include "ReportViewer.h"
 #include "Rows.h"
 #include "ScratchTable.h"
+#include "StoreFailure.h"
 #include "darCustom.h"
 #include "mErrorHandler.h"
 #include "mReports.h"
@@ -76,6 +77,7 @@ void Print(const DatabaseReportRequest& request, const Recordset& rows, ReportVi
     report.SetReportParam({{u"lblReportTitle", Translate("Database Report")},
                            {u"lblDateRange", DateRangeText(request.StartDate, request.EndDate)},
                            {u"lblCompanyInfo", CompanyText()}});
+    NameDocument(report, {}, request.StartDate, request.EndDate);
     SetFrameText(report, u"Label16", u"Label18", u"Label15", u"Label11");
     report.SetText({{u"Label1", Translate("Date / Time")},
                     {u"Label2", Translate("ID")},
@@ -96,9 +98,15 @@ CopyResult CopyEvents(const EventQuery& query, Recordset& rows, const WorkProgre
 
 void BuildDatabaseReport(const DatabaseReportRequest& request, const CopyStep& copy,
                          ReportViewer& viewer) {
-    Guarded("ShowReport of Form frmRptCustomParam", [&] {
-        Recordset rows;
-        WithScratchTables([&] { return copy(QueryFor(request), rows); },
-                          [&] { Print(request, rows, viewer); });
-    });
+    Trapped(
+        [&] {
+            Recordset rows;
+            WithScratchTables([&] { return copy(QueryFor(request), rows); },
+                              [&] { Print(request, rows, viewer); });
+        },
+        [](const RunTimeError& error) {
+            ReportError(QStringLiteral("ShowReport of Form frmRptCustomParam"), error,
+                        ErrorShow::LogOnly);
+            TellOfReportFailure(error);
+        });
 }

@@ -39,6 +39,7 @@ CopyResult CopyEvents(const EventQuery& query, Recordset& rows, const WorkProgre
 /// shown.
 using CopyStep = std::function<bool(const EventQuery& query, Recordset& rows)>;
 
-/// Copies the events of a range with `copy`, and shows them. A failure is only logged.
+/// Copies the events of a range with `copy`, and shows them. A failure is logged, and a
+/// message box says so.
 void BuildDatabaseReport(const DatabaseReportRequest& request, const CopyStep& copy,
                          ReportViewer& viewer);

@@ -5,6 +5,7 @@
 #include "ReportViewer.h"
 #include "ShowReportDialog.h"
 #include "frmRptCustomParam.h"
+#include "mReports.h"
 #include "mTranslations.h"
 
 namespace {
@@ -18,7 +19,8 @@ std::function<void(ReportViewer&)> AddOptions(CLI::App& options) {
         const auto copy = [&](const EventQuery& query, Recordset& rows) {
             const CopyResult result = CopyEvents(query, rows, viewer.Progress());
             if (result == CopyResult::NoEvents)
-                IvMessageBox(Translate("No Data on the report"));
+                IvMessageBox(Translate("No Data on the report"),
+                             SearchedText({}, request->StartDate, request->EndDate));
             return result == CopyResult::Copied;
         };
         BuildDatabaseReport(*request, copy, viewer);

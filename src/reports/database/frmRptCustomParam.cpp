@@ -2,9 +2,11 @@
 
 #include "Clock.h"
 #include "DatabaseReportBuilder.h"
+#include "LastChoice.h"
 #include "ReportButtons.h"
 #include "WindowTools.h"
 #include "frmWaitReport.h"
+#include "mReports.h"
 #include "mTranslations.h"
 #include "ui_frmRptCustomParam.h"
 
@@ -16,6 +18,7 @@ frmRptCustomParam::frmRptCustomParam(ReportViewer& viewer, QWidget* parent)
     JoinPreset(*m_ui->cmdPreset_0, 0);
     JoinPreset(*m_ui->cmdPreset_1, 7);
     JoinPreset(*m_ui->cmdPreset_2, 30);
+    RememberChoices(*this, *m_ui->cmdPrintPreview);
 }
 
 frmRptCustomParam::~frmRptCustomParam() = default;
@@ -29,11 +32,13 @@ void frmRptCustomParam::JoinPreset(QPushButton& preset, int daysBack) {
 }
 
 void frmRptCustomParam::ShowReport() {
-    const auto copy = [this](const EventQuery& query, Recordset& rows) {
+    const DatabaseReportRequest request{m_ui->range->Start(),
+                                        m_ui->range->End(LastMinute::FirstSecond)};
+    const auto copy = [this, &request](const EventQuery& query, Recordset& rows) {
         frmWaitReport wait(rows, this);
         wait.CommandSQL = query;
+        wait.NoEventsAdvice = SearchedText({}, request.StartDate, request.EndDate);
         return wait.Run();
     };
-    BuildDatabaseReport({m_ui->range->Start(), m_ui->range->End(LastMinute::FirstSecond)}, copy,
-                        m_viewer);
+    BuildDatabaseReport(request, copy, m_viewer);
 }

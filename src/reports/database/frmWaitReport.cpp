@@ -18,6 +18,7 @@ frmWaitReport::frmWaitReport(Recordset& rows, QWidget* parent)
       m_tmrStart(StartsAfter) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
+    m_ui->lblAdvice->hide();
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(&m_tmrStart, &Timer::Tick, this, [this] {
         m_tmrStart.SetEnabled(false);
@@ -56,11 +57,13 @@ bool frmWaitReport::ShowProgress(int done, int all) {
     return !m_cancelled;
 }
 
-void frmWaitReport::ShowResult(const char* text) {
+void frmWaitReport::ShowResult(const char* text, const QString& advice) {
     m_ui->lblMessage->hide(); // the wait is over
     m_ui->prgRows->hide();
     m_ui->lblCount->hide();
     m_ui->lblResult->setText(Translate(text));
+    m_ui->lblAdvice->setText(advice);
+    m_ui->lblAdvice->setVisible(!advice.isEmpty());
     m_ui->cmdCancel->setFocus();
 }
 
@@ -81,7 +84,7 @@ void frmWaitReport::GoProcessData() {
     else if (result == CopyResult::Cancelled)
         reject();
     else if (result == CopyResult::NoEvents)
-        ShowResult(QT_TR_NOOP("No Data on the report"));
+        ShowResult(QT_TR_NOOP("No Data on the report"), NoEventsAdvice);
     else
         ShowResult(QT_TR_NOOP("The report could not be created. See error.log for the reason."));
 }

@@ -25,6 +25,8 @@ public:
 
     /// What is copied. Set before the window is shown.
     EventQuery CommandSQL;
+    /// What it says below its message if there are no events; translated.
+    QString NoEventsAdvice;
     /// The events were copied.
     bool OK() const { return result() == Accepted; }
 
@@ -36,7 +38,7 @@ public:
 private:
     void GoProcessData();
     bool ShowProgress(int done, int all);
-    void ShowResult(const char* text);
+    void ShowResult(const char* text, const QString& advice = {});
 
     std::unique_ptr<Ui::frmWaitReport> m_ui;
     Recordset& m_rows;

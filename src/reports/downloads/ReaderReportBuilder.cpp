@@ -1,8 +1,10 @@
 #include "ReaderReportBuilder.h"
 
 #include "Format.h"
+#include "LookUps.h"
 #include "ReportViewer.h"
 #include "Rows.h"
+#include "StoreFailure.h"
 #include "darReaderUpload.h"
 #include "deMain.h"
 #include "mDeclareGlobals.h"
@@ -49,6 +51,8 @@ void Print(const ReaderReportRequest& request, const Recordset& touches, ReportV
                            {u"lblReaderID", request.ReaderId + QStringLiteral(" (") +
                                                 request.ReaderDesc + QStringLiteral(")")},
                            {u"lblDateRange", DateRangeText(request.StartDate, request.EndDate)}});
+    NameDocument(report, {request.ReaderId, request.ReaderDesc}, request.StartDate,
+                 request.EndDate);
     SetFrameText(report, u"Label12", u"Label14", u"Label11", u"Label15");
     report.SetText({{u"Label9", Translate("Reader ID:")},
                     {u"Label16", Translate("Download Time:")},
@@ -70,7 +74,9 @@ void ReportReaderReport(const ReaderReportRequest& request, ReportViewer& viewer
     if (!OpenTouches(request, viewer, touches))
         return;
     if (touches.RecordCount() == 0)
-        IvMessageBox(Translate("There is no data to show for these parameters"));
+        IvMessageBox(Translate("There is no data to show for these parameters"),
+                     SearchedText({{QT_TR_NOOP("Reader"), ReaderTextOf(request.ReaderId)}},
+                                  request.StartDate, request.EndDate));
     else
         Print(request, touches, viewer);
 }
@@ -81,6 +87,10 @@ void BuildReaderReport(const ReaderReportRequest& request, ReportViewer& viewer)
     if (request.StartDate > request.EndDate)
         IvMessageBox(Translate("The start date cannot be later than the end date"));
     else
-        Guarded("ReportReaderReport of Form frmRptReaderReport",
-                [&] { ReportReaderReport(request, viewer); });
+        Trapped([&] { ReportReaderReport(request, viewer); },
+                [](const RunTimeError& error) {
+                    ReportError(QStringLiteral("ReportReaderReport of Form frmRptReaderReport"),
+                                error, ErrorShow::LogOnly);
+                    TellOfReportFailure(error);
+                });
 }

@@ -15,5 +15,5 @@ struct ReaderReportRequest {
 };
 
 /// Shows the touches of one reader, in a block for each download. If there are none, or the range
-/// ends before it starts, a message box says so. A failure is only logged.
+/// ends before it starts, a message box says so. A failure is logged, and a message box says so.
 void BuildReaderReport(const ReaderReportRequest& request, ReportViewer& viewer);

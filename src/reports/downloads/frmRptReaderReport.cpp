@@ -1,6 +1,7 @@
 #include "frmRptReaderReport.h"
 
 #include "Clock.h"
+#include "LastChoice.h"
 #include "LookUps.h"
 #include "ReaderReportBuilder.h"
 #include "ReportButtons.h"
@@ -21,6 +22,7 @@ frmRptReaderReport::frmRptReaderReport(ReportViewer& viewer, QWidget* parent)
                 [this] { cmdPrintPreview_Click(); });
     });
     LoadReaders();
+    RememberChoices(*this, *m_ui->cmdPrintPreview);
     ReadSelectedReader();
 }
 

@@ -1,5 +1,6 @@
 #include "HardwareListBuilder.h"
 
+#include "Clock.h"
 #include "LookUps.h"
 #include "ReportViewer.h"
 #include "Rows.h"
@@ -94,6 +95,7 @@ void Print(Recordset& rows, ReportViewer& viewer) {
     report.SetDataSource(&rows);
     report.SetReportParam({{u"lblReportTitle", Translate("Hardware List Report")},
                            {u"lblCompanyInfo", CompanyText()}});
+    NameDocument(report, {}, Today(), Today());
     SetFrameText(report, u"Label10", u"Label14", u"Label8", u"Label9");
     report.SetText(
         {{u"Label1", Translate("Description")}, {u"Label4", Translate("Hardware Code")}});

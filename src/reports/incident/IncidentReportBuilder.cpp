@@ -136,8 +136,22 @@ bool WriteEvents(const QList<int>& ids, IncidentLines& lines, bool& missing) {
     return true;
 }
 
-/// A message that is not translated.
-void ShowPlain(const char* text) { MsgBox(QString::fromUtf8(text), {}, MessageKind::Information); }
+/// A message whose text is not translated; its advice is.
+void ShowPlain(const char* text, const QString& advice) {
+    ShowMessage({.text = QString::fromUtf8(text),
+                 .kind = MessageKind::Information,
+                 .buttonTexts = {Translate("OK")},
+                 .advice = advice});
+}
+
+/// A few readers by their names, more by their number.
+QString ReadersText(const QList<Reader>& readers) {
+    constexpr qsizetype Named = 3;
+    QStringList names;
+    for (const Reader& reader : readers)
+        names += reader.description.isEmpty() ? reader.id : ReaderText(reader);
+    return names.size() > Named ? QString::number(names.size()) : names.join(QStringLiteral(", "));
+}
 
 void Print(const IncidentReportRequest& request, const Recordset& lines, ReportViewer& viewer) {
     darIncident report;
@@ -147,6 +161,7 @@ void Print(const IncidentReportRequest& request, const Recordset& lines, ReportV
                            {u"Label17", MomentText(request.StartDate, 3)},
                            {u"Label18", MomentText(request.EndDate, 3)},
                            {u"lblCompanyInfo", CompanyText()}});
+    NameDocument(report, {ReadersText(request.Readers)}, request.StartDate, request.EndDate);
     SetFrameText(report, u"Label10", u"Label19", u"Label8", u"Label9");
     report.SetText({{u"lblFrom", Translate("From:")}, {u"lblTo", Translate("To:")}});
     ShowLayoutFrame(report, viewer);
@@ -161,7 +176,9 @@ bool FillAndShow(const IncidentReportRequest& request, ReportViewer& viewer) {
     if (!OpenEvents(request, *progress, events))
         return false;
     if (events.RecordCount() < 1) {
-        ShowPlain("No records for the given parameters");
+        ShowPlain("No records for the given parameters",
+                  SearchedText({{QT_TR_NOOP("Readers"), ReadersText(request.Readers)}},
+                               request.StartDate, request.EndDate));
         return false;
     }
     bool missing = false, shown = false;
@@ -173,7 +190,9 @@ bool FillAndShow(const IncidentReportRequest& request, ReportViewer& viewer) {
     WithScratchTables(fill, [&] {
         progress.reset();
         if (missing) {
-            ShowPlain("Error Looking up Incident");
+            ShowPlain("Error Looking up Incident",
+                      Translate("An event was deleted meanwhile. Please open the dialog of the "
+                                "report again."));
             return;
         }
         Print(request, lines, viewer);

@@ -1,6 +1,7 @@
 #include "frmRptIncidentNew.h"
 
 #include "IncidentReportBuilder.h"
+#include "LastChoice.h"
 #include "ReportButtons.h"
 #include "ScratchTable.h"
 #include "WindowTools.h"
@@ -15,6 +16,7 @@ frmRptIncidentNew::frmRptIncidentNew(ReportViewer& viewer, QWidget* parent)
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel,
                       [this] { cmdPrintPreview_Click(); });
     Guarded("Form_Load of Form frmRptIncidentNew", [this] { InitForm(); });
+    RememberChoices(*this, *m_ui->cmdPrintPreview);
 }
 
 frmRptIncidentNew::~frmRptIncidentNew() = default;
@@ -32,7 +34,9 @@ void frmRptIncidentNew::FillEvents() {
     const QList<EventButton> events = EventButtons();
     if (events.isEmpty()) {
         m_ui->cmdPrintPreview->setEnabled(false);
-        IvMessageBox(Translate("There must be at least one reader selected to create a report"));
+        IvMessageBox(Translate("There must be at least one reader selected to create a report"),
+                     Translate("No event is defined. A master adds event books on the Setup "
+                               "page."));
     }
     m_ui->Events->Clear();
     m_ui->Events->SetHeader(Translate("Select Incident/s"));
@@ -44,7 +48,9 @@ void frmRptIncidentNew::FillReaders() {
     const QList<Reader> readers = ReadersById();
     if (readers.isEmpty()) {
         m_ui->cmdPrintPreview->setEnabled(false);
-        IvMessageBox(Translate("There must be at least one event selected to create a report"));
+        IvMessageBox(Translate("There must be at least one event selected to create a report"),
+                     Translate("No reader is defined.") + u' ' +
+                         Translate("A master adds readers on the Setup page."));
     }
     m_ui->Readers->focusProxy()->setAccessibleName(Translate("Readers")); // it has no header
     m_ui->Readers->Clear();

@@ -4,6 +4,7 @@
 #include "ReportViewer.h"
 #include "Rows.h"
 #include "ScratchTable.h"
+#include "StoreFailure.h"
 #include "darIncidentOld.h"
 #include "mErrorHandler.h"
 #include "mReports.h"
@@ -86,6 +87,11 @@ void Print(const IncidentSitesRequest& request, const Recordset& lines, ReportVi
                            {u"Label14", request.EventName},
                            {u"Label15", request.ReaderName},
                            {u"Label16", request.SiteName}});
+    NameDocument(report,
+                 {request.EventId > 0 ? request.EventName : QString(),
+                  request.SiteId > 0 ? request.SiteName : QString(),
+                  request.ReaderId.isEmpty() ? QString() : request.ReaderName},
+                 request.StartDate, request.EndDate);
     SetFrameText(report, u"Label10", u"Label19", u"Label8", u"Label9");
     const QString colon = QStringLiteral(" : ");
     report.SetText({{u"lblEventFilter", Translate("Event") + colon},
@@ -150,7 +156,11 @@ void BuildIncidentSitesReport(const IncidentSitesRequest& request, ReportViewer&
     };
     const auto show = [&] {
         if (lines.RecordCount() == 0)
-            IvMessageBox(Translate("No Data on the report"));
+            IvMessageBox(Translate("No Data on the report"),
+                         SearchedText({{QT_TR_NOOP("Event"), request.EventName},
+                                       {QT_TR_NOOP("Site"), request.SiteName},
+                                       {QT_TR_NOOP("Reader"), request.ReaderName}},
+                                      request.StartDate, request.EndDate));
         else
             Print(request, lines, viewer);
     };
@@ -160,12 +170,14 @@ void BuildIncidentSitesReport(const IncidentSitesRequest& request, ReportViewer&
                               show);
         },
         [&](const RunTimeError& error) {
-            if (building)
+            if (building) {
                 ReportError(
                     QStringLiteral("BuildIncidentReport_ORIGINAL of Form frmRptIncidentParam"),
                     error, ErrorShow::LogOnly);
-            else
+                TellOfReportFailure(error);
+            } else {
                 ReportError(QStringLiteral("cmdPrintPreview_Click of Form frmRptIncidentParam"),
                             error, ErrorShow::Dialog);
+            }
         });
 }

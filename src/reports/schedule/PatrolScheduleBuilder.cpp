@@ -1,5 +1,6 @@
 #include "PatrolScheduleBuilder.h"
 
+#include "Clock.h"
 #include "Format.h"
 #include "ReportViewer.h"
 #include "Rows.h"
@@ -62,6 +63,7 @@ void Print(const cTourReport& tour, Recordset& rows, ReportViewer& viewer) {
                            {u"lblTolerance", QString::number(tour.Tolerance) +
                                                  QStringLiteral("  ") + Translate("Minutes")},
                            {u"lblCompanyInfo", CompanyText()}});
+    NameDocument(report, {tour.TourName}, Today(), Today());
     SetFrameText(report, u"Label16", u"Label18", u"Label15", u"lblEnd");
     report.SetText({{u"Label9", Translate("Tour Name:")},
                     {u"lblDate", Translate("Tour Description:")},
@@ -80,7 +82,8 @@ void BuildPatrolSchedule(int tourId, ReportViewer& viewer) {
         cTourReport tour;
         tour.TourID = tourId;
         if (!tour.LoadTourHeader()) {
-            IvMessageBox(Translate("Error in creating new Tour"));
+            IvMessageBox(Translate("Error in creating new Tour"),
+                         Translate("This tour does not exist any more, or it cannot be read."));
             return;
         }
         const DateTime tolerance = ToleranceAsTime(tour.Tolerance);

@@ -1,6 +1,7 @@
 #include "frmRptPatrolSchedule.h"
 
 #include "Format.h"
+#include "LastChoice.h"
 #include "LookUps.h"
 #include "PatrolScheduleBuilder.h"
 #include "ReportButtons.h"
@@ -21,6 +22,7 @@ frmRptPatrolSchedule::frmRptPatrolSchedule(ReportViewer& viewer, QWidget* parent
     connect(m_ui->lvwMain, &QTreeView::doubleClicked, m_ui->cmdPrintPreview, &QPushButton::click);
     LoadTours();
     SizeColumns();
+    RememberChoices(*this, *m_ui->cmdPrintPreview);
 }
 
 frmRptPatrolSchedule::~frmRptPatrolSchedule() = default;

@@ -1,6 +1,7 @@
 #include "frmCopyTour.h"
 
 #include "LookUps.h"
+#include "WindowPlace.h"
 #include "WindowTools.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"
@@ -10,6 +11,7 @@ frmCopyTour::frmCopyTour(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmCopyTour>()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
+    RememberPlace(*this);
     Guarded("Form_Load of Form frmCopyTour", [this] {
         for (const Tour& tour : ToursByName())
             m_ui->cboTours->addItem(tour.name + QStringLiteral(" - ") + tour.description, tour.id);

@@ -1,6 +1,8 @@
 #include "frmEditTour.h"
 
 #include "Format.h"
+#include "ListColumns.h"
+#include "ListHint.h"
 #include "LookUps.h"
 #include "NameField.h"
 #include "Number.h"
@@ -29,7 +31,7 @@ int SavedInterval() {
 } // namespace
 
 frmEditTour::frmEditTour(QWidget* parent)
-    : EditorDialog(parent), m_ui(std::make_unique<Ui::frmEditTour>()),
+    : EditorDialog(parent, Placed::SizeOnly), m_ui(std::make_unique<Ui::frmEditTour>()),
       m_newInterval(SavedInterval()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
@@ -41,8 +43,6 @@ frmEditTour::frmEditTour(QWidget* parent)
     SelectAllOnFocus(*m_ui->txtTolerance);
     m_drag = new TourListDrag(*m_ui->lvwLocations, *m_ui->lvwSelected);
     connect(m_drag, &TourListDrag::Dropped, this, &frmEditTour::DropOn);
-    // As wide as the layout allows, not as wide as its longest name.
-    m_ui->imgCboSites->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_ui->imgCboSites->setMinimumContentsLength(20);
     connect(m_ui->imgCboSites, &QComboBox::currentIndexChanged, this,
             [this] { Guarded("FillLocations of Form frmEditTour", [this] { FillLocations(); }); });
@@ -92,11 +92,17 @@ void frmEditTour::Populate() {
         m_selected.SetColumns(
             {Translate("Minutes"), Translate("Site"), Translate("Location"), Translate("Time")});
         m_selected.SetIcon(icon);
-        ShareWidth(*m_ui->lvwLocations, {50, 49});
-        ShareWidth(*m_ui->lvwSelected, {17, 33, 33, 16});
+        ManageColumns(*m_ui->lvwLocations, QStringLiteral("frmEditTour.Locations"));
+        ManageColumns(*m_ui->lvwSelected, QStringLiteral("frmEditTour.Selected"));
+        m_draft.Load(GroupID);
+        ShowWhenEmpty(*m_ui->lvwLocations,
+                      Translate("This site has no location buttons yet. Add them on the Setup "
+                                "page: select the site and press Edit."));
+        ShowWhenEmpty(*m_ui->lvwSelected,
+                      Translate("The tour has no points yet. Select a location on the left and "
+                                "press Add, in the order of the tour."));
         FillSites();
         FillLocations();
-        m_draft.Load(GroupID);
         ShowPoints(0);
         m_ui->cmdOK->setEnabled(true);
     });
@@ -108,6 +114,10 @@ void frmEditTour::FillSites() {
     const QIcon icon = ProgramIcon(QStringLiteral("location"));
     for (const Group& site : SitesByName())
         m_ui->imgCboSites->addItem(icon, site.name, site.id);
+    if (m_draft.Count() > 0)
+        m_ui->imgCboSites->setCurrentIndex(
+            std::max(0, m_ui->imgCboSites->findText(m_draft.Points().front().site,
+                                                    Qt::MatchExactly | Qt::MatchCaseSensitive)));
 }
 
 void frmEditTour::FillLocations() {

@@ -1,5 +1,7 @@
 #include "frmListEdit.h"
 
+#include "ListColumns.h"
+#include "ListHint.h"
 #include "NameField.h"
 #include "WindowTools.h"
 #include "frmAddButton.h"
@@ -36,7 +38,7 @@ frmListEdit::frmListEdit(DockingLink& link, QWidget* parent)
     TranslateWindow(*this, Translated);
     m_buttons.SetColumns({Translate("Button ID"), Translate("Name"), Translate("Description")});
     JoinList(*m_ui->lvwItems, m_buttons);
-    ShareWidth(*m_ui->lvwItems, {20, 40, 39});
+    ManageColumns(*m_ui->lvwItems, QStringLiteral("frmListEdit"), {20, 40, 40});
     m_ui->lvwItems->sortByColumn(NameColumn, Qt::AscendingOrder);
     SelectAllOnFocus(*m_ui->txtName);
     // A new button can only be read from a reader in the station.
@@ -76,6 +78,12 @@ void frmListEdit::Update() {
     SelectPlace(*m_ui->lvwItems, std::max(place, 0));
     ShowIcon(*m_ui->imgIcon, QString::fromLatin1(words.icon));
     setWindowTitle(Translate("Edit") + u' ' + Translate(words.label));
+    ShowWhenEmpty(*m_ui->lvwItems,
+                  gDockingDetected
+                      ? Translate("No buttons yet. Press Add, then touch the reader in the docking "
+                                  "station with a button.")
+                      : Translate("No buttons yet. A new button is read at the docking station, "
+                                  "which is not connected."));
     const bool any = m_buttons.rowCount() > 0;
     m_ui->cmdSetup_0->setEnabled(any);
     m_ui->cmdSetup_2->setEnabled(any);
@@ -133,7 +141,11 @@ void frmListEdit::DeleteButtonItem() {
     Guarded("DeleteButtonItem of Form frmListEdit", [this] {
         const int place = SelectedPlace(*m_ui->lvwItems);
         if (place < 0 ||
-            IvMessageBox(Translate("Are you sure you want to delete this item?"),
+            IvMessageBox(Translate("Are you sure you want to delete this item?") +
+                             QStringLiteral("\n\n") +
+                             FormatStr(Translate("\"%0:s\" will be lost. Touches that are "
+                                                 "already downloaded are kept."),
+                                       {m_buttons.Row(place).texts[NameColumn]}),
                          MessageKind::Question, MessageButtons::YesNo) != MessageAnswer::Yes)
             return;
         DeleteButton(m_buttons.Row(place).tag.toInt());

@@ -1,6 +1,9 @@
 #include "frmMDISetup.h"
 
 #include "Format.h"
+#include "ListColumns.h"
+#include "ListHint.h"
+#include "NameField.h"
 #include "WindowTools.h"
 #include "frmAddReader.h"
 #include "frmCopyTour.h"
@@ -12,38 +15,47 @@
 #include "ui_frmMDISetup.h"
 
 #include <QKeyEvent>
+#include <QShortcut>
 
 const QList<frmMDISetup::Kind>& frmMDISetup::Kinds() {
     using Page = frmMDISetup;
     static const Actions groups{&Page::GroupRows, &Page::EditGroup, &Page::AddGroup,
-                                &Page::DeleteGroup};
-    static const Actions tours{&Page::TourRows, &Page::EditTour, &Page::AddTour, &Page::DeleteTour};
+                                &Page::DeleteGroup, &Page::RenameGroup};
+    static const Actions tours{&Page::TourRows, &Page::EditTour, &Page::AddTour, &Page::DeleteTour,
+                               &Page::RenameTour};
     static const Actions readers{&Page::ReaderRows, &Page::EditReader, &Page::AddReader,
-                                 &Page::DeleteReader};
+                                 &Page::DeleteReader, nullptr};
     static const QList<Kind> kinds = {
         {QT_TR_NOOP("Sites"),
          "location",
          SiteGroup,
          {QT_TR_NOOP("Name"), QT_TR_NOOP("Description")},
-         {40, 59},
+         {40, 60},
+         QT_TR_NOOP("No sites yet. A site is a place with location buttons. Press Add for a new "
+                    "one, then Edit to give it its buttons."),
          groups},
         {QT_TR_NOOP("Event Books"),
          "event",
          EventBookGroup,
          {QT_TR_NOOP("Name"), QT_TR_NOOP("Description")},
-         {40, 59},
+         {40, 60},
+         QT_TR_NOOP("No event books yet. The buttons of an event book stand for incidents. Press "
+                    "Add for a new one, then Edit to give it its buttons."),
          groups},
         {QT_TR_NOOP("Tours"),
          "tour",
          UserGroup,
          {QT_TR_NOOP("Tour Name"), QT_TR_NOOP("Start Time"), QT_TR_NOOP("Description")},
-         {40, 15, 44},
+         {40, 15, 45},
+         QT_TR_NOOP("No tours yet. Press Add for a new one, then Edit to choose its locations."),
          tours},
         {QT_TR_NOOP("Readers"),
          "reader",
          UserGroup,
          {QT_TR_NOOP("Reader ID"), QT_TR_NOOP("Description")},
-         {30, 69},
+         {30, 70},
+         QT_TR_NOOP("No readers yet. Put a reader into the docking station and press Add. Without "
+                    "a docking station no reader can be added."),
          readers},
     };
     return kinds;
@@ -57,12 +69,29 @@ frmMDISetup::frmMDISetup(DockingLink& link, QWidget* parent)
     for (const Kind& kind : Kinds())
         m_ui->tabSetup->addTab(ProgramIcon(QString::fromLatin1(kind.icon)), QString());
     Translate();
-    connect(m_ui->tabSetup, &QTabBar::currentChanged, this, &frmMDISetup::ShowTab);
+    m_ui->lvwProgram->setEditTriggers(QTreeView::EditKeyPressed);
+    // Later: the list still closes its field.
+    connect(&m_rows, &RowListModel::Edited, this, &frmMDISetup::Rename, Qt::QueuedConnection);
+    connect(&m_rows, &RowListModel::modelReset, this, &frmMDISetup::Filter);
+    connect(m_ui->txtFilter, &QLineEdit::textChanged, this, &frmMDISetup::Filter);
+    connect(m_ui->txtFilter, &QLineEdit::returnPressed, m_ui->lvwProgram,
+            qOverload<>(&QWidget::setFocus));
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_ui->txtFilter,
+            qOverload<>(&QWidget::setFocus));
+    connect(m_ui->tabSetup, &QTabBar::currentChanged, this, [this] { ShowTab(); });
     connect(m_ui->lvwProgram, &QTreeView::doubleClicked, this, [this] { Do(&Actions::edit); });
     connect(m_ui->cmdSetup_0, &QPushButton::clicked, this, [this] { Do(&Actions::edit); });
     connect(m_ui->cmdSetup_1, &QPushButton::clicked, this, [this] { Do(&Actions::add); });
     connect(m_ui->cmdSetup_2, &QPushButton::clicked, this, [this] { Do(&Actions::remove); });
     connect(m_ui->cmdTourCopy, &QPushButton::clicked, this, &frmMDISetup::cmdTourCopy_Click);
+    for (const int step : {1, -1}) {
+        auto* shortcut = new QShortcut(this);
+        shortcut->setKeys(step > 0 ? QKeySequence::NextChild : QKeySequence::PreviousChild);
+        connect(shortcut, &QShortcut::activated, this, [this, step] {
+            const int tabs = m_ui->tabSetup->count();
+            m_ui->tabSetup->setCurrentIndex((m_ui->tabSetup->currentIndex() + step + tabs) % tabs);
+        });
+    }
     setFocusProxy(m_ui->lvwProgram);
 }
 
@@ -90,7 +119,8 @@ bool frmMDISetup::ShowsTours() const { return Present().actions.edit == &frmMDIS
 
 std::optional<ListRow> frmMDISetup::SelectedRow() const {
     const int place = SelectedPlace(*m_ui->lvwProgram);
-    return place < 0 ? std::nullopt : std::optional(m_rows.Row(place));
+    return place < 0 || m_ui->lvwProgram->isRowHidden(place, {}) ? std::nullopt
+                                                                 : std::optional(m_rows.Row(place));
 }
 
 bool frmMDISetup::Confirmed(const QString& question) const {
@@ -100,16 +130,23 @@ bool frmMDISetup::Confirmed(const QString& question) const {
 
 void frmMDISetup::Start() { ShowTab(); }
 
+void frmMDISetup::ShowTab(int tab) { m_ui->tabSetup->setCurrentIndex(tab); }
+
 void frmMDISetup::ShowTab() {
     emit TitleChanged(::Translate("Setup") + QStringLiteral(": ") + ::Translate(Present().caption));
     QStringList headers;
     for (const char* column : Present().columns)
         headers += ::Translate(column);
+    m_ui->txtFilter->clear();
     m_rows.SetRows({});
     m_rows.SetColumns(headers);
+    m_rows.SetEditable(Present().actions.rename ? 0 : -1);
     m_rows.SetIcon(ProgramIcon(QString::fromLatin1(Present().icon)));
     m_ui->lvwProgram->sortByColumn(0, Qt::AscendingOrder);
-    ShareWidth(*m_ui->lvwProgram, Present().widths);
+    ManageColumns(*m_ui->lvwProgram,
+                  QStringLiteral("frmMDISetup.") + QString::fromLatin1(Present().icon),
+                  Present().widths);
+    ShowWhenEmpty(*m_ui->lvwProgram, ::Translate(Present().hint));
     FillList();
     SelectPlace(*m_ui->lvwProgram, 0);
 }
@@ -118,9 +155,22 @@ void frmMDISetup::FillList() {
     m_rows.SetRows((this->*Present().actions.rows)());
     m_ui->cmdTourCopy->setVisible(ShowsTours());
     ShowLink();
-    const bool any = m_rows.rowCount() > 0;
-    m_ui->cmdSetup_0->setEnabled(any);
-    m_ui->cmdSetup_2->setEnabled(any);
+}
+
+/// Hides the rows that do not contain the text of the filter. Edit and Delete are for rows that can
+/// be seen.
+void frmMDISetup::Filter() {
+    const QString wanted = m_ui->txtFilter->text().trimmed();
+    int first = -1;
+    for (int place = 0; place < m_rows.rowCount(); ++place) {
+        const bool fits = m_rows.Row(place).texts.join(u'\n').contains(wanted, Qt::CaseInsensitive);
+        m_ui->lvwProgram->setRowHidden(place, {}, !fits);
+        first = fits && first < 0 ? place : first;
+    }
+    if (!SelectedRow())
+        SelectPlace(*m_ui->lvwProgram, first);
+    m_ui->cmdSetup_0->setEnabled(first >= 0);
+    m_ui->cmdSetup_2->setEnabled(first >= 0);
 }
 
 void frmMDISetup::ShowLink() {
@@ -130,18 +180,47 @@ void frmMDISetup::ShowLink() {
 
 void frmMDISetup::FillListAndSelect(const QVariant& tag) {
     FillList();
-    SelectPlace(*m_ui->lvwProgram, m_rows.PlaceOf(tag));
+    const int place = m_rows.PlaceOf(tag);
+    if (place >= 0 && m_ui->lvwProgram->isRowHidden(place, {}))
+        m_ui->txtFilter->clear();
+    SelectPlace(*m_ui->lvwProgram, place);
+}
+
+/// Selects a new row and lets the operator type its name at once. Escape leaves the fresh name.
+void frmMDISetup::FillListAndName(const QVariant& tag) {
+    FillListAndSelect(tag);
+    m_ui->lvwProgram->setFocus();
+    m_ui->lvwProgram->edit(m_ui->lvwProgram->currentIndex());
+}
+
+void frmMDISetup::Rename(const QVariant& tag, const QString& text) {
+    Guarded("Rename of Form frmMDISetup", ErrorShow::Dialog, [&] {
+        const int place = m_rows.PlaceOf(tag);
+        if (place < 0 || !Present().actions.rename)
+            return;
+        const QString old = m_rows.Row(place).texts[0], name = text.trimmed();
+        const QString fault = NameFault(Named::Group, name, m_rows.TextsOf(0), old);
+        if (fault.isEmpty()) {
+            (this->*Present().actions.rename)(m_rows.Row(place), name);
+            FillListAndSelect(tag);
+        } else {
+            IvMessageBox(fault);
+        }
+    });
 }
 
 void frmMDISetup::DeleteSelected(bool (*hasParts)(int), const char* partsText, const char* question,
-                                 void (*remove)(int)) {
+                                 const char* lost, void (*remove)(int)) {
     const std::optional<ListRow> row = SelectedRow();
     if (!row)
         return;
     const int id = row->tag.toInt();
     QString text = ::Translate(question);
-    if (hasParts(id))
+    const bool parts = hasParts(id);
+    if (parts)
         text = ::Translate(partsText) + u'\n' + text;
+    text += QStringLiteral("\n\n") +
+            FormatStr(::Translate(parts ? lost : "\"%0:s\" will be lost."), {row->texts[0]});
     if (!Confirmed(text))
         return;
     remove(id);
@@ -181,7 +260,7 @@ QList<ListRow> frmMDISetup::GroupRows() {
 void frmMDISetup::AddGroup() {
     Guarded("AddGroup of Form frmMDISetup", [this] {
         const QString base = ::Translate(Present().type == SiteGroup ? "Site" : "Event Book");
-        FillListAndSelect(::AddGroup(Present().type, FreshName(base, m_rows.TextsOf(0))));
+        FillListAndName(::AddGroup(Present().type, FreshName(base, m_rows.TextsOf(0))));
     });
 }
 
@@ -196,18 +275,29 @@ void frmMDISetup::EditGroup() {
         dialog.ListDesc = row->texts[1];
         dialog.ItemType = Present().type;
         dialog.ExistingNames = m_rows.TextsOf(0);
-        dialog.exec();
-        if (!dialog.OK())
-            return;
-        UpdateGroup({dialog.ID, dialog.ListName, dialog.ListDesc});
+        const auto save = [&] {
+            UpdateGroup({dialog.ID, dialog.ListName, dialog.ListDesc});
+            return true;
+        };
+        do { // as long as it cannot be saved, the editor comes back with everything in it
+            dialog.exec();
+            if (!dialog.OK())
+                return;
+        } while (!Saved(save, "EditGroup of Form frmMDISetup",
+                        QT_TR_NOOP("The name could not be saved. Nothing was changed.")));
         FillListAndSelect(row->tag);
     });
+}
+
+void frmMDISetup::RenameGroup(const ListRow& row, const QString& name) {
+    UpdateGroup({row.tag.toInt(), name, row.texts[1]});
 }
 
 void frmMDISetup::DeleteGroup() {
     Guarded("DeleteGroup of Form frmMDISetup", [this] {
         DeleteSelected(GroupHasButtons, QT_TR_NOOP("The selected group contains sub-items"),
-                       QT_TR_NOOP("Are you sure you want to delete it?"), ::DeleteGroup);
+                       QT_TR_NOOP("Are you sure you want to delete it?"),
+                       QT_TR_NOOP("\"%0:s\" and its buttons will be lost."), ::DeleteGroup);
     });
 }
 
@@ -256,7 +346,10 @@ void frmMDISetup::DeleteReader() {
     GuardedWithBox("DeleteReader", [this] {
         const std::optional<ListRow> row = SelectedRow();
         if (!row || !Confirmed(::Translate("Are you sure you want to delete this reader?") + u' ' +
-                               row->texts[0]))
+                               row->texts[0] + QStringLiteral("\n\n") +
+                               FormatStr(::Translate("\"%0:s\" will be lost. Touches that are "
+                                                     "already downloaded are kept."),
+                                         {row->texts[1]})))
             return;
         ::DeleteReader(row->texts[0]);
         FillListAfterDelete();
@@ -281,8 +374,7 @@ QString frmMDISetup::FreshTourName() const {
 }
 
 void frmMDISetup::AddTour() {
-    Guarded("AddTour of Form frmMDISetup",
-            [this] { FillListAndSelect(::AddTour(FreshTourName())); });
+    Guarded("AddTour of Form frmMDISetup", [this] { FillListAndName(::AddTour(FreshTourName())); });
 }
 
 void frmMDISetup::EditTour() {
@@ -311,27 +403,37 @@ void frmMDISetup::EditTour() {
             if (!dialog.OK())
                 return;
             tour = {tour->id, dialog.ListName, dialog.ListDesc, dialog.Tolerance, dialog.StartTime};
-        } while (!Saved(*tour, dialog.Points()));
+        } while (!Saved(
+            [&] {
+                SaveTour(*tour, dialog.Points());
+                return true;
+            },
+            "EditTour of Form frmMDISetup",
+            QT_TR_NOOP("The tour could not be saved. Nothing was changed.")));
         FillListAndSelect(row->tag);
     });
 }
 
-bool frmMDISetup::Saved(const Tour& tour, const TourDraft& points) const {
-    const auto save = [&] {
-        SaveTour(tour, points);
-        return true;
-    };
-    return Trapped(save, [](const RunTimeError& error) {
-        ReportError(QStringLiteral("EditTour of Form frmMDISetup"), error, ErrorShow::LogOnly);
-        IvMessageBox(::Translate("The tour could not be saved. Nothing was changed.") + u'\n' +
-                     error.Description());
+void frmMDISetup::RenameTour(const ListRow& row, const QString& name) {
+    if (std::optional<Tour> tour = FindTour(row.tag.toInt())) {
+        tour->name = name;
+        UpdateTour(*tour);
+    }
+}
+
+bool frmMDISetup::Saved(const std::function<bool()>& save, const char* label,
+                        const char* failure) const {
+    return Trapped(save, [&](const RunTimeError& error) {
+        ReportError(QString::fromLatin1(label), error, ErrorShow::LogOnly);
+        IvMessageBox(::Translate(failure) + u'\n' + error.Description());
     });
 }
 
 void frmMDISetup::DeleteTour() {
     Guarded("DeleteTour of Form frmMDISetup", [this] {
         DeleteSelected(TourHasPoints, QT_TR_NOOP("The selected Tour contains data."),
-                       QT_TR_NOOP("Are you sure you want to delete this tour?"), ::DeleteTour);
+                       QT_TR_NOOP("Are you sure you want to delete this tour?"),
+                       QT_TR_NOOP("\"%0:s\" and its points will be lost."), ::DeleteTour);
     });
 }
 

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -22,6 +23,8 @@ public:
 
     /// Shows the first tab.
     void Start();
+    /// Shows a tab by its place: sites, event books, tours, readers.
+    void ShowTab(int tab);
     /// Enables or disables what needs a docking station.
     void ShowLink();
     /// Translates the page's controls.
@@ -41,6 +44,8 @@ private:
         void (frmMDISetup::*edit)();
         void (frmMDISetup::*add)();
         void (frmMDISetup::*remove)();
+        /// Saves another name for a row; null if names cannot be typed into the list.
+        void (frmMDISetup::*rename)(const ListRow& row, const QString& name);
     };
     /// A kind of definition: its tab, its list, and what its buttons do.
     struct Kind {
@@ -49,6 +54,7 @@ private:
         GroupType type; ///< used by groups only
         QList<const char*> columns;
         QList<int> widths; ///< of the columns, in hundredths of the list's width
+        const char* hint;  ///< shown while the list is empty
         Actions actions;
     };
     static const QList<Kind>& Kinds();
@@ -59,11 +65,15 @@ private:
 
     void ShowTab();
     void FillList();
+    void Filter();
     void FillListAndSelect(const QVariant& tag);
+    void FillListAndName(const QVariant& tag);
+    void Rename(const QVariant& tag, const QString& text);
     void FillListAfterDelete();
-    /// Asks, with a warning if parts would be deleted too, and deletes by ID.
+    /// Asks, with a warning if parts would be deleted too, and deletes by ID. `lost` says with the
+    /// row's name that the parts would be lost.
     void DeleteSelected(bool (*hasParts)(int), const char* partsText, const char* question,
-                        void (*remove)(int));
+                        const char* lost, void (*remove)(int));
     std::optional<ListRow> SelectedRow() const;
     bool Confirmed(const QString& question) const;
 
@@ -73,15 +83,17 @@ private:
     void AddGroup();
     void EditGroup();
     void DeleteGroup();
+    void RenameGroup(const ListRow& row, const QString& name);
     void AddReader();
     void EditReader();
     void DeleteReader();
     void AddTour();
     void EditTour();
     void DeleteTour();
+    void RenameTour(const ListRow& row, const QString& name);
     void cmdTourCopy_Click();
-    /// True if the tour was saved. If not, nothing was changed, and a message said so.
-    bool Saved(const Tour& tour, const TourDraft& points) const;
+    /// True if it was saved. If not, logs it under the label, and a message says so.
+    bool Saved(const std::function<bool()>& save, const char* label, const char* failure) const;
     QString FreshTourName() const;
 
     std::unique_ptr<Ui::frmMDISetup> m_ui;

@@ -3,6 +3,7 @@
 #include "DateTimeRange.h"
 #include "LookUps.h"
 #include "ReportButtons.h"
+#include "ReportProposal.h"
 #include "TourReportBuilder.h"
 #include "WindowTools.h"
 #include "mDeclareGlobals.h"
@@ -14,6 +15,7 @@
 namespace {
 
 const QString ShowAllKey = QStringLiteral("ShowAllStatus");
+const QString DialogName = QStringLiteral("frmRptTour");
 const QString ShowEventsKey = QStringLiteral("ShowEventsStatus");
 
 bool SavedOption(const QString& key) { return SavedBoolean(SettingsSection::Settings, key, false); }
@@ -28,6 +30,7 @@ frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptTour>()), m_viewer(viewer) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
+    EnterGroupsAtChecked(*this);
     PrepareDateField(*m_ui->dtpStartDate);
     connect(m_ui->imgcboReader, &QComboBox::currentIndexChanged, this,
             &frmRptTour::ReadSelectedReader);
@@ -37,6 +40,7 @@ frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
         ReadOptions(); // first: closing saves them, even if the lists cannot be filled
         FillTours();
         FillReaders();
+        Propose(ProposalFor(DialogName));
         ReadSelectedReader();
     });
 }
@@ -69,6 +73,15 @@ void frmRptTour::ReadOptions() {
     m_ui->optShowAll_1->setChecked(SavedOption(ShowAllKey));
 }
 
+void frmRptTour::Propose(const ReportProposal& proposal) {
+    for (const auto& [list, tag] : {std::pair(m_ui->imgcboTour, QVariant(proposal.tourId)),
+                                    std::pair(m_ui->imgcboReader, QVariant(proposal.readerId))})
+        if (const int place = list->findData(tag); place >= 0)
+            list->setCurrentIndex(place);
+    if (proposal.HasDate())
+        m_ui->dtpStartDate->setDate(proposal.date.ToQDate());
+}
+
 int frmRptTour::TourID() const { return m_ui->imgcboTour->currentData().toInt(); }
 
 DateTime frmRptTour::StartDate() const { return DateTime::FromQt(m_ui->dtpStartDate->date()); }
@@ -77,6 +90,7 @@ bool frmRptTour::IncludeEvents() const { return m_ui->chkIncludeEvents->isChecke
 
 void frmRptTour::cmdPrintPreview_Click() {
     ReadSelectedReader();
+    m_reported = true;
     BuildTourReport({TourID(), StartDate(), ReaderId, m_ui->imgcboReader->currentText(),
                      IncludeEvents(), m_ui->optShowAll_1->isChecked()},
                     m_viewer);
@@ -85,5 +99,7 @@ void frmRptTour::cmdPrintPreview_Click() {
 void frmRptTour::done(int result) {
     SaveOption(ShowAllKey, m_ui->optShowAll_1->isChecked());
     SaveOption(ShowEventsKey, m_ui->chkIncludeEvents->isChecked());
+    if (m_reported)
+        RememberChoice(DialogName, {ReaderId, TourID(), {}});
     QDialog::done(result);
 }

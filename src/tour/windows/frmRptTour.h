@@ -7,6 +7,7 @@
 #include <memory>
 
 class ReportViewer;
+struct ReportProposal;
 namespace Ui {
 class frmRptTour;
 }
@@ -27,10 +28,12 @@ public:
     bool OK() const { return result() == Accepted; }
     /// Follows the choice of the reader.
     QString ReaderId;
+    /// Chooses what is proposed, as far as it exists.
+    void Propose(const ReportProposal& proposal);
     /// Sets the caption.
     void Title(const QString& text) { setWindowTitle(text); }
 
-    /// Closing saves the two options.
+    /// Closing saves the two options, and the choice if a report was made from it.
     void done(int result) override;
 
 private:
@@ -42,4 +45,5 @@ private:
 
     std::unique_ptr<Ui::frmRptTour> m_ui;
     ReportViewer& m_viewer;
+    bool m_reported = false;
 };

@@ -1,0 +1,95 @@
+#include "WindowPlace.h"
+
+#include "Settings.h"
+
+#include <QEvent>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+const QString WindowsSection = QStringLiteral("Windows");
+/// So much of a window's upper edge, in pixels, must be on a screen, so that it can be moved.
+constexpr int Grip = 80;
+/// What the frame of a window may take of the screen, before it is known.
+constexpr QSize Frame{16, 48};
+
+std::optional<QRect> SavedPlace(const QString& name) {
+    const QStringList parts =
+        GetSetting(SettingsApplication, WindowsSection, name).split(u' ', Qt::SkipEmptyParts);
+    if (parts.size() != 4)
+        return std::nullopt;
+    const QRect place(parts[0].toInt(), parts[1].toInt(), parts[2].toInt(), parts[3].toInt());
+    return place.width() > 0 && place.height() > 0 ? std::optional(place) : std::nullopt;
+}
+
+QScreen* ScreenOf(const QRect& place, const QWidget& window) {
+    const QRect grip(place.topLeft(), QSize(std::max(place.width(), Grip), Frame.height()));
+    for (QScreen* screen : window.screen()->virtualSiblings()) {
+        const QRect seen = screen->availableGeometry() & grip;
+        if (seen.width() >= Grip && seen.height() >= Frame.height() / 2)
+            return screen;
+    }
+    return nullptr;
+}
+
+class WindowPlace : public QObject {
+public:
+    WindowPlace(QWidget& window, Placed what) : QObject(&window), m_window(window), m_what(what) {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        // Not earlier: a base class may have asked for this, before the window has its class.
+        if (event->type() == QEvent::Show && !event->spontaneous()) {
+            m_name = QString::fromLatin1(m_window.metaObject()->className());
+            Restore();
+        }
+        if (event->type() == QEvent::Hide && !event->spontaneous())
+            Save();
+        return false;
+    }
+
+private:
+    void Restore() {
+        const std::optional<QRect> saved = m_saved ? m_saved : SavedPlace(m_name);
+        m_saved = saved;
+        QScreen* screen =
+            saved && m_what == Placed::SizeAndPlace ? ScreenOf(*saved, m_window) : nullptr;
+        const QRect area = (screen ? screen : m_window.screen())->availableGeometry();
+        const QSize wanted = saved ? saved->size() : m_window.size();
+        m_window.resize(wanted.boundedTo(area.size() - Frame));
+        if (screen) {
+            const QSize outer = m_window.size() + Frame;
+            m_window.move(std::clamp(saved->x(), area.left(), area.right() + 1 - outer.width()),
+                          std::clamp(saved->y(), area.top(), area.bottom() + 1 - outer.height()));
+        }
+    }
+
+    void Save() {
+        const bool whole = m_window.isMaximized() || m_window.isFullScreen();
+        const QRect place =
+            whole ? m_window.normalGeometry() : QRect(m_window.pos(), m_window.size());
+        if (!place.isValid() || m_saved == place)
+            return;
+        m_saved = place;
+        SaveSetting(SettingsApplication, WindowsSection, m_name,
+                    QStringLiteral("%1 %2 %3 %4")
+                        .arg(place.x())
+                        .arg(place.y())
+                        .arg(place.width())
+                        .arg(place.height()));
+    }
+
+    QWidget& m_window;
+    Placed m_what;
+    QString m_name;
+    std::optional<QRect> m_saved;
+};
+
+} // namespace
+
+void RememberPlace(QWidget& window, Placed what) { new WindowPlace(window, what); }
