@@ -404,8 +404,8 @@
         <translation>kein Gerät</translation>
     </message>
     <message>
-        <source>&amp;Open Report</source>
-        <translation>Bericht ö&amp;ffnen</translation>
+        <source>&amp;Open Report...</source>
+        <translation>Bericht ö&amp;ffnen...</translation>
     </message>
     <message>
         <source>Open the dialog of the selected report</source>
@@ -414,6 +414,10 @@
     <message>
         <source>Report Name</source>
         <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Descri&amp;ption</source>
+        <translation>Beschreib&amp;ung</translation>
     </message>
     <message>
         <source>Description</source>
@@ -470,6 +474,10 @@
     <message>
         <source>Event</source>
         <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>E&amp;vent</source>
+        <translation>Ere&amp;ignis</translation>
     </message>
     <message>
         <source>Locations</source>
@@ -992,6 +1000,18 @@
         <translation>Vorgaben:</translation>
     </message>
     <message>
+        <source>Only this event; the places that were touched before it are shown with it</source>
+        <translation>Nur dieses Ereignis; mit ihm erscheinen die Orte, die davor berührt wurden</translation>
+    </message>
+    <message>
+        <source>Only touches made while this site was the last one touched</source>
+        <translation>Nur Erfassungen, während dieses Objekt das zuletzt berührte war</translation>
+    </message>
+    <message>
+        <source>Sets the range and makes the report at once</source>
+        <translation>Setzt den Zeitraum und erstellt den Bericht sofort</translation>
+    </message>
+    <message>
         <source>Today</source>
         <translation>Heute</translation>
     </message>
@@ -1024,6 +1044,10 @@
         <translation>Leser</translation>
     </message>
     <message>
+        <source>&amp;Reader</source>
+        <translation>&amp;Leser</translation>
+    </message>
+    <message>
         <source>Report Options</source>
         <translation>Umfang</translation>
     </message>
@@ -1040,16 +1064,24 @@
         <translation>Mit Ereignissen</translation>
     </message>
     <message>
-        <source>Start Date</source>
-        <translation>Anfangsdatum</translation>
+        <source>&amp;Start Date</source>
+        <translation>An&amp;fangsdatum</translation>
     </message>
     <message>
-        <source>End Date</source>
-        <translation>Enddatum</translation>
+        <source>Start &amp;Time</source>
+        <translation>Anfangs&amp;zeit</translation>
     </message>
     <message>
-        <source>End Time</source>
-        <translation>Ende</translation>
+        <source>&amp;End Date</source>
+        <translation>&amp;Enddatum</translation>
+    </message>
+    <message>
+        <source>En&amp;d Date</source>
+        <translation>Enddat&amp;um</translation>
+    </message>
+    <message>
+        <source>End Ti&amp;me</source>
+        <translation>E&amp;nde</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1244,52 +1276,60 @@
         <translation>Datum und Uhrzeit</translation>
     </message>
     <message>
-        <source>Same as PC Clock:</source>
-        <translation>Wie die Uhr des PCs:</translation>
+        <source>Sa&amp;me as PC Clock:</source>
+        <translation>&amp;Wie die Uhr des PCs:</translation>
+    </message>
+    <message>
+        <source>C&amp;ustom Time</source>
+        <translation>A&amp;ndere Uhrzeit</translation>
     </message>
     <message>
         <source>Custom Time</source>
         <translation>Andere Uhrzeit</translation>
     </message>
     <message>
+        <source>What the reader does at each touch</source>
+        <translation>Was der Leser bei jeder Erfassung tut</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Datum:</translation>
+    </message>
+    <message>
         <source>PC time</source>
         <translation>Uhrzeit des PCs</translation>
     </message>
     <message>
-        <source>Date:</source>
-        <translation>Datum:</translation>
-    </message>
-    <message>
-        <source>Automatically Set Time and Date to PC's settings when downloading Data</source>
-        <translation>Beim Auslesen Uhrzeit und Datum nach dem PC stellen</translation>
+        <source>&amp;Automatically Set Time and Date to PC's settings when downloading Data</source>
+        <translation>Beim A&amp;uslesen Uhrzeit und Datum nach dem PC stellen</translation>
     </message>
     <message>
         <source>Reader Options</source>
         <translation>Signale des Lesers</translation>
     </message>
     <message>
-        <source>Buzzer Enabled</source>
-        <translation>Summer ein</translation>
+        <source>&amp;Buzzer Enabled</source>
+        <translation>Summer &amp;ein</translation>
     </message>
     <message>
-        <source>LED Enabled</source>
-        <translation>LED ein</translation>
+        <source>&amp;LED Enabled</source>
+        <translation>&amp;LED ein</translation>
     </message>
     <message>
-        <source>Vibration Enabled</source>
-        <translation>Vibration ein</translation>
+        <source>&amp;Vibration Enabled</source>
+        <translation>&amp;Vibration ein</translation>
     </message>
     <message>
         <source>Buzzer Duration</source>
         <translation>Dauer des Summers</translation>
     </message>
     <message>
-        <source>Short</source>
-        <translation>Kurz</translation>
+        <source>S&amp;hort</source>
+        <translation>&amp;Kurz</translation>
     </message>
     <message>
-        <source>Long</source>
-        <translation>Lang</translation>
+        <source>L&amp;ong</source>
+        <translation>Lan&amp;g</translation>
     </message>
     <message>
         <source>&amp;Send</source>
@@ -1352,12 +1392,20 @@
         <translation>Dieser Code ist schon vergeben!</translation>
     </message>
     <message>
-        <source>Read ID</source>
-        <translation>Nummer lesen</translation>
+        <source>&amp;Read ID</source>
+        <translation>Nummer &amp;lesen</translation>
+    </message>
+    <message>
+        <source>&amp;Manual Entry</source>
+        <translation>&amp;Von Hand eingeben</translation>
     </message>
     <message>
         <source>Manual Entry</source>
         <translation>Von Hand eingeben</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>Na&amp;me</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1432,8 +1480,8 @@
         <translation>&amp;Löschen</translation>
     </message>
     <message>
-        <source>Tour Copy</source>
-        <translation>Rundgang kopieren</translation>
+        <source>Tour &amp;Copy</source>
+        <translation>Rundgang &amp;kopieren</translation>
     </message>
     <message>
         <source>Definitions</source>
@@ -1458,6 +1506,10 @@
     <message>
         <source>Site</source>
         <translation>Objekt</translation>
+    </message>
+    <message>
+        <source>S&amp;ite</source>
+        <translation>&amp;Objekt</translation>
     </message>
     <message>
         <source>Event Book</source>
@@ -1496,36 +1548,44 @@
         <translation>&amp;Zeit ändern</translation>
     </message>
     <message>
-        <source>Minutes since the previous point</source>
-        <translation>Minuten seit dem vorigen Kontrollpunkt</translation>
+        <source>&amp;Minutes since the previous point</source>
+        <translation>&amp;Minuten seit dem vorigen Kontrollpunkt</translation>
     </message>
     <message>
         <source>Select Tour to copy</source>
         <translation>Rundgang zum Kopieren wählen</translation>
     </message>
     <message>
-        <source>Name:</source>
-        <translation>Name:</translation>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
     </message>
     <message>
-        <source>Description :</source>
-        <translation>Beschreibung:</translation>
+        <source>Descri&amp;ption :</source>
+        <translation>&amp;Beschreibung:</translation>
     </message>
     <message>
-        <source>Tour Start Time:</source>
-        <translation>Beginn:</translation>
+        <source>Tour Start Ti&amp;me:</source>
+        <translation>Be&amp;ginn:</translation>
     </message>
     <message>
-        <source>Tolerance (minutes):</source>
-        <translation>Toleranz (Minuten):</translation>
+        <source>To&amp;lerance (minutes):</source>
+        <translation>&amp;Toleranz (Minuten):</translation>
     </message>
     <message>
-        <source>Site:</source>
-        <translation>Objekt:</translation>
+        <source>S&amp;ite:</source>
+        <translation>Ob&amp;jekt:</translation>
+    </message>
+    <message>
+        <source>A&amp;vailable Locations</source>
+        <translation>&amp;Verfügbare Kontaktstellen</translation>
     </message>
     <message>
         <source>Available Locations</source>
         <translation>Verfügbare Kontaktstellen</translation>
+    </message>
+    <message>
+        <source>Current T&amp;our Locations</source>
+        <translation>&amp;Kontrollpunkte des Rundgangs</translation>
     </message>
     <message>
         <source>Current Tour Locations</source>
@@ -1572,6 +1632,10 @@
         <translation>Kontaktstelle</translation>
     </message>
     <message>
+        <source>&amp;Location</source>
+        <translation>&amp;Kontaktstelle</translation>
+    </message>
+    <message>
         <source>Add New User</source>
         <translation>Neuer Benutzer</translation>
     </message>
@@ -1593,7 +1657,7 @@
     </message>
     <message>
         <source>No event books yet. The buttons of an event book stand for incidents. Press Add for a new one, then Edit to give it its buttons.</source>
-        <translation>Noch keine Ereignisbücher. Die Chips eines Ereignisbuchs stehen für Ereignisse. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Chips zuordnen.</translation>
+        <translation>Noch keine Ereignisbücher. Die Kontakte eines Ereignisbuchs stehen für Ereignisse. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Kontakte zuordnen.</translation>
     </message>
     <message>
         <source>No tours yet. Press Add for a new one, then Edit to choose its locations.</source>
@@ -1601,23 +1665,23 @@
     </message>
     <message>
         <source>No readers yet. Put a reader into the docking station and press Add. Without a docking station no reader can be added.</source>
-        <translation>Noch keine Leser. Einen Leser in die Dockingstation stecken und „Neu“ drücken. Ohne Dockingstation geht das nicht.</translation>
+        <translation>Noch keine Leser. Einen Leser in die Dockingstation einsetzen und „Neu“ drücken. Ohne Dockingstation geht das nicht.</translation>
     </message>
     <message>
         <source>No buttons yet. Press Add, then touch the reader in the docking station with a button.</source>
-        <translation>Noch keine Chips. „Neu“ drücken, dann mit einem Chip den Leser in der Dockingstation berühren.</translation>
+        <translation>Noch keine Kontakte. „Neu“ drücken, dann mit einem Kontakt den Leser in der Dockingstation berühren.</translation>
     </message>
     <message>
         <source>No buttons yet. A new button is read at the docking station, which is not connected.</source>
-        <translation>Noch keine Chips. Ein neuer Chip wird an der Dockingstation gelesen, und die ist nicht verbunden.</translation>
+        <translation>Noch keine Kontakte. Ein neuer Kontakt wird an der Dockingstation gelesen, und die ist nicht verbunden.</translation>
     </message>
     <message>
         <source>This site has no location buttons yet. Add them on the Setup page: select the site and press Edit.</source>
         <translation>Dieses Objekt hat noch keine Kontaktstellen. Sie werden in der Einrichtung angelegt: das Objekt wählen und „Bearbeiten“ drücken.</translation>
     </message>
     <message>
-        <source>The tour has no points yet. Select a location on the left and press Add, in the order of the tour.</source>
-        <translation>Der Rundgang hat noch keine Punkte. Kontaktstellen in der Reihenfolge des Rundgangs wählen und „Hinzufügen“ drücken.</translation>
+        <source>The tour has no points yet. Select a location in the other list and press Add, in the order of the tour.</source>
+        <translation>Der Rundgang hat noch keine Kontrollpunkte. Kontaktstellen in der Reihenfolge des Rundgangs wählen und „Hinzufügen“ drücken.</translation>
     </message>
     <message>
         <source>Shows only the rows that contain this text (Ctrl+F).</source>
@@ -1629,7 +1693,7 @@
     </message>
     <message>
         <source>For the first point: the minutes since the start of the tour.</source>
-        <translation>Beim ersten Punkt: die Minuten seit dem Beginn des Rundgangs.</translation>
+        <translation>Beim ersten Kontrollpunkt: die Minuten seit dem Beginn des Rundgangs.</translation>
     </message>
     <message>
         <source>&quot;%0:s&quot; will be lost.</source>
@@ -1637,11 +1701,11 @@
     </message>
     <message>
         <source>&quot;%0:s&quot; and its buttons will be lost.</source>
-        <translation>„%0:s“ und die zugehörigen Chips gehen verloren.</translation>
+        <translation>„%0:s“ und die zugehörigen Kontakte gehen verloren.</translation>
     </message>
     <message>
         <source>&quot;%0:s&quot; and its points will be lost.</source>
-        <translation>„%0:s“ und alle Punkte des Rundgangs gehen verloren.</translation>
+        <translation>„%0:s“ und alle Kontrollpunkte gehen verloren.</translation>
     </message>
     <message>
         <source>&quot;%0:s&quot; will be lost. Touches that are already downloaded are kept.</source>

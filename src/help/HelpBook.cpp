@@ -98,7 +98,8 @@ void DressHelp(QTextDocument& document) {
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         cursor.setPosition(block.position());
         QTextBlockFormat format = block.blockFormat();
-        format.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
+        if (!block.text().contains(QChar::ObjectReplacementCharacter)) // not around a picture
+            format.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
         if (QTextTable* table = cursor.currentTable()) {
             QTextTableFormat lines = table->format();
             lines.setCellPadding(4);

@@ -23,6 +23,15 @@ QSet<QString> PicturesOf(const QTextDocument& document) {
     return names;
 }
 
+/// Links get their colour from the palette of the screen, which may be too light for paper.
+void BlackenLinks(QTextDocument& document) {
+    QTextCharFormat black;
+    black.setForeground(Qt::black);
+    QTextCursor cursor(&document);
+    cursor.select(QTextCursor::Document);
+    cursor.mergeCharFormat(black);
+}
+
 /// The picture in its natural width, or narrower if it does not fit, with a frame around it.
 QPixmap Framed(const QByteArray& content, int width, double dense, const QColor& frame) {
     const QImage image = QImage::fromData(content);
@@ -42,7 +51,11 @@ QPixmap Framed(const QByteArray& content, int width, double dense, const QColor&
 } // namespace
 
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
-    connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::Dress);
+    // source() still gives the old one during the signal.
+    connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) {
+        m_topic = url.fileName().chopped(3);
+        Dress();
+    });
 }
 
 void HelpBrowser::SetBook(const HelpBook& book) {
@@ -60,8 +73,6 @@ void HelpBrowser::ShowTopic(const QString& topic, int block) {
     verticalScrollBar()->setValue(
         qRound(document()->documentLayout()->blockBoundingRect(wanted).top()));
 }
-
-QString HelpBrowser::Topic() const { return source().fileName().chopped(3); }
 
 QPixmap HelpBrowser::Picture(const QString& name) const {
     const int width = viewport()->width() - qRound(2 * document()->documentMargin());
@@ -118,6 +129,7 @@ void HelpBrowser::Print(QPrinter& printer) const {
     QTextDocument paper;
     paper.setMarkdown(QString::fromUtf8(m_book->Content(source().fileName())));
     DressHelp(paper);
+    BlackenLinks(paper);
     for (const QString& name : PicturesOf(paper))
         paper.addResource(QTextDocument::ImageResource, QUrl(name),
                           Framed(m_book->Content(name), PrintedWidth, PixelsOfPicture, Qt::gray));

@@ -15,7 +15,7 @@ public:
     void SetBook(const HelpBook& book);
     /// Shows a topic from its start, or from a paragraph.
     void ShowTopic(const QString& topic, int block = -1);
-    QString Topic() const;
+    const QString& Topic() const { return m_topic; }
     /// These words are marked in every topic, in any case.
     void Mark(const QStringList& words);
     /// Prints the topic that is shown.
@@ -32,5 +32,6 @@ private:
     QPixmap Picture(const QString& name) const;
 
     const HelpBook* m_book = nullptr;
+    QString m_topic;
     QStringList m_words;
 };

@@ -1,6 +1,7 @@
 #include "frmHelp.h"
 
 #include "HelpBook.h"
+#include "WindowPlace.h"
 #include "WindowTools.h"
 #include "mDeclareGlobals.h"
 #include "mSettings.h"
@@ -57,6 +58,7 @@ frmHelp::frmHelp(const QString& path)
     setWindowIcon(ProgramIcon(QStringLiteral("wardlock")));
     m_ui->splitter->setStretchFactor(1, 1);
     m_ui->splitter->setSizes({240, 560});
+    RememberPlace(*this);
     ConnectTools();
     Load(path);
     Zoom(SavedNumber(SettingsSection::Settings, QStringLiteral("HelpZoom"), 0));

@@ -3,6 +3,7 @@
 #include "Clock.h"
 #include "Downloads.h"
 #include "Format.h"
+#include "ListColumns.h"
 #include "TourWords.h"
 #include "WindowTools.h"
 #include "mErrorHandler.h"
@@ -67,9 +68,8 @@ QString NameOf(const Reader& reader) {
     return reader.description.isEmpty() ? reader.id : ReaderText(reader);
 }
 
-QGroupBox* Box(const QString& title, QWidget* parent) {
-    auto* box = new QGroupBox(title, parent);
-    box->setFlat(false);
+QGroupBox* Box(const char* title, QWidget* parent) {
+    auto* box = new QGroupBox(QString::fromUtf8(title), parent);
     return box;
 }
 
@@ -79,7 +79,7 @@ HomeBlocks::HomeBlocks(QWidget* parent) : QWidget(parent) {
     auto* all = new QGridLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
 
-    QGroupBox* stationBox = Box(QStringLiteral("Docking Station"), this);
+    QGroupBox* stationBox = Box(QT_TR_NOOP("Docking Station"), this);
     auto* station = new QGridLayout(stationBox);
     m_stationIcon = new QLabel(stationBox);
     m_stationIcon->setMaximumSize(24, 24);
@@ -87,7 +87,7 @@ HomeBlocks::HomeBlocks(QWidget* parent) : QWidget(parent) {
     m_station->setWordWrap(true);
     m_device = new QLabel(stationBox);
     m_device->setWordWrap(true);
-    m_retry = new QPushButton(QStringLiteral("Retry"), stationBox);
+    m_retry = new QPushButton(QString::fromUtf8(QT_TR_NOOP("Retry")), stationBox);
     m_retry->setObjectName(QStringLiteral("cmdRetry"));
     station->addWidget(m_stationIcon, 0, 0, Qt::AlignTop);
     station->addWidget(m_station, 0, 1);
@@ -96,34 +96,35 @@ HomeBlocks::HomeBlocks(QWidget* parent) : QWidget(parent) {
     station->setColumnStretch(1, 1);
     connect(m_retry, &QPushButton::clicked, this, &HomeBlocks::RetryWanted);
 
-    QGroupBox* downloadBox = Box(QStringLiteral("Last download"), this);
+    QGroupBox* downloadBox = Box(QT_TR_NOOP("Last download"), this);
     auto* download = new QGridLayout(downloadBox);
     m_download = new QLabel(downloadBox);
     m_download->setObjectName(QStringLiteral("lblLastDownload"));
     m_download->setWordWrap(true);
     download->addWidget(m_download);
 
-    m_toursBox = Box(QStringLiteral("Tours of the last 24 hours"), this);
+    m_toursBox = Box(QT_TR_NOOP("Tours of the last 24 hours"), this);
     auto* tours = new QGridLayout(m_toursBox);
     m_tours = new QTreeWidget(m_toursBox);
     m_tours->setObjectName(QStringLiteral("lvwTours"));
-    m_tours->setAccessibleName(QStringLiteral("Tours of the last 24 hours"));
-    m_tours->setToolTip(QStringLiteral("Click a tour, or press Enter, to open its report."));
+    m_tours->setAccessibleName(QString::fromUtf8(QT_TR_NOOP("Tours of the last 24 hours")));
+    m_tours->setToolTip(
+        QString::fromUtf8(QT_TR_NOOP("Click a tour, or press Enter, to open its report.")));
     m_tours->setRootIsDecorated(false);
     m_tours->setUniformRowHeights(true);
     m_tours->setAllColumnsShowFocus(true);
-    m_tours->setMinimumHeight(80);
+    m_tours->setMinimumHeight(90);
+    m_tours->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_tours->setColumnCount(MissingColumn + 1);
-    m_tours->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_tours->header()->setStretchLastSection(false);
+    ManageColumns(*m_tours, QStringLiteral("HomeTours"));
     m_tours->installEventFilter(this);
     connect(m_tours, &QTreeWidget::itemClicked, this, &HomeBlocks::OpenCurrent);
     m_noTours = new QLabel(m_toursBox);
-    m_noTours->setText(QStringLiteral("No tour was due."));
+    m_noTours->setText(QString::fromUtf8(QT_TR_NOOP("No tour was due.")));
     tours->addWidget(m_tours);
     tours->addWidget(m_noTours, 1, 0, Qt::AlignTop);
 
-    m_stepsBox = Box(QStringLiteral("First steps"), this);
+    m_stepsBox = Box(QT_TR_NOOP("First steps"), this);
     auto* steps = new QGridLayout(m_stepsBox);
     for (std::size_t i = 0; i < Steps.size(); ++i) {
         auto* tick = new QLabel(m_stepsBox);

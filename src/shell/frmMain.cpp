@@ -188,8 +188,9 @@ void frmMain::ShowChosen(QAction& action, bool chosen) {
     QPalette colours = palette();
     QFont letters = font();
     if (chosen) {
-        icon.addPixmap(icon.pixmap(m_ui->tbrMain->iconSize(), devicePixelRatioF()), QIcon::Disabled,
-                       QIcon::On);
+        const QPixmap picture = icon.pixmap(m_ui->tbrMain->iconSize(), devicePixelRatioF());
+        icon = QIcon(picture);
+        icon.addPixmap(picture, QIcon::Disabled, QIcon::On);
         for (const auto role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text})
             colours.setColor(QPalette::Disabled, role, colours.color(QPalette::Active, role));
     }

@@ -17,7 +17,6 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QSettings>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
@@ -215,8 +214,6 @@ private slots:
     void Shows() {
         QFETCH(const int, language);
         QFETCH(const QString, form);
-        // No window has the size at which the one before was left.
-        QSettings("Wardlock", "Wardlock Lite").remove("Windows");
         gLanguage = language;
         OpenDictionary();
         DockingLink link;

@@ -106,7 +106,7 @@ void TakeReport() {
         preview->resize(640, 520);
         Control<QAction>(*preview, "fit-page")->trigger();
         Take(*preview, "preview");
-        preview->resize(640, 640);
+        preview->resize(600, 500);
         Control<QAction>(*preview, "fit-width")->trigger();
         Take(*preview, "tour-report");
         QTimer::singleShot(0, preview, &QWidget::close);
@@ -155,10 +155,14 @@ int main(int argc, char** argv) {
     TakeThen(login, "frmLogin", "login", "cmdOK");
     Run("login", login, [] { Main({}); });
     Frame().resize(641, 446);
-    Take(Frame(), "home");
     Action("download")->trigger();
     Script::Find<QAbstractButton>("frmMdiDownload", "cmdOnline_0")->click();
     Take(Frame(), "download");
+    Frame().resize(700, 600);
+    Action("home")->trigger();
+    QTest::qWait(500); // the page fills in
+    Take(Frame(), "home");
+    Frame().resize(641, 446);
     TakeSetup();
     TakeReport();
     Script archive, options;

@@ -139,6 +139,8 @@ private slots:
         QVERIFY(text->extraSelections().size() > 3);
         text->backward();
         QCOMPARE(ShownTopic(), HelpBook::Contents);
+        HelpWindow()->ShowTopic("tours");
+        QCOMPARE(hits->currentItem()->text(0), "Tours");
     }
 
     // F1 in a modal window, and a help window that was open before.

@@ -131,6 +131,9 @@ private slots:
         station.download.Run();
         const QString text = station.view.MessageText;
         QTEST(text, "text");
+        for (const Message& box : m_boxes.Messages)
+            QVERIFY(rows > 0 || box.text == ClockFailed ||
+                    box.advice.endsWith("All touches are still in the reader."));
         QCOMPARE(m_boxes.TakeTexts(), messages);
         QCOMPARE(StoredTouches().size(), rows);
         QVERIFY(station.view.ProgressInRange && !gCommActive);

@@ -1,5 +1,6 @@
 // The preview window, driven by its keys and its wheel, and printing.
 
+#include "FileDialogs.h"
 #include "PrintReport.h"
 #include "ScriptedBoxes.h"
 #include "SmallReport.h"
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPrinter>
@@ -20,6 +22,9 @@
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
+
+#include <array>
+#include <cmath>
 
 namespace {
 
@@ -80,6 +85,59 @@ class PreviewTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void NamesOfFiles() {
+        const QString much = QString("€").repeated(300), half(QChar(0xd83d));
+        const std::pair<QString, QString> cases[] = {
+            {"Tour Report - Night - 2026-11-22", "Tour Report - Night - 2026-11-22"},
+            {"../..\\a/b:c*d?e\"f<g>h|i\n" + half, "a b c d e f g h i"},
+            {QString::fromUtf8("a\u202egpj.exe\u200b "), "a gpj.exe"},
+            {".hidden. .", "hidden"},
+            {"CON", "CON_"},
+            {" / ", ""}};
+        for (const auto& [text, name] : cases)
+            QCOMPARE(SafeFileName(text), name);
+        QVERIFY(SafeFileName(much).toUtf8().size() <= 200 && !SafeFileName(much).isEmpty());
+    }
+
+    // Of each icon, the strongest pixel: on the window, and on a selected row.
+    void IconsCanBeSeen() {
+        const auto light = [](const QColor& colour) {
+            const auto part = [](double value) {
+                return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+            };
+            return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
+                   0.0722 * part(colour.blueF()) + 0.05;
+        };
+        const QPalette before = QApplication::palette();
+        for (const auto& [window, text, chosen, chosenText] :
+             {std::array<QColor, 4>{"#efefef", "#000000", "#308cc6", "#ffffff"},
+              {"#2d2d2d", "#ffffff", "#1d6fc0", "#ffffff"},
+              {"#000000", "#ffffff", "#ffff00", "#000000"}}) {
+            QPalette palette(window, window);
+            palette.setColor(QPalette::WindowText, text);
+            palette.setColor(QPalette::Highlight, chosen);
+            palette.setColor(QPalette::HighlightedText, chosenText);
+            QApplication::setPalette(palette);
+            for (const QString& file : QDir(":/icons").entryList())
+                for (const auto mode : {QIcon::Normal, QIcon::Disabled, QIcon::Selected}) {
+                    const QString name = QFileInfo(file).baseName();
+                    if (name == "wardlock" || name == "splash") // pictures
+                        continue;
+                    const double ground = light(mode == QIcon::Selected ? chosen : window);
+                    const QImage image = ProgramIcon(name).pixmap(24, 24, mode).toImage();
+                    double best = 1;
+                    for (int at = 0; at < image.width() * image.height(); ++at)
+                        if (const QColor pixel =
+                                image.pixelColor(at % image.width(), at / image.width());
+                            pixel.alpha() == 255)
+                            best = std::max(best, std::max(light(pixel), ground) /
+                                                      std::min(light(pixel), ground));
+                    QVERIFY2(best >= 3, qPrintable(name + " on " + window.name()));
+                }
+        }
+        QApplication::setPalette(before);
+    }
+
     void PreviewIsDrivenByKeys() {
         const CountedRows source(100'000);
         const Shown shown(source);

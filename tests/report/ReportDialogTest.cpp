@@ -4,6 +4,7 @@
 #include "CheckList.h"
 #include "Clock.h"
 #include "DateTimeRange.h"
+#include "LastChoice.h"
 #include "RecordingViewer.h"
 #include "ReportButtons.h"
 #include "ReportCatalogue.h"
@@ -12,6 +13,7 @@
 #include "frmMdiReports.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QPushButton>
 #include <QTest>
@@ -71,6 +73,47 @@ private slots:
         QTest::keyClick(rows, Qt::Key_Space);
         QCOMPARE(list.CheckedTags(), QVariantList{1});
         QCOMPARE(press("cmdReaders_0"), (QVariantList{0, 1, 2}));
+    }
+
+    // A range moves on with the days, a row that is new is checked, a choice that is gone is not
+    // missed, and nothing can leave a dialog without any choice.
+    void TheLastChoiceReturns() {
+        const TestHome home(TestHome::EmptyStore); // and settings of its own
+        const auto show = [](const QStringList& rows, const auto& use) {
+            QDialog dialog;
+            dialog.setObjectName("frmChoices");
+            QPushButton preview(&dialog);
+            DateTimeRange range(&dialog);
+            QComboBox box(&dialog);
+            CheckList list(&dialog);
+            range.setObjectName("range");
+            box.setObjectName("box");
+            list.setObjectName("list");
+            box.addItems(rows);
+            for (const QString& row : rows)
+                list.Add(row, row);
+            RememberChoices(dialog, preview);
+            use(range, box, list);
+            preview.click();
+        };
+        const QDate sunday(2026, 11, 22);
+        std::optional<TestClock> clock(std::in_place, At(sunday, 9, 0), 1);
+        show({"a", "b", "c"}, [&](DateTimeRange& range, QComboBox& box, CheckList& list) {
+            range.SetDays(sunday.addDays(-1), sunday);
+            box.setCurrentIndex(2);
+            list.Uncheck({"b"});
+        });
+        clock.emplace(At(sunday.addDays(1), 9, 0), 1);
+        show({"a", "b", "c", "d"}, [&](DateTimeRange& range, QComboBox& box, CheckList& list) {
+            QCOMPARE(range.Start(), At(sunday, 0, 0));
+            QCOMPARE(range.End(LastMinute::Whole), At(sunday.addDays(1), 23, 59, 59));
+            QCOMPARE(box.currentText(), "c");
+            QCOMPARE(list.CheckedTags(), (QVariantList{"a", "c", "d"}));
+        });
+        show({"b"}, [&](DateTimeRange&, QComboBox& box, CheckList& list) {
+            QCOMPARE(box.currentText(), "b");
+            QCOMPARE(list.CheckedTags(), QVariantList{"b"});
+        });
     }
 
     void ButtonsOfADialog() {
@@ -138,6 +181,7 @@ private slots:
                 closer.start(20);
                 list->setCurrentItem(list->topLevelItem(place++));
                 page.ReportParamShow(report.key, report.name);
+                QVERIFY(missing.isEmpty() || boxes.Messages[0].advice.contains("Setup"));
                 QCOMPARE(boxes.TakeTexts(),
                          missing.isEmpty() ? QStringList() : QStringList(message.arg(thing)));
                 QCOMPARE(title, missing.isEmpty() ? report.name : "");

@@ -123,6 +123,43 @@ private slots:
         m_home.reset();
     }
 
+    // The operator's device is a link, as udev makes them: the station comes back under its name.
+    void FindsAStationThatComesBack() {
+        const QString link = m_home->File("dock");
+        auto dock = std::make_unique<Dock>(Night);
+        QVERIFY(QFile::link(dock->Device(), link));
+        Save(SettingsSection::ComPort, "Device1", link);
+        Script script;
+        LogIn(script, "keeper");
+        script.Start();
+        QVERIFY(Main({}) == StartOutcome::Running && script.Finish() && gDockingDetected);
+        const auto* state = Control<QLabel>(*MainWindow(), "panel1");
+        for (const bool underAModalWindow : {false, true}) {
+            m_home->TakeLog();
+            dock.reset();
+            QTRY_COMPARE(state->text(), "Docking Station : Not Detected");
+            QVERIFY(!Action("download")->isEnabled());
+            QVERIFY(Control(*MainWindow(), "panel2")->text().startsWith(link));
+            QVERIFY(m_home->TakeLog().contains("The docking station at " + link + " is gone"));
+            QFile::remove(link);
+            Dock other(Night); // a device that was not chosen
+            dock = std::make_unique<Dock>(Night);
+            QVERIFY(QFile::link(dock->Device(), link));
+            if (underAModalWindow) {
+                QDialog conversation(MainWindow());
+                conversation.setModal(true);
+                conversation.show();
+                QTest::qWait(500); // fifteen looks at the device
+                QCOMPARE(dock->Logged("CmdDetect") + dock->Logged("0D 0A"), 0);
+            }
+            QTRY_COMPARE(state->text(), "Docking Station : OK");
+            QVERIFY(Action("download")->isEnabled());
+            QCOMPARE(dock->Logged("CmdDetect"), 1);
+            QCOMPARE(other.Logged("CmdDetect") + other.Logged("0D 0A"), 0);
+        }
+        QFile::remove(link);
+    }
+
     void RunsTheMainJobThroughItsWindows() {
         Dock dock(Night);
         QVERIFY(Start(&dock));
@@ -553,7 +590,7 @@ private slots:
             WriteBytes(path, bytes);
             QCOMPARE(frmAbout::TextFromFile(path), text);
         }
-        QCOMPARE(about(), "Build 0001|Büro <b>");
+        QCOMPARE(about(), "Build 0000|Büro <b>");
         m_home->TakeLog();
         QCOMPARE(frmAbout::TextFromFile(m_home->File("config")), ""); // a folder
         QVERIFY(m_home->TakeLog().contains("TextFromFile of Form frmAbout"));

@@ -100,6 +100,8 @@ private slots:
             other + '.');
         row(
             "a device", [](auto&) { return "/dev/zero"; }, other + '.');
+        row(
+            "a file of the system", [](auto&) { return "/proc/self/maps"; }, other + ", its");
         row("empty", spoilt([](const QString& path) { QFile::resize(path, 0); }), other + ", its");
         row("text", spoilt([](const QString& path) { WriteBytes(path, QByteArray(9999, 't')); }),
             other + ", its");

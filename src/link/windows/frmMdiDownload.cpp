@@ -95,8 +95,11 @@ void frmMdiDownload::OfferReports() {
     const DateTime now = Now();
     const DateTime before =
         DownloadBefore(outcome.readerId, first->DateAndTime).value_or(first->DateAndTime);
-    const QList<DueTour> due = DueToursOfReader(
-        outcome.readerId, std::max(before, now - DateTime::FromDays(MostDays)), now);
+    // A guard who is back early has walked a tour that is not over yet.
+    QList<DueTour> due =
+        DueToursOfReader(outcome.readerId, std::max(before, now - DateTime::FromDays(MostDays)),
+                         now + DateTime::FromDays(1));
+    due.removeIf([&](const DueTour& tour) { return tour.start > now; });
     qDeleteAll(m_ui->fraReports->findChildren<QPushButton*>());
     for (const DueTour& tour : due.first(std::min<qsizetype>(due.size(), MostOffers))) {
         auto* offer = new QPushButton(ProgramIcon(QStringLiteral("report")),

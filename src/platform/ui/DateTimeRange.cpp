@@ -39,10 +39,10 @@ DateTimeRange::DateTimeRange(QWidget* parent)
         grid->addWidget(field, row, column + 1);
         grid->setColumnStretch(column + 1, 1);
     };
-    add(m_startDate, "StartDate", QT_TR_NOOP("Start Date"), 0, 0);
-    add(m_startTime, "StartTime", QT_TR_NOOP("Start Time"), 0, 2);
-    add(m_endDate, "EndDate", QT_TR_NOOP("End Date"), 1, 0);
-    add(m_endTime, "EndTime", QT_TR_NOOP("End Time"), 1, 2);
+    add(m_startDate, "StartDate", QT_TR_NOOP("&Start Date"), 0, 0);
+    add(m_startTime, "StartTime", QT_TR_NOOP("Start &Time"), 0, 2);
+    add(m_endDate, "EndDate", QT_TR_NOOP("En&d Date"), 1, 0);
+    add(m_endTime, "EndTime", QT_TR_NOOP("End Ti&me"), 1, 2);
     for (QDateEdit* date : {m_startDate, m_endDate})
         PrepareDateField(*date);
     for (QTimeEdit* time : {m_startTime, m_endTime}) {

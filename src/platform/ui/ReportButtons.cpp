@@ -1,5 +1,6 @@
 #include "ReportButtons.h"
 
+#include "WindowPlace.h"
 #include "WindowTools.h"
 
 #include <QDialog>
@@ -7,6 +8,7 @@
 
 void JoinReportButtons(QDialog& dialog, QPushButton& preview, QPushButton& cancel,
                        std::function<void()> makeReport) {
+    RememberPlace(dialog);
     QObject::connect(&cancel, &QPushButton::clicked, &dialog, &QDialog::reject);
     QObject::connect(&preview, &QPushButton::clicked, &dialog,
                      [&dialog, &preview, &cancel, makeReport = std::move(makeReport)] {

@@ -7,7 +7,8 @@ class QPushButton;
 
 /// Makes the two buttons of a report dialog work. `preview` runs `makeReport`, which makes and
 /// shows the report: under the hourglass, and with both buttons disabled until it returns. The
-/// dialog then stays open, so that another report can be made. `cancel` closes it as rejected.
+/// dialog then stays open, so that another report can be made. `cancel` closes it as rejected. The
+/// dialog remembers its size and place.
 /// To make the report in another way, such as a double click, call `preview.click()`.
 ///
 /// `makeReport` must let no failure out.

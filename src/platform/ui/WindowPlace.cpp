@@ -60,13 +60,21 @@ private:
         QScreen* screen =
             saved && m_what == Placed::SizeAndPlace ? ScreenOf(*saved, m_window) : nullptr;
         const QRect area = (screen ? screen : m_window.screen())->availableGeometry();
-        const QSize wanted = saved ? saved->size() : m_window.size();
+        const QSize wanted = Roomy(saved ? saved->size() : m_window.size());
         m_window.resize(wanted.boundedTo(area.size() - Frame));
         if (screen) {
             const QSize outer = m_window.size() + Frame;
             m_window.move(std::clamp(saved->x(), area.left(), area.right() + 1 - outer.width()),
                           std::clamp(saved->y(), area.top(), area.bottom() + 1 - outer.height()));
         }
+    }
+
+    /// The size, or as much more as the texts need: they are longer in another language.
+    QSize Roomy(const QSize& size) const {
+        const QSize room = size.expandedTo(m_window.minimumSizeHint());
+        return m_window.hasHeightForWidth()
+                   ? room.expandedTo({0, m_window.heightForWidth(room.width())})
+                   : room;
     }
 
     void Save() {

@@ -8,6 +8,7 @@
 #include "PrintReport.h"
 #include "ProgressWindow.h"
 #include "ReportPdf.h"
+#include "WindowPlace.h"
 
 #include <QAction>
 #include <QApplication>
@@ -56,6 +57,8 @@ frmPreview::frmPreview(const DataReport& report, TranslateText translate, QWidge
     layout->addWidget(m_toolbar);
     layout->addWidget(m_area, 1);
     PlaceWindow();
+    m_firstSize = size();
+    RememberPlace(*this);
     ShowState();
     m_area->setFocus();
 }
@@ -83,7 +86,7 @@ void frmPreview::TakeFrameOff() {
 
 void frmPreview::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    if (!event->spontaneous())
+    if (!event->spontaneous() && size() == m_firstSize) // not the one that was remembered
         QTimer::singleShot(0, this, &frmPreview::TakeFrameOff);
 }
 

@@ -54,6 +54,7 @@ private:
     QLineEdit* m_pageField;
     QLabel* m_pageCount;
     QLabel* m_zoomText;
+    QSize m_firstSize; ///< before the operator has made another one
     QAction* m_first = nullptr;
     QAction* m_previous = nullptr;
     QAction* m_next = nullptr;

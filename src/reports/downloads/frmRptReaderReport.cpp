@@ -5,6 +5,7 @@
 #include "LookUps.h"
 #include "ReaderReportBuilder.h"
 #include "ReportButtons.h"
+#include "ReportProposal.h"
 #include "WindowTools.h"
 #include "mErrorHandler.h"
 #include "mTranslations.h"
@@ -23,6 +24,9 @@ frmRptReaderReport::frmRptReaderReport(ReportViewer& viewer, QWidget* parent)
     });
     LoadReaders();
     RememberChoices(*this, *m_ui->cmdPrintPreview);
+    if (const ReportProposal proposal = ProposalFor(objectName()); proposal.HasDate())
+        if (const int place = m_ui->imgcboReader->findData(proposal.readerId); place >= 0)
+            m_ui->imgcboReader->setCurrentIndex(place);
     ReadSelectedReader();
 }
 

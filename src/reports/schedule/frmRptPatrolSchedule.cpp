@@ -2,6 +2,7 @@
 
 #include "Format.h"
 #include "LastChoice.h"
+#include "ListColumns.h"
 #include "LookUps.h"
 #include "PatrolScheduleBuilder.h"
 #include "ReportButtons.h"
@@ -16,12 +17,11 @@ frmRptPatrolSchedule::frmRptPatrolSchedule(ReportViewer& viewer, QWidget* parent
     m_tours.SetColumns({Translate("Tour Name"), Translate("Description"), Translate("Start Time")});
     m_tours.SetIcon(ProgramIcon(QStringLiteral("tour")));
     JoinList(*m_ui->lvwMain, m_tours);
-    m_ui->lvwMain->header()->setStretchLastSection(false);
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel,
                       [this] { RunSelectedTour(); });
     connect(m_ui->lvwMain, &QTreeView::doubleClicked, m_ui->cmdPrintPreview, &QPushButton::click);
     LoadTours();
-    SizeColumns();
+    ManageColumns(*m_ui->lvwMain, QStringLiteral("PatrolSchedule"), {30, 50, 30});
     RememberChoices(*this, *m_ui->cmdPrintPreview);
 }
 
@@ -35,18 +35,6 @@ void frmRptPatrolSchedule::LoadTours() {
                     tour.id};
     m_tours.SetRows(std::move(rows));
     SelectPlace(*m_ui->lvwMain, 0);
-}
-
-/// The columns take more than the width of the list, so it scrolls sideways.
-void frmRptPatrolSchedule::SizeColumns() {
-    int column = 0;
-    for (const int hundredths : {30, 50, 30})
-        m_ui->lvwMain->setColumnWidth(column++, ColumnWidth(m_ui->lvwMain->width(), hundredths));
-}
-
-void frmRptPatrolSchedule::resizeEvent(QResizeEvent* event) {
-    QDialog::resizeEvent(event);
-    SizeColumns();
 }
 
 void frmRptPatrolSchedule::RunSelectedTour() {

@@ -98,9 +98,10 @@ void frmEditTour::Populate() {
         ShowWhenEmpty(*m_ui->lvwLocations,
                       Translate("This site has no location buttons yet. Add them on the Setup "
                                 "page: select the site and press Edit."));
-        ShowWhenEmpty(*m_ui->lvwSelected,
-                      Translate("The tour has no points yet. Select a location on the left and "
-                                "press Add, in the order of the tour."));
+        ShowWhenEmpty(
+            *m_ui->lvwSelected,
+            Translate("The tour has no points yet. Select a location in the other list and "
+                      "press Add, in the order of the tour."));
         FillSites();
         FillLocations();
         ShowPoints(0);
