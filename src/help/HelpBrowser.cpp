@@ -3,6 +3,7 @@
 #include "HelpBook.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QLocale>
 #include <QPainter>
 #include <QPrinter>
 #include <QScrollBar>

@@ -49,11 +49,11 @@ QString HelpTopicOf(const QString& form) {
 
 QString HelpTopicAround(const QWidget* widget) {
     for (; widget; widget = widget->parentWidget()) {
-        if (const QString topic = HelpTopicOf(widget->objectName()); !topic.isEmpty())
+        if (QString topic = HelpTopicOf(widget->objectName()); !topic.isEmpty())
             return topic;
         if (widget->objectName() == u"frmMain")
             for (const QWidget* page : widget->findChildren<QWidget*>())
-                if (const QString topic = HelpTopicOf(page->objectName());
+                if (QString topic = HelpTopicOf(page->objectName());
                     page->isVisible() && !page->isWindow() && !topic.isEmpty())
                     return topic;
     }
