@@ -4,6 +4,7 @@
 
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QTextDocument>
 #include <QTimer>
 #include <QToolTip>
 #include <QTreeView>
