@@ -11,7 +11,7 @@ constexpr int DeviceInterval = 1000; ///< ms
 constexpr int AnswerInterval = 300;
 /// As long as DockingLink::DetectStation waits.
 constexpr int Looks = 5;
-/// A station may need some time after it is plugged in. A device that is no station is left alone
+/// A station may need some time after it is plugged in. A device that is not a station is left alone
 /// after that, until it goes away and comes back.
 constexpr int Checks = 5;
 

@@ -1,5 +1,6 @@
 #include "SearchableCombo.h"
 
+#include <QApplication>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>

@@ -135,7 +135,7 @@ void TourListDrag::Begin() {
 }
 
 void TourListDrag::Follow() {
-    const bool rightToLeft = m_lblDragDrop->isRightToLeft(); // the label hangs behind the pointer
+    const bool rightToLeft = m_lblDragDrop->isRightToLeft(); // the label follows the pointer
     m_lblDragDrop->move(
         m_lblDragDrop->parentWidget()->mapFromGlobal(m_pointer) +
         QPoint(rightToLeft ? -PointerGap - m_lblDragDrop->width() : PointerGap, 10));
