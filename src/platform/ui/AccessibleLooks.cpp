@@ -112,12 +112,11 @@ private:
         constexpr double SelectionContrast = TextContrast * 1.3;
         if (Contrast(text, selection) >= SelectionContrast)
             return;
-        // Only these are set; the other colours go on following the theme.
-        QPalette readable;
+        // Colours that nobody has set go on following the theme.
         for (const auto group : {QPalette::Active, QPalette::Inactive})
-            readable.setColor(group, QPalette::Highlight,
-                              Readable(selection, text, SelectionContrast));
-        QApplication::setPalette(readable);
+            palette.setColor(group, QPalette::Highlight,
+                             Readable(selection, text, SelectionContrast));
+        QApplication::setPalette(palette);
     }
 
     // Its parent is the window in which it was last shown.
