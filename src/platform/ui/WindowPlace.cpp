@@ -19,6 +19,7 @@ const QString WindowsSection = QStringLiteral("Windows");
 constexpr int Grip = 80;
 /// What the frame of a window may take of the screen, before it is known.
 constexpr QSize Frame{16, 48};
+constexpr int FocusMargin = 4; ///< for the mark of the focus
 
 std::optional<QRect> SavedPlace(const QString& name) {
     const QStringList parts =
@@ -64,8 +65,12 @@ void MakeScrollable(QWidget& window) {
     around->addWidget(area);
     around->activate();
     QObject::connect(qApp, &QApplication::focusChanged, area, [area](QWidget*, QWidget* now) {
-        if (now && area->isAncestorOf(now))
-            area->ensureWidgetVisible(now);
+        if (!now || !area->isAncestorOf(now))
+            return;
+        // The area's own routine only shows the cursor in it.
+        const QRect whole(now->mapTo(area->widget(), QPoint()), now->size());
+        for (const QPoint corner : {whole.bottomRight(), whole.topLeft()})
+            area->ensureVisible(corner.x(), corner.y(), FocusMargin, FocusMargin);
     });
     if (focus)
         focus->setFocus();
