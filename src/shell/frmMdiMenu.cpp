@@ -105,8 +105,10 @@ void frmMdiMenu::ResizeForm() {
     m_ui->lblMainTitle->setGeometry(margin, 2 * margin, width, titleHeight);
     m_ui->lblVersionMsg->setGeometry(margin, versionTop, width,
                                      m_ui->lblVersionMsg->sizeHint().height());
-    m_ui->lblCopyright->setGeometry(margin, height() - PixelsOf(CopyrightFromBottom), width,
-                                    m_ui->lblCopyright->sizeHint().height());
+    const int notice = m_ui->lblCopyright->heightForWidth(width);
+    const int moreLines = notice - m_ui->lblCopyright->fontMetrics().lineSpacing();
+    m_ui->lblCopyright->setGeometry(
+        margin, height() - PixelsOf(CopyrightFromBottom) - std::max(0, moreLines), width, notice);
     const int pictureTop = 3 * margin + titleHeight;
     const int room = std::max(0, versionTop - pictureTop - margin);
     // The picture takes what the blocks leave.
