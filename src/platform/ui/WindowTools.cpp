@@ -248,7 +248,8 @@ public:
         Draw();
     }
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::PaletteChange)
+        const bool isShown = !m_label.pixmap(Qt::ReturnByValue).isNull(); // else it was cleared
+        if (event->type() == QEvent::PaletteChange && isShown)
             Draw();
         return false;
     }
