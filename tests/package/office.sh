@@ -6,6 +6,8 @@ say() { printf '%s\n' "$*"; }
 fail() { printf 'FAILED: %s\n' "$*" >&2; exit 1; }
 source demo.sh
 [ "$(id -u)" -ne 0 ] || fail "this is root"
+export XDG_RUNTIME_DIR=$HOME/.runtime # a login makes it
+mkdir -m 700 "$XDG_RUNTIME_DIR"
 
 version=$(dpkg-query -W -f '${Version}' wardlock)
 for program in wardlock wardlockctl mkstore docksim; do
@@ -33,7 +35,7 @@ grep -q '^5 points: 3 on time, 1 late, 1 missing$' report.txt || fail "the repor
 # In German, from the installed dictionary.
 printf '[Properties]\nLanguage=2\n' >"$XDG_CONFIG_HOME/Wardlock/Wardlock Lite.conf"
 wardlockctl report hardware --format text >german.txt
-grep -q 'Lesegerät' german.txt || fail "the report in German"
+grep -q '^Hardwareliste' german.txt || fail "the report in German"
 
 say "Completion"
 source /usr/share/bash-completion/bash_completion
