@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # The demonstration: last night's tour in a simulated docking station. Sourced by run, and by the
 # test of the package. Needs BIN, the folder of the programs, and say.
 

@@ -32,10 +32,14 @@ demo_without_display >report.txt
 cat report.txt
 grep -q '^5 points: 3 on time, 1 late, 1 missing$' report.txt || fail "the report as text"
 [ "$(head -c 5 demo/report.pdf)" = %PDF- ] || fail "the report as PDF"
-# In German, from the installed dictionary.
-printf '[Properties]\nLanguage=2\n' >"$XDG_CONFIG_HOME/Wardlock/Wardlock Lite.conf"
+# speak NUMBER: chooses a language of the installed dictionary.
+speak() { printf '[Properties]\nLanguage=%s\n' "$1" >"$XDG_CONFIG_HOME/Wardlock/Wardlock Lite.conf"; }
+speak 2
 wardlockctl report hardware --format text >german.txt
 grep -q '^Hardwareliste' german.txt || fail "the report in German"
+speak 9
+wardlockctl report hardware --format pdf --output arabic.pdf
+grep -aq DejaVuSans arabic.pdf || fail "there is no font with Arabic letters"
 
 say "Completion"
 source /usr/share/bash-completion/bash_completion

@@ -1,15 +1,16 @@
 #!/usr/bin/env bash
 # Installs the package into a fresh Debian, does the main job there as an ordinary user, removes the
 # package, and looks for what it has left. Called by ./test --package. Needs root.
-# usage: run.sh PACKAGE FOLDER
+# usage: run.sh PACKAGE
 set -euo pipefail
-here=$(cd "$(dirname "$0")" && pwd)
-package=$1 system=$2/system log=$2/system.log
+source "$(dirname "$0")/../../scripts/setup.sh"
+package=$1 system=$BUILD/system
 
 step() { printf '== %s\n' "$*"; }
 fail() { printf 'FAILED: %s\n' "$*" >&2; exit 1; }
 
 [ "$(id -u)" -eq 0 ] || fail "a fresh system can only be made by root: sudo ./test --package"
+install_missing "${package_test_packages[@]}"
 
 # What is mounted in the system is gone when its last process has ended.
 inside() {
@@ -20,8 +21,6 @@ inside() {
         exec chroot "$0" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 \
             DEBIAN_FRONTEND=noninteractive "$@"' "$system" "$@"
 }
-# quietly COMMAND...: shows the end of its output only if it fails.
-quietly() { "$@" >"$log" 2>&1 || { tail -n 40 "$log" >&2; fail "$*"; }; }
 
 # Everything but the user's folder: kind, rights, owner, path and target of each file.
 files() {
@@ -30,30 +29,31 @@ files() {
 }
 
 step "A fresh Debian, from this machine's own package sources"
-rm -rf "$system"
+rm -rf --one-file-system "$system"
 sources=$(apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' \
     'Identifier: Packages' 'Origin: Debian' | sort -u)
 release=$(. /etc/os-release && echo "$VERSION_CODENAME")
 mirror=$(awk -v release="$release" '$3 == release {print $2; exit}' <<<"$sources")
 [ -n "$mirror" ] || fail "no package source for $release; has apt-get update run?"
-quietly debootstrap --variant=minbase --include=man-db,bash-completion "$release" "$system" "$mirror"
+quietly system.log debootstrap --variant=minbase --include=man-db,bash-completion "$release" "$system" "$mirror"
 echo "$sources" >"$system/etc/apt/sources.list"
 # How this machine reaches them.
 apt-config dump | grep -E '^Acquire::(http|https|Check|Retries)' >"$system/etc/apt/apt.conf.d/90machine" || true
-quietly inside apt-get update
+quietly system.log inside apt-get update
 inside useradd --create-home --shell /bin/bash office
 
 step "What the package depends on"
 # With nothing but these, the system must look the same before and after.
-quietly inside apt-get satisfy -y --no-install-recommends "$(dpkg-deb --field "$package" Depends)"
+quietly system.log inside apt-get satisfy -y --no-install-recommends "$(dpkg-deb --field "$package" Depends)"
 cp "$package" "$system/home/wardlock.deb"
-files >"$2/before"
+files >"$BUILD/before"
 
 step "Installing the package"
-quietly inside apt-get install -y --no-install-recommends /home/wardlock.deb
-grep -q '^0 upgraded, 1 newly installed' "$log" || fail "its dependencies are not complete: $(grep upgraded "$log")"
-files >"$2/installed"
-added=$(($(wc -l <"$2/installed") - $(wc -l <"$2/before")))
+quietly system.log inside apt-get install -y --no-install-recommends /home/wardlock.deb
+grep -q '^0 upgraded, 1 newly installed' "$BUILD/system.log" ||
+    fail "its dependencies are not complete: $(grep upgraded "$BUILD/system.log")"
+files >"$BUILD/installed"
+added=$(($(wc -l <"$BUILD/installed") - $(wc -l <"$BUILD/before")))
 echo "$added files and folders more"
 [ "$added" -gt 50 ] || fail "they are too few"
 if ls "$system"/etc/systemd/system/*/wardlock* 2>/dev/null; then
@@ -61,16 +61,16 @@ if ls "$system"/etc/systemd/system/*/wardlock* 2>/dev/null; then
 fi
 
 step "The main job, as an ordinary user"
-cp "$here/office.sh" "$here/../../scripts/demo.sh" "$system/home/office/"
+cp "$root/tests/package/office.sh" "$root/scripts/demo.sh" "$system/home/office/"
 inside runuser -l office -c 'bash office.sh'
 
 step "Removing the package"
-quietly inside apt-get purge -y wardlock
-files >"$2/after"
-if ! diff "$2/before" "$2/after" >"$2/left"; then
-    cat "$2/left" >&2
+quietly system.log inside apt-get purge -y wardlock
+files >"$BUILD/after"
+if ! diff "$BUILD/before" "$BUILD/after" >"$BUILD/left"; then
+    cat "$BUILD/left" >&2
     fail "the package has changed the system"
 fi
 [ -f "$system/home/office/.local/share/wardlock/main.mdb" ] || fail "the user's store is gone"
 echo "Nothing is left but the user's own folder"
-rm -rf "$system"
+rm -rf --one-file-system "$system"
