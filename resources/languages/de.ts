@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>Minutes</source>
-        <translation>Minuten</translation>
+        <translation>Min.</translation>
     </message>
     <message>
         <source>No.</source>
@@ -1769,7 +1769,7 @@
     </message>
     <message>
         <source>The selected Tour contains data.</source>
-        <translation>Der gewählte Rundgang enthält Daten.</translation>
+        <translation>Der gewählte Rundgang enthält Punkte.</translation>
     </message>
     <message>
         <source>Cannot find any Tour Points to copy</source>
