@@ -209,11 +209,11 @@
     </message>
     <message>
         <source>The reader's memory continues after its end mark. The touches that were read are stored, but the reader was not erased.</source>
-        <translation>Im Speicher des Lesers stehen nach der Endmarke weitere Daten. Die gelesenen Erfassungen sind gespeichert, der Leser wurde aber nicht geleert.</translation>
+        <translation>Im Speicher des Lesers stehen nach der Endmarke weitere Daten. Die ausgelesenen Erfassungen sind gespeichert, der Leser wurde aber nicht geleert.</translation>
     </message>
     <message>
         <source>The reader holds a different number of records than it reports. The touches that were read are stored, but the reader was not erased.</source>
-        <translation>Der Leser enthält eine andere Anzahl von Datensätzen, als er angibt. Die gelesenen Erfassungen sind gespeichert, der Leser wurde aber nicht geleert.</translation>
+        <translation>Die Zahl der Datensätze im Leser stimmt nicht mit der Zahl überein, die er meldet. Die ausgelesenen Erfassungen sind gespeichert, der Leser wurde aber nicht geleert.</translation>
     </message>
     <message>
         <source>The reader's clock can only be set to a date from 1 January 2000 to 6 June 2179. It was not set.</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>Touches read</source>
-        <translation>Gelesene Erfassungen</translation>
+        <translation>Ausgelesene Erfassungen</translation>
     </message>
     <message>
         <source>Communications  Setup</source>
@@ -1453,7 +1453,7 @@
     </message>
     <message>
         <source>The reader did not report its firmware version.</source>
-        <translation>Der Leser nennt keine Firmware-Version.</translation>
+        <translation>Der Leser hat keine Firmware-Version gemeldet.</translation>
     </message>
     <message>
         <source>Put the reader into the docking station and read its ID.</source>
@@ -1957,7 +1957,7 @@
     </message>
     <message>
         <source>Missing:</source>
-        <translation>Es fehlt:</translation>
+        <translation>Nicht vorhanden:</translation>
     </message>
     <message>
         <source>Buttons whose group does not exist:</source>
@@ -2053,7 +2053,7 @@
     </message>
     <message>
         <source>The database is in use. Waiting until it is free.</source>
-        <translation>Die Datenbank wird benutzt. Bitte warten, bis sie frei ist.</translation>
+        <translation>Die Datenbank wird benutzt. Das Programm wartet, bis sie frei ist.</translation>
     </message>
     <message>
         <source>Successfully copied the database</source>
@@ -2081,7 +2081,7 @@
     </message>
     <message>
         <source>The chosen file is not a complete database of this program. It lacks %0:s.</source>
-        <translation>Die gewählte Datei ist keine vollständige Datenbank dieses Programms. Es fehlen: %0:s.</translation>
+        <translation>Die gewählte Datei ist keine vollständige Datenbank dieses Programms. Nicht vorhanden: %0:s.</translation>
     </message>
     <message>
         <source>The chosen file is damaged: %0:s</source>

@@ -1957,7 +1957,7 @@
     </message>
     <message>
         <source>Missing:</source>
-        <translation>Ontbreekt:</translation>
+        <translation>Niet aanwezig:</translation>
     </message>
     <message>
         <source>Buttons whose group does not exist:</source>
@@ -2081,7 +2081,7 @@
     </message>
     <message>
         <source>The chosen file is not a complete database of this program. It lacks %0:s.</source>
-        <translation>Het gekozen bestand is geen volledige database van dit programma. Er ontbreekt: %0:s.</translation>
+        <translation>Het gekozen bestand is geen volledige database van dit programma. Niet aanwezig: %0:s.</translation>
     </message>
     <message>
         <source>The chosen file is damaged: %0:s</source>
