@@ -621,7 +621,7 @@
     </message>
     <message>
         <source>OUT OF SEQUENCE</source>
-        <translation>FALSCHE REIHENFOLGE</translation>
+        <translation>AUSSER DER REIHE</translation>
     </message>
     <message>
         <source>%0:s points: %1:s</source>
