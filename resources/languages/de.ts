@@ -384,6 +384,10 @@
         <translation>Wiederholen</translation>
     </message>
     <message>
+        <source>Looks for the docking station again</source>
+        <translation>Sucht die Dockingstation noch einmal</translation>
+    </message>
+    <message>
         <source>Ignore</source>
         <translation>Ignorieren</translation>
     </message>
@@ -816,6 +820,14 @@
         <translation>Daten &amp;auslesen</translation>
     </message>
     <message>
+        <source>Stores the touches of the docked reader, then erases the reader</source>
+        <translation>Speichert die Erfassungen des eingesetzten Lesers und leert ihn danach</translation>
+    </message>
+    <message>
+        <source>Erases the docked reader without storing its touches</source>
+        <translation>Leert den eingesetzten Leser, ohne seine Erfassungen zu speichern</translation>
+    </message>
+    <message>
         <source>&amp;Erase Reader</source>
         <translation>Leser &amp;leeren</translation>
     </message>
@@ -992,6 +1004,10 @@
         <translation>Auf heute setzen</translation>
     </message>
     <message>
+        <source>Sets the range back to today</source>
+        <translation>Setzt den Zeitraum wieder auf heute</translation>
+    </message>
+    <message>
         <source>Select the date range to create the report</source>
         <translation>Zeitraum für den Bericht wählen</translation>
     </message>
@@ -1062,6 +1078,10 @@
     <message>
         <source>Include Events</source>
         <translation>Mit Ereignissen</translation>
+    </message>
+    <message>
+        <source>Also shows the incidents recorded at each point</source>
+        <translation>Zeigt auch die Ereignisse, die an jedem Kontrollpunkt erfasst wurden</translation>
     </message>
     <message>
         <source>&amp;Start Date</source>
@@ -1484,6 +1504,22 @@
         <translation>Rundgang &amp;kopieren</translation>
     </message>
     <message>
+        <source>Opens the selected row (double click)</source>
+        <translation>Öffnet die gewählte Zeile (Doppelklick)</translation>
+    </message>
+    <message>
+        <source>Adds a new row</source>
+        <translation>Fügt eine neue Zeile hinzu</translation>
+    </message>
+    <message>
+        <source>Deletes the selected row (Del)</source>
+        <translation>Löscht die gewählte Zeile (Entf)</translation>
+    </message>
+    <message>
+        <source>Makes a new tour as a copy of another</source>
+        <translation>Legt einen neuen Rundgang als Kopie eines anderen an</translation>
+    </message>
+    <message>
         <source>Definitions</source>
         <translation>Stammdaten</translation>
     </message>
@@ -1610,6 +1646,10 @@
     <message>
         <source>Rese&amp;t</source>
         <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>Removes all points from the tour</source>
+        <translation>Entfernt alle Kontrollpunkte aus dem Rundgang</translation>
     </message>
     <message>
         <source>&amp;Save</source>

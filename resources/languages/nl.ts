@@ -384,6 +384,10 @@
         <translation>Opnieuw</translation>
     </message>
     <message>
+        <source>Looks for the docking station again</source>
+        <translation>Zoekt opnieuw naar het dockingstation</translation>
+    </message>
+    <message>
         <source>Ignore</source>
         <translation>Negeren</translation>
     </message>
@@ -816,6 +820,14 @@
         <translation>Gegevens &amp;uitlezen</translation>
     </message>
     <message>
+        <source>Stores the touches of the docked reader, then erases the reader</source>
+        <translation>Slaat de registraties van de geplaatste lezer op en wist daarna de lezer</translation>
+    </message>
+    <message>
+        <source>Erases the docked reader without storing its touches</source>
+        <translation>Wist de geplaatste lezer zonder de registraties op te slaan</translation>
+    </message>
+    <message>
         <source>&amp;Erase Reader</source>
         <translation>Lezer &amp;wissen</translation>
     </message>
@@ -992,6 +1004,10 @@
         <translation>Op vandaag zetten</translation>
     </message>
     <message>
+        <source>Sets the range back to today</source>
+        <translation>Zet de periode terug op vandaag</translation>
+    </message>
+    <message>
         <source>Select the date range to create the report</source>
         <translation>Kies de periode voor het rapport</translation>
     </message>
@@ -1062,6 +1078,10 @@
     <message>
         <source>Include Events</source>
         <translation>Met incidenten</translation>
+    </message>
+    <message>
+        <source>Also shows the incidents recorded at each point</source>
+        <translation>Toont ook de gebeurtenissen die bij elk punt zijn geregistreerd</translation>
     </message>
     <message>
         <source>&amp;Start Date</source>
@@ -1484,6 +1504,22 @@
         <translation>Ronde &amp;kopiëren</translation>
     </message>
     <message>
+        <source>Opens the selected row (double click)</source>
+        <translation>Opent de gekozen regel (dubbelklik)</translation>
+    </message>
+    <message>
+        <source>Adds a new row</source>
+        <translation>Voegt een regel toe</translation>
+    </message>
+    <message>
+        <source>Deletes the selected row (Del)</source>
+        <translation>Verwijdert de gekozen regel (Del)</translation>
+    </message>
+    <message>
+        <source>Makes a new tour as a copy of another</source>
+        <translation>Maakt een nieuwe ronde als kopie van een andere</translation>
+    </message>
+    <message>
         <source>Definitions</source>
         <translation>Stamgegevens</translation>
     </message>
@@ -1610,6 +1646,10 @@
     <message>
         <source>Rese&amp;t</source>
         <translation>Leeg&amp;maken</translation>
+    </message>
+    <message>
+        <source>Removes all points from the tour</source>
+        <translation>Haalt alle punten uit de ronde</translation>
     </message>
     <message>
         <source>&amp;Save</source>

@@ -384,6 +384,10 @@
         <translation>Ponów</translation>
     </message>
     <message>
+        <source>Looks for the docking station again</source>
+        <translation>Ponownie szuka stacji dokującej</translation>
+    </message>
+    <message>
         <source>Ignore</source>
         <translation>Ignoruj</translation>
     </message>
@@ -816,6 +820,14 @@
         <translation>&amp;Odczytaj dane</translation>
     </message>
     <message>
+        <source>Stores the touches of the docked reader, then erases the reader</source>
+        <translation>Zapisuje rejestracje umieszczonego czytnika, a potem czyści czytnik</translation>
+    </message>
+    <message>
+        <source>Erases the docked reader without storing its touches</source>
+        <translation>Czyści umieszczony czytnik bez zapisywania rejestracji</translation>
+    </message>
+    <message>
         <source>&amp;Erase Reader</source>
         <translation>&amp;Wyczyść czytnik</translation>
     </message>
@@ -992,6 +1004,10 @@
         <translation>Ustaw dzisiaj</translation>
     </message>
     <message>
+        <source>Sets the range back to today</source>
+        <translation>Przywraca okres na dzisiaj</translation>
+    </message>
+    <message>
         <source>Select the date range to create the report</source>
         <translation>Proszę wybrać okres raportu</translation>
     </message>
@@ -1062,6 +1078,10 @@
     <message>
         <source>Include Events</source>
         <translation>Ze zdarzeniami</translation>
+    </message>
+    <message>
+        <source>Also shows the incidents recorded at each point</source>
+        <translation>Pokazuje też zdarzenia zarejestrowane przy każdym punkcie</translation>
     </message>
     <message>
         <source>&amp;Start Date</source>
@@ -1484,6 +1504,22 @@
         <translation>&amp;Kopiuj obchód</translation>
     </message>
     <message>
+        <source>Opens the selected row (double click)</source>
+        <translation>Otwiera wybrany wiersz (dwukrotne kliknięcie)</translation>
+    </message>
+    <message>
+        <source>Adds a new row</source>
+        <translation>Dodaje nowy wiersz</translation>
+    </message>
+    <message>
+        <source>Deletes the selected row (Del)</source>
+        <translation>Usuwa wybrany wiersz (Del)</translation>
+    </message>
+    <message>
+        <source>Makes a new tour as a copy of another</source>
+        <translation>Tworzy nowy obchód jako kopię innego</translation>
+    </message>
+    <message>
         <source>Definitions</source>
         <translation>Definicje</translation>
     </message>
@@ -1610,6 +1646,10 @@
     <message>
         <source>Rese&amp;t</source>
         <translation>&amp;Wyczyść</translation>
+    </message>
+    <message>
+        <source>Removes all points from the tour</source>
+        <translation>Usuwa z obchodu wszystkie punkty</translation>
     </message>
     <message>
         <source>&amp;Save</source>
