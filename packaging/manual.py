@@ -152,6 +152,8 @@ def page_of(program, shown, commands, version, date, others):
     lines += [".SH EXIT STATUS"]
     for status in shown.statuses.split(", "):
         number, meaning = status.split(" ", 1)
+        if not number.isdigit():
+            fail(f"{program.name}: no exit status: {status}")
         lines += [".TP", rf"\fB{number}\fR", *prose(meaning)]
     lines += [".SH SEE ALSO", ",\n".join(rf"\fB{roff(name)}\fR(1)" for name in others),
               ".PP", "README.md and docksim.md, among the installed documents."]
