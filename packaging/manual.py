@@ -4,7 +4,7 @@
 usage: manual.py VERSION DATE FOLDER PROGRAM...
 
 So every text stands once, in the program. The help has this form: calls after "usage:", blocks
-between blank lines, and sections whose heading ends in ":" with entries of two columns. Text of
+between blank lines, and sections whose heading ends in ":" with entries of two columns. An entry of
 another form is a mistake, and ends this script.
 """
 import re
@@ -103,10 +103,9 @@ def prose(text):
 
 
 def bold_name(entry):
-    word, *kind = entry.name.split(" ", 1)
-    kind = "".join(r" \fI" + roff(kind[0]) + r"\fR" if kind else "")
-    return (r"\fB" + roff(word) + r"\fR" + kind).replace(r"\fI(required)\fR", "(required)").replace(
-        r" (required)\fR", r"\fR (required)")
+    kind = rf" \fI{roff(entry.kind)}\fR" if entry.kind else ""
+    required = " (required)" if entry.name.endswith(" (required)") else ""
+    return rf"\fB{roff(entry.word)}\fR{kind}{required}"
 
 
 def paragraph(text):
