@@ -560,7 +560,7 @@
         <translation>تعذّر عرض المساعدة. لا توجد مساعدة مرتبطة بهذا البرنامج.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>حقوق النشر © 2026 لمؤلفي Wardlock. برنامج حر بموجب رخصة MIT.</translation>
     </message>
     <message>
@@ -634,6 +634,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s، %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1848,7 +1852,7 @@
         <translation>حول البرنامج</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>يُسمح باستخدام هذا البرنامج وتعديله وتوزيعه ما دام نص الرخصة مرفقًا به.</translation>
     </message>
     <message>

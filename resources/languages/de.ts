@@ -560,7 +560,7 @@
         <translation>Die Hilfe kann nicht gezeigt werden. Zu diesem Programm gehört keine Hilfe.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 die Autoren von Wardlock. Freie Software unter der MIT-Lizenz.</translation>
     </message>
     <message>
@@ -634,6 +634,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1848,7 +1852,7 @@
         <translation>Über</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Sie dürfen dieses Programm benutzen, ändern und weitergeben, solange der Lizenztext beiliegt.</translation>
     </message>
     <message>

@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>The User Name / Password are incorrect. Please try again.</source>
-        <translation>Il nome utente o la password non è corretta. Riprovare.</translation>
+        <translation>Nome utente o password non corretti. Riprovare.</translation>
     </message>
     <message>
         <source>Could not open the com port.</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>not downloaded or not walked</source>
-        <translation>non scaricata o non effettuata</translation>
+        <translation>non scaricata o non fatta</translation>
     </message>
     <message>
         <source>On time</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Data Readings = </source>
-        <translation>Letture = </translation>
+        <translation>Letture: </translation>
     </message>
     <message>
         <source>The Reader was empty</source>
@@ -560,7 +560,7 @@
         <translation>Impossibile visualizzare la guida. A questo programma non è associata alcuna guida.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 gli autori di Wardlock. Software libero con licenza MIT.</translation>
     </message>
     <message>
@@ -634,6 +634,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1001,11 +1005,11 @@
     </message>
     <message>
         <source>Only this event; the places that were touched before it are shown with it</source>
-        <translation>Solo questo evento, con i punti di controllo letti prima</translation>
+        <translation>Solo questo evento, con i punti di controllo visitati prima</translation>
     </message>
     <message>
         <source>Only touches made while this site was the last one touched</source>
-        <translation>Solo le letture fatte mentre questo sito era l’ultimo letto</translation>
+        <translation>Solo le letture fatte mentre questo sito era l’ultimo visitato</translation>
     </message>
     <message>
         <source>Sets the range and makes the report at once</source>
@@ -1461,7 +1465,7 @@
     </message>
     <message>
         <source>Touch the reader in the docking station with the new button, or enter its ID by hand.</source>
-        <translation>Toccare il nuovo bottone con il lettore inserito nella base di scarico, oppure inserirne il codice a mano.</translation>
+        <translation>Toccare con il nuovo bottone il lettore inserito nella base di scarico, oppure inserire il codice a mano.</translation>
     </message>
     <message>
         <source>Only the master may do this.</source>
@@ -1669,7 +1673,7 @@
     </message>
     <message>
         <source>No buttons yet. Press Add, then touch the reader in the docking station with a button.</source>
-        <translation>Ancora nessun bottone. Premere «Aggiungi», poi toccare un bottone con il lettore inserito nella base di scarico.</translation>
+        <translation>Ancora nessun bottone. Premere «Aggiungi», poi toccare con un bottone il lettore inserito nella base di scarico.</translation>
     </message>
     <message>
         <source>No buttons yet. A new button is read at the docking station, which is not connected.</source>
@@ -1697,19 +1701,19 @@
     </message>
     <message>
         <source>"%0:s" will be lost.</source>
-        <translation>«%0:s» andrà perso.</translation>
+        <translation>«%0:s» non sarà più recuperabile.</translation>
     </message>
     <message>
         <source>"%0:s" and its buttons will be lost.</source>
-        <translation>«%0:s» e i suoi bottoni andranno persi.</translation>
+        <translation>«%0:s» e i suoi bottoni non saranno più recuperabili.</translation>
     </message>
     <message>
         <source>"%0:s" and its points will be lost.</source>
-        <translation>«%0:s» e i suoi punti andranno persi.</translation>
+        <translation>«%0:s» e i suoi punti non saranno più recuperabili.</translation>
     </message>
     <message>
         <source>"%0:s" will be lost. Touches that are already downloaded are kept.</source>
-        <translation>«%0:s» andrà perso. Le letture già scaricate vengono conservate.</translation>
+        <translation>«%0:s» non sarà più recuperabile. Le letture già scaricate vengono conservate.</translation>
     </message>
     <message>
         <source>The name could not be saved. Nothing was changed.</source>
@@ -1721,7 +1725,7 @@
     </message>
     <message>
         <source>Do you want to save it?</source>
-        <translation>Salvarla?</translation>
+        <translation>Salvarla comunque?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this item?</source>
@@ -1848,7 +1852,7 @@
         <translation>Informazioni</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>È consentito usare, modificare e distribuire questo programma, purché sia accompagnato dal testo della licenza.</translation>
     </message>
     <message>
@@ -2009,7 +2013,7 @@
     </message>
     <message>
         <source>Are you sure you want to continue?</source>
-        <translation>Continuare comunque?</translation>
+        <translation>Continuare davvero?</translation>
     </message>
     <message>
         <source>There are no stored events within the dates you entered.</source>
@@ -2025,11 +2029,11 @@
     </message>
     <message>
         <source>Number of Events =</source>
-        <translation>Numero di letture =</translation>
+        <translation>Numero di letture:</translation>
     </message>
     <message>
         <source>FileName = </source>
-        <translation>Nome del file = </translation>
+        <translation>Nome del file: </translation>
     </message>
     <message>
         <source>The events are written to the file and then deleted from the database.</source>

@@ -560,7 +560,7 @@
         <translation>De help kan niet worden getoond. Bij dit programma hoort geen help.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 de auteurs van Wardlock. Vrije software onder de MIT-licentie.</translation>
     </message>
     <message>
@@ -634,6 +634,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1848,7 +1852,7 @@
         <translation>Over</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Dit programma mag worden gebruikt, gewijzigd en doorgegeven, zolang de licentietekst erbij blijft.</translation>
     </message>
     <message>

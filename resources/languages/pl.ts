@@ -560,7 +560,7 @@
         <translation>Nie można wyświetlić pomocy. Do tego programu nie dołączono pomocy.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 autorzy programu Wardlock. Wolne oprogramowanie na licencji MIT.</translation>
     </message>
     <message>
@@ -634,6 +634,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1848,7 +1852,7 @@
         <translation>O programie</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Ten program wolno używać, zmieniać i przekazywać dalej, o ile towarzyszy mu tekst licencji.</translation>
     </message>
     <message>

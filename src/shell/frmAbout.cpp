@@ -43,7 +43,7 @@ void frmAbout::Populate() {
     m_ui->lblVer->setText(Translate("Version") + u' ' + GetVersionString());
     m_ui->lblWarning->setText(
         Translate("You may use, change and pass on this program, as long as the text of the "
-                  "licence stays with it.") +
+                  "License stays with it.") +
         u' ' + Translate("It comes without any warranty."));
     m_ui->lblCopyright->setText(LegalNotice());
     m_ui->lblTitle->setText(GetReportsTitle());
