@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>not downloaded or not walked</source>
-        <translation>sem descarga ou não feita</translation>
+        <translation>sem descarga/não feita</translation>
     </message>
     <message>
         <source>On time</source>
