@@ -384,6 +384,10 @@
         <translation>إعادة المحاولة</translation>
     </message>
     <message>
+        <source>Looks for the docking station again</source>
+        <translation>يبحث عن محطة الإرساء من جديد</translation>
+    </message>
+    <message>
         <source>Ignore</source>
         <translation>تجاهل</translation>
     </message>
@@ -820,6 +824,14 @@
         <translation>&amp;تنزيل البيانات</translation>
     </message>
     <message>
+        <source>Stores the touches of the docked reader, then erases the reader</source>
+        <translation>يحفظ قراءات القارئ الموضوع ثم يمسح ذاكرته</translation>
+    </message>
+    <message>
+        <source>Erases the docked reader without storing its touches</source>
+        <translation>يمسح ذاكرة القارئ الموضوع دون حفظ قراءاته</translation>
+    </message>
+    <message>
         <source>&amp;Erase Reader</source>
         <translation>م&amp;سح ذاكرة القارئ</translation>
     </message>
@@ -996,6 +1008,10 @@
         <translation>ضبط على اليوم</translation>
     </message>
     <message>
+        <source>Sets the range back to today</source>
+        <translation>يعيد الفترة إلى اليوم</translation>
+    </message>
+    <message>
         <source>Select the date range to create the report</source>
         <translation>اختيار الفترة لإنشاء التقرير</translation>
     </message>
@@ -1066,6 +1082,10 @@
     <message>
         <source>Include Events</source>
         <translation>تضمين الأحداث</translation>
+    </message>
+    <message>
+        <source>Also shows the incidents recorded at each point</source>
+        <translation>يعرض أيضًا الأحداث المسجَّلة عند كل نقطة</translation>
     </message>
     <message>
         <source>&amp;Start Date</source>
@@ -1488,6 +1508,22 @@
         <translation>&amp;نسخ الجولة</translation>
     </message>
     <message>
+        <source>Opens the selected row (double click)</source>
+        <translation>يفتح السطر المحدد (نقر مزدوج)</translation>
+    </message>
+    <message>
+        <source>Adds a new row</source>
+        <translation>يضيف سطرًا جديدًا</translation>
+    </message>
+    <message>
+        <source>Deletes the selected row (Del)</source>
+        <translation>يحذف السطر المحدد (Del)</translation>
+    </message>
+    <message>
+        <source>Makes a new tour as a copy of another</source>
+        <translation>ينشئ جولة جديدة نسخةً من جولة أخرى</translation>
+    </message>
+    <message>
         <source>Definitions</source>
         <translation>التعريفات</translation>
     </message>
@@ -1614,6 +1650,10 @@
     <message>
         <source>Rese&amp;t</source>
         <translation>إف&amp;راغ</translation>
+    </message>
+    <message>
+        <source>Removes all points from the tour</source>
+        <translation>يزيل كل النقاط من الجولة</translation>
     </message>
     <message>
         <source>&amp;Save</source>

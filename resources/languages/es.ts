@@ -384,6 +384,10 @@
         <translation>Reintentar</translation>
     </message>
     <message>
+        <source>Looks for the docking station again</source>
+        <translation>Busca de nuevo la base de descarga</translation>
+    </message>
+    <message>
         <source>Ignore</source>
         <translation>Omitir</translation>
     </message>
@@ -820,6 +824,14 @@
         <translation>&amp;Descargar el lector</translation>
     </message>
     <message>
+        <source>Stores the touches of the docked reader, then erases the reader</source>
+        <translation>Guarda las lecturas del lector colocado y después borra el lector</translation>
+    </message>
+    <message>
+        <source>Erases the docked reader without storing its touches</source>
+        <translation>Borra el lector colocado sin guardar sus lecturas</translation>
+    </message>
+    <message>
         <source>&amp;Erase Reader</source>
         <translation>&amp;Borrar el lector</translation>
     </message>
@@ -996,6 +1008,10 @@
         <translation>Fecha de hoy</translation>
     </message>
     <message>
+        <source>Sets the range back to today</source>
+        <translation>Vuelve a poner el período en hoy</translation>
+    </message>
+    <message>
         <source>Select the date range to create the report</source>
         <translation>Elija el período del informe</translation>
     </message>
@@ -1066,6 +1082,10 @@
     <message>
         <source>Include Events</source>
         <translation>Con incidencias</translation>
+    </message>
+    <message>
+        <source>Also shows the incidents recorded at each point</source>
+        <translation>Muestra también las incidencias registradas en cada punto</translation>
     </message>
     <message>
         <source>&amp;Start Date</source>
@@ -1488,6 +1508,22 @@
         <translation>&amp;Copiar ronda</translation>
     </message>
     <message>
+        <source>Opens the selected row (double click)</source>
+        <translation>Abre la fila seleccionada (doble clic)</translation>
+    </message>
+    <message>
+        <source>Adds a new row</source>
+        <translation>Añade una fila</translation>
+    </message>
+    <message>
+        <source>Deletes the selected row (Del)</source>
+        <translation>Elimina la fila seleccionada (Supr)</translation>
+    </message>
+    <message>
+        <source>Makes a new tour as a copy of another</source>
+        <translation>Crea una ronda nueva como copia de otra</translation>
+    </message>
+    <message>
         <source>Definitions</source>
         <translation>Definiciones</translation>
     </message>
@@ -1614,6 +1650,10 @@
     <message>
         <source>Rese&amp;t</source>
         <translation>&amp;Vaciar</translation>
+    </message>
+    <message>
+        <source>Removes all points from the tour</source>
+        <translation>Quita todos los puntos de la ronda</translation>
     </message>
     <message>
         <source>&amp;Save</source>

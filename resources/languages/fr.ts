@@ -384,6 +384,10 @@
         <translation>Réessayer</translation>
     </message>
     <message>
+        <source>Looks for the docking station again</source>
+        <translation>Recherche à nouveau la station d’accueil</translation>
+    </message>
+    <message>
         <source>Ignore</source>
         <translation>Ignorer</translation>
     </message>
@@ -820,6 +824,14 @@
         <translation>&amp;Décharger le lecteur</translation>
     </message>
     <message>
+        <source>Stores the touches of the docked reader, then erases the reader</source>
+        <translation>Enregistre les pointages du lecteur en place, puis efface le lecteur</translation>
+    </message>
+    <message>
+        <source>Erases the docked reader without storing its touches</source>
+        <translation>Efface le lecteur en place sans enregistrer ses pointages</translation>
+    </message>
+    <message>
         <source>&amp;Erase Reader</source>
         <translation>&amp;Effacer le lecteur</translation>
     </message>
@@ -996,6 +1008,10 @@
         <translation>Dates du jour</translation>
     </message>
     <message>
+        <source>Sets the range back to today</source>
+        <translation>Remet la période à aujourd’hui</translation>
+    </message>
+    <message>
         <source>Select the date range to create the report</source>
         <translation>Choisissez la période du rapport</translation>
     </message>
@@ -1066,6 +1082,10 @@
     <message>
         <source>Include Events</source>
         <translation>Avec les événements</translation>
+    </message>
+    <message>
+        <source>Also shows the incidents recorded at each point</source>
+        <translation>Montre aussi les événements enregistrés à chaque point</translation>
     </message>
     <message>
         <source>&amp;Start Date</source>
@@ -1488,6 +1508,22 @@
         <translation>&amp;Copier la ronde</translation>
     </message>
     <message>
+        <source>Opens the selected row (double click)</source>
+        <translation>Ouvre la ligne sélectionnée (double-clic)</translation>
+    </message>
+    <message>
+        <source>Adds a new row</source>
+        <translation>Ajoute une ligne</translation>
+    </message>
+    <message>
+        <source>Deletes the selected row (Del)</source>
+        <translation>Supprime la ligne sélectionnée (Suppr)</translation>
+    </message>
+    <message>
+        <source>Makes a new tour as a copy of another</source>
+        <translation>Crée une ronde par copie d’une autre</translation>
+    </message>
+    <message>
         <source>Definitions</source>
         <translation>Définitions</translation>
     </message>
@@ -1614,6 +1650,10 @@
     <message>
         <source>Rese&amp;t</source>
         <translation>&amp;Vider</translation>
+    </message>
+    <message>
+        <source>Removes all points from the tour</source>
+        <translation>Retire tous les points de la ronde</translation>
     </message>
     <message>
         <source>&amp;Save</source>

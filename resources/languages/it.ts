@@ -384,6 +384,10 @@
         <translation>Riprova</translation>
     </message>
     <message>
+        <source>Looks for the docking station again</source>
+        <translation>Cerca di nuovo la base di scarico</translation>
+    </message>
+    <message>
         <source>Ignore</source>
         <translation>Ignora</translation>
     </message>
@@ -820,6 +824,14 @@
         <translation>S&amp;carica lettore</translation>
     </message>
     <message>
+        <source>Stores the touches of the docked reader, then erases the reader</source>
+        <translation>Salva le letture del lettore inserito e poi lo svuota</translation>
+    </message>
+    <message>
+        <source>Erases the docked reader without storing its touches</source>
+        <translation>Svuota il lettore inserito senza salvarne le letture</translation>
+    </message>
+    <message>
         <source>&amp;Erase Reader</source>
         <translation>S&amp;vuota lettore</translation>
     </message>
@@ -996,6 +1008,10 @@
         <translation>Data di oggi</translation>
     </message>
     <message>
+        <source>Sets the range back to today</source>
+        <translation>Riporta il periodo a oggi</translation>
+    </message>
+    <message>
         <source>Select the date range to create the report</source>
         <translation>Scegliere il periodo del rapporto</translation>
     </message>
@@ -1066,6 +1082,10 @@
     <message>
         <source>Include Events</source>
         <translation>Con eventi</translation>
+    </message>
+    <message>
+        <source>Also shows the incidents recorded at each point</source>
+        <translation>Mostra anche gli eventi registrati in ogni punto</translation>
     </message>
     <message>
         <source>&amp;Start Date</source>
@@ -1488,6 +1508,22 @@
         <translation>&amp;Copia ronda</translation>
     </message>
     <message>
+        <source>Opens the selected row (double click)</source>
+        <translation>Apre la riga selezionata (doppio clic)</translation>
+    </message>
+    <message>
+        <source>Adds a new row</source>
+        <translation>Aggiunge una riga</translation>
+    </message>
+    <message>
+        <source>Deletes the selected row (Del)</source>
+        <translation>Elimina la riga selezionata (Canc)</translation>
+    </message>
+    <message>
+        <source>Makes a new tour as a copy of another</source>
+        <translation>Crea una nuova ronda come copia di un’altra</translation>
+    </message>
+    <message>
         <source>Definitions</source>
         <translation>Definizioni</translation>
     </message>
@@ -1614,6 +1650,10 @@
     <message>
         <source>Rese&amp;t</source>
         <translation>S&amp;vuota</translation>
+    </message>
+    <message>
+        <source>Removes all points from the tour</source>
+        <translation>Toglie tutti i punti dalla ronda</translation>
     </message>
     <message>
         <source>&amp;Save</source>

@@ -384,6 +384,10 @@
         <translation>Tentar novamente</translation>
     </message>
     <message>
+        <source>Looks for the docking station again</source>
+        <translation>Procura de novo a base de descarga</translation>
+    </message>
+    <message>
         <source>Ignore</source>
         <translation>Ignorar</translation>
     </message>
@@ -820,6 +824,14 @@
         <translation>&amp;Descarregar leitor</translation>
     </message>
     <message>
+        <source>Stores the touches of the docked reader, then erases the reader</source>
+        <translation>Guarda as leituras do leitor colocado e depois apaga o leitor</translation>
+    </message>
+    <message>
+        <source>Erases the docked reader without storing its touches</source>
+        <translation>Apaga o leitor colocado sem guardar as suas leituras</translation>
+    </message>
+    <message>
         <source>&amp;Erase Reader</source>
         <translation>Apa&amp;gar leitor</translation>
     </message>
@@ -996,6 +1008,10 @@
         <translation>Data de hoje</translation>
     </message>
     <message>
+        <source>Sets the range back to today</source>
+        <translation>Repõe o período em hoje</translation>
+    </message>
+    <message>
         <source>Select the date range to create the report</source>
         <translation>Escolha o período do relatório</translation>
     </message>
@@ -1066,6 +1082,10 @@
     <message>
         <source>Include Events</source>
         <translation>Com ocorrências</translation>
+    </message>
+    <message>
+        <source>Also shows the incidents recorded at each point</source>
+        <translation>Mostra também as ocorrências registadas em cada ponto</translation>
     </message>
     <message>
         <source>&amp;Start Date</source>
@@ -1488,6 +1508,22 @@
         <translation>&amp;Copiar ronda</translation>
     </message>
     <message>
+        <source>Opens the selected row (double click)</source>
+        <translation>Abre a linha selecionada (duplo clique)</translation>
+    </message>
+    <message>
+        <source>Adds a new row</source>
+        <translation>Adiciona uma linha</translation>
+    </message>
+    <message>
+        <source>Deletes the selected row (Del)</source>
+        <translation>Elimina a linha selecionada (Del)</translation>
+    </message>
+    <message>
+        <source>Makes a new tour as a copy of another</source>
+        <translation>Cria uma nova ronda como cópia de outra</translation>
+    </message>
+    <message>
         <source>Definitions</source>
         <translation>Definições</translation>
     </message>
@@ -1614,6 +1650,10 @@
     <message>
         <source>Rese&amp;t</source>
         <translation>&amp;Esvaziar</translation>
+    </message>
+    <message>
+        <source>Removes all points from the tour</source>
+        <translation>Retira todos os pontos da ronda</translation>
     </message>
     <message>
         <source>&amp;Save</source>

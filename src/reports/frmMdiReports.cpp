@@ -1,5 +1,6 @@
 #include "frmMdiReports.h"
 
+#include "ListColumns.h"
 #include "ReportCatalogue.h"
 #include "ReportNeeds.h"
 #include "WindowTools.h"
@@ -8,10 +9,7 @@
 #include "ui_frmMdiReports.h"
 
 #include <QAction>
-#include <QHeaderView>
 #include <QKeyEvent>
-
-#include <algorithm>
 
 namespace {
 
@@ -38,7 +36,6 @@ frmMdiReports::frmMdiReports(ReportViewer& viewer, QWidget* parent)
             [this] { m_ui->cmdOpen->setEnabled(SelectedRow()); });
     m_ui->lvwReports->addAction(open);
     m_ui->lvwReports->setContextMenuPolicy(Qt::ActionsContextMenu);
-    m_ui->lvwReports->header()->setStretchLastSection(false);
     m_ui->lvwReports->setIconSize(QSize(20, 20));
     LoadReportList();
     m_ui->lvwReports->setCurrentItem(m_ui->lvwReports->topLevelItem(0));
@@ -50,11 +47,9 @@ frmMdiReports::~frmMdiReports() = default;
 void frmMdiReports::LoadReportList() {
     m_ui->lvwReports->clear();
     m_ui->lvwReports->setHeaderLabels({Translate("Report Name"), Translate("Description")});
-    m_ui->lvwReports->setColumnWidth(0, PixelsOf(2500));
-    m_ui->lvwReports->setColumnWidth(1, PixelsOf(4000));
     for (const ReportRow& row : ReportCatalogue())
         AddReportItem(QString::fromUtf8(row.key), Translate(row.name), Translate(row.description));
-    SizeColumns();
+    ManageColumns(*m_ui->lvwReports, QStringLiteral("frmMdiReports"), {50, 50});
 }
 
 void frmMdiReports::AddReportItem(const QString& key, const QString& name,
@@ -64,22 +59,6 @@ void frmMdiReports::AddReportItem(const QString& key, const QString& name,
     row->setData(0, KeyRole, key);
     row->setToolTip(0, description);
     row->setToolTip(1, description);
-}
-
-void frmMdiReports::SizeColumns() {
-    QTreeWidget& list = *m_ui->lvwReports;
-    const int half = ColumnWidth(list.width(), 50);
-    // A description that is longer than its half takes what the names do not need.
-    for (const int column : {0, 1})
-        list.resizeColumnToContents(column);
-    const int names = list.columnWidth(0), descriptions = list.columnWidth(1);
-    list.setColumnWidth(1, std::max(half, descriptions));
-    list.setColumnWidth(0, std::max(names, half - std::max(0, descriptions - half)));
-}
-
-void frmMdiReports::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    SizeColumns();
 }
 
 bool frmMdiReports::eventFilter(QObject* watched, QEvent* event) {

@@ -24,13 +24,11 @@ public:
     void ReportParamShow(const QString& key, const QString& text);
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void LoadReportList();
     void AddReportItem(const QString& key, const QString& name, const QString& description);
-    void SizeColumns();
     /// Null if none is selected.
     QTreeWidgetItem* SelectedRow() const;
     void OpenSelected();

@@ -89,6 +89,7 @@ HomeBlocks::HomeBlocks(QWidget* parent) : QWidget(parent) {
     m_device->setWordWrap(true);
     m_retry = new QPushButton(QString::fromUtf8(QT_TR_NOOP("Retry")), stationBox);
     m_retry->setObjectName(QStringLiteral("cmdRetry"));
+    m_retry->setToolTip(QString::fromUtf8(QT_TR_NOOP("Looks for the docking station again")));
     station->addWidget(m_stationIcon, 0, 0, Qt::AlignTop);
     station->addWidget(m_station, 0, 1);
     station->addWidget(m_device, 1, 1);

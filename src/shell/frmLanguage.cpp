@@ -1,6 +1,7 @@
 #include "frmLanguage.h"
 
 #include "Dictionary.h"
+#include "WindowPlace.h"
 #include "WindowTools.h"
 #include "mTranslations.h"
 #include "ui_frmLanguage.h"
@@ -11,6 +12,7 @@ frmLanguage::frmLanguage(const Dictionary& dictionary, int number, QWidget* pare
     : QDialog(parent), m_ui(std::make_unique<Ui::frmLanguage>()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
+    RememberPlace(*this);
     for (int i = 0; i < dictionary.LanguageCount(); ++i)
         m_ui->lstLanguages->addItem(dictionary.Languages(i).nativeName);
     connect(m_ui->lstLanguages, &QListWidget::itemDoubleClicked, this, &QDialog::accept);

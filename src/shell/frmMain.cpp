@@ -4,6 +4,7 @@
 #include "DebugMenu.h"
 #include "ReportProposal.h"
 #include "RunTimeError.h"
+#include "WindowPlace.h"
 #include "WindowTools.h"
 #include "cReaderOptions.h"
 #include "deMain.h"
@@ -62,6 +63,7 @@ frmMain::frmMain()
       m_panel1(new QLabel(this)), m_panel2(new QLabel(this)) {
     m_ui->setupUi(this);
     m_viewer = std::make_unique<PreviewViewer>(this, Translated);
+    m_panelPicture->setMaximumSize(16, 16);
     m_panel1->setObjectName(QStringLiteral("panel1"));
     m_panel2->setObjectName(QStringLiteral("panel2"));
     m_ui->sbStatusBar->addWidget(m_panelPicture);
@@ -95,7 +97,8 @@ void frmMain::MDIForm_Load() {
         m_ui->lblTitle->setMinimumHeight(PixelsOf(StripHeight - ToolbarHeight));
         m_ui->tbrMain->setMinimumHeight(PixelsOf(ToolbarHeight));
         m_ui->pctMenu->setMinimumHeight(PixelsOf(StripHeight));
-        setMinimumSize(PixelsOf(LeastWidth), PixelsOf(LeastHeight));
+        const QRect least({}, QSize(PixelsOf(LeastWidth), PixelsOf(LeastHeight)));
+        setMinimumSize(OnScreen(least, *this).size()); // large texts make a small screen
         RestoreSavedPosition();
     });
 }
@@ -341,18 +344,19 @@ void frmMain::RestoreSavedPosition() {
         return;
     }
     setWindowState(Qt::WindowNoState);
-    resize(saved("MainWidth", 9615), saved("MainHeight", 6690));
-    move(saved("MainLeft", 0), saved("MainTop", 0));
+    QRect place(saved("MainLeft", 0), saved("MainTop", 0), saved("MainWidth", 9615),
+                saved("MainHeight", 6690));
     const bool first =
         GetSetting(SettingsApplication, SettingsSection::Settings, QStringLiteral("MainWidth"))
             .isEmpty();
-    const QRect onScreen = screen()->availableGeometry();
     if (first) {
-        resize(size().expandedTo((onScreen.size() * 2 / 3).boundedTo(MostFirstSize)));
-        move(onScreen.center() - rect().center());
-    } else if (!QGuiApplication::screenAt(geometry().center())) { // that screen is gone
-        move(onScreen.topLeft());
+        const QRect screen = this->screen()->availableGeometry();
+        place.setSize(place.size().expandedTo((screen.size() * 2 / 3).boundedTo(MostFirstSize)));
+        place.moveCenter(screen.center());
     }
+    place = OnScreen(place, *this);
+    resize(place.size());
+    move(place.topLeft());
 }
 
 void frmMain::MDIForm_Unload() {

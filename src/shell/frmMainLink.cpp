@@ -120,7 +120,7 @@ void frmMain::mnuToolsReaderFW_Click() {
 
 void frmMain::ShowStatus(const QString& text, const QString& icon) {
     m_panel1->setText(text);
-    m_panelPicture->setPixmap(ProgramIcon(icon).pixmap(QSize(16, 16), devicePixelRatioF()));
+    ShowIcon(*m_panelPicture, icon);
 }
 
 void frmMain::ShowDockingDetect(bool detected) {

@@ -22,20 +22,18 @@ const QString OwnPicture = QStringLiteral(":/pictures/contact.svg");
 /// that another version of the drawing library makes no difference.
 bool IsOwnPicture(const QPixmap& file) {
     const QSize small(40, 20);
-    QImage own(small, QImage::Format_RGB32);
-    own.fill(Qt::white);
-    QPainter painter(&own);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(QRect(QPoint(), small), QIcon(OwnPicture).pixmap(file.size()));
-    painter.end();
-    const QImage other = file.toImage()
-                             .scaled(small, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                             .convertToFormat(QImage::Format_RGB32);
+    const auto madeSmall = [&small](const QPixmap& picture) {
+        QImage onPaper(picture.size(), QImage::Format_RGB32);
+        onPaper.fill(Qt::white);
+        QPainter(&onPaper).drawPixmap(onPaper.rect(), picture);
+        return onPaper.scaled(small, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    };
+    const QImage own = madeSmall(QIcon(OwnPicture).pixmap(file.size())), other = madeSmall(file);
     qint64 difference = 0;
     for (int y = 0; y < small.height(); ++y)
         for (int x = 0; x < small.width(); ++x)
             difference += std::abs(qGray(own.pixel(x, y)) - qGray(other.pixel(x, y)));
-    return difference < qint64{8} * small.width() * small.height();
+    return difference < qint64{4} * small.width() * small.height();
 }
 
 constexpr int Margin = 120; ///< twips, left and right
@@ -107,8 +105,10 @@ void frmMdiMenu::ResizeForm() {
     m_ui->lblMainTitle->setGeometry(margin, 2 * margin, width, titleHeight);
     m_ui->lblVersionMsg->setGeometry(margin, versionTop, width,
                                      m_ui->lblVersionMsg->sizeHint().height());
-    m_ui->lblCopyright->setGeometry(margin, height() - PixelsOf(CopyrightFromBottom), width,
-                                    m_ui->lblCopyright->sizeHint().height());
+    const int notice = m_ui->lblCopyright->heightForWidth(width);
+    const int moreLines = notice - m_ui->lblCopyright->fontMetrics().lineSpacing();
+    m_ui->lblCopyright->setGeometry(
+        margin, height() - PixelsOf(CopyrightFromBottom) - std::max(0, moreLines), width, notice);
     const int pictureTop = 3 * margin + titleHeight;
     const int room = std::max(0, versionTop - pictureTop - margin);
     // The picture takes what the blocks leave.

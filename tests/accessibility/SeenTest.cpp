@@ -1,24 +1,35 @@
 #include "AccessibleLooks.h"
 #include "AllWindows.h"
+#include "Clock.h"
+#include "Connection.h"
 #include "DataReport.h"
 #include "DockingLink.h"
+#include "DueTours.h"
 #include "ReportViewer.h"
+#include "SqlDate.h"
 #include "TestHome.h"
+#include "WindowTools.h"
 #include "cReaderOptions.h"
 #include "mTranslations.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QDir>
 #include <QGroupBox>
 #include <QHash>
 #include <QHeaderView>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QStyleFactory>
 #include <QStyleOptionButton>
 #include <QTabBar>
 #include <QTest>
+#include <QTreeWidget>
 
 namespace {
 
@@ -127,14 +138,55 @@ QStringList FaintTexts(QWidget& window) {
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
         if (!widget->isVisible() || !widget->isEnabled())
             continue;
-        for (const QRect& part : TextsOf(*widget))
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        const bool isSign = label && !label->pixmap(Qt::ReturnByValue).isNull();
+        for (const QRect& part : isSign ? QList<QRect>{label->rect()} : TextsOf(*widget))
             if (const auto contrast = ContrastIn(picture, InPicture(part, *widget, window));
-                contrast && *contrast < TextContrast)
+                contrast && *contrast < (isSign ? SignContrast : TextContrast))
                 faults += QStringLiteral("contrast %1: %2")
                               .arg(*contrast, 0, 'f', 2)
                               .arg(Called(*widget));
     }
     return faults;
+}
+
+/// How much of a picture is pure white, in hundredths.
+double WhiteIn(const QImage& picture) {
+    qint64 white = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            white += picture.pixel(x, y) == qRgb(255, 255, 255);
+    return 100.0 * static_cast<double>(white) / (picture.width() * picture.height());
+}
+
+/// The colours of the texts in a layout of a report that can hardly be read on paper.
+QStringList FaintInk(const QJsonValue& value) {
+    QStringList faults;
+    if (value.isArray())
+        for (const QJsonValue& element : value.toArray())
+            faults += FaintInk(element);
+    const QJsonObject object = value.toObject();
+    for (const QJsonValue& element : object)
+        faults += FaintInk(element);
+    const QString ink = object.value(u"colour").toString();
+    if (!ink.isEmpty() && object.value(u"type").toString() != u"line" &&
+        Contrast(QColor(ink), Qt::white) < TextContrast)
+        faults += ink;
+    return faults;
+}
+
+/// One guard's walk over the demonstration site last night: in time, too early, too late, and one
+/// point left out.
+void WalkLastNight() {
+    for (const DueTour& due : DueTours(Now() - DateTime::FromDays(1), Now()))
+        if (due.tour.name == u"Night round")
+            for (const auto& [minutes, code] :
+                 {std::pair(0, "1A40C2"), std::pair(10, "1A40C7"), std::pair(52, "1A41D0")})
+                gConn->Execute(QStringLiteral("INSERT INTO tblEvents (tPipeID, dtDateTime, "
+                                              "tButtonCode, wGroupType) VALUES ('4B5831A7', #%1#, "
+                                              "'%2', 1)")
+                                   .arg(SqlDateTimeFmt(due.start + DateTime::FromTime(0, minutes)),
+                                        QString::fromLatin1(code)));
 }
 
 /// Widgets that look the same whether they have the focus or not, or nearly so.
@@ -175,7 +227,7 @@ class SeenTest : public QObject {
     Q_OBJECT
 
     std::unique_ptr<TestHome> m_home;
-    AccessibleLooks m_looks;
+    std::optional<AccessibleLooks> m_looks;
 
 private slots:
     void initTestCase() {
@@ -186,6 +238,8 @@ private slots:
         gLanguage = 0;
         OpenDictionary();
         QApplication::setStyle("Fusion");
+        m_looks.emplace();
+        WalkLastNight();
     }
     void cleanupTestCase() {
         gReaderOptions.reset();
@@ -204,6 +258,7 @@ private slots:
         QFETCH(const QString, palette);
         QFETCH(const QString, form);
         QApplication::setPalette(Palettes()[palette]);
+        QCOMPARE(QApplication::palette().window(), Palettes()[palette].window());
         DockingLink link;
         NoViewer viewer;
         const std::unique_ptr<QWidget> window = AllWindows().at(form)(link, viewer);
@@ -212,6 +267,63 @@ private slots:
         QCoreApplication::processEvents();
         const QStringList faults = FaintTexts(*window) + UnseenFocus(*window);
         QVERIFY2(faults.isEmpty(), qPrintable(u'\n' + faults.join(u'\n')));
+        if (form != u"frmMdiMenu" || palette == u"light")
+            return;
+        window->resize(1000, 800); // with its picture
+        QCoreApplication::processEvents();
+        QVERIFY(window->findChild<QLabel*>("imgContact")->isVisible());
+        QVERIFY(WhiteIn(window->grab().toImage()) < 5); // letters, but no paper
+    }
+
+    // Otherwise the colours of some would not be measured.
+    void HomeShowsEachStatus() {
+        DockingLink link;
+        NoViewer viewer;
+        const std::unique_ptr<QWidget> home = AllWindows().at("frmMdiMenu")(link, viewer);
+        const auto* list = home->findChild<QTreeWidget*>("lvwTours");
+        for (int column = 3; column < 7; ++column) {
+            bool shown = false;
+            for (int row = 0; row < list->topLevelItemCount(); ++row)
+                shown |= !list->topLevelItem(row)->text(column).isEmpty();
+            QVERIFY2(shown, qPrintable(list->headerItem()->text(column)));
+        }
+    }
+
+    void IconsFollowThePalette() {
+        QApplication::setPalette(Palettes()["light"]);
+        QLabel label;
+        label.setMaximumSize(24, 24);
+        ShowIcon(label, QStringLiteral("reader"));
+        label.show();
+        const QImage light = label.pixmap(Qt::ReturnByValue).toImage();
+        QApplication::setPalette(Palettes()["dark"]);
+        QCoreApplication::processEvents();
+        QVERIFY(label.pixmap(Qt::ReturnByValue).toImage() != light);
+    }
+
+    void ArabicWordsAreWhole() {
+        const auto picture = [](const QString& text) {
+            QLabel label(text);
+            QLineEdit field;
+            label.setBuddy(&field); // so that it has a mnemonic
+            return label.grab().toImage();
+        };
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        QCOMPARE(picture(QStringLiteral("الا&سم:")), picture(QStringLiteral("الاسم:")));
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        QVERIFY(picture(QStringLiteral("&Name:")) != picture(QStringLiteral("Name:")));
+    }
+
+    void InkIsSeen() {
+        const QDir layouts(QStringLiteral(":/layouts"));
+        QCOMPARE(layouts.entryList().size(), 8);
+        for (const QString& name : layouts.entryList()) {
+            QFile file(layouts.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QJsonObject layout = QJsonDocument::fromJson(file.readAll()).object();
+            QVERIFY(!layout.isEmpty());
+            QCOMPARE(FaintInk(layout), QStringList());
+        }
     }
 };
 

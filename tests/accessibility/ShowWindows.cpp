@@ -1,8 +1,5 @@
 // Shows every window of the program, one after the other. Prints the name of its form, and goes on
-// at each line of its input. tests/accessibility/walk.py reads the windows meanwhile.
-//
-// With "--palette dark" or "contrast" the windows have such colours; with "--text PERCENT" larger
-// texts; with "--language NUMBER" another language.
+// at each line of its input. screenreader.py reads the windows meanwhile.
 
 #include "AllWindows.h"
 #include "DataReport.h"

@@ -68,8 +68,8 @@ std::map<QString, WindowMaker> MakeAll() {
     auto makers =
         MakersOf<frmAddButton, frmAddReader, frmArchive, frmCompany, frmCopyTour, frmDebugData,
                  frmDownload, frmEditButton, frmEditReader, frmEditTime, frmGoOnline, frmLogin,
-                 frmMDISetup, frmMain, frmManualID, frmMdiDownload, frmMdiMenu, frmMdiReports,
-                 frmPrpComms, frmRptHardwareListParam, frmRptPatrolSchedule, frmRptCustomParam,
+                 frmMDISetup, frmMain, frmManualID, frmMdiDownload, frmMdiReports, frmPrpComms,
+                 frmRptHardwareListParam, frmRptPatrolSchedule, frmRptCustomParam,
                  frmRptReaderReport, frmRptIncidentNew, frmRptIncidentParam, frmRptTour, frmSetTime,
                  frmSplash, frmUserMaintenance>();
     makers["frmAbout"] = [](auto&, auto&) {
@@ -99,6 +99,13 @@ std::map<QString, WindowMaker> MakeAll() {
         form->ItemType = SiteGroup;
         form->Update();
         return form;
+    };
+    makers["frmMdiMenu"] = [](auto&, auto&) {
+        auto page = std::make_unique<frmMdiMenu>(nullptr);
+        page->SetUserType(MasterOperator);
+        page->ShowStation(false, 1, QStringLiteral("/dev/ttyUSB0"));
+        page->Translate();
+        return page;
     };
     makers["frmWaitReport"] = [](auto&, auto&) {
         static Recordset rows;

@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
@@ -138,6 +139,37 @@ QStringList ClippedHeadings(QWidget& window) {
     return faults;
 }
 
+/// What of a widget the widgets around it let through.
+QSize SeenOf(const QWidget& widget) {
+    QRect seen = widget.rect();
+    for (const QWidget* inner = &widget; !inner->isWindow(); inner = inner->parentWidget())
+        seen = seen.translated(inner->pos()) & inner->parentWidget()->rect();
+    return seen.size();
+}
+
+/// What is too large for the screen, and the controls that the keyboard reaches but nobody sees.
+QStringList Unreachable(QWidget& window) {
+    QStringList faults;
+    constexpr QSize AroundPage{0, 130};
+    const QSize room = window.screen()->availableSize() - (IsPage(window) ? AroundPage : QSize());
+    const QSize least = IsPage(window) ? window.minimumSizeHint() : window.size();
+    if (least != least.boundedTo(room))
+        faults += QStringLiteral("larger than the screen: %1 x %2")
+                      .arg(least.width())
+                      .arg(least.height());
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || !widget->isEnabled() || IsInner(*widget) ||
+            !(widget->focusPolicy() & Qt::TabFocus))
+            continue;
+        widget->setFocus(Qt::TabFocusReason);
+        QCoreApplication::processEvents();
+        const QSize seen = SeenOf(*widget), wanted = widget->size().boundedTo(window.size() / 2);
+        if (seen != seen.expandedTo(wanted))
+            faults += "not seen: " + Called(*widget);
+    }
+    return faults;
+}
+
 /// The narrowest that the operator can make a window, and as high as its texts then need.
 QSize SmallestSize(const QWidget& window) {
     if (IsPage(window))
@@ -166,7 +198,7 @@ QStringList FaultsOf(QWidget& window) {
     QCoreApplication::processEvents();
     QStringList faults = NamelessWidgets(window) + RepeatedMnemonics(window) +
                          ReversedTimes(window) + ClippedTexts(window, "usual size: ") +
-                         ClippedHeadings(window);
+                         ClippedHeadings(window) + Unreachable(window);
     window.resize(SmallestSize(window));
     QCoreApplication::processEvents();
     return faults + ClippedTexts(window, "smallest size: ");
@@ -224,6 +256,7 @@ private slots:
         NoViewer viewer;
         const std::unique_ptr<QWidget> window = AllWindows().at(form)(link, viewer);
         window->show();
+        QApplication::setActiveWindow(window.get());
         const QStringList faults = FaultsOf(*window);
         QVERIFY2(faults.isEmpty(), qPrintable(u'\n' + faults.join(u'\n')));
     }

@@ -260,7 +260,7 @@ private slots:
                  (QStringList{"Alpha||00:00", "Hour||12:00", "Zulu|Midnight|00:04"}));
         const int hundredth = (list->width() * 15 - 240) / 100;
         for (const auto& [column, share] : {std::pair(0, 30), std::pair(1, 50), std::pair(2, 30)})
-            QCOMPARE(list->columnWidth(column), hundredth * share / 15);
+            QVERIFY(std::abs(list->columnWidth(column) - hundredth * share / 15) <= 1);
         Press(dialog, "cmdPrintPreview");
         QCOMPARE(m_viewer.Labels["lblTourName"], "Alpha");
         const QPoint last = list->visualRect(list->model()->index(2, 0)).center();

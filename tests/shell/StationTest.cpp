@@ -607,6 +607,12 @@ private slots:
         ReleaseMainWindow();
         QVERIFY(Start(nullptr));
         QCOMPARE(MainWindow()->size(), QSize(700, 500));
+        MainWindow()->close();
+        ReleaseMainWindow();
+        Save(SettingsSection::Settings, "MainLeft", "-90000"); // a screen that is gone
+        Save(SettingsSection::Settings, "MainHeight", "90000");
+        QVERIFY(Start(nullptr));
+        QVERIFY(MainWindow()->screen()->availableGeometry().contains(MainWindow()->geometry()));
     }
 
     // Only the option that cannot be read falls back to its default, and the log names it.

@@ -5,6 +5,7 @@
 #include "Downloads.h"
 #include "DueTours.h"
 #include "Format.h"
+#include "ListColumns.h"
 #include "TourWords.h"
 #include "WindowTools.h"
 #include "frmDownload.h"
@@ -15,7 +16,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QHeaderView>
 #include <QTimer>
 
 #include <algorithm>
@@ -25,9 +25,6 @@ namespace {
 
 /// After a long time in a drawer, a reader has more tours than anybody wants offered.
 constexpr int MostDays = 31, MostOffers = 5;
-
-/// Each column's share of the width, in hundredths.
-constexpr int ColumnShares[] = {10, 15, 10, 10, 20, 35};
 
 ListRow RowOf(const cRawButton& touch, qsizetype number) {
     return {{QString::number(number), Format(touch.DateAndTime, QStringLiteral("Short Date")),
@@ -45,7 +42,7 @@ frmMdiDownload::frmMdiDownload(DockingLink& link, QWidget* parent)
     m_ui->cmdOnline_0->setIcon(ProgramIcon(QStringLiteral("download")));
     m_ui->cmdOnline_1->setIcon(ProgramIcon(QStringLiteral("erase")));
     m_ui->lvwDownload->setModel(&m_touches);
-    m_ui->lvwDownload->header()->setStretchLastSection(false);
+    ManageColumns(*m_ui->lvwDownload, QStringLiteral("frmMdiDownload"), {10, 15, 10, 10, 20, 35});
     // They keep their places while they are hidden, so that nothing else moves.
     for (QLabel* label : {m_ui->lblMsg, m_ui->lblWarning}) {
         QSizePolicy policy = label->sizePolicy();
@@ -163,18 +160,6 @@ void frmMdiDownload::ShowTouches(const colRawButtons& touches) {
 void frmMdiDownload::ShowLastRow() { SelectPlace(*m_ui->lvwDownload, m_touches.rowCount() - 1); }
 
 void frmMdiDownload::ShowStatus(const QString& text) { emit StatusChanged(text); }
-
-void frmMdiDownload::SizeColumns() {
-    const int hundredth = (TwipsOf(m_ui->lvwDownload->width()) - 240) / 100;
-    int column = 0;
-    for (const int share : ColumnShares)
-        m_ui->lvwDownload->setColumnWidth(column++, PixelsOf(share * hundredth));
-}
-
-void frmMdiDownload::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    SizeColumns();
-}
 
 void frmMdiDownload::closeEvent(QCloseEvent* event) {
     event->setAccepted(!Busy());

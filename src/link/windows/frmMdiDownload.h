@@ -37,12 +37,10 @@ signals:
     void ReportWanted(const ReportProposal& proposal);
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void cmdOnline_Click(int index);
-    void SizeColumns();
     /// Offers the reports of the tours that were due since the reader's download before this one.
     void OfferReports();
 

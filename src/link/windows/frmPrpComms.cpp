@@ -1,6 +1,7 @@
 #include "frmPrpComms.h"
 
 #include "CommPort.h"
+#include "WindowPlace.h"
 #include "WindowTools.h"
 #include "mTranslations.h"
 #include "ui_frmPrpComms.h"
@@ -17,6 +18,7 @@ frmPrpComms::frmPrpComms(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmPrpComms>()) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
+    RememberPlace(*this);
     connect(m_ui->cboLocalPort, &QComboBox::currentIndexChanged, this, &frmPrpComms::ShowDevice);
     connect(m_ui->cboDevice, &QComboBox::editTextChanged, this, &frmPrpComms::KeepDevice);
     connect(m_ui->cmdSetupOK, &QPushButton::clicked, this, &frmPrpComms::cmdSetupOK_Click);

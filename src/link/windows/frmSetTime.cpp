@@ -4,6 +4,7 @@
 #include "DockingLink.h"
 #include "Format.h"
 #include "Settings.h"
+#include "WindowPlace.h"
 #include "WindowTools.h"
 #include "mDeclareGlobals.h"
 #include "mErrorHandler.h"
@@ -17,6 +18,7 @@ frmSetTime::frmSetTime(DockingLink& link, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmSetTime>()), m_link(link) {
     m_ui->setupUi(this);
     EnterGroupsAtChecked(*this);
+    RememberPlace(*this);
     Translate();
     m_ui->dtpPanelDate->setDisplayFormat(GetShortDateFormat());
     SelectSectionOnFocus(*m_ui->DTPicker1);

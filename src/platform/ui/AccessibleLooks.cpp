@@ -5,6 +5,7 @@
 #include <QFocusFrame>
 #include <QPainter>
 #include <QPointer>
+#include <QProxyStyle>
 
 #include <cmath>
 
@@ -32,6 +33,21 @@ protected:
         painter.setPen(QPen(palette().color(QPalette::WindowText), Line, Qt::SolidLine,
                             Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(rect().adjusted(Line / 2, Line / 2, -Line / 2, -Line / 2));
+    }
+};
+
+/// The style of the desktop. From right to left it underlines no mnemonics.
+class ReadableStyle : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        // To underline one letter, Qt cuts the word there: Arabic letters no longer join, and the
+        // end of the word does not fit. The keys work without the line.
+        if (hint == SH_UnderlineShortcut && QGuiApplication::isRightToLeft())
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, data);
     }
 };
 
@@ -64,6 +80,7 @@ QColor Readable(const QColor& colour, const QColor& background, double contrast)
 class AccessibleLooks::Watcher : public QObject {
 public:
     Watcher() {
+        QApplication::setStyle(new ReadableStyle(QApplication::style()->name()));
         connect(qApp, &QApplication::focusChanged, this, &Watcher::Mark);
         KeepSelectionReadable();
         qApp->installEventFilter(this);
@@ -112,12 +129,11 @@ private:
         constexpr double SelectionContrast = TextContrast * 1.3;
         if (Contrast(text, selection) >= SelectionContrast)
             return;
-        // Only these are set; the other colours go on following the theme.
-        QPalette readable;
+        // Colours that nobody has set go on following the theme.
         for (const auto group : {QPalette::Active, QPalette::Inactive})
-            readable.setColor(group, QPalette::Highlight,
-                              Readable(selection, text, SelectionContrast));
-        QApplication::setPalette(readable);
+            palette.setColor(group, QPalette::Highlight,
+                             Readable(selection, text, SelectionContrast));
+        QApplication::setPalette(palette);
     }
 
     // Its parent is the window in which it was last shown.

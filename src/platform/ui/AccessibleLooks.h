@@ -19,7 +19,8 @@ constexpr double SignContrast = 3.0;
 QColor Readable(const QColor& colour, const QColor& background, double contrast = TextContrast);
 
 /// While it exists, the widget that has the focus is framed as long as the operator works with the
-/// keyboard, and selected texts can be read in every palette. The application must exist.
+/// keyboard, selected texts can be read in every palette, and Arabic words are written whole. The
+/// application must exist, with its style.
 class AccessibleLooks {
 public:
     AccessibleLooks();

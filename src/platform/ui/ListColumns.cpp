@@ -1,6 +1,7 @@
 #include "ListColumns.h"
 
 #include "Settings.h"
+#include "WindowTools.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -128,6 +129,13 @@ private:
         return std::max(rows, m_list.header()->sectionSizeHint(column)) + 1;
     }
 
+    /// What the columns take together: all that is seen of the list, unless the shares are more.
+    int Space() const {
+        const int hundredths = Sum(m_shares);
+        return hundredths > 100 ? std::max(Width(), ColumnWidth(m_list.width(), hundredths))
+                                : Width();
+    }
+
     QList<int> Fitting() const {
         const int whole = m_list.fontMetrics().averageCharWidth() * WholeLetters;
         QList<int> needs, least;
@@ -136,9 +144,9 @@ private:
             least +=
                 std::min(needs.last(), std::max(whole, m_list.header()->sectionSizeHint(column)));
         }
-        if (Sum(needs) > Width())
-            return Filled(least, needs, Width());
-        return Shared(needs, m_shares.size() == needs.size() ? m_shares : needs, Width());
+        if (Sum(needs) > Space())
+            return Filled(least, needs, Space());
+        return Shared(needs, m_shares.size() == needs.size() ? m_shares : needs, Space());
     }
 
     QList<int> Operators() const {

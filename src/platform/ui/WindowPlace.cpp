@@ -2,9 +2,12 @@
 
 #include "Settings.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QScreen>
-#include <QWidget>
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <optional>
@@ -16,6 +19,7 @@ const QString WindowsSection = QStringLiteral("Windows");
 constexpr int Grip = 80;
 /// What the frame of a window may take of the screen, before it is known.
 constexpr QSize Frame{16, 48};
+constexpr int FocusMargin = 4; ///< for the mark of the focus
 
 std::optional<QRect> SavedPlace(const QString& name) {
     const QStringList parts =
@@ -26,6 +30,15 @@ std::optional<QRect> SavedPlace(const QString& name) {
     return place.width() > 0 && place.height() > 0 ? std::optional(place) : std::nullopt;
 }
 
+/// As large and as near as the area allows, frame included.
+QRect Within(const QRect& area, const QRect& place) {
+    const QSize size = place.size().boundedTo(area.size() - Frame), outer = size + Frame;
+    return {QPoint(std::clamp(place.x(), area.left(), area.right() + 1 - outer.width()),
+                   std::clamp(place.y(), area.top(), area.bottom() + 1 - outer.height())),
+            size};
+}
+
+/// Null if too little of the place is on any screen.
 QScreen* ScreenOf(const QRect& place, const QWidget& window) {
     const QRect grip(place.topLeft(), QSize(std::max(place.width(), Grip), Frame.height()));
     for (QScreen* screen : window.screen()->virtualSiblings()) {
@@ -34,6 +47,33 @@ QScreen* ScreenOf(const QRect& place, const QWidget& window) {
             return screen;
     }
     return nullptr;
+}
+
+/// Puts everything in a window into an area that scrolls to the control that has the focus.
+void MakeScrollable(QWidget& window) {
+    QWidget* focus = window.focusWidget();
+    auto* area = new QScrollArea(&window);
+    area->setObjectName(QStringLiteral("scrollingContent"));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    auto* content = new QWidget;
+    area->setWidget(content); // first, so that the controls never leave the window
+    content->setLayout(window.layout());
+    auto* around = new QVBoxLayout(&window);
+    around->setContentsMargins(0, 0, 0, 0);
+    around->addWidget(area);
+    around->activate();
+    QObject::connect(qApp, &QApplication::focusChanged, area, [area](QWidget*, QWidget* now) {
+        if (!now || !area->isAncestorOf(now))
+            return;
+        // The area's own routine only shows the cursor in it.
+        const QRect whole(now->mapTo(area->widget(), QPoint()), now->size());
+        for (const QPoint corner : {whole.bottomRight(), whole.topLeft()})
+            area->ensureVisible(corner.x(), corner.y(), FocusMargin, FocusMargin);
+    });
+    if (focus)
+        focus->setFocus();
 }
 
 class WindowPlace : public QObject {
@@ -60,13 +100,15 @@ private:
         QScreen* screen =
             saved && m_what == Placed::SizeAndPlace ? ScreenOf(*saved, m_window) : nullptr;
         const QRect area = (screen ? screen : m_window.screen())->availableGeometry();
-        const QSize wanted = Roomy(saved ? saved->size() : m_window.size());
-        m_window.resize(wanted.boundedTo(area.size() - Frame));
-        if (screen) {
-            const QSize outer = m_window.size() + Frame;
-            m_window.move(std::clamp(saved->x(), area.left(), area.right() + 1 - outer.width()),
-                          std::clamp(saved->y(), area.top(), area.bottom() + 1 - outer.height()));
+        const QSize most = area.size() - Frame;
+        QSize wanted = Roomy((saved ? saved->size() : m_window.size()).boundedTo(most));
+        if (m_window.layout() && wanted != wanted.boundedTo(most)) {
+            MakeScrollable(m_window);
+            wanted.rwidth() += m_window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
         }
+        m_window.resize(wanted.boundedTo(most));
+        if (screen)
+            m_window.move(Within(area, {saved->topLeft(), m_window.size()}).topLeft());
     }
 
     /// The size, or as much more as the texts need: they are longer in another language.
@@ -101,3 +143,9 @@ private:
 } // namespace
 
 void RememberPlace(QWidget& window, Placed what) { new WindowPlace(window, what); }
+
+QRect OnScreen(const QRect& place, const QWidget& window) {
+    const QScreen* screen = ScreenOf(place, window);
+    const QRect area = (screen ? screen : window.screen())->availableGeometry();
+    return Within(area, screen ? place : QRect(area.topLeft(), place.size()));
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+class QRect;
 class QWidget;
 
 enum class Placed {
@@ -8,6 +9,10 @@ enum class Placed {
 };
 
 /// From now on a window remembers its size and place in the settings, under the name of its class.
-/// It is never shown larger than the screen, and only on a screen that still exists. Called before
-/// the window is shown first.
+/// It is never shown larger than the screen, and only on a screen that still exists. If its texts
+/// are too large for the screen, its content scrolls. Called before the window is shown first.
 void RememberPlace(QWidget& window, Placed what = Placed::SizeAndPlace);
+
+/// Where a window may be shown that was last at `place`: nowhere larger than the screen, and with
+/// its frame on a screen that still exists.
+QRect OnScreen(const QRect& place, const QWidget& window);

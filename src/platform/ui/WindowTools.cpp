@@ -232,8 +232,44 @@ QIcon ProgramIcon(const QString& name) {
     return isPicture ? QIcon(path) : PaletteIcon(path);
 }
 
+namespace {
+
+/// Draws the icon of a label again when the colours change.
+class LabelIcon : public QObject {
+public:
+    inline static const QString Name = QStringLiteral("labelIcon");
+
+    explicit LabelIcon(QLabel& label) : QObject(&label), m_label(label) {
+        setObjectName(Name);
+        label.installEventFilter(this);
+    }
+    void Show(const QString& icon) {
+        m_icon = icon;
+        Draw();
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        const bool isShown = !m_label.pixmap(Qt::ReturnByValue).isNull(); // else it was cleared
+        if (event->type() == QEvent::PaletteChange && isShown)
+            Draw();
+        return false;
+    }
+
+private:
+    void Draw() {
+        m_label.setPixmap(
+            ProgramIcon(m_icon).pixmap(m_label.maximumSize(), m_label.devicePixelRatioF()));
+    }
+
+    QLabel& m_label;
+    QString m_icon;
+};
+
+} // namespace
+
 void ShowIcon(QLabel& label, const QString& name) {
-    label.setPixmap(ProgramIcon(name).pixmap(label.maximumSize(), label.devicePixelRatioF()));
+    auto* icon = static_cast<LabelIcon*>(
+        label.findChild<QObject*>(LabelIcon::Name, Qt::FindDirectChildrenOnly));
+    (icon ? icon : new LabelIcon(label))->Show(name);
 }
 
 void ShowPicture(QLabel& label, const QString& path) {

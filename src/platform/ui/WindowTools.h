@@ -70,7 +70,8 @@ private:
 /// to left, the one whose name also has "-rtl", if there is one.
 QIcon ProgramIcon(const QString& name);
 
-/// Shows an icon of the program in a label, in the label's maximum size.
+/// Shows an icon of the program in a label, in the label's maximum size. It follows the colours of
+/// the palette.
 void ShowIcon(QLabel& label, const QString& name);
 
 /// Shows a picture file in a label, at half its size in pixels, so that it is sharp on a dense

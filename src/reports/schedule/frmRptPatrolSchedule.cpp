@@ -1,15 +1,13 @@
 #include "frmRptPatrolSchedule.h"
 
 #include "Format.h"
-#include "LastChoice.h"
+#include "ListColumns.h"
 #include "LookUps.h"
 #include "PatrolScheduleBuilder.h"
 #include "ReportButtons.h"
 #include "WindowTools.h"
 #include "mTranslations.h"
 #include "ui_frmRptPatrolSchedule.h"
-
-#include <algorithm>
 
 frmRptPatrolSchedule::frmRptPatrolSchedule(ReportViewer& viewer, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptPatrolSchedule>()), m_viewer(viewer) {
@@ -18,13 +16,12 @@ frmRptPatrolSchedule::frmRptPatrolSchedule(ReportViewer& viewer, QWidget* parent
     m_tours.SetColumns({Translate("Tour Name"), Translate("Description"), Translate("Start Time")});
     m_tours.SetIcon(ProgramIcon(QStringLiteral("tour")));
     JoinList(*m_ui->lvwMain, m_tours);
-    m_ui->lvwMain->header()->setStretchLastSection(false);
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel,
                       [this] { RunSelectedTour(); });
     connect(m_ui->lvwMain, &QTreeView::doubleClicked, m_ui->cmdPrintPreview, &QPushButton::click);
     LoadTours();
-    SizeColumns();
-    RememberChoices(*this, *m_ui->cmdPrintPreview);
+    // They take more than the width of the list, so it scrolls sideways.
+    ManageColumns(*m_ui->lvwMain, QStringLiteral("frmRptPatrolSchedule"), {30, 50, 30});
 }
 
 frmRptPatrolSchedule::~frmRptPatrolSchedule() = default;
@@ -37,21 +34,6 @@ void frmRptPatrolSchedule::LoadTours() {
                     tour.id};
     m_tours.SetRows(std::move(rows));
     SelectPlace(*m_ui->lvwMain, 0);
-}
-
-/// The columns take more than the width of the list, so it scrolls sideways.
-void frmRptPatrolSchedule::SizeColumns() {
-    int column = 0;
-    for (const int hundredths : {30, 50, 30}) {
-        const int share = ColumnWidth(m_ui->lvwMain->width(), hundredths);
-        const int heading = m_ui->lvwMain->header()->sectionSizeHint(column);
-        m_ui->lvwMain->setColumnWidth(column++, std::max(share, heading));
-    }
-}
-
-void frmRptPatrolSchedule::resizeEvent(QResizeEvent* event) {
-    QDialog::resizeEvent(event);
-    SizeColumns();
 }
 
 void frmRptPatrolSchedule::RunSelectedTour() {

@@ -24,12 +24,8 @@ public:
     /// Always false: only Cancel closes the dialog.
     bool OK() const { return result() == Accepted; }
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
     void LoadTours();
-    void SizeColumns();
     void RunSelectedTour();
 
     std::unique_ptr<Ui::frmRptPatrolSchedule> m_ui;
