@@ -23,7 +23,7 @@ package_test_packages=(debootstrap)
 say() { printf '%s\n' "$*" >&2; }
 
 install_missing() {
-    local missing=()
+    local missing=() package
     for package in "$@"; do
         dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed ||
             missing+=("$package")
