@@ -52,15 +52,15 @@
         <translation>الملف غير موجود.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>المجلد %0:s غير موجود. يُرجى إنشاؤه أو تحديد مجلد آخر في WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>لا توجد صلاحية للكتابة في المجلد %0:s. يُرجى طلب الصلاحية أو تحديد مجلد آخر في WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>لا توجد قاعدة بيانات بعد. يُرجى تشغيل برنامج Wardlock مرة واحدة لينشئها.</translation>
     </message>
     <message>
@@ -1900,8 +1900,8 @@
         <translation>ويُقدَّم دون أي ضمان.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>يوجد وصف للبرنامج في القائمة «مساعدة»، «المحتويات» (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>يوجد وصف للبرنامج في القائمة «مساعدة»، «المحتويات».</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>

@@ -52,15 +52,15 @@
         <translation>El archivo no existe.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>La carpeta %0:s no existe. Créela o indique otra en WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>No tiene permiso para escribir en la carpeta %0:s. Solicítelo o indique otra carpeta en WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Todavía no hay ninguna base de datos. Inicie una vez el programa Wardlock, que la creará.</translation>
     </message>
     <message>
@@ -1900,8 +1900,8 @@
         <translation>Se entrega sin ninguna garantía.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Encontrará una descripción del programa en Ayuda, Contenido (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Encontrará una descripción del programa en Ayuda, Contenido.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>

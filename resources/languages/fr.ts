@@ -52,15 +52,15 @@
         <translation>Le fichier n’existe pas.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Le dossier %0:s n’existe pas. Veuillez le créer, ou en indiquer un autre dans WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Les droits d’écriture manquent pour le dossier %0:s. Veuillez les demander, ou indiquer un autre dossier dans WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Il n’y a pas encore de base de données. Veuillez lancer une fois le programme Wardlock, qui en crée une.</translation>
     </message>
     <message>
@@ -1900,8 +1900,8 @@
         <translation>Il est fourni sans aucune garantie.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Vous trouverez une description du programme sous Aide, Sommaire (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Vous trouverez une description du programme sous Aide, Sommaire.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>

@@ -52,15 +52,15 @@
         <translation>Il file non esiste.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>La cartella %0:s non esiste. Crearla, oppure indicarne un’altra in WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Manca l’autorizzazione a scrivere nella cartella %0:s. Richiederla, oppure indicare un’altra cartella in WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Non esiste ancora un database. Avviare una volta il programma Wardlock, che ne crea uno.</translation>
     </message>
     <message>
@@ -1900,8 +1900,8 @@
         <translation>Viene fornito senza alcuna garanzia.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Una descrizione del programma si trova in Guida, Sommario (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Una descrizione del programma si trova in Guida, Sommario.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>

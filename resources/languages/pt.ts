@@ -52,15 +52,15 @@
         <translation>O ficheiro não existe.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>A pasta %0:s não existe. Crie-a ou indique outra em WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Não tem permissão para escrever na pasta %0:s. Peça-a ou indique outra pasta em WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Ainda não existe nenhuma base de dados. Inicie uma vez o programa Wardlock, que cria uma.</translation>
     </message>
     <message>
@@ -1900,8 +1900,8 @@
         <translation>É fornecido sem qualquer garantia.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Encontra uma descrição do programa em Ajuda, Conteúdo (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Encontra uma descrição do programa em Ajuda, Conteúdo.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>
