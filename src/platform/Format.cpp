@@ -26,12 +26,6 @@ QString WithoutSeconds(QString pattern) {
     return pattern.remove(seconds);
 }
 
-/// Reports and lists have such times in columns: a clock of 24 hours has two digits for each hour.
-QString WithTwoHourDigits(QString pattern) {
-    static const QRegularExpression oneDigit(QStringLiteral("(?<!H)H(?!H)"));
-    return pattern.replace(oneDigit, QStringLiteral("HH"));
-}
-
 /// What the user's locale says, kept because it is asked for each row of a report.
 struct LocaleTexts {
     LocaleTexts() {
@@ -42,7 +36,7 @@ struct LocaleTexts {
 
     QLocale locale;
     QString shortDate = WithFourDigitYear(locale.dateFormat(QLocale::ShortFormat));
-    QString shortTime = WithTwoHourDigits(WithoutSeconds(locale.timeFormat(QLocale::ShortFormat)));
+    QString shortTime = WithoutSeconds(locale.timeFormat(QLocale::ShortFormat));
     std::array<QString, 60> twoDigits;
     std::vector<QString> minuteTexts =
         std::vector<QString>(std::size_t{24} * 60); ///< short times; empty until asked for
