@@ -52,15 +52,15 @@
         <translation>Die Datei ist nicht vorhanden.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Der Ordner %0:s ist nicht vorhanden. Bitte anlegen oder in WARDLOCK_HOME einen anderen angeben.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Für den Ordner %0:s fehlt das Schreibrecht. Bitte das Recht einrichten lassen oder in WARDLOCK_HOME einen anderen Ordner angeben.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Es gibt noch keine Datenbank. Bitte das Programm Wardlock einmal starten: Es legt eine an.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Die Hilfe kann nicht gezeigt werden. Zu diesem Programm gehört keine Hilfe.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 die Autoren von Wardlock. Freie Software unter der MIT-Lizenz.</translation>
     </message>
     <message>
@@ -638,6 +638,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1888,7 +1892,7 @@
         <translation>Über</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Sie dürfen dieses Programm benutzen, ändern und weitergeben, solange der Lizenztext beiliegt.</translation>
     </message>
     <message>
@@ -1896,8 +1900,8 @@
         <translation>Es wird keine Gewähr übernommen.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Eine Beschreibung des Programms finden Sie unter Hilfe, Inhalt (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Eine Beschreibung des Programms finden Sie unter Hilfe, Inhalt.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>

@@ -52,15 +52,15 @@
         <translation>Het bestand bestaat niet.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>De map %0:s bestaat niet. Maak deze aan of geef in WARDLOCK_HOME een andere map op.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Schrijfrechten voor de map %0:s ontbreken. Vraag deze rechten aan of geef in WARDLOCK_HOME een andere map op.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Er is nog geen database. Start het programma Wardlock één keer: dat maakt er een aan.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>De help kan niet worden getoond. Bij dit programma hoort geen help.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 de auteurs van Wardlock. Vrije software onder de MIT-licentie.</translation>
     </message>
     <message>
@@ -638,6 +638,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1888,7 +1892,7 @@
         <translation>Over</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Dit programma mag worden gebruikt, gewijzigd en doorgegeven, zolang de licentietekst erbij blijft.</translation>
     </message>
     <message>
@@ -1896,8 +1900,8 @@
         <translation>Er wordt geen enkele garantie gegeven.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Een beschrijving van het programma staat onder Help, Inhoud (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Een beschrijving van het programma staat onder Help, Inhoud.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>

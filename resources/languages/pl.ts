@@ -52,15 +52,15 @@
         <translation>Plik nie istnieje.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Folder %0:s nie istnieje. Proszę go utworzyć albo podać inny w WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Brak uprawnień do zapisu w folderze %0:s. Proszę poprosić o uprawnienia albo podać inny folder w WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Nie ma jeszcze bazy danych. Proszę raz uruchomić program Wardlock, który ją utworzy.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Nie można wyświetlić pomocy. Do tego programu nie dołączono pomocy.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 autorzy programu Wardlock. Wolne oprogramowanie na licencji MIT.</translation>
     </message>
     <message>
@@ -638,6 +638,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1888,7 +1892,7 @@
         <translation>O programie</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Ten program wolno używać, zmieniać i przekazywać dalej, o ile towarzyszy mu tekst licencji.</translation>
     </message>
     <message>
@@ -1896,8 +1900,8 @@
         <translation>Program jest dostarczany bez żadnej gwarancji.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Opis programu znajduje się w menu Pomoc, Spis treści (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Opis programu znajduje się w menu Pomoc, Spis treści.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>

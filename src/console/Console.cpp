@@ -62,7 +62,7 @@ void OpenSettings() {
 bool OpenStation(OperatorType login) {
     if (IsNewStoreFolder()) {
         TellOfUnopenedStore(gDatabasePath, Translate("There is no database yet. Please start the "
-                                                     "station once: it makes one."));
+                                                     "station once to create it."));
         return false;
     }
     if (const QString fault = FaultOfStoreFolder(); !fault.isEmpty()) {
