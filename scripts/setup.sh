@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs the missing packages (on Debian and its derivatives) and builds. Sourced by run, test and
-# bench. Sets BUILD and BIN. Quick if there is nothing to do.
+# Installs the missing packages (on Debian and its derivatives) and builds. Sourced by run, test,
+# bench and package. Sets BUILD and BIN. Quick if there is nothing to do.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 BUILD=${WARDLOCK_BUILD:-$root/build}
@@ -8,18 +8,22 @@ BIN=$BUILD/bin
 
 build_packages=(build-essential cmake ninja-build pkg-config ccache qt6-base-dev
     qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-serialport-dev
-    qt6-svg-dev libgl-dev libsqlcipher-dev libcups2-dev libcli11-dev)
-run_packages=(libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core)
+    qt6-svg-dev libgl-dev libsqlcipher-dev libcups2-dev libcli11-dev python3)
+# What the programs load when they run. The Debian package depends on them.
+run_packages=(libqt6svg6 qt6-translations-l10n fonts-dejavu-core)
 # Tests read the text of PDFs, open the store with the stock shell, and read windows as a screen reader.
 test_packages=(poppler-utils sqlcipher xvfb dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi)
-lint_packages=(clang-format clang-tidy python3)
+lint_packages=(clang-format clang-tidy)
 # The fault campaigns kill programs with strace and cut the power of small file systems.
-fault_packages=(python3 sqlcipher strace e2fsprogs xfsprogs)
+fault_packages=(sqlcipher strace e2fsprogs xfsprogs)
+# The Debian package is built, checked, and tried in a fresh system.
+package_packages=(debhelper lintian desktop-file-utils appstream mandoc)
+package_test_packages=(debootstrap)
 
 say() { printf '%s\n' "$*" >&2; }
 
 install_missing() {
-    local missing=()
+    local missing=() package
     for package in "$@"; do
         dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed ||
             missing+=("$package")

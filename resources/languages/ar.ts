@@ -52,15 +52,15 @@
         <translation>الملف غير موجود.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>المجلد %0:s غير موجود. يُرجى إنشاؤه أو تحديد مجلد آخر في WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>لا توجد صلاحية للكتابة في المجلد %0:s. يُرجى طلب الصلاحية أو تحديد مجلد آخر في WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>لا توجد قاعدة بيانات بعد. يُرجى تشغيل برنامج Wardlock مرة واحدة لينشئها.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>تعذّر عرض المساعدة. لا توجد مساعدة مرتبطة بهذا البرنامج.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>حقوق النشر © 2026 لمؤلفي Wardlock. برنامج حر بموجب رخصة MIT.</translation>
     </message>
     <message>
@@ -638,6 +638,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s، %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1888,7 +1892,7 @@
         <translation>حول البرنامج</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>يُسمح باستخدام هذا البرنامج وتعديله وتوزيعه ما دام نص الرخصة مرفقًا به.</translation>
     </message>
     <message>
@@ -1896,8 +1900,8 @@
         <translation>ويُقدَّم دون أي ضمان.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>يوجد وصف للبرنامج في القائمة «مساعدة»، «المحتويات» (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>يوجد وصف للبرنامج في القائمة «مساعدة»، «المحتويات».</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>

@@ -5,7 +5,7 @@
     <name>Wardlock</name>
     <message>
         <source>The database is damaged. Some of its events can no longer be read.</source>
-        <translation>Die Datenbank ist beschädigt. Ein Teil ihrer Ereignisse ist nicht mehr lesbar.</translation>
+        <translation>Die Datenbank ist beschädigt. Ein Teil der Erfassungen ist nicht mehr lesbar.</translation>
     </message>
     <message>
         <source>Please restore a backup. Until then, no reader is erased.</source>
@@ -13,15 +13,15 @@
     </message>
     <message>
         <source>Another program is using it.</source>
-        <translation>Ein anderes Programm benutzt sie.</translation>
+        <translation>Ein anderes Programm benutzt die Datenbank.</translation>
     </message>
     <message>
         <source>It is in use by %0:s (process %1:s).</source>
-        <translation>Sie wird von %0:s benutzt (Prozess %1:s).</translation>
+        <translation>Die Datenbank wird von %0:s benutzt (Prozess %1:s).</translation>
     </message>
     <message>
         <source>It is in use on computer %2:s by %0:s (process %1:s).</source>
-        <translation>Sie wird auf dem Computer %2:s benutzt, von %0:s (Prozess %1:s).</translation>
+        <translation>Die Datenbank wird auf dem Computer %2:s von %0:s benutzt (Prozess %1:s).</translation>
     </message>
     <message>
         <source>The touches are stored, but the disk reported an error. The reader was not erased.</source>
@@ -52,16 +52,16 @@
         <translation>Die Datei ist nicht vorhanden.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
-        <translation>Den Ordner %0:s gibt es nicht. Bitte legen Sie ihn an, oder nennen Sie in WARDLOCK_HOME einen anderen.</translation>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
+        <translation>Der Ordner %0:s ist nicht vorhanden. Bitte anlegen oder in WARDLOCK_HOME einen anderen angeben.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
-        <translation>Sie dürfen in den Ordner %0:s nicht schreiben. Bitte lassen Sie sich das Recht dazu geben, oder nennen Sie in WARDLOCK_HOME einen anderen Ordner.</translation>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
+        <translation>Für den Ordner %0:s fehlt das Schreibrecht. Bitte das Recht einrichten lassen oder in WARDLOCK_HOME einen anderen Ordner angeben.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
-        <translation>Es gibt noch keine Datenbank. Bitte starten Sie einmal das Programm Wardlock: Es legt eine an.</translation>
+        <source>There is no database yet. Please start the station once to create it.</source>
+        <translation>Es gibt noch keine Datenbank. Bitte das Programm Wardlock einmal starten: Es legt eine an.</translation>
     </message>
     <message>
         <source>The disk is full.</source>
@@ -73,11 +73,11 @@
     </message>
     <message>
         <source>Its password is different, or it is damaged. If it is damaged, please restore a backup.</source>
-        <translation>Sie hat ein anderes Kennwort, oder sie ist beschädigt. Wenn sie beschädigt ist, bitte eine Sicherung wiederherstellen.</translation>
+        <translation>Die Datei hat ein anderes Kennwort oder ist beschädigt. Ist sie beschädigt, bitte eine Sicherung wiederherstellen.</translation>
     </message>
     <message>
         <source>It is damaged. Please restore a backup.</source>
-        <translation>Sie ist beschädigt. Bitte eine Sicherung wiederherstellen.</translation>
+        <translation>Die Datei ist beschädigt. Bitte eine Sicherung wiederherstellen.</translation>
     </message>
     <message>
         <source>A journal next to the database did not belong to it. The database was opened without this journal.</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Working in Offline Mode</source>
-        <translation>Es wird ohne Dockingstation gearbeitet</translation>
+        <translation>Arbeiten ohne Dockingstation</translation>
     </message>
     <message>
         <source>Docking Station : OK</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>%0:s is gone. Plug it in again.</source>
-        <translation>%0:s ist verschwunden. Bitte wieder anschließen.</translation>
+        <translation>%0:s ist nicht mehr angeschlossen. Bitte wieder anschließen.</translation>
     </message>
     <message>
         <source>Last download</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Click a tour, or press Enter, to open its report.</source>
-        <translation>Ein Klick auf einen Rundgang, oder die Eingabetaste, öffnet seinen Bericht.</translation>
+        <translation>Ein Klick auf einen Rundgang oder die Eingabetaste öffnet den Bericht dazu.</translation>
     </message>
     <message>
         <source>No tour was due.</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Missing</source>
-        <translation>Fehlt</translation>
+        <translation>Fehlend</translation>
     </message>
     <message>
         <source>First steps</source>
@@ -173,11 +173,11 @@
     </message>
     <message>
         <source>Add the buttons of the site</source>
-        <translation>Die Kontakte des Objekts aufnehmen</translation>
+        <translation>Die Chips des Objekts anlegen</translation>
     </message>
     <message>
         <source>Add a reader</source>
-        <translation>Einen Leser aufnehmen</translation>
+        <translation>Einen Leser anlegen</translation>
     </message>
     <message>
         <source>Plan a tour</source>
@@ -209,11 +209,11 @@
     </message>
     <message>
         <source>The reader's memory continues after its end mark. The touches that were read are stored, but the reader was not erased.</source>
-        <translation>Im Speicher des Lesers stehen nach der Endmarke weitere Daten. Die gelesenen Erfassungen sind gespeichert, der Leser wurde aber nicht geleert.</translation>
+        <translation>Im Speicher des Lesers stehen nach der Endmarke weitere Daten. Die ausgelesenen Erfassungen sind gespeichert, der Leser wurde aber nicht geleert.</translation>
     </message>
     <message>
         <source>The reader holds a different number of records than it reports. The touches that were read are stored, but the reader was not erased.</source>
-        <translation>Der Leser enthält eine andere Anzahl von Datensätzen, als er angibt. Die gelesenen Erfassungen sind gespeichert, der Leser wurde aber nicht geleert.</translation>
+        <translation>Die Zahl der Datensätze im Leser stimmt nicht mit der Zahl überein, die er meldet. Die ausgelesenen Erfassungen sind gespeichert, der Leser wurde aber nicht geleert.</translation>
     </message>
     <message>
         <source>The reader's clock can only be set to a date from 1 January 2000 to 6 June 2179. It was not set.</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Data Readings = </source>
-        <translation>Erfassungen = </translation>
+        <translation>Erfassungen: </translation>
     </message>
     <message>
         <source>The Reader was empty</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>The names of the buttons could not be read from the database. See error.log for the reason.</source>
-        <translation>Die Namen der Kontakte konnten nicht aus der Datenbank gelesen werden. Der Grund steht in error.log.</translation>
+        <translation>Die Namen der Chips konnten nicht aus der Datenbank gelesen werden. Der Grund steht in der Datei error.log.</translation>
     </message>
     <message>
         <source>What the reader sent was not complete or not valid. Please try again.</source>
@@ -349,15 +349,15 @@
     </message>
     <message>
         <source>Ready...</source>
-        <translation>Bereit...</translation>
+        <translation>Bereit…</translation>
     </message>
     <message>
         <source>Opening COM port...</source>
-        <translation>COM-Anschluss wird geöffnet...</translation>
+        <translation>COM-Anschluss wird geöffnet…</translation>
     </message>
     <message>
         <source>Could Not Open Com </source>
-        <translation>Nicht zu öffnen: COM </translation>
+        <translation>Nicht zu öffnen: COM</translation>
     </message>
     <message>
         <source>Please try another COM port or check that the COM port is not in use by another program.</source>
@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>Checking Docking Station...</source>
-        <translation>Dockingstation wird gesucht...</translation>
+        <translation>Dockingstation wird gesucht…</translation>
     </message>
     <message>
         <source>Failed</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>&amp;Open Report...</source>
-        <translation>Bericht ö&amp;ffnen...</translation>
+        <translation>Bericht ö&amp;ffnen…</translation>
     </message>
     <message>
         <source>Open the dialog of the selected report</source>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>Tour / Exception Report</source>
-        <translation>Rundgangs- / Abweichungsbericht</translation>
+        <translation>Rundgangs-/Abweichungsbericht</translation>
     </message>
     <message>
         <source>Patrol Schedule</source>
@@ -437,7 +437,7 @@
     </message>
     <message>
         <source>Lists the times and places for a tour</source>
-        <translation>Listet die Zeiten und Orte eines Rundgangs auf</translation>
+        <translation>Zeiten und Orte eines Rundgangs</translation>
     </message>
     <message>
         <source>Patrol Schedule Report</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Minutes</source>
-        <translation>Minuten</translation>
+        <translation>Min.</translation>
     </message>
     <message>
         <source>No.</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>List all the defined buttons</source>
-        <translation>Listet alle angelegten Kontakte auf</translation>
+        <translation>Alle angelegten Chips</translation>
     </message>
     <message>
         <source>Select the options for the hardware report</source>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>Locations</source>
-        <translation>Kontaktstellen</translation>
+        <translation>Kontrollpunkte</translation>
     </message>
     <message>
         <source>Incidents</source>
@@ -501,11 +501,11 @@
     </message>
     <message>
         <source>A master adds tours on the Setup page.</source>
-        <translation>Rundgänge legt der Einsatzleiter auf der Seite Einrichtung an.</translation>
+        <translation>Rundgänge legt der Einsatzleiter auf der Seite „Einrichtung“ an.</translation>
     </message>
     <message>
         <source>A master adds readers on the Setup page.</source>
-        <translation>Leser legt der Einsatzleiter auf der Seite Einrichtung an.</translation>
+        <translation>Leser legt der Einsatzleiter auf der Seite „Einrichtung“ an.</translation>
     </message>
     <message>
         <source>You must add at least one tour before this report can be used</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>Button Name</source>
-        <translation>Kontakt</translation>
+        <translation>Chip</translation>
     </message>
     <message>
         <source>Group Name</source>
@@ -564,7 +564,7 @@
         <translation>Die Hilfe kann nicht gezeigt werden. Zu diesem Programm gehört keine Hilfe.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 die Autoren von Wardlock. Freie Software unter der MIT-Lizenz.</translation>
     </message>
     <message>
@@ -577,23 +577,23 @@
     </message>
     <message>
         <source>The passwords do not match, please re-enter</source>
-        <translation>Die Kennwörter stimmen nicht überein, bitte neu eingeben</translation>
+        <translation>Die Kennwörter stimmen nicht überein. Bitte neu eingeben</translation>
     </message>
     <message>
         <source>Opening Database...</source>
-        <translation>Datenbank wird geöffnet...</translation>
+        <translation>Datenbank wird geöffnet…</translation>
     </message>
     <message>
         <source>Compacting Database...</source>
-        <translation>Datenbank wird komprimiert...</translation>
+        <translation>Datenbank wird komprimiert…</translation>
     </message>
     <message>
         <source>Loading Application...</source>
-        <translation>Programm wird geladen...</translation>
+        <translation>Programm wird geladen…</translation>
     </message>
     <message>
         <source>Initializing Online Help...</source>
-        <translation>Hilfe wird vorbereitet...</translation>
+        <translation>Hilfe wird vorbereitet…</translation>
     </message>
     <message>
         <source>Error in creating new Tour</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>The tour has no points. A master adds them on the Setup page.</source>
-        <translation>Der Rundgang hat keine Punkte. Der Einsatzleiter legt sie auf der Seite Einrichtung an.</translation>
+        <translation>Der Rundgang hat keine Punkte. Der Einsatzleiter legt sie auf der Seite „Einrichtung“ fest.</translation>
     </message>
     <message>
         <source>This tour does not exist any more, or it cannot be read.</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>OUT OF SEQUENCE</source>
-        <translation>FALSCHE REIHENFOLGE</translation>
+        <translation>AUSSER DER REIHE</translation>
     </message>
     <message>
         <source>%0:s points: %1:s</source>
@@ -638,6 +638,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -697,11 +701,11 @@
     </message>
     <message>
         <source>See error.log for the reason.</source>
-        <translation>Der Grund steht in error.log.</translation>
+        <translation>Der Grund steht in der Datei error.log.</translation>
     </message>
     <message>
         <source>Please check these choices, and whether the reader has been downloaded.</source>
-        <translation>Bitte diese Angaben prüfen, und ob der Leser ausgelesen ist.</translation>
+        <translation>Bitte diese Angaben prüfen. Wurde der Leser ausgelesen?</translation>
     </message>
     <message>
         <source>There is no data to show for these parameters</source>
@@ -717,7 +721,7 @@
     </message>
     <message>
         <source>Lists details of each download to the PC for a reader</source>
-        <translation>Zeigt alles, was aus einem Leser ausgelesen wurde</translation>
+        <translation>Alles, was aus einem Leser ausgelesen wurde</translation>
     </message>
     <message>
         <source>Download Time:</source>
@@ -769,7 +773,7 @@
     </message>
     <message>
         <source>Site/Location</source>
-        <translation>Objekt/Kontaktstelle</translation>
+        <translation>Objekt/Kontrollpunkt</translation>
     </message>
     <message>
         <source>Status</source>
@@ -837,7 +841,7 @@
     </message>
     <message>
         <source>Touches read</source>
-        <translation>Gelesene Erfassungen</translation>
+        <translation>Ausgelesene Erfassungen</translation>
     </message>
     <message>
         <source>Communications  Setup</source>
@@ -857,7 +861,7 @@
     </message>
     <message>
         <source>Leave the device set to Automatic unless the docking station uses another one.</source>
-        <translation>Das Gerät auf Automatisch lassen, wenn die Dockingstation kein anderes benutzt.</translation>
+        <translation>Das Gerät auf „Automatisch“ lassen, wenn die Dockingstation kein anderes benutzt.</translation>
     </message>
     <message>
         <source>&amp;OK</source>
@@ -905,7 +909,7 @@
     </message>
     <message>
         <source>It is not a help file of this program.</source>
-        <translation>Sie ist keine Hilfedatei dieses Programms.</translation>
+        <translation>Die Datei ist keine Hilfedatei dieses Programms.</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -961,7 +965,7 @@
     </message>
     <message>
         <source>Com &amp;Options...</source>
-        <translation>&amp;COM-Anschluss...</translation>
+        <translation>&amp;COM-Anschluss…</translation>
     </message>
     <message>
         <source>&amp;Language</source>
@@ -1017,11 +1021,11 @@
     </message>
     <message>
         <source>Only this event; the places that were touched before it are shown with it</source>
-        <translation>Nur dieses Ereignis; mit ihm erscheinen die Orte, die davor berührt wurden</translation>
+        <translation>Nur dieses Ereignis, zusammen mit den davor erfassten Orten</translation>
     </message>
     <message>
         <source>Only touches made while this site was the last one touched</source>
-        <translation>Nur Erfassungen, während dieses Objekt das zuletzt berührte war</translation>
+        <translation>Nur Erfassungen, vor denen zuletzt dieses Objekt erfasst wurde</translation>
     </message>
     <message>
         <source>Sets the range and makes the report at once</source>
@@ -1069,7 +1073,7 @@
     </message>
     <message>
         <source>Show All Tour Points</source>
-        <translation>Alle Kontrollpunkte zeigen</translation>
+        <translation>Alle Punkte zeigen</translation>
     </message>
     <message>
         <source>Only Show Exceptions</source>
@@ -1101,7 +1105,7 @@
     </message>
     <message>
         <source>End Ti&amp;me</source>
-        <translation>E&amp;nde</translation>
+        <translation>E&amp;ndzeit</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1113,7 +1117,7 @@
     </message>
     <message>
         <source>No entry contains this.</source>
-        <translation>Kein Eintrag enthält das.</translation>
+        <translation>Kein Eintrag enthält diesen Text.</translation>
     </message>
     <message>
         <source>All</source>
@@ -1129,7 +1133,7 @@
     </message>
     <message>
         <source>List Incidents for a range of dates and readers</source>
-        <translation>Ereignisse eines Zeitraums und bestimmter Leser</translation>
+        <translation>Ereignisse nach Zeitraum und Leser</translation>
     </message>
     <message>
         <source>Incident Report with Sites</source>
@@ -1137,7 +1141,7 @@
     </message>
     <message>
         <source>List Incidents for a range of dates and readers with sites</source>
-        <translation>Ereignisse eines Zeitraums und bestimmter Leser, mit Objekten</translation>
+        <translation>Ereignisse nach Zeitraum und Leser, mit Objekten</translation>
     </message>
     <message>
         <source>&amp;Readers:</source>
@@ -1169,7 +1173,7 @@
     </message>
     <message>
         <source>No event is defined. A master adds event books on the Setup page.</source>
-        <translation>Es ist kein Ereignis angelegt. Ereignisbücher legt der Einsatzleiter auf der Seite Einrichtung an.</translation>
+        <translation>Es ist kein Ereignis angelegt. Ereignisbücher legt der Einsatzleiter auf der Seite „Einrichtung“ an.</translation>
     </message>
     <message>
         <source>There must be at least one event selected to create a report</source>
@@ -1205,11 +1209,11 @@
     </message>
     <message>
         <source>Incidents And Locations Report</source>
-        <translation>Bericht über Ereignisse und Kontaktstellen</translation>
+        <translation>Ereignisse und Kontrollpunkte</translation>
     </message>
     <message>
         <source>Reader Name</source>
-        <translation>Lesername</translation>
+        <translation>Leser</translation>
     </message>
     <message>
         <source>Incident</source>
@@ -1297,7 +1301,7 @@
     </message>
     <message>
         <source>Sa&amp;me as PC Clock:</source>
-        <translation>&amp;Wie die Uhr des PCs:</translation>
+        <translation>&amp;Wie PC-Uhr:</translation>
     </message>
     <message>
         <source>C&amp;ustom Time</source>
@@ -1381,11 +1385,11 @@
     </message>
     <message>
         <source>The options were set, but the clock was not.</source>
-        <translation>Die Optionen wurden gesetzt, die Uhr aber nicht gestellt.</translation>
+        <translation>Die Signale wurden eingestellt, die Uhr aber nicht gestellt.</translation>
     </message>
     <message>
         <source>The clock was set, but the options were not.</source>
-        <translation>Die Uhr wurde gestellt, die Optionen aber nicht.</translation>
+        <translation>Die Uhr wurde gestellt, die Signale aber nicht eingestellt.</translation>
     </message>
     <message>
         <source>Add New Reader</source>
@@ -1393,7 +1397,7 @@
     </message>
     <message>
         <source>Add New Button</source>
-        <translation>Neuer Kontakt</translation>
+        <translation>Neuer Chip</translation>
     </message>
     <message>
         <source>Button ID:</source>
@@ -1449,7 +1453,7 @@
     </message>
     <message>
         <source>Enter the 6 digit button ID.  This is the last 6 digits visible on the front of the 'Dallas' Key. Valid characters are 0~9 and A~F.</source>
-        <translation>Bitte den sechsstelligen Code eingeben. Es sind die letzten 6 Stellen auf der Vorderseite des Kontakts. Gültig sind 0 bis 9 und A bis F.</translation>
+        <translation>Bitte den sechsstelligen Code eingeben. Es sind die letzten 6 Stellen auf der Vorderseite des Chips. Gültig sind 0 bis 9 und A bis F.</translation>
     </message>
     <message>
         <source>Illegal Value</source>
@@ -1473,7 +1477,7 @@
     </message>
     <message>
         <source>The reader did not report its firmware version.</source>
-        <translation>Der Leser nennt keine Firmware-Version.</translation>
+        <translation>Der Leser hat keine Firmware-Version gemeldet.</translation>
     </message>
     <message>
         <source>Put the reader into the docking station and read its ID.</source>
@@ -1481,7 +1485,7 @@
     </message>
     <message>
         <source>Touch the reader in the docking station with the new button, or enter its ID by hand.</source>
-        <translation>Den Leser in der Dockingstation mit dem neuen Kontakt berühren oder den Code von Hand eingeben.</translation>
+        <translation>Den Leser in der Dockingstation mit dem neuen Chip berühren oder den Code von Hand eingeben.</translation>
     </message>
     <message>
         <source>Only the master may do this.</source>
@@ -1565,7 +1569,7 @@
     </message>
     <message>
         <source>Buttons</source>
-        <translation>Kontakte</translation>
+        <translation>Chips</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -1585,7 +1589,7 @@
     </message>
     <message>
         <source>&amp;Minutes since the previous point</source>
-        <translation>&amp;Minuten seit dem vorigen Kontrollpunkt</translation>
+        <translation>&amp;Minuten seit dem vorigen Punkt</translation>
     </message>
     <message>
         <source>Select Tour to copy</source>
@@ -1613,19 +1617,19 @@
     </message>
     <message>
         <source>A&amp;vailable Locations</source>
-        <translation>&amp;Verfügbare Kontaktstellen</translation>
+        <translation>&amp;Verfügbare Kontrollpunkte</translation>
     </message>
     <message>
         <source>Available Locations</source>
-        <translation>Verfügbare Kontaktstellen</translation>
+        <translation>Verfügbare Kontrollpunkte</translation>
     </message>
     <message>
         <source>Current T&amp;our Locations</source>
-        <translation>&amp;Kontrollpunkte des Rundgangs</translation>
+        <translation>&amp;Punkte des Rundgangs</translation>
     </message>
     <message>
         <source>Current Tour Locations</source>
-        <translation>Kontrollpunkte des Rundgangs</translation>
+        <translation>Punkte des Rundgangs</translation>
     </message>
     <message>
         <source>&amp;Add -&gt;</source>
@@ -1661,7 +1665,7 @@
     </message>
     <message>
         <source>Location Name</source>
-        <translation>Kontaktstelle</translation>
+        <translation>Kontrollpunkt</translation>
     </message>
     <message>
         <source>Desc</source>
@@ -1669,11 +1673,11 @@
     </message>
     <message>
         <source>Location</source>
-        <translation>Kontaktstelle</translation>
+        <translation>Kontrollpunkt</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation>&amp;Kontaktstelle</translation>
+        <translation>&amp;Kontrollpunkt</translation>
     </message>
     <message>
         <source>Add New User</source>
@@ -1681,7 +1685,7 @@
     </message>
     <message>
         <source>Add New Location</source>
-        <translation>Neue Kontaktstelle</translation>
+        <translation>Neuer Kontrollpunkt</translation>
     </message>
     <message>
         <source>Add New Event</source>
@@ -1693,35 +1697,35 @@
     </message>
     <message>
         <source>No sites yet. A site is a place with location buttons. Press Add for a new one, then Edit to give it its buttons.</source>
-        <translation>Noch keine Objekte. Ein Objekt ist ein Ort mit Kontaktstellen. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Kontaktstellen zuordnen.</translation>
+        <translation>Noch keine Objekte. Ein Objekt ist ein Ort mit Kontrollpunkten. Mit „Neu“ ein Objekt anlegen, dann mit „Bearbeiten“ die Chips der Kontrollpunkte anlegen.</translation>
     </message>
     <message>
         <source>No event books yet. The buttons of an event book stand for incidents. Press Add for a new one, then Edit to give it its buttons.</source>
-        <translation>Noch keine Ereignisbücher. Die Kontakte eines Ereignisbuchs stehen für Ereignisse. Mit „Neu“ eines anlegen, dann mit „Bearbeiten“ die Kontakte zuordnen.</translation>
+        <translation>Noch keine Ereignisbücher. Jeder Chip eines Ereignisbuchs steht für ein Ereignis. Mit „Neu“ ein Buch anlegen, dann mit „Bearbeiten“ die Chips anlegen.</translation>
     </message>
     <message>
         <source>No tours yet. Press Add for a new one, then Edit to choose its locations.</source>
-        <translation>Noch keine Rundgänge. Mit „Neu“ einen anlegen, dann mit „Bearbeiten“ die Kontaktstellen wählen.</translation>
+        <translation>Noch keine Rundgänge. Mit „Neu“ einen Rundgang anlegen, dann mit „Bearbeiten“ die Kontrollpunkte wählen.</translation>
     </message>
     <message>
         <source>No readers yet. Put a reader into the docking station and press Add. Without a docking station no reader can be added.</source>
-        <translation>Noch keine Leser. Einen Leser in die Dockingstation einsetzen und „Neu“ drücken. Ohne Dockingstation geht das nicht.</translation>
+        <translation>Noch keine Leser. Einen Leser in die Dockingstation einsetzen und „Neu“ drücken. Ohne Dockingstation lässt sich kein Leser anlegen.</translation>
     </message>
     <message>
         <source>No buttons yet. Press Add, then touch the reader in the docking station with a button.</source>
-        <translation>Noch keine Kontakte. „Neu“ drücken, dann mit einem Kontakt den Leser in der Dockingstation berühren.</translation>
+        <translation>Noch keine Chips. „Neu“ drücken, dann den Leser in der Dockingstation mit einem Chip berühren.</translation>
     </message>
     <message>
         <source>No buttons yet. A new button is read at the docking station, which is not connected.</source>
-        <translation>Noch keine Kontakte. Ein neuer Kontakt wird an der Dockingstation gelesen, und die ist nicht verbunden.</translation>
+        <translation>Noch keine Chips. Neue Chips werden an der Dockingstation gelesen. Sie ist nicht verbunden.</translation>
     </message>
     <message>
         <source>This site has no location buttons yet. Add them on the Setup page: select the site and press Edit.</source>
-        <translation>Dieses Objekt hat noch keine Kontaktstellen. Sie werden in der Einrichtung angelegt: das Objekt wählen und „Bearbeiten“ drücken.</translation>
+        <translation>Dieses Objekt hat noch keine Kontrollpunkte. Sie werden auf der Seite „Einrichtung“ angelegt: das Objekt wählen und „Bearbeiten“ drücken.</translation>
     </message>
     <message>
         <source>The tour has no points yet. Select a location in the other list and press Add, in the order of the tour.</source>
-        <translation>Der Rundgang hat noch keine Kontrollpunkte. Kontaktstellen in der Reihenfolge des Rundgangs wählen und „Hinzufügen“ drücken.</translation>
+        <translation>Der Rundgang hat noch keine Punkte. In der anderen Liste die Kontrollpunkte in der Reihenfolge des Rundgangs wählen und jeweils „Hinzufügen“ drücken.</translation>
     </message>
     <message>
         <source>Shows only the rows that contain this text (Ctrl+F).</source>
@@ -1733,7 +1737,7 @@
     </message>
     <message>
         <source>For the first point: the minutes since the start of the tour.</source>
-        <translation>Beim ersten Kontrollpunkt: die Minuten seit dem Beginn des Rundgangs.</translation>
+        <translation>Beim ersten Punkt: die Minuten seit dem Beginn des Rundgangs.</translation>
     </message>
     <message>
         <source>&quot;%0:s&quot; will be lost.</source>
@@ -1741,15 +1745,15 @@
     </message>
     <message>
         <source>&quot;%0:s&quot; and its buttons will be lost.</source>
-        <translation>„%0:s“ und die zugehörigen Kontakte gehen verloren.</translation>
+        <translation>„%0:s“ und die zugehörigen Chips gehen verloren.</translation>
     </message>
     <message>
         <source>&quot;%0:s&quot; and its points will be lost.</source>
-        <translation>„%0:s“ und alle Kontrollpunkte gehen verloren.</translation>
+        <translation>„%0:s“ und alle zugehörigen Punkte gehen verloren.</translation>
     </message>
     <message>
         <source>&quot;%0:s&quot; will be lost. Touches that are already downloaded are kept.</source>
-        <translation>„%0:s“ geht verloren. Bereits übertragene Erfassungen bleiben erhalten.</translation>
+        <translation>„%0:s“ geht verloren. Bereits ausgelesene Erfassungen bleiben erhalten.</translation>
     </message>
     <message>
         <source>The name could not be saved. Nothing was changed.</source>
@@ -1761,7 +1765,7 @@
     </message>
     <message>
         <source>Do you want to save it?</source>
-        <translation>Soll es gespeichert werden?</translation>
+        <translation>Trotzdem speichern?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this item?</source>
@@ -1785,7 +1789,7 @@
     </message>
     <message>
         <source>Your changes have not been saved. Discard them?</source>
-        <translation>Die Änderungen sind nicht gespeichert. Verwerfen?</translation>
+        <translation>Die Änderungen sind nicht gespeichert. Sollen sie verworfen werden?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete it?</source>
@@ -1793,7 +1797,7 @@
     </message>
     <message>
         <source>The selected group contains sub-items</source>
-        <translation>Die gewählte Gruppe enthält Kontakte.</translation>
+        <translation>Die gewählte Gruppe enthält Chips.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this reader?</source>
@@ -1801,7 +1805,7 @@
     </message>
     <message>
         <source>You must add at least one location before you can define a tour</source>
-        <translation>Bevor ein Rundgang festgelegt werden kann, muss es mindestens eine Kontaktstelle geben</translation>
+        <translation>Vor dem ersten Rundgang muss mindestens ein Kontrollpunkt angelegt sein</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this tour?</source>
@@ -1809,15 +1813,15 @@
     </message>
     <message>
         <source>The selected Tour contains data.</source>
-        <translation>Der gewählte Rundgang enthält Daten.</translation>
+        <translation>Der gewählte Rundgang enthält Punkte.</translation>
     </message>
     <message>
         <source>Cannot find any Tour Points to copy</source>
-        <translation>Der Rundgang hat keine Kontrollpunkte zum Kopieren</translation>
+        <translation>Der Rundgang hat keine Punkte zum Kopieren</translation>
     </message>
     <message>
         <source>Cannot assign two sequential tour points with the same location</source>
-        <translation>Zwei Kontrollpunkte nacheinander dürfen nicht dieselbe Kontaktstelle haben</translation>
+        <translation>Derselbe Kontrollpunkt darf nicht zweimal direkt nacheinander stehen</translation>
     </message>
     <message>
         <source>The tolerance value can only range from 0 to 59 minutes</source>
@@ -1829,15 +1833,15 @@
     </message>
     <message>
         <source>Only valid numbers from 0 to 1439 can be entered</source>
-        <translation>Nur Zahlen von 0 bis 1439 sind gültig</translation>
+        <translation>Nur ganze Zahlen von 0 bis 1439 sind gültig</translation>
     </message>
     <message>
         <source>The docking station is no longer connected. Enter the ID by hand, or go to the home page to connect again.</source>
-        <translation>Die Dockingstation ist nicht mehr erreichbar. Den Code von Hand eingeben oder zur Startseite gehen und neu verbinden.</translation>
+        <translation>Die Dockingstation ist nicht mehr verbunden. Den Code von Hand eingeben oder zur Startseite gehen und neu verbinden.</translation>
     </message>
     <message>
         <source>&amp;Archive Events</source>
-        <translation>Ereignisse &amp;archivieren</translation>
+        <translation>Erfassungen &amp;archivieren</translation>
     </message>
     <message>
         <source>&amp;Backup</source>
@@ -1888,7 +1892,7 @@
         <translation>Über</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Sie dürfen dieses Programm benutzen, ändern und weitergeben, solange der Lizenztext beiliegt.</translation>
     </message>
     <message>
@@ -1896,8 +1900,8 @@
         <translation>Es wird keine Gewähr übernommen.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Eine Beschreibung des Programms finden Sie unter Hilfe, Inhalt (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Eine Beschreibung des Programms finden Sie unter Hilfe, Inhalt.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>
@@ -1913,7 +1917,7 @@
     </message>
     <message>
         <source>This folder does not exist. Please choose another one.</source>
-        <translation>Diesen Ordner gibt es nicht. Bitte einen anderen wählen.</translation>
+        <translation>Dieser Ordner ist nicht vorhanden. Bitte einen anderen wählen.</translation>
     </message>
     <message>
         <source>A file name can have at most 100 characters.</source>
@@ -1953,7 +1957,7 @@
     </message>
     <message>
         <source>The copy does not have the rows of the database.</source>
-        <translation>Die Kopie hat nicht die Zeilen der Datenbank.</translation>
+        <translation>Die Kopie enthält nicht dieselben Zeilen wie die Datenbank.</translation>
     </message>
     <message>
         <source>The database was not copied.</source>
@@ -1965,11 +1969,11 @@
     </message>
     <message>
         <source>The program itself uses this file. Please choose another filename.</source>
-        <translation>Diese Datei benutzt das Programm selbst. Bitte einen anderen Dateinamen wählen.</translation>
+        <translation>Das Programm selbst benutzt diese Datei. Bitte einen anderen Dateinamen wählen.</translation>
     </message>
     <message>
         <source>The file or its folder does not exist.</source>
-        <translation>Die Datei oder ihren Ordner gibt es nicht.</translation>
+        <translation>Die Datei oder ihr Ordner ist nicht vorhanden.</translation>
     </message>
     <message>
         <source>Removed:</source>
@@ -1985,11 +1989,11 @@
     </message>
     <message>
         <source>You do not have permission to read this file.</source>
-        <translation>Sie dürfen diese Datei nicht lesen.</translation>
+        <translation>Für diese Datei fehlt das Leserecht.</translation>
     </message>
     <message>
         <source>It is not a database of this program, or it is damaged.</source>
-        <translation>Sie ist keine Datenbank dieses Programms, oder sie ist beschädigt.</translation>
+        <translation>Die Datei ist keine Datenbank dieses Programms oder beschädigt.</translation>
     </message>
     <message>
         <source>The database is damaged:</source>
@@ -1997,19 +2001,19 @@
     </message>
     <message>
         <source>Missing:</source>
-        <translation>Es fehlt:</translation>
+        <translation>Nicht vorhanden:</translation>
     </message>
     <message>
         <source>Buttons whose group does not exist:</source>
-        <translation>Knöpfe, deren Gruppe es nicht gibt:</translation>
+        <translation>Chips, deren Gruppe es nicht gibt:</translation>
     </message>
     <message>
         <source>Tour points whose tour does not exist:</source>
-        <translation>Tourpunkte, deren Tour es nicht gibt:</translation>
+        <translation>Punkte, deren Rundgang es nicht gibt:</translation>
     </message>
     <message>
         <source>Tour points whose button does not exist:</source>
-        <translation>Tourpunkte, deren Knopf es nicht gibt:</translation>
+        <translation>Punkte, deren Chip es nicht gibt:</translation>
     </message>
     <message>
         <source>Save As</source>
@@ -2021,15 +2025,15 @@
     </message>
     <message>
         <source>Archive Events</source>
-        <translation>Ereignisse archivieren</translation>
+        <translation>Erfassungen archivieren</translation>
     </message>
     <message>
         <source>Choose the first and the last day. Their events are moved into a file and deleted from the database. They cannot be brought back from the file.</source>
-        <translation>Bitte den ersten und den letzten Tag wählen. Ihre Ereignisse werden in eine Datei verschoben und aus der Datenbank gelöscht. Aus der Datei lassen sie sich nicht zurückholen.</translation>
+        <translation>Bitte den ersten und den letzten Tag wählen. Die Erfassungen dieser Zeit werden in eine Datei verschoben und aus der Datenbank gelöscht. Aus der Datei lassen sie sich nicht zurückholen.</translation>
     </message>
     <message>
         <source>Warning: This action will permanently delete the events from the database.</source>
-        <translation>Warnung: Diese Aktion löscht die Ereignisse endgültig aus der Datenbank.</translation>
+        <translation>Warnung: Die Erfassungen werden endgültig aus der Datenbank gelöscht.</translation>
     </message>
     <message>
         <source>Select location of backup database file</source>
@@ -2041,11 +2045,11 @@
     </message>
     <message>
         <source>This file is the database itself. Please choose a backup of it.</source>
-        <translation>Diese Datei ist die Datenbank selbst. Bitte eine Sicherung von ihr wählen.</translation>
+        <translation>Diese Datei ist die Datenbank selbst. Bitte eine Sicherung wählen.</translation>
     </message>
     <message>
         <source>Warning: This action will delete the existing database. You will loose ALL data in the existing database.</source>
-        <translation>Warnung: Diese Aktion löscht die vorhandene Datenbank. ALLE Daten der vorhandenen Datenbank gehen verloren.</translation>
+        <translation>Warnung: Die vorhandene Datenbank wird gelöscht. ALLE Daten darin gehen verloren.</translation>
     </message>
     <message>
         <source>Are you sure you want to continue?</source>
@@ -2053,35 +2057,35 @@
     </message>
     <message>
         <source>There are no stored events within the dates you entered.</source>
-        <translation>In diesem Zeitraum sind keine Ereignisse gespeichert.</translation>
+        <translation>In diesem Zeitraum sind keine Erfassungen gespeichert.</translation>
     </message>
     <message>
         <source>File Save Error: Archive Not Saved.  Please Try again.</source>
-        <translation>Fehler beim Speichern: Das Archiv wurde nicht gespeichert.  Bitte noch einmal versuchen.</translation>
+        <translation>Fehler beim Speichern: Das Archiv wurde nicht gespeichert. Bitte noch einmal versuchen.</translation>
     </message>
     <message>
         <source>Events Archived Successfully</source>
-        <translation>Die Ereignisse wurden archiviert</translation>
+        <translation>Die Erfassungen wurden archiviert</translation>
     </message>
     <message>
         <source>Number of Events =</source>
-        <translation>Zahl der Ereignisse =</translation>
+        <translation>Zahl der Erfassungen:</translation>
     </message>
     <message>
         <source>FileName = </source>
-        <translation>Dateiname = </translation>
+        <translation>Datei:</translation>
     </message>
     <message>
         <source>The events are written to the file and then deleted from the database.</source>
-        <translation>Die Ereignisse werden in die Datei geschrieben und dann aus der Datenbank gelöscht.</translation>
+        <translation>Die Erfassungen werden in die Datei geschrieben und dann aus der Datenbank gelöscht.</translation>
     </message>
     <message>
         <source>%0:s events were written, but the database deleted %1:s. Nothing was archived.</source>
-        <translation>%0:s Ereignisse wurden geschrieben, aber die Datenbank löschte %1:s. Es wurde nichts archiviert.</translation>
+        <translation>In die Datei geschriebene Erfassungen: %0:s, aus der Datenbank gelöschte: %1:s. Weil das nicht übereinstimmt, wurde nichts archiviert.</translation>
     </message>
     <message>
         <source>The events were written to %0:s, but they are still in the database: %1:s</source>
-        <translation>Die Ereignisse wurden in die Datei %0:s geschrieben, sind aber noch in der Datenbank: %1:s</translation>
+        <translation>Die Erfassungen wurden in die Datei %0:s geschrieben, sind aber noch in der Datenbank: %1:s</translation>
     </message>
     <message>
         <source>Restore</source>
@@ -2093,7 +2097,7 @@
     </message>
     <message>
         <source>The database is in use. Waiting until it is free.</source>
-        <translation>Die Datenbank ist in Benutzung. Es wird gewartet, bis sie frei ist.</translation>
+        <translation>Die Datenbank wird benutzt. Das Programm wartet, bis sie frei ist.</translation>
     </message>
     <message>
         <source>Successfully copied the database</source>
@@ -2117,11 +2121,11 @@
     </message>
     <message>
         <source>The chosen file is not a database of this program, its password is different, or it is damaged.</source>
-        <translation>Die gewählte Datei ist keine Datenbank dieses Programms, ihr Kennwort ist ein anderes, oder sie ist beschädigt.</translation>
+        <translation>Die gewählte Datei ist keine Datenbank dieses Programms, hat ein anderes Kennwort oder ist beschädigt.</translation>
     </message>
     <message>
         <source>The chosen file is not a complete database of this program. It lacks %0:s.</source>
-        <translation>Die gewählte Datei ist keine vollständige Datenbank dieses Programms. Es fehlen: %0:s.</translation>
+        <translation>Die gewählte Datei ist keine vollständige Datenbank dieses Programms. Nicht vorhanden: %0:s.</translation>
     </message>
     <message>
         <source>The chosen file is damaged: %0:s</source>

@@ -52,15 +52,15 @@
         <translation>El archivo no existe.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>La carpeta %0:s no existe. Créela o indique otra en WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>No tiene permiso para escribir en la carpeta %0:s. Solicítelo o indique otra carpeta en WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Todavía no hay ninguna base de datos. Inicie una vez el programa Wardlock, que la creará.</translation>
     </message>
     <message>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>not downloaded or not walked</source>
-        <translation>no descargada o no realizada</translation>
+        <translation>no descargada o no hecha</translation>
     </message>
     <message>
         <source>On time</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Data Readings = </source>
-        <translation>Lecturas = </translation>
+        <translation>Lecturas: </translation>
     </message>
     <message>
         <source>The Reader was empty</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>Open the dialog of the selected report</source>
-        <translation>Abrir la ventana del informe seleccionado</translation>
+        <translation>Abre la ventana del informe seleccionado</translation>
     </message>
     <message>
         <source>Report Name</source>
@@ -564,7 +564,7 @@
         <translation>No se puede mostrar la ayuda. Este programa no tiene ninguna ayuda asociada.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 los autores de Wardlock. Software libre con licencia MIT.</translation>
     </message>
     <message>
@@ -638,6 +638,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1017,11 +1021,11 @@
     </message>
     <message>
         <source>Only this event; the places that were touched before it are shown with it</source>
-        <translation>Solo esta incidencia, con los puntos de control leídos antes de ella</translation>
+        <translation>Solo esta incidencia, con los puntos de control visitados antes de ella</translation>
     </message>
     <message>
         <source>Only touches made while this site was the last one touched</source>
-        <translation>Solo las lecturas hechas mientras este recinto era el último leído</translation>
+        <translation>Solo las lecturas hechas mientras este recinto era el último visitado</translation>
     </message>
     <message>
         <source>Sets the range and makes the report at once</source>
@@ -1481,7 +1485,7 @@
     </message>
     <message>
         <source>Touch the reader in the docking station with the new button, or enter its ID by hand.</source>
-        <translation>Con el lector en la base de descarga, acérquele el nuevo botón hasta tocarlo, o introduzca su código a mano.</translation>
+        <translation>Toque con el botón nuevo el lector colocado en la base de descarga, o introduzca el código a mano.</translation>
     </message>
     <message>
         <source>Only the master may do this.</source>
@@ -1717,7 +1721,7 @@
     </message>
     <message>
         <source>This site has no location buttons yet. Add them on the Setup page: select the site and press Edit.</source>
-        <translation>Este recinto todavía no tiene puntos de control. Se añaden en la página Configuración: seleccione el recinto y pulse «Modificar».</translation>
+        <translation>Este recinto aún no tiene puntos de control. Añádalos en la página Configuración: seleccione el recinto y pulse «Modificar».</translation>
     </message>
     <message>
         <source>The tour has no points yet. Select a location in the other list and press Add, in the order of the tour.</source>
@@ -1888,7 +1892,7 @@
         <translation>Acerca de</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Puede usar, modificar y distribuir este programa, siempre que lo acompañe el texto de la licencia.</translation>
     </message>
     <message>
@@ -1896,8 +1900,8 @@
         <translation>Se entrega sin ninguna garantía.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Encontrará una descripción del programa en Ayuda, Contenido (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Encontrará una descripción del programa en Ayuda, Contenido.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>
@@ -2057,7 +2061,7 @@
     </message>
     <message>
         <source>File Save Error: Archive Not Saved.  Please Try again.</source>
-        <translation>Error al guardar: el archivo de lecturas no se ha guardado. Vuelva a intentarlo.</translation>
+        <translation>Error al guardar: las lecturas no se han archivado. Vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>Events Archived Successfully</source>
@@ -2065,11 +2069,11 @@
     </message>
     <message>
         <source>Number of Events =</source>
-        <translation>Número de lecturas =</translation>
+        <translation>Número de lecturas:</translation>
     </message>
     <message>
         <source>FileName = </source>
-        <translation>Nombre de archivo = </translation>
+        <translation>Nombre de archivo: </translation>
     </message>
     <message>
         <source>The events are written to the file and then deleted from the database.</source>
@@ -2105,7 +2109,7 @@
     </message>
     <message>
         <source>Please restart the program to continue.</source>
-        <translation>Vuelva a iniciarlo para continuar.</translation>
+        <translation>Vuelva a iniciar el programa para continuar.</translation>
     </message>
     <message>
         <source>The database was not restored. It is as it was before.</source>

@@ -52,15 +52,15 @@
         <translation>Le fichier n’existe pas.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Le dossier %0:s n’existe pas. Veuillez le créer, ou en indiquer un autre dans WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Les droits d’écriture manquent pour le dossier %0:s. Veuillez les demander, ou indiquer un autre dossier dans WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Il n’y a pas encore de base de données. Veuillez lancer une fois le programme Wardlock, qui en crée une.</translation>
     </message>
     <message>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>none yet</source>
-        <translation>aucun jusqu’ici</translation>
+        <translation>aucun pour l’instant</translation>
     </message>
     <message>
         <source>Tours of the last 24 hours</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>not downloaded or not walked</source>
-        <translation>non déchargée ou non effectuée</translation>
+        <translation>non déchargée ou non faite</translation>
     </message>
     <message>
         <source>On time</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Data Readings = </source>
-        <translation>Pointages = </translation>
+        <translation>Pointages : </translation>
     </message>
     <message>
         <source>The Reader was empty</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>Open the dialog of the selected report</source>
-        <translation>Ouvrir la fenêtre du rapport sélectionné</translation>
+        <translation>Ouvre la fenêtre du rapport sélectionné</translation>
     </message>
     <message>
         <source>Report Name</source>
@@ -437,7 +437,7 @@
     </message>
     <message>
         <source>Lists the times and places for a tour</source>
-        <translation>Horaires et points de contrôle d’une ronde</translation>
+        <translation>Heures et points de contrôle d’une ronde</translation>
     </message>
     <message>
         <source>Patrol Schedule Report</source>
@@ -564,7 +564,7 @@
         <translation>Impossible d’afficher l’aide. Ce programme n’est accompagné d’aucune aide.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 les auteurs de Wardlock. Logiciel libre sous licence MIT.</translation>
     </message>
     <message>
@@ -638,6 +638,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s : %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1017,11 +1021,11 @@
     </message>
     <message>
         <source>Only this event; the places that were touched before it are shown with it</source>
-        <translation>Cet événement seulement, avec les points de contrôle pointés avant lui</translation>
+        <translation>Cet événement seulement, avec les points de contrôle visités avant lui</translation>
     </message>
     <message>
         <source>Only touches made while this site was the last one touched</source>
-        <translation>Seulement les pointages effectués tant que ce site était le dernier pointé</translation>
+        <translation>Seulement les pointages effectués tant que ce site était le dernier visité</translation>
     </message>
     <message>
         <source>Sets the range and makes the report at once</source>
@@ -1481,7 +1485,7 @@
     </message>
     <message>
         <source>Touch the reader in the docking station with the new button, or enter its ID by hand.</source>
-        <translation>Touchez la nouvelle pastille avec le lecteur placé dans la station d’accueil, ou saisissez son code à la main.</translation>
+        <translation>Mettez la nouvelle pastille en contact avec le lecteur placé dans la station d’accueil, ou saisissez son code à la main.</translation>
     </message>
     <message>
         <source>Only the master may do this.</source>
@@ -1709,7 +1713,7 @@
     </message>
     <message>
         <source>No buttons yet. Press Add, then touch the reader in the docking station with a button.</source>
-        <translation>Aucune pastille pour l’instant. Cliquez sur « Ajouter », puis touchez une pastille avec le lecteur placé dans la station d’accueil.</translation>
+        <translation>Aucune pastille pour l’instant. Cliquez sur « Ajouter », puis mettez une pastille en contact avec le lecteur placé dans la station d’accueil.</translation>
     </message>
     <message>
         <source>No buttons yet. A new button is read at the docking station, which is not connected.</source>
@@ -1737,19 +1741,19 @@
     </message>
     <message>
         <source>"%0:s" will be lost.</source>
-        <translation>« %0:s » sera perdu.</translation>
+        <translation>« %0:s » ne sera plus récupérable.</translation>
     </message>
     <message>
         <source>"%0:s" and its buttons will be lost.</source>
-        <translation>« %0:s » et ses pastilles seront perdus.</translation>
+        <translation>« %0:s » et ses pastilles ne seront plus récupérables.</translation>
     </message>
     <message>
         <source>"%0:s" and its points will be lost.</source>
-        <translation>« %0:s » et ses points seront perdus.</translation>
+        <translation>« %0:s » et ses points ne seront plus récupérables.</translation>
     </message>
     <message>
         <source>"%0:s" will be lost. Touches that are already downloaded are kept.</source>
-        <translation>« %0:s » sera perdu. Les pointages déjà déchargés sont conservés.</translation>
+        <translation>« %0:s » ne sera plus récupérable. Les pointages déjà déchargés sont conservés.</translation>
     </message>
     <message>
         <source>The name could not be saved. Nothing was changed.</source>
@@ -1849,7 +1853,7 @@
     </message>
     <message>
         <source>Company &amp;Info</source>
-        <translation>&amp;Informations société</translation>
+        <translation>&amp;Informations sur la société</translation>
     </message>
     <message>
         <source>&amp;About </source>
@@ -1857,7 +1861,7 @@
     </message>
     <message>
         <source>Company Info</source>
-        <translation>Informations société</translation>
+        <translation>Informations sur la société</translation>
     </message>
     <message>
         <source>These lines are printed at the head of each report. After the next start, only the first 50 characters of a line are printed.</source>
@@ -1881,14 +1885,14 @@
     </message>
     <message>
         <source>The company info cannot be saved. This file cannot be written:</source>
-        <translation>Les informations société ne peuvent pas être enregistrées. Impossible d’écrire dans ce fichier :</translation>
+        <translation>Les informations sur la société ne peuvent pas être enregistrées. Impossible d’écrire dans ce fichier :</translation>
     </message>
     <message>
         <source>About</source>
         <translation>À propos</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Vous pouvez utiliser, modifier et transmettre ce programme à condition d’y joindre le texte de la licence.</translation>
     </message>
     <message>
@@ -1896,8 +1900,8 @@
         <translation>Il est fourni sans aucune garantie.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Vous trouverez une description du programme sous Aide, Sommaire (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Vous trouverez une description du programme sous Aide, Sommaire.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>
@@ -2065,11 +2069,11 @@
     </message>
     <message>
         <source>Number of Events =</source>
-        <translation>Nombre de pointages =</translation>
+        <translation>Nombre de pointages :</translation>
     </message>
     <message>
         <source>FileName = </source>
-        <translation>Nom du fichier = </translation>
+        <translation>Nom du fichier : </translation>
     </message>
     <message>
         <source>The events are written to the file and then deleted from the database.</source>

@@ -52,15 +52,15 @@
         <translation>Il file non esiste.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>La cartella %0:s non esiste. Crearla, oppure indicarne un’altra in WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Manca l’autorizzazione a scrivere nella cartella %0:s. Richiederla, oppure indicare un’altra cartella in WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Non esiste ancora un database. Avviare una volta il programma Wardlock, che ne crea uno.</translation>
     </message>
     <message>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>The User Name / Password are incorrect. Please try again.</source>
-        <translation>Il nome utente o la password non è corretta. Riprovare.</translation>
+        <translation>Nome utente o password non corretti. Riprovare.</translation>
     </message>
     <message>
         <source>Could not open the com port.</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>not downloaded or not walked</source>
-        <translation>non scaricata o non effettuata</translation>
+        <translation>non scaricata o non fatta</translation>
     </message>
     <message>
         <source>On time</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Data Readings = </source>
-        <translation>Letture = </translation>
+        <translation>Letture: </translation>
     </message>
     <message>
         <source>The Reader was empty</source>
@@ -564,7 +564,7 @@
         <translation>Impossibile visualizzare la guida. A questo programma non è associata alcuna guida.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 gli autori di Wardlock. Software libero con licenza MIT.</translation>
     </message>
     <message>
@@ -638,6 +638,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -1017,11 +1021,11 @@
     </message>
     <message>
         <source>Only this event; the places that were touched before it are shown with it</source>
-        <translation>Solo questo evento, con i punti di controllo letti prima</translation>
+        <translation>Solo questo evento, con i punti di controllo visitati prima</translation>
     </message>
     <message>
         <source>Only touches made while this site was the last one touched</source>
-        <translation>Solo le letture fatte mentre questo sito era l’ultimo letto</translation>
+        <translation>Solo le letture fatte mentre questo sito era l’ultimo visitato</translation>
     </message>
     <message>
         <source>Sets the range and makes the report at once</source>
@@ -1481,7 +1485,7 @@
     </message>
     <message>
         <source>Touch the reader in the docking station with the new button, or enter its ID by hand.</source>
-        <translation>Toccare il nuovo bottone con il lettore inserito nella base di scarico, oppure inserirne il codice a mano.</translation>
+        <translation>Toccare con il nuovo bottone il lettore inserito nella base di scarico, oppure inserire il codice a mano.</translation>
     </message>
     <message>
         <source>Only the master may do this.</source>
@@ -1709,7 +1713,7 @@
     </message>
     <message>
         <source>No buttons yet. Press Add, then touch the reader in the docking station with a button.</source>
-        <translation>Ancora nessun bottone. Premere «Aggiungi», poi toccare un bottone con il lettore inserito nella base di scarico.</translation>
+        <translation>Ancora nessun bottone. Premere «Aggiungi», poi toccare con un bottone il lettore inserito nella base di scarico.</translation>
     </message>
     <message>
         <source>No buttons yet. A new button is read at the docking station, which is not connected.</source>
@@ -1737,19 +1741,19 @@
     </message>
     <message>
         <source>"%0:s" will be lost.</source>
-        <translation>«%0:s» andrà perso.</translation>
+        <translation>«%0:s» non sarà più recuperabile.</translation>
     </message>
     <message>
         <source>"%0:s" and its buttons will be lost.</source>
-        <translation>«%0:s» e i suoi bottoni andranno persi.</translation>
+        <translation>«%0:s» e i suoi bottoni non saranno più recuperabili.</translation>
     </message>
     <message>
         <source>"%0:s" and its points will be lost.</source>
-        <translation>«%0:s» e i suoi punti andranno persi.</translation>
+        <translation>«%0:s» e i suoi punti non saranno più recuperabili.</translation>
     </message>
     <message>
         <source>"%0:s" will be lost. Touches that are already downloaded are kept.</source>
-        <translation>«%0:s» andrà perso. Le letture già scaricate vengono conservate.</translation>
+        <translation>«%0:s» non sarà più recuperabile. Le letture già scaricate vengono conservate.</translation>
     </message>
     <message>
         <source>The name could not be saved. Nothing was changed.</source>
@@ -1761,7 +1765,7 @@
     </message>
     <message>
         <source>Do you want to save it?</source>
-        <translation>Salvarla?</translation>
+        <translation>Salvarla comunque?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this item?</source>
@@ -1888,7 +1892,7 @@
         <translation>Informazioni</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>È consentito usare, modificare e distribuire questo programma, purché sia accompagnato dal testo della licenza.</translation>
     </message>
     <message>
@@ -1896,8 +1900,8 @@
         <translation>Viene fornito senza alcuna garanzia.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Una descrizione del programma si trova in Guida, Sommario (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Una descrizione del programma si trova in Guida, Sommario.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>
@@ -2049,7 +2053,7 @@
     </message>
     <message>
         <source>Are you sure you want to continue?</source>
-        <translation>Continuare comunque?</translation>
+        <translation>Continuare davvero?</translation>
     </message>
     <message>
         <source>There are no stored events within the dates you entered.</source>
@@ -2065,11 +2069,11 @@
     </message>
     <message>
         <source>Number of Events =</source>
-        <translation>Numero di letture =</translation>
+        <translation>Numero di letture:</translation>
     </message>
     <message>
         <source>FileName = </source>
-        <translation>Nome del file = </translation>
+        <translation>Nome del file: </translation>
     </message>
     <message>
         <source>The events are written to the file and then deleted from the database.</source>

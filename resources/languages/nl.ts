@@ -5,7 +5,7 @@
     <name>Wardlock</name>
     <message>
         <source>The database is damaged. Some of its events can no longer be read.</source>
-        <translation>De database is beschadigd. Een deel van de gebeurtenissen is niet meer leesbaar.</translation>
+        <translation>De database is beschadigd. Een deel van de registraties is niet meer leesbaar.</translation>
     </message>
     <message>
         <source>Please restore a backup. Until then, no reader is erased.</source>
@@ -52,15 +52,15 @@
         <translation>Het bestand bestaat niet.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>De map %0:s bestaat niet. Maak deze aan of geef in WARDLOCK_HOME een andere map op.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Schrijfrechten voor de map %0:s ontbreken. Vraag deze rechten aan of geef in WARDLOCK_HOME een andere map op.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Er is nog geen database. Start het programma Wardlock één keer: dat maakt er een aan.</translation>
     </message>
     <message>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>%0:s is gone. Plug it in again.</source>
-        <translation>%0:s is losgekoppeld. Sluit het weer aan.</translation>
+        <translation>%0:s is niet meer aangesloten. Sluit het apparaat weer aan.</translation>
     </message>
     <message>
         <source>Last download</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>none yet</source>
-        <translation>nog niet</translation>
+        <translation>nog niets</translation>
     </message>
     <message>
         <source>Tours of the last 24 hours</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Add the buttons of the site</source>
-        <translation>De knoppen van het object toevoegen</translation>
+        <translation>De chips van het object toevoegen</translation>
     </message>
     <message>
         <source>Add a reader</source>
@@ -197,15 +197,15 @@
     </message>
     <message>
         <source>The reader was taken out of the station. It was not erased.</source>
-        <translation>De lezer is uit het dockingstation genomen. Hij is niet gewist.</translation>
+        <translation>De lezer is uit het dockingstation genomen en is niet gewist.</translation>
     </message>
     <message>
         <source>Another reader is in the station. It was not erased.</source>
-        <translation>In het dockingstation zit een andere lezer. Die is niet gewist.</translation>
+        <translation>In het dockingstation zit een andere lezer. Deze is niet gewist.</translation>
     </message>
     <message>
         <source>The reader has been used since it was read. It was not erased.</source>
-        <translation>De lezer is na het uitlezen nog gebruikt. Hij is niet gewist.</translation>
+        <translation>De lezer is na het uitlezen nog gebruikt en is niet gewist.</translation>
     </message>
     <message>
         <source>The reader's memory continues after its end mark. The touches that were read are stored, but the reader was not erased.</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Data Readings = </source>
-        <translation>Aantal registraties = </translation>
+        <translation>Registraties: </translation>
     </message>
     <message>
         <source>The Reader was empty</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Are you sure you want to clear the reader? </source>
-        <translation>Moet het geheugen van de lezer echt worden gewist? </translation>
+        <translation>Weet u zeker dat u het geheugen van de lezer wilt wissen? </translation>
     </message>
     <message>
         <source>The reader that was downloaded last:</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>The names of the buttons could not be read from the database. See error.log for the reason.</source>
-        <translation>De namen van de knoppen konden niet uit de database worden gelezen. De reden staat in error.log.</translation>
+        <translation>De namen van de chips konden niet uit de database worden gelezen. De reden staat in error.log.</translation>
     </message>
     <message>
         <source>What the reader sent was not complete or not valid. Please try again.</source>
@@ -349,15 +349,15 @@
     </message>
     <message>
         <source>Ready...</source>
-        <translation>Gereed...</translation>
+        <translation>Gereed…</translation>
     </message>
     <message>
         <source>Opening COM port...</source>
-        <translation>COM-poort wordt geopend...</translation>
+        <translation>COM-poort wordt geopend…</translation>
     </message>
     <message>
         <source>Could Not Open Com </source>
-        <translation>Niet te openen: COM </translation>
+        <translation>Niet te openen: COM</translation>
     </message>
     <message>
         <source>Please try another COM port or check that the COM port is not in use by another program.</source>
@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>Checking Docking Station...</source>
-        <translation>Dockingstation wordt gezocht...</translation>
+        <translation>Dockingstation wordt gezocht…</translation>
     </message>
     <message>
         <source>Failed</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>&amp;Open Report...</source>
-        <translation>Rapport &amp;openen...</translation>
+        <translation>Rapport &amp;openen…</translation>
     </message>
     <message>
         <source>Open the dialog of the selected report</source>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>Tour / Exception Report</source>
-        <translation>Ronde- / afwijkingenrapport</translation>
+        <translation>Ronde-/afwijkingenrapport</translation>
     </message>
     <message>
         <source>Patrol Schedule</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Minutes</source>
-        <translation>Minuten</translation>
+        <translation>min</translation>
     </message>
     <message>
         <source>No.</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>List all the defined buttons</source>
-        <translation>Alle vastgelegde knoppen</translation>
+        <translation>Alle vastgelegde chips</translation>
     </message>
     <message>
         <source>Select the options for the hardware report</source>
@@ -477,11 +477,11 @@
     </message>
     <message>
         <source>Event</source>
-        <translation>Gebeurtenis</translation>
+        <translation>Incident</translation>
     </message>
     <message>
         <source>E&amp;vent</source>
-        <translation>&amp;Gebeurtenis</translation>
+        <translation>&amp;Incident</translation>
     </message>
     <message>
         <source>Locations</source>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>Incidents</source>
-        <translation>Gebeurtenissen</translation>
+        <translation>Incidenten</translation>
     </message>
     <message>
         <source>Hardware Code</source>
@@ -501,11 +501,11 @@
     </message>
     <message>
         <source>A master adds tours on the Setup page.</source>
-        <translation>De beheerder legt rondes vast op de pagina Inrichting.</translation>
+        <translation>De beheerder legt rondes vast op de pagina ‘Beheer’.</translation>
     </message>
     <message>
         <source>A master adds readers on the Setup page.</source>
-        <translation>De beheerder legt lezers vast op de pagina Inrichting.</translation>
+        <translation>De beheerder legt lezers vast op de pagina ‘Beheer’.</translation>
     </message>
     <message>
         <source>You must add at least one tour before this report can be used</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Setup</source>
-        <translation>Inrichting</translation>
+        <translation>Beheer</translation>
     </message>
     <message>
         <source>Number</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>Button Name</source>
-        <translation>Knop</translation>
+        <translation>Chip</translation>
     </message>
     <message>
         <source>Group Name</source>
@@ -564,7 +564,7 @@
         <translation>De help kan niet worden getoond. Bij dit programma hoort geen help.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 de auteurs van Wardlock. Vrije software onder de MIT-licentie.</translation>
     </message>
     <message>
@@ -577,23 +577,23 @@
     </message>
     <message>
         <source>The passwords do not match, please re-enter</source>
-        <translation>De wachtwoorden komen niet overeen, voer ze opnieuw in</translation>
+        <translation>De wachtwoorden komen niet overeen. Voer ze opnieuw in</translation>
     </message>
     <message>
         <source>Opening Database...</source>
-        <translation>Database wordt geopend...</translation>
+        <translation>Database wordt geopend…</translation>
     </message>
     <message>
         <source>Compacting Database...</source>
-        <translation>Database wordt gecomprimeerd...</translation>
+        <translation>Database wordt gecomprimeerd…</translation>
     </message>
     <message>
         <source>Loading Application...</source>
-        <translation>Programma wordt geladen...</translation>
+        <translation>Programma wordt geladen…</translation>
     </message>
     <message>
         <source>Initializing Online Help...</source>
-        <translation>Help wordt voorbereid...</translation>
+        <translation>Help wordt voorbereid…</translation>
     </message>
     <message>
         <source>Error in creating new Tour</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>The tour has no points. A master adds them on the Setup page.</source>
-        <translation>De ronde heeft geen punten. De beheerder legt ze vast op de pagina Inrichting.</translation>
+        <translation>De ronde heeft geen punten. De beheerder legt ze vast op de pagina ‘Beheer’.</translation>
     </message>
     <message>
         <source>This tour does not exist any more, or it cannot be read.</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>OUT OF SEQUENCE</source>
-        <translation>VERKEERDE VOLGORDE</translation>
+        <translation>BUITEN VOLGORDE</translation>
     </message>
     <message>
         <source>%0:s points: %1:s</source>
@@ -638,6 +638,10 @@
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
+    </message>
+    <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
     </message>
     <message>
         <source>%0:s on time</source>
@@ -677,7 +681,7 @@
     </message>
     <message>
         <source>EVENT</source>
-        <translation>GEBEURTENIS</translation>
+        <translation>INCIDENT</translation>
     </message>
     <message>
         <source>Generating Report</source>
@@ -701,7 +705,7 @@
     </message>
     <message>
         <source>Please check these choices, and whether the reader has been downloaded.</source>
-        <translation>Controleer deze keuzes en of de lezer is uitgelezen.</translation>
+        <translation>Controleer deze keuzes. Is de lezer uitgelezen?</translation>
     </message>
     <message>
         <source>There is no data to show for these parameters</source>
@@ -717,7 +721,7 @@
     </message>
     <message>
         <source>Lists details of each download to the PC for a reader</source>
-        <translation>Alle keren dat een lezer is uitgelezen</translation>
+        <translation>Alles wat uit een lezer is uitgelezen</translation>
     </message>
     <message>
         <source>Download Time:</source>
@@ -781,7 +785,7 @@
     </message>
     <message>
         <source>Show Events:</source>
-        <translation>Met gebeurtenissen:</translation>
+        <translation>Met incidenten:</translation>
     </message>
     <message>
         <source>Tour Report</source>
@@ -857,7 +861,7 @@
     </message>
     <message>
         <source>Leave the device set to Automatic unless the docking station uses another one.</source>
-        <translation>Laat het apparaat op Automatisch staan, tenzij het dockingstation een ander apparaat gebruikt.</translation>
+        <translation>Laat het apparaat op ‘Automatisch’ staan, tenzij het dockingstation een ander apparaat gebruikt.</translation>
     </message>
     <message>
         <source>&amp;OK</source>
@@ -961,7 +965,7 @@
     </message>
     <message>
         <source>Com &amp;Options...</source>
-        <translation>&amp;COM-poort...</translation>
+        <translation>&amp;COM-poort…</translation>
     </message>
     <message>
         <source>&amp;Language</source>
@@ -1017,11 +1021,11 @@
     </message>
     <message>
         <source>Only this event; the places that were touched before it are shown with it</source>
-        <translation>Alleen deze gebeurtenis, met de plaatsen die ervoor zijn geregistreerd</translation>
+        <translation>Alleen dit incident, met de plaatsen die ervoor zijn geregistreerd</translation>
     </message>
     <message>
         <source>Only touches made while this site was the last one touched</source>
-        <translation>Alleen registraties waarbij dit object als laatste was geregistreerd</translation>
+        <translation>Alleen registraties waarvóór dit object als laatste is geregistreerd</translation>
     </message>
     <message>
         <source>Sets the range and makes the report at once</source>
@@ -1069,7 +1073,7 @@
     </message>
     <message>
         <source>Show All Tour Points</source>
-        <translation>Alle rondepunten tonen</translation>
+        <translation>Alle punten tonen</translation>
     </message>
     <message>
         <source>Only Show Exceptions</source>
@@ -1077,7 +1081,7 @@
     </message>
     <message>
         <source>Include Events</source>
-        <translation>Met gebeurtenissen</translation>
+        <translation>Met incidenten</translation>
     </message>
     <message>
         <source>Also shows the incidents recorded at each point</source>
@@ -1125,19 +1129,19 @@
     </message>
     <message>
         <source>Incident Report</source>
-        <translation>Gebeurtenissenrapport</translation>
+        <translation>Incidentenrapport</translation>
     </message>
     <message>
         <source>List Incidents for a range of dates and readers</source>
-        <translation>Gebeurtenissen per periode en lezer</translation>
+        <translation>Incidenten per periode en lezer</translation>
     </message>
     <message>
         <source>Incident Report with Sites</source>
-        <translation>Gebeurtenissenrapport met objecten</translation>
+        <translation>Incidentenrapport met objecten</translation>
     </message>
     <message>
         <source>List Incidents for a range of dates and readers with sites</source>
-        <translation>Gebeurtenissen per periode en lezer, met objecten</translation>
+        <translation>Incidenten per periode en lezer, met objecten</translation>
     </message>
     <message>
         <source>&amp;Readers:</source>
@@ -1145,11 +1149,11 @@
     </message>
     <message>
         <source>&amp;Events:</source>
-        <translation>&amp;Gebeurtenissen:</translation>
+        <translation>&amp;Incidenten:</translation>
     </message>
     <message>
         <source>Select Incident/s</source>
-        <translation>Gebeurtenissen</translation>
+        <translation>Incidenten kiezen</translation>
     </message>
     <message>
         <source>%0:s [%1:s] -- %2:s</source>
@@ -1161,7 +1165,7 @@
     </message>
     <message>
         <source>An event was deleted meanwhile. Please open the dialog of the report again.</source>
-        <translation>Intussen is een gebeurtenis verwijderd. Open het venster van het rapport opnieuw.</translation>
+        <translation>Intussen is een incident verwijderd. Open het venster van het rapport opnieuw.</translation>
     </message>
     <message>
         <source>No reader is defined.</source>
@@ -1169,15 +1173,15 @@
     </message>
     <message>
         <source>No event is defined. A master adds event books on the Setup page.</source>
-        <translation>Er is geen gebeurtenis vastgelegd. De beheerder legt gebeurtenissenboeken vast op de pagina Inrichting.</translation>
+        <translation>Er is geen incident vastgelegd. De beheerder legt incidentenboeken vast op de pagina ‘Beheer’.</translation>
     </message>
     <message>
         <source>There must be at least one event selected to create a report</source>
-        <translation>Voor het rapport moet minstens één gebeurtenis zijn gekozen</translation>
+        <translation>Voor het rapport moet minstens één incident zijn gekozen</translation>
     </message>
     <message>
         <source>No incidents of this type were recorded</source>
-        <translation>Geen gebeurtenis van deze soort geregistreerd</translation>
+        <translation>Er zijn geen incidenten van deze soort geregistreerd</translation>
     </message>
     <message>
         <source>%0:s, %1:s,  %2:s</source>
@@ -1193,7 +1197,7 @@
     </message>
     <message>
         <source>No event has the code %0:s.</source>
-        <translation>Er is geen gebeurtenis met code %0:s.</translation>
+        <translation>Er is geen incident met code %0:s.</translation>
     </message>
     <message>
         <source>There is no site named %0:s.</source>
@@ -1201,11 +1205,11 @@
     </message>
     <message>
         <source>Select the date and other filters to create the Incident report</source>
-        <translation>Kies de periode en de filters voor het gebeurtenissenrapport</translation>
+        <translation>Kies de periode en de filters voor het incidentenrapport</translation>
     </message>
     <message>
         <source>Incidents And Locations Report</source>
-        <translation>Gebeurtenissen en controlepunten</translation>
+        <translation>Incidenten en controlepunten</translation>
     </message>
     <message>
         <source>Reader Name</source>
@@ -1213,7 +1217,7 @@
     </message>
     <message>
         <source>Incident</source>
-        <translation>Gebeurtenis</translation>
+        <translation>Incident</translation>
     </message>
     <message>
         <source>&amp;Print Preview</source>
@@ -1381,11 +1385,11 @@
     </message>
     <message>
         <source>The options were set, but the clock was not.</source>
-        <translation>De opties zijn ingesteld, maar de klok is niet gelijkgezet.</translation>
+        <translation>De signalen zijn ingesteld, maar de klok is niet gelijkgezet.</translation>
     </message>
     <message>
         <source>The clock was set, but the options were not.</source>
-        <translation>De klok is gelijkgezet, maar de opties zijn niet ingesteld.</translation>
+        <translation>De klok is gelijkgezet, maar de signalen zijn niet ingesteld.</translation>
     </message>
     <message>
         <source>Add New Reader</source>
@@ -1393,15 +1397,15 @@
     </message>
     <message>
         <source>Add New Button</source>
-        <translation>Nieuwe knop</translation>
+        <translation>Nieuwe chip</translation>
     </message>
     <message>
         <source>Button ID:</source>
-        <translation>Knopcode:</translation>
+        <translation>Chipcode:</translation>
     </message>
     <message>
         <source>Button ID</source>
-        <translation>Knopcode</translation>
+        <translation>Chipcode</translation>
     </message>
     <message>
         <source>This Reader ID already exists!</source>
@@ -1449,7 +1453,7 @@
     </message>
     <message>
         <source>Enter the 6 digit button ID.  This is the last 6 digits visible on the front of the 'Dallas' Key. Valid characters are 0~9 and A~F.</source>
-        <translation>Voer de knopcode van 6 tekens in. Dit zijn de laatste 6 tekens op de voorkant van de knop. Geldig zijn 0 t/m 9 en A t/m F.</translation>
+        <translation>Voer de chipcode van 6 tekens in. Dit zijn de laatste 6 tekens op de voorkant van de chip. Geldig zijn 0 t/m 9 en A t/m F.</translation>
     </message>
     <message>
         <source>Illegal Value</source>
@@ -1481,7 +1485,7 @@
     </message>
     <message>
         <source>Touch the reader in the docking station with the new button, or enter its ID by hand.</source>
-        <translation>Houd de nieuwe knop tegen de lezer in het dockingstation, of voer de code met de hand in.</translation>
+        <translation>Houd de nieuwe chip tegen de lezer in het dockingstation of voer de code met de hand in.</translation>
     </message>
     <message>
         <source>Only the master may do this.</source>
@@ -1529,7 +1533,7 @@
     </message>
     <message>
         <source>Event Books</source>
-        <translation>Gebeurtenissenboeken</translation>
+        <translation>Incidentenboeken</translation>
     </message>
     <message>
         <source>Tours</source>
@@ -1549,7 +1553,7 @@
     </message>
     <message>
         <source>Event Book</source>
-        <translation>Gebeurtenissenboek</translation>
+        <translation>Incidentenboek</translation>
     </message>
     <message>
         <source>User Group</source>
@@ -1565,7 +1569,7 @@
     </message>
     <message>
         <source>Buttons</source>
-        <translation>Knoppen</translation>
+        <translation>Chips</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -1685,7 +1689,7 @@
     </message>
     <message>
         <source>Add New Event</source>
-        <translation>Nieuwe gebeurtenis</translation>
+        <translation>Nieuw incident</translation>
     </message>
     <message>
         <source>No Item is selected</source>
@@ -1693,11 +1697,11 @@
     </message>
     <message>
         <source>No sites yet. A site is a place with location buttons. Press Add for a new one, then Edit to give it its buttons.</source>
-        <translation>Nog geen objecten. Een object is een plaats met controlepunten. Kies ‘Nieuw’ om er een vast te leggen en daarna ‘Bewerken’ om de knoppen toe te voegen.</translation>
+        <translation>Nog geen objecten. Een object is een plaats met controlepunten. Kies ‘Nieuw’ om er een vast te leggen en daarna ‘Bewerken’ om de chips toe te voegen.</translation>
     </message>
     <message>
         <source>No event books yet. The buttons of an event book stand for incidents. Press Add for a new one, then Edit to give it its buttons.</source>
-        <translation>Nog geen gebeurtenissenboeken. De knoppen van zo'n boek staan voor gebeurtenissen. Kies ‘Nieuw’ om er een vast te leggen en daarna ‘Bewerken’ om de knoppen toe te voegen.</translation>
+        <translation>Nog geen incidentenboeken. Elke chip van zo'n boek staat voor een incident. Kies ‘Nieuw’ om er een vast te leggen en daarna ‘Bewerken’ om de chips toe te voegen.</translation>
     </message>
     <message>
         <source>No tours yet. Press Add for a new one, then Edit to choose its locations.</source>
@@ -1709,15 +1713,15 @@
     </message>
     <message>
         <source>No buttons yet. Press Add, then touch the reader in the docking station with a button.</source>
-        <translation>Nog geen knoppen. Kies ‘Nieuw’ en houd dan een knop tegen de lezer in het dockingstation.</translation>
+        <translation>Nog geen chips. Kies ‘Nieuw’ en houd dan een chip tegen de lezer in het dockingstation.</translation>
     </message>
     <message>
         <source>No buttons yet. A new button is read at the docking station, which is not connected.</source>
-        <translation>Nog geen knoppen. Een nieuwe knop wordt bij het dockingstation gelezen, en dat is niet verbonden.</translation>
+        <translation>Nog geen chips. Een nieuwe chip wordt via het dockingstation gelezen, maar dat is niet verbonden.</translation>
     </message>
     <message>
         <source>This site has no location buttons yet. Add them on the Setup page: select the site and press Edit.</source>
-        <translation>Dit object heeft nog geen controlepunten. Leg ze vast op de pagina Inrichting: selecteer het object en kies ‘Bewerken’.</translation>
+        <translation>Dit object heeft nog geen controlepunten. Leg ze vast op de pagina ‘Beheer’: selecteer het object en kies ‘Bewerken’.</translation>
     </message>
     <message>
         <source>The tour has no points yet. Select a location in the other list and press Add, in the order of the tour.</source>
@@ -1741,7 +1745,7 @@
     </message>
     <message>
         <source>"%0:s" and its buttons will be lost.</source>
-        <translation>‘%0:s’ en de bijbehorende knoppen gaan verloren.</translation>
+        <translation>‘%0:s’ en de bijbehorende chips gaan verloren.</translation>
     </message>
     <message>
         <source>"%0:s" and its points will be lost.</source>
@@ -1765,7 +1769,7 @@
     </message>
     <message>
         <source>Are you sure you want to delete this item?</source>
-        <translation>Moet dit item echt worden verwijderd?</translation>
+        <translation>Weet u zeker dat u dit item wilt verwijderen?</translation>
     </message>
     <message>
         <source>That name is already used.  Please enter another name.</source>
@@ -1785,31 +1789,31 @@
     </message>
     <message>
         <source>Your changes have not been saved. Discard them?</source>
-        <translation>De wijzigingen zijn niet opgeslagen. Toch sluiten?</translation>
+        <translation>De wijzigingen zijn niet opgeslagen. Wijzigingen negeren?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete it?</source>
-        <translation>Moet deze groep echt worden verwijderd?</translation>
+        <translation>Weet u zeker dat u deze groep wilt verwijderen?</translation>
     </message>
     <message>
         <source>The selected group contains sub-items</source>
-        <translation>De geselecteerde groep bevat knoppen.</translation>
+        <translation>De geselecteerde groep bevat chips.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this reader?</source>
-        <translation>Moet deze lezer echt worden verwijderd?</translation>
+        <translation>Weet u zeker dat u deze lezer wilt verwijderen?</translation>
     </message>
     <message>
         <source>You must add at least one location before you can define a tour</source>
-        <translation>Er moet minstens één controlepunt zijn voordat een ronde kan worden samengesteld</translation>
+        <translation>Voor de eerste ronde moet minstens één controlepunt zijn vastgelegd</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this tour?</source>
-        <translation>Moet deze ronde echt worden verwijderd?</translation>
+        <translation>Weet u zeker dat u deze ronde wilt verwijderen?</translation>
     </message>
     <message>
         <source>The selected Tour contains data.</source>
-        <translation>De geselecteerde ronde bevat gegevens.</translation>
+        <translation>De geselecteerde ronde bevat punten.</translation>
     </message>
     <message>
         <source>Cannot find any Tour Points to copy</source>
@@ -1817,7 +1821,7 @@
     </message>
     <message>
         <source>Cannot assign two sequential tour points with the same location</source>
-        <translation>Twee opeenvolgende rondepunten mogen niet hetzelfde controlepunt hebben</translation>
+        <translation>Hetzelfde controlepunt mag niet twee keer direct na elkaar staan</translation>
     </message>
     <message>
         <source>The tolerance value can only range from 0 to 59 minutes</source>
@@ -1825,19 +1829,19 @@
     </message>
     <message>
         <source>The total tour time can only range from 0 to 1439 minutes</source>
-        <translation>De hele ronde mag 0 tot 1439 minuten duren</translation>
+        <translation>De hele ronde mag hoogstens 1439 minuten duren</translation>
     </message>
     <message>
         <source>Only valid numbers from 0 to 1439 can be entered</source>
-        <translation>Alleen getallen van 0 tot 1439 zijn geldig</translation>
+        <translation>Alleen gehele getallen van 0 tot en met 1439 zijn geldig</translation>
     </message>
     <message>
         <source>The docking station is no longer connected. Enter the ID by hand, or go to the home page to connect again.</source>
-        <translation>Het dockingstation is niet meer bereikbaar. Voer de code met de hand in of ga naar de startpagina om opnieuw verbinding te maken.</translation>
+        <translation>Het dockingstation is niet meer verbonden. Voer de code met de hand in of ga naar de startpagina om opnieuw verbinding te maken.</translation>
     </message>
     <message>
         <source>&amp;Archive Events</source>
-        <translation>Gebeurtenissen &amp;archiveren</translation>
+        <translation>Registraties &amp;archiveren</translation>
     </message>
     <message>
         <source>&amp;Backup</source>
@@ -1888,7 +1892,7 @@
         <translation>Over</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Dit programma mag worden gebruikt, gewijzigd en doorgegeven, zolang de licentietekst erbij blijft.</translation>
     </message>
     <message>
@@ -1896,8 +1900,8 @@
         <translation>Er wordt geen enkele garantie gegeven.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Een beschrijving van het programma staat onder Help, Inhoud (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Een beschrijving van het programma staat onder Help, Inhoud.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>
@@ -1997,19 +2001,19 @@
     </message>
     <message>
         <source>Missing:</source>
-        <translation>Ontbreekt:</translation>
+        <translation>Niet aanwezig:</translation>
     </message>
     <message>
         <source>Buttons whose group does not exist:</source>
-        <translation>Knoppen waarvan de groep niet bestaat:</translation>
+        <translation>Chips waarvan de groep niet bestaat:</translation>
     </message>
     <message>
         <source>Tour points whose tour does not exist:</source>
-        <translation>Rondepunten waarvan de ronde niet bestaat:</translation>
+        <translation>Punten waarvan de ronde niet bestaat:</translation>
     </message>
     <message>
         <source>Tour points whose button does not exist:</source>
-        <translation>Rondepunten waarvan de knop niet bestaat:</translation>
+        <translation>Punten waarvan de chip niet bestaat:</translation>
     </message>
     <message>
         <source>Save As</source>
@@ -2021,15 +2025,15 @@
     </message>
     <message>
         <source>Archive Events</source>
-        <translation>Gebeurtenissen archiveren</translation>
+        <translation>Registraties archiveren</translation>
     </message>
     <message>
         <source>Choose the first and the last day. Their events are moved into a file and deleted from the database. They cannot be brought back from the file.</source>
-        <translation>Kies de eerste en de laatste dag. De gebeurtenissen van deze periode worden naar een bestand verplaatst en uit de database verwijderd. Uit het bestand kunnen ze niet worden teruggehaald.</translation>
+        <translation>Kies de eerste en de laatste dag. De registraties van deze periode worden naar een bestand verplaatst en uit de database verwijderd. Uit het bestand kunnen ze niet worden teruggehaald.</translation>
     </message>
     <message>
         <source>Warning: This action will permanently delete the events from the database.</source>
-        <translation>Waarschuwing: de gebeurtenissen worden definitief uit de database verwijderd.</translation>
+        <translation>Waarschuwing: de registraties worden definitief uit de database verwijderd.</translation>
     </message>
     <message>
         <source>Select location of backup database file</source>
@@ -2049,11 +2053,11 @@
     </message>
     <message>
         <source>Are you sure you want to continue?</source>
-        <translation>Echt doorgaan?</translation>
+        <translation>Weet u zeker dat u wilt doorgaan?</translation>
     </message>
     <message>
         <source>There are no stored events within the dates you entered.</source>
-        <translation>In deze periode zijn geen gebeurtenissen opgeslagen.</translation>
+        <translation>In deze periode zijn geen registraties opgeslagen.</translation>
     </message>
     <message>
         <source>File Save Error: Archive Not Saved.  Please Try again.</source>
@@ -2061,27 +2065,27 @@
     </message>
     <message>
         <source>Events Archived Successfully</source>
-        <translation>De gebeurtenissen zijn gearchiveerd</translation>
+        <translation>De registraties zijn gearchiveerd</translation>
     </message>
     <message>
         <source>Number of Events =</source>
-        <translation>Aantal gebeurtenissen =</translation>
+        <translation>Aantal registraties:</translation>
     </message>
     <message>
         <source>FileName = </source>
-        <translation>Bestandsnaam = </translation>
+        <translation>Bestand:</translation>
     </message>
     <message>
         <source>The events are written to the file and then deleted from the database.</source>
-        <translation>De gebeurtenissen worden naar het bestand geschreven en daarna uit de database verwijderd.</translation>
+        <translation>De registraties worden naar het bestand geschreven en daarna uit de database verwijderd.</translation>
     </message>
     <message>
         <source>%0:s events were written, but the database deleted %1:s. Nothing was archived.</source>
-        <translation>Er zijn %0:s gebeurtenissen weggeschreven, maar de database heeft er %1:s verwijderd. Er is niets gearchiveerd.</translation>
+        <translation>Naar het bestand geschreven registraties: %0:s, uit de database verwijderd: %1:s. Omdat dit niet overeenkomt, is er niets gearchiveerd.</translation>
     </message>
     <message>
         <source>The events were written to %0:s, but they are still in the database: %1:s</source>
-        <translation>De gebeurtenissen zijn naar %0:s geschreven, maar staan nog in de database: %1:s</translation>
+        <translation>De registraties zijn naar het bestand %0:s geschreven, maar staan nog in de database: %1:s</translation>
     </message>
     <message>
         <source>Restore</source>
@@ -2093,7 +2097,7 @@
     </message>
     <message>
         <source>The database is in use. Waiting until it is free.</source>
-        <translation>De database is in gebruik. Er wordt gewacht tot ze vrij is.</translation>
+        <translation>De database is in gebruik. Even geduld tot deze vrij is.</translation>
     </message>
     <message>
         <source>Successfully copied the database</source>
@@ -2109,7 +2113,7 @@
     </message>
     <message>
         <source>The database was not restored. It is as it was before.</source>
-        <translation>De database is niet teruggezet. Ze is zoals ze was.</translation>
+        <translation>De database is niet teruggezet en is ongewijzigd.</translation>
     </message>
     <message>
         <source>The chosen file is not a database of this program.</source>
@@ -2121,7 +2125,7 @@
     </message>
     <message>
         <source>The chosen file is not a complete database of this program. It lacks %0:s.</source>
-        <translation>Het gekozen bestand is geen volledige database van dit programma. Er ontbreekt: %0:s.</translation>
+        <translation>Het gekozen bestand is geen volledige database van dit programma. Niet aanwezig: %0:s.</translation>
     </message>
     <message>
         <source>The chosen file is damaged: %0:s</source>

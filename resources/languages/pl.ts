@@ -5,7 +5,7 @@
     <name>Wardlock</name>
     <message>
         <source>The database is damaged. Some of its events can no longer be read.</source>
-        <translation>Baza danych jest uszkodzona. Części zdarzeń nie można już odczytać.</translation>
+        <translation>Baza danych jest uszkodzona. Części rejestracji nie można już odczytać.</translation>
     </message>
     <message>
         <source>Please restore a backup. Until then, no reader is erased.</source>
@@ -52,15 +52,15 @@
         <translation>Plik nie istnieje.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Folder %0:s nie istnieje. Proszę go utworzyć albo podać inny w WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Brak uprawnień do zapisu w folderze %0:s. Proszę poprosić o uprawnienia albo podać inny folder w WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Nie ma jeszcze bazy danych. Proszę raz uruchomić program Wardlock, który ją utworzy.</translation>
     </message>
     <message>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>none yet</source>
-        <translation>jeszcze brak</translation>
+        <translation>jeszcze nie odczytano</translation>
     </message>
     <message>
         <source>Tours of the last 24 hours</source>
@@ -141,11 +141,11 @@
     </message>
     <message>
         <source>No tour was due.</source>
-        <translation>Nie zaplanowano żadnego obchodu.</translation>
+        <translation>W tym czasie nie planowano obchodów.</translation>
     </message>
     <message>
         <source>not downloaded or not walked</source>
-        <translation>nieodczytany lub nieodbyty</translation>
+        <translation>nie odczytano lub nie odbyto</translation>
     </message>
     <message>
         <source>On time</source>
@@ -197,15 +197,15 @@
     </message>
     <message>
         <source>The reader was taken out of the station. It was not erased.</source>
-        <translation>Czytnik wyjęto ze stacji dokującej. Nie został wyczyszczony.</translation>
+        <translation>Czytnik wyjęto ze stacji dokującej. Nie wyczyszczono go.</translation>
     </message>
     <message>
         <source>Another reader is in the station. It was not erased.</source>
-        <translation>W stacji dokującej znajduje się inny czytnik. Nie został wyczyszczony.</translation>
+        <translation>W stacji dokującej znajduje się inny czytnik. Nie wyczyszczono go.</translation>
     </message>
     <message>
         <source>The reader has been used since it was read. It was not erased.</source>
-        <translation>Po odczycie czytnik był ponownie używany. Nie został wyczyszczony.</translation>
+        <translation>Po odczycie czytnik był ponownie używany. Nie wyczyszczono go.</translation>
     </message>
     <message>
         <source>The reader's memory continues after its end mark. The touches that were read are stored, but the reader was not erased.</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Data Readings = </source>
-        <translation>Liczba rejestracji = </translation>
+        <translation>Rejestracje: </translation>
     </message>
     <message>
         <source>The Reader was empty</source>
@@ -349,15 +349,15 @@
     </message>
     <message>
         <source>Ready...</source>
-        <translation>Gotowe...</translation>
+        <translation>Gotowe…</translation>
     </message>
     <message>
         <source>Opening COM port...</source>
-        <translation>Otwieranie portu COM...</translation>
+        <translation>Otwieranie portu COM…</translation>
     </message>
     <message>
         <source>Could Not Open Com </source>
-        <translation>Nie można otworzyć portu COM </translation>
+        <translation>Nie można otworzyć: COM</translation>
     </message>
     <message>
         <source>Please try another COM port or check that the COM port is not in use by another program.</source>
@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>Checking Docking Station...</source>
-        <translation>Szukanie stacji dokującej...</translation>
+        <translation>Szukanie stacji dokującej…</translation>
     </message>
     <message>
         <source>Failed</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>&amp;Open Report...</source>
-        <translation>&amp;Otwórz raport...</translation>
+        <translation>&amp;Otwórz raport…</translation>
     </message>
     <message>
         <source>Open the dialog of the selected report</source>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>Tour / Exception Report</source>
-        <translation>Raport z obchodu / odstępstw</translation>
+        <translation>Raport z obchodu / odchyleń</translation>
     </message>
     <message>
         <source>Patrol Schedule</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Minutes</source>
-        <translation>Minuty</translation>
+        <translation>min</translation>
     </message>
     <message>
         <source>No.</source>
@@ -501,11 +501,11 @@
     </message>
     <message>
         <source>A master adds tours on the Setup page.</source>
-        <translation>Obchody dodaje administrator na stronie Definicje.</translation>
+        <translation>Obchody dodaje administrator na stronie „Definicje”.</translation>
     </message>
     <message>
         <source>A master adds readers on the Setup page.</source>
-        <translation>Czytniki dodaje administrator na stronie Definicje.</translation>
+        <translation>Czytniki dodaje administrator na stronie „Definicje”.</translation>
     </message>
     <message>
         <source>You must add at least one tour before this report can be used</source>
@@ -564,7 +564,7 @@
         <translation>Nie można wyświetlić pomocy. Do tego programu nie dołączono pomocy.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 autorzy programu Wardlock. Wolne oprogramowanie na licencji MIT.</translation>
     </message>
     <message>
@@ -581,19 +581,19 @@
     </message>
     <message>
         <source>Opening Database...</source>
-        <translation>Otwieranie bazy danych...</translation>
+        <translation>Otwieranie bazy danych…</translation>
     </message>
     <message>
         <source>Compacting Database...</source>
-        <translation>Kompaktowanie bazy danych...</translation>
+        <translation>Kompaktowanie bazy danych…</translation>
     </message>
     <message>
         <source>Loading Application...</source>
-        <translation>Ładowanie programu...</translation>
+        <translation>Ładowanie programu…</translation>
     </message>
     <message>
         <source>Initializing Online Help...</source>
-        <translation>Przygotowywanie pomocy...</translation>
+        <translation>Przygotowywanie pomocy…</translation>
     </message>
     <message>
         <source>Error in creating new Tour</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>The tour has no points. A master adds them on the Setup page.</source>
-        <translation>Obchód nie ma punktów. Dodaje je administrator na stronie Definicje.</translation>
+        <translation>Obchód nie ma punktów. Dodaje je administrator na stronie „Definicje”.</translation>
     </message>
     <message>
         <source>This tour does not exist any more, or it cannot be read.</source>
@@ -629,27 +629,31 @@
     </message>
     <message>
         <source>%0:s points: %1:s</source>
-        <translation>Punkty (%0:s): %1:s</translation>
+        <translation>Punkty: %0:s (%1:s)</translation>
     </message>
     <message>
         <source>1 point: %0:s</source>
-        <translation>1 punkt: %0:s</translation>
+        <translation>Punkty: 1 (%0:s)</translation>
     </message>
     <message>
         <source>%0:s, %1:s</source>
         <translation>%0:s, %1:s</translation>
     </message>
     <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
+    </message>
+    <message>
         <source>%0:s on time</source>
-        <translation>%0:s o czasie</translation>
+        <translation>o czasie: %0:s</translation>
     </message>
     <message>
         <source>%0:s early</source>
-        <translation>%0:s za wcześnie</translation>
+        <translation>za wcześnie: %0:s</translation>
     </message>
     <message>
         <source>%0:s late</source>
-        <translation>%0:s za późno</translation>
+        <translation>za późno: %0:s</translation>
     </message>
     <message>
         <source>%0:s missing</source>
@@ -661,11 +665,11 @@
     </message>
     <message>
         <source>NO EXCEPTIONS</source>
-        <translation>BRAK ODSTĘPSTW</translation>
+        <translation>BRAK ODCHYLEŃ</translation>
     </message>
     <message>
         <source>EXCEPTION</source>
-        <translation>ODSTĘPSTWO</translation>
+        <translation>ODCHYLENIE</translation>
     </message>
     <message>
         <source>MISSING</source>
@@ -701,7 +705,7 @@
     </message>
     <message>
         <source>Please check these choices, and whether the reader has been downloaded.</source>
-        <translation>Proszę sprawdzić te ustawienia oraz to, czy czytnik został odczytany.</translation>
+        <translation>Proszę sprawdzić te parametry. Czy czytnik został odczytany?</translation>
     </message>
     <message>
         <source>There is no data to show for these parameters</source>
@@ -789,7 +793,7 @@
     </message>
     <message>
         <source>Exception Report</source>
-        <translation>Raport odstępstw</translation>
+        <translation>Raport odchyleń</translation>
     </message>
     <message>
         <source>Reader ID</source>
@@ -961,7 +965,7 @@
     </message>
     <message>
         <source>Com &amp;Options...</source>
-        <translation>Port &amp;COM...</translation>
+        <translation>Port &amp;COM…</translation>
     </message>
     <message>
         <source>&amp;Language</source>
@@ -1021,7 +1025,7 @@
     </message>
     <message>
         <source>Only touches made while this site was the last one touched</source>
-        <translation>Tylko rejestracje z czasu, gdy ten obiekt był ostatnio zarejestrowany</translation>
+        <translation>Tylko rejestracje, przed którymi jako ostatni zarejestrowano ten obiekt</translation>
     </message>
     <message>
         <source>Sets the range and makes the report at once</source>
@@ -1073,7 +1077,7 @@
     </message>
     <message>
         <source>Only Show Exceptions</source>
-        <translation>Tylko odstępstwa</translation>
+        <translation>Tylko odchylenia</translation>
     </message>
     <message>
         <source>Include Events</source>
@@ -1169,7 +1173,7 @@
     </message>
     <message>
         <source>No event is defined. A master adds event books on the Setup page.</source>
-        <translation>Nie zdefiniowano żadnego zdarzenia. Książki zdarzeń dodaje administrator na stronie Definicje.</translation>
+        <translation>Nie zdefiniowano żadnego zdarzenia. Książki zdarzeń dodaje administrator na stronie „Definicje”.</translation>
     </message>
     <message>
         <source>There must be at least one event selected to create a report</source>
@@ -1381,11 +1385,11 @@
     </message>
     <message>
         <source>The options were set, but the clock was not.</source>
-        <translation>Opcje zostały ustawione, ale zegar nie.</translation>
+        <translation>Sygnały zostały ustawione, ale zegar nie.</translation>
     </message>
     <message>
         <source>The clock was set, but the options were not.</source>
-        <translation>Zegar został ustawiony, ale opcje nie.</translation>
+        <translation>Zegar został ustawiony, ale sygnały nie.</translation>
     </message>
     <message>
         <source>Add New Reader</source>
@@ -1481,7 +1485,7 @@
     </message>
     <message>
         <source>Touch the reader in the docking station with the new button, or enter its ID by hand.</source>
-        <translation>Proszę dotknąć nową pastylką czytnika w stacji dokującej albo wpisać kod ręcznie.</translation>
+        <translation>Proszę dotknąć czytnika w stacji dokującej nową pastylką albo wpisać kod ręcznie.</translation>
     </message>
     <message>
         <source>Only the master may do this.</source>
@@ -1709,15 +1713,15 @@
     </message>
     <message>
         <source>No buttons yet. Press Add, then touch the reader in the docking station with a button.</source>
-        <translation>Nie ma jeszcze pastylek. Proszę nacisnąć „Dodaj”, a następnie dotknąć pastylką czytnika w stacji dokującej.</translation>
+        <translation>Nie ma jeszcze pastylek. Proszę nacisnąć „Dodaj”, a następnie dotknąć czytnika w stacji dokującej pastylką.</translation>
     </message>
     <message>
         <source>No buttons yet. A new button is read at the docking station, which is not connected.</source>
-        <translation>Nie ma jeszcze pastylek. Nową pastylkę odczytuje się przy stacji dokującej, a ta nie jest połączona.</translation>
+        <translation>Nie ma jeszcze pastylek. Nowe pastylki odczytuje się przy stacji dokującej. Stacja nie jest połączona.</translation>
     </message>
     <message>
         <source>This site has no location buttons yet. Add them on the Setup page: select the site and press Edit.</source>
-        <translation>Ten obiekt nie ma jeszcze punktów kontrolnych. Dodaje się je na stronie Definicje: zaznaczyć obiekt i nacisnąć „Edytuj”.</translation>
+        <translation>Ten obiekt nie ma jeszcze punktów kontrolnych. Dodaje się je na stronie „Definicje”: należy zaznaczyć obiekt i nacisnąć „Edytuj”.</translation>
     </message>
     <message>
         <source>The tour has no points yet. Select a location in the other list and press Add, in the order of the tour.</source>
@@ -1765,7 +1769,7 @@
     </message>
     <message>
         <source>Are you sure you want to delete this item?</source>
-        <translation>Czy na pewno usunąć ten element?</translation>
+        <translation>Czy na pewno usunąć tę pozycję?</translation>
     </message>
     <message>
         <source>That name is already used.  Please enter another name.</source>
@@ -1785,7 +1789,7 @@
     </message>
     <message>
         <source>Your changes have not been saved. Discard them?</source>
-        <translation>Zmiany nie zostały zapisane. Odrzucić je?</translation>
+        <translation>Zmiany nie zostały zapisane. Czy je odrzucić?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete it?</source>
@@ -1809,7 +1813,7 @@
     </message>
     <message>
         <source>The selected Tour contains data.</source>
-        <translation>Zaznaczony obchód zawiera dane.</translation>
+        <translation>Zaznaczony obchód zawiera punkty.</translation>
     </message>
     <message>
         <source>Cannot find any Tour Points to copy</source>
@@ -1817,7 +1821,7 @@
     </message>
     <message>
         <source>Cannot assign two sequential tour points with the same location</source>
-        <translation>Dwa kolejne punkty obchodu nie mogą mieć tego samego punktu kontrolnego</translation>
+        <translation>Ten sam punkt kontrolny nie może wystąpić dwa razy z rzędu</translation>
     </message>
     <message>
         <source>The tolerance value can only range from 0 to 59 minutes</source>
@@ -1825,11 +1829,11 @@
     </message>
     <message>
         <source>The total tour time can only range from 0 to 1439 minutes</source>
-        <translation>Cały obchód może trwać od 0 do 1439 minut</translation>
+        <translation>Cały obchód może trwać najwyżej 1439 minut</translation>
     </message>
     <message>
         <source>Only valid numbers from 0 to 1439 can be entered</source>
-        <translation>Dozwolone są tylko liczby od 0 do 1439</translation>
+        <translation>Dozwolone są tylko liczby całkowite od 0 do 1439</translation>
     </message>
     <message>
         <source>The docking station is no longer connected. Enter the ID by hand, or go to the home page to connect again.</source>
@@ -1837,7 +1841,7 @@
     </message>
     <message>
         <source>&amp;Archive Events</source>
-        <translation>&amp;Archiwizacja zdarzeń</translation>
+        <translation>&amp;Archiwizacja rejestracji</translation>
     </message>
     <message>
         <source>&amp;Backup</source>
@@ -1888,7 +1892,7 @@
         <translation>O programie</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Ten program wolno używać, zmieniać i przekazywać dalej, o ile towarzyszy mu tekst licencji.</translation>
     </message>
     <message>
@@ -1896,8 +1900,8 @@
         <translation>Program jest dostarczany bez żadnej gwarancji.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Opis programu znajduje się w menu Pomoc, Spis treści (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Opis programu znajduje się w menu Pomoc, Spis treści.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>
@@ -2005,11 +2009,11 @@
     </message>
     <message>
         <source>Tour points whose tour does not exist:</source>
-        <translation>Punkty obchodu, których obchód nie istnieje:</translation>
+        <translation>Punkty, których obchód nie istnieje:</translation>
     </message>
     <message>
         <source>Tour points whose button does not exist:</source>
-        <translation>Punkty obchodu, których pastylka nie istnieje:</translation>
+        <translation>Punkty, których pastylka nie istnieje:</translation>
     </message>
     <message>
         <source>Save As</source>
@@ -2021,15 +2025,15 @@
     </message>
     <message>
         <source>Archive Events</source>
-        <translation>Archiwizacja zdarzeń</translation>
+        <translation>Archiwizacja rejestracji</translation>
     </message>
     <message>
         <source>Choose the first and the last day. Their events are moved into a file and deleted from the database. They cannot be brought back from the file.</source>
-        <translation>Proszę wybrać pierwszy i ostatni dzień. Zdarzenia z tego okresu zostaną przeniesione do pliku i usunięte z bazy danych. Z pliku nie można ich przywrócić.</translation>
+        <translation>Proszę wybrać pierwszy i ostatni dzień. Rejestracje z tego okresu zostaną przeniesione do pliku i usunięte z bazy danych. Z pliku nie można ich przywrócić.</translation>
     </message>
     <message>
         <source>Warning: This action will permanently delete the events from the database.</source>
-        <translation>Ostrzeżenie: zdarzenia zostaną trwale usunięte z bazy danych.</translation>
+        <translation>Ostrzeżenie: rejestracje zostaną trwale usunięte z bazy danych.</translation>
     </message>
     <message>
         <source>Select location of backup database file</source>
@@ -2053,7 +2057,7 @@
     </message>
     <message>
         <source>There are no stored events within the dates you entered.</source>
-        <translation>W tym okresie nie zapisano żadnych zdarzeń.</translation>
+        <translation>W tym okresie nie zapisano żadnych rejestracji.</translation>
     </message>
     <message>
         <source>File Save Error: Archive Not Saved.  Please Try again.</source>
@@ -2061,27 +2065,27 @@
     </message>
     <message>
         <source>Events Archived Successfully</source>
-        <translation>Zdarzenia zostały zarchiwizowane</translation>
+        <translation>Rejestracje zostały zarchiwizowane</translation>
     </message>
     <message>
         <source>Number of Events =</source>
-        <translation>Liczba zdarzeń =</translation>
+        <translation>Liczba rejestracji:</translation>
     </message>
     <message>
         <source>FileName = </source>
-        <translation>Nazwa pliku = </translation>
+        <translation>Plik:</translation>
     </message>
     <message>
         <source>The events are written to the file and then deleted from the database.</source>
-        <translation>Zdarzenia zostaną zapisane w pliku, a następnie usunięte z bazy danych.</translation>
+        <translation>Rejestracje zostaną zapisane w pliku, a następnie usunięte z bazy danych.</translation>
     </message>
     <message>
         <source>%0:s events were written, but the database deleted %1:s. Nothing was archived.</source>
-        <translation>Liczba zapisanych zdarzeń: %0:s, ale baza danych usunęła: %1:s. Niczego nie zarchiwizowano.</translation>
+        <translation>Rejestracje zapisane w pliku: %0:s, usunięte z bazy danych: %1:s. Liczby te są różne, dlatego niczego nie zarchiwizowano.</translation>
     </message>
     <message>
         <source>The events were written to %0:s, but they are still in the database: %1:s</source>
-        <translation>Zdarzenia zapisano w pliku %0:s, ale nadal są w bazie danych: %1:s</translation>
+        <translation>Rejestracje zapisano w pliku %0:s, ale nadal są w bazie danych: %1:s</translation>
     </message>
     <message>
         <source>Restore</source>

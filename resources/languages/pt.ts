@@ -5,7 +5,7 @@
     <name>Wardlock</name>
     <message>
         <source>The database is damaged. Some of its events can no longer be read.</source>
-        <translation>A base de dados está danificada. Parte das suas leituras já não se consegue ler.</translation>
+        <translation>A base de dados está danificada. Parte das suas leituras já não pode ser lida.</translation>
     </message>
     <message>
         <source>Please restore a backup. Until then, no reader is erased.</source>
@@ -52,15 +52,15 @@
         <translation>O ficheiro não existe.</translation>
     </message>
     <message>
-        <source>The folder %0:s does not exist. Please make it, or name another one in WARDLOCK_HOME.</source>
+        <source>The folder %0:s does not exist. Please create it, or choose another folder in WARDLOCK_HOME.</source>
         <translation>A pasta %0:s não existe. Crie-a ou indique outra em WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>You may not write to the folder %0:s. Please ask for permission, or name another folder in WARDLOCK_HOME.</source>
+        <source>You may not write to the folder %0:s. Please ask for permission, or choose another folder in WARDLOCK_HOME.</source>
         <translation>Não tem permissão para escrever na pasta %0:s. Peça-a ou indique outra pasta em WARDLOCK_HOME.</translation>
     </message>
     <message>
-        <source>There is no database yet. Please start the station once: it makes one.</source>
+        <source>There is no database yet. Please start the station once to create it.</source>
         <translation>Ainda não existe nenhuma base de dados. Inicie uma vez o programa Wardlock, que cria uma.</translation>
     </message>
     <message>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Docking Station : Not Detected</source>
-        <translation>Base de descarga: não encontrada</translation>
+        <translation>Base de descarga: não detetada</translation>
     </message>
     <message>
         <source>%0:s is gone. Plug it in again.</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>not downloaded or not walked</source>
-        <translation>não descarregada ou não realizada</translation>
+        <translation>sem descarga/não feita</translation>
     </message>
     <message>
         <source>On time</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Early</source>
-        <translation>Antes da hora</translation>
+        <translation>Com avanço</translation>
     </message>
     <message>
         <source>Late</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Data Readings = </source>
-        <translation>Leituras = </translation>
+        <translation>Leituras: </translation>
     </message>
     <message>
         <source>The Reader was empty</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Touches that have not been downloaded yet will be lost.</source>
-        <translation>As leituras ainda não descarregadas perdem-se.</translation>
+        <translation>As leituras ainda não descarregadas vão perder-se.</translation>
     </message>
     <message>
         <source>Reader Erase Failed.  Try again?</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Reader not detected. Check reader and try again.</source>
-        <translation>Nenhum leitor encontrado. Verifique o leitor e tente novamente.</translation>
+        <translation>Nenhum leitor detetado. Verifique o leitor e tente novamente.</translation>
     </message>
     <message>
         <source>Download Completed</source>
@@ -381,7 +381,7 @@
     </message>
     <message>
         <source>Retry</source>
-        <translation>Repetir</translation>
+        <translation>Tentar novamente</translation>
     </message>
     <message>
         <source>Looks for the docking station again</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>Open the dialog of the selected report</source>
-        <translation>Abrir a janela do relatório selecionado</translation>
+        <translation>Abre a janela do relatório selecionado</translation>
     </message>
     <message>
         <source>Report Name</source>
@@ -564,7 +564,7 @@
         <translation>Não é possível mostrar a ajuda. Este programa não tem nenhuma ajuda associada.</translation>
     </message>
     <message>
-        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT licence.</source>
+        <source>Copyright © 2026 the Wardlock authors. Free software under the MIT License.</source>
         <translation>Copyright © 2026 os autores de Wardlock. Software livre com licença MIT.</translation>
     </message>
     <message>
@@ -605,15 +605,15 @@
     </message>
     <message>
         <source>This tour does not exist any more, or it cannot be read.</source>
-        <translation>Esta ronda já não existe ou não se consegue ler.</translation>
+        <translation>Esta ronda já não existe ou não pode ser lida.</translation>
     </message>
     <message>
         <source>The settings cannot be saved. Changes you make now are lost when the program ends.</source>
-        <translation>Não é possível guardar as definições. As alterações perdem-se ao fechar o programa.</translation>
+        <translation>Não é possível guardar as definições. As alterações vão perder-se ao fechar o programa.</translation>
     </message>
     <message>
         <source>EARLY</source>
-        <translation>ANTES DA HORA</translation>
+        <translation>COM AVANÇO</translation>
     </message>
     <message>
         <source>ON TIME</source>
@@ -640,12 +640,16 @@
         <translation>%0:s, %1:s</translation>
     </message>
     <message>
+        <source>%0:s: %1:s</source>
+        <translation>%0:s: %1:s</translation>
+    </message>
+    <message>
         <source>%0:s on time</source>
         <translation>%0:s no horário</translation>
     </message>
     <message>
         <source>%0:s early</source>
-        <translation>%0:s antes da hora</translation>
+        <translation>%0:s com avanço</translation>
     </message>
     <message>
         <source>%0:s late</source>
@@ -1017,11 +1021,11 @@
     </message>
     <message>
         <source>Only this event; the places that were touched before it are shown with it</source>
-        <translation>Só esta ocorrência, com os pontos de controlo lidos antes dela</translation>
+        <translation>Só esta ocorrência, com os pontos de controlo visitados antes dela</translation>
     </message>
     <message>
         <source>Only touches made while this site was the last one touched</source>
-        <translation>Só as leituras feitas enquanto este local era o último lido</translation>
+        <translation>Só as leituras feitas enquanto este local era o último visitado</translation>
     </message>
     <message>
         <source>Sets the range and makes the report at once</source>
@@ -1729,7 +1733,7 @@
     </message>
     <message>
         <source>A touch that is early or late by no more minutes than this counts as on time.</source>
-        <translation>Uma leitura feita no máximo estes minutos antes ou depois da hora conta como dentro do horário.</translation>
+        <translation>Uma leitura com avanço ou atraso até este número de minutos conta como feita no horário.</translation>
     </message>
     <message>
         <source>For the first point: the minutes since the start of the tour.</source>
@@ -1785,7 +1789,7 @@
     </message>
     <message>
         <source>Your changes have not been saved. Discard them?</source>
-        <translation>As alterações não foram guardadas. Rejeitá-las?</translation>
+        <translation>As alterações não foram guardadas. Descartá-las?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete it?</source>
@@ -1888,7 +1892,7 @@
         <translation>Acerca de</translation>
     </message>
     <message>
-        <source>You may use, change and pass on this program, as long as the text of the licence stays with it.</source>
+        <source>You may use, change and pass on this program, as long as the text of the License stays with it.</source>
         <translation>Este programa pode ser usado, alterado e distribuído, desde que acompanhado do texto da licença.</translation>
     </message>
     <message>
@@ -1896,8 +1900,8 @@
         <translation>É fornecido sem qualquer garantia.</translation>
     </message>
     <message>
-        <source>For a description of the program, choose Help, Contents (F1).</source>
-        <translation>Encontra uma descrição do programa em Ajuda, Conteúdo (F1).</translation>
+        <source>For a description of the program, choose Help, Contents.</source>
+        <translation>Encontra uma descrição do programa em Ajuda, Conteúdo.</translation>
     </message>
     <message>
         <source>If something does not work, report it to the person who looks after this installation. Give the version and the build shown above, and send this file:</source>
@@ -2065,11 +2069,11 @@
     </message>
     <message>
         <source>Number of Events =</source>
-        <translation>Número de leituras =</translation>
+        <translation>Número de leituras:</translation>
     </message>
     <message>
         <source>FileName = </source>
-        <translation>Nome do ficheiro = </translation>
+        <translation>Nome do ficheiro: </translation>
     </message>
     <message>
         <source>The events are written to the file and then deleted from the database.</source>

@@ -62,7 +62,7 @@ void OpenSettings() {
 bool OpenStation(OperatorType login) {
     if (IsNewStoreFolder()) {
         TellOfUnopenedStore(gDatabasePath, Translate("There is no database yet. Please start the "
-                                                     "station once: it makes one."));
+                                                     "station once to create it."));
         return false;
     }
     if (const QString fault = FaultOfStoreFolder(); !fault.isEmpty()) {
@@ -103,6 +103,8 @@ QString Overview() {
         "usage: wardlockctl [--home DIR] [--operator master|user] COMMAND [OPTIONS]\n"
         "       wardlockctl COMMAND --help\n"
         "       wardlockctl --help | --version\n"
+        "\n"
+        "Does the work of the station without windows: for a shell or a scheduler.\n"
         "\n");
     const std::vector<Command> commands = Commands();
     qsizetype width = 0;

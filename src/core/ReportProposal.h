@@ -5,12 +5,12 @@
 #include <QString>
 
 /// What a report dialog proposes when it opens. After a download, that is what the downloaded
-/// reader recorded; otherwise what the operator chose last in the same dialog. What no longer
-/// exists is simply not found in the dialog's lists.
+/// reader recorded; otherwise what the operator chose last in the same dialog. The dialog
+/// ignores a reader or tour that no longer exists.
 struct ReportProposal {
     QString readerId; ///< empty: none
     int tourId = 0;   ///< 0: none
-    /// The day on which the tour starts. The count's own beginning means none: the dialog keeps its
+    /// The day on which the tour starts. The default means none: the dialog keeps its
     /// own date.
     DateTime date;
 

@@ -28,7 +28,7 @@ QString SearchedText(const QList<ReportFilter>& filters, DateTime from, DateTime
     QString text;
     for (const auto& [title, value] : filters)
         if (!value.isEmpty())
-            text += Translate(title) + QStringLiteral(": ") + value + u'\n';
+            text += Labelled(Translate(title), value) + u'\n';
     return text + Translate("From:") + u' ' + MomentText(from, 1) + u'\n' + Translate("To:") +
            u' ' + MomentText(to, 1) + u'\n' +
            Translate("Please check these choices, and whether the reader has been downloaded.");

@@ -33,10 +33,14 @@ QString FormatStr(const QString& pattern, const QStringList& values) {
     return Dictionary::FormatStr(pattern, values);
 }
 
+QString Labelled(const QString& label, const QString& value) {
+    return FormatStr(Translate("%0:s: %1:s"), {label, value});
+}
+
 QString GetReportsTitle() { return Translate("KV-88 Wardlock Reports"); }
 
 QString LegalNotice() {
-    return Translate("Copyright © 2026 the Wardlock authors. Free software under the MIT licence.");
+    return Translate("Copyright © 2026 the Wardlock authors. Free software under the MIT License.");
 }
 
 QString GetVersionString() {

@@ -28,6 +28,9 @@ MessageAnswer IvMessageBox(const QString& text, const QString& advice,
 /// Replaces "%0:s" and so on in a translated pattern.
 QString FormatStr(const QString& pattern, const QStringList& values);
 
+/// "Label: value". French has a space before the colon.
+QString Labelled(const QString& label, const QString& value);
+
 /// The fixed short title, never translated.
 inline const QString ShortTitle = QStringLiteral("Wardlock Lite");
 

@@ -9,7 +9,7 @@
 bool MayClearReader(const QString& docked, const QString& lastRead) {
     QString advice = Translate("Touches that have not been downloaded yet will be lost.");
     if (!docked.isEmpty())
-        advice = Translate("Reader") + QStringLiteral(": ") + ReaderTextOf(docked) + u'\n' + advice;
+        advice = Labelled(Translate("Reader"), ReaderTextOf(docked)) + u'\n' + advice;
     else if (!lastRead.isEmpty())
         advice += u'\n' + Translate("The reader that was downloaded last:") + u' ' +
                   ReaderTextOf(lastRead);

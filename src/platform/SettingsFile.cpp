@@ -22,8 +22,8 @@ QByteArray Quoted(const QString& text) {
     return line + '"';
 }
 
-/// What a backslash means, with what follows it. An escape by number has as many digits as there
-/// are.
+/// What a backslash means, with what follows it. An escape by number takes all hexadecimal
+/// digits that follow.
 QString Escaped(const QString& line, qsizetype& at) {
     const QChar letter = line[at++];
     if (letter == u'x') {

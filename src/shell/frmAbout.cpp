@@ -19,7 +19,7 @@ constexpr qsizetype MostCharacters = 2048;
 
 /// What to do if something does not work. Shown if the installer has not placed a text.
 QString OurAdvice() {
-    return Translate("For a description of the program, choose Help, Contents (F1).") +
+    return Translate("For a description of the program, choose Help, Contents.") +
            QStringLiteral("\n\n") +
            Translate("If something does not work, report it to the person who looks after this "
                      "installation. Give the version and the build shown above, and send this "
@@ -43,7 +43,7 @@ void frmAbout::Populate() {
     m_ui->lblVer->setText(Translate("Version") + u' ' + GetVersionString());
     m_ui->lblWarning->setText(
         Translate("You may use, change and pass on this program, as long as the text of the "
-                  "licence stays with it.") +
+                  "License stays with it.") +
         u' ' + Translate("It comes without any warranty."));
     m_ui->lblCopyright->setText(LegalNotice());
     m_ui->lblTitle->setText(GetReportsTitle());

@@ -32,8 +32,8 @@ QString FaultOfStoreFolder() {
     const QString path = QDir::toNativeSeparators(AppPath());
     if (!folder.isDir())
         return FormatStr(
-            Translate("The folder %0:s does not exist. Please make it, or name another "
-                      "one in WARDLOCK_HOME."),
+            Translate("The folder %0:s does not exist. Please create it, or choose "
+                      "another folder in WARDLOCK_HOME."),
             {path});
     // A store that is a link is written in the folder of the file that it means.
     const QString storeFolder =

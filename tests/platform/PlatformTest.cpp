@@ -172,6 +172,7 @@ private slots:
         SaveSetting("Wardlock Lite", "Info", "Line", before);
         const QString file = home.File("config/Wardlock/Wardlock Lite.conf");
         const QByteArray whole = BytesOf(file);
+        QVERIFY(whole.contains(before.toUtf8()));
         for (const rlim_t most : {0, 100, 700}) {
             {
                 const ResourceLimit limit(RLIMIT_FSIZE, most);

@@ -4,7 +4,6 @@
 #include "CheckList.h"
 #include "Clock.h"
 #include "DateTimeRange.h"
-#include "LastChoice.h"
 #include "RecordingViewer.h"
 #include "ReportButtons.h"
 #include "ReportCatalogue.h"
@@ -73,47 +72,6 @@ private slots:
         QTest::keyClick(rows, Qt::Key_Space);
         QCOMPARE(list.CheckedTags(), QVariantList{1});
         QCOMPARE(press("cmdReaders_0"), (QVariantList{0, 1, 2}));
-    }
-
-    // A range moves on with the days, a row that is new is checked, a choice that is gone is not
-    // missed, and nothing can leave a dialog without any choice.
-    void TheLastChoiceReturns() {
-        const TestHome home(TestHome::EmptyStore); // and settings of its own
-        const auto show = [](const QStringList& rows, const auto& use) {
-            QDialog dialog;
-            dialog.setObjectName("frmChoices");
-            QPushButton preview(&dialog);
-            DateTimeRange range(&dialog);
-            QComboBox box(&dialog);
-            CheckList list(&dialog);
-            range.setObjectName("range");
-            box.setObjectName("box");
-            list.setObjectName("list");
-            box.addItems(rows);
-            for (const QString& row : rows)
-                list.Add(row, row);
-            RememberChoices(dialog, preview);
-            use(range, box, list);
-            preview.click();
-        };
-        const QDate sunday(2026, 11, 22);
-        std::optional<TestClock> clock(std::in_place, At(sunday, 9, 0), 1);
-        show({"a", "b", "c"}, [&](DateTimeRange& range, QComboBox& box, CheckList& list) {
-            range.SetDays(sunday.addDays(-1), sunday);
-            box.setCurrentIndex(2);
-            list.Uncheck({"b"});
-        });
-        clock.emplace(At(sunday.addDays(1), 9, 0), 1);
-        show({"a", "b", "c", "d"}, [&](DateTimeRange& range, QComboBox& box, CheckList& list) {
-            QCOMPARE(range.Start(), At(sunday, 0, 0));
-            QCOMPARE(range.End(LastMinute::Whole), At(sunday.addDays(1), 23, 59, 59));
-            QCOMPARE(box.currentText(), "c");
-            QCOMPARE(list.CheckedTags(), (QVariantList{"a", "c", "d"}));
-        });
-        show({"b"}, [&](DateTimeRange&, QComboBox& box, CheckList& list) {
-            QCOMPARE(box.currentText(), "b");
-            QCOMPARE(list.CheckedTags(), QVariantList{"b"});
-        });
     }
 
     void ButtonsOfADialog() {

@@ -46,8 +46,7 @@ void frmPrpComms::ShowDevice() {
     const QString automatic = AutomaticDevice(port);
     m_ui->cboDevice->setEditText(m_devices.value(port, ChosenDevice(port)));
     m_ui->cboDevice->lineEdit()->setPlaceholderText(
-        Translate("Automatic") + QStringLiteral(": ") +
-        (automatic.isEmpty() ? Translate("no device") : automatic));
+        Labelled(Translate("Automatic"), automatic.isEmpty() ? Translate("no device") : automatic));
 }
 
 void frmPrpComms::KeepDevice() {

@@ -59,7 +59,7 @@ public:
     /// RunTimeError (NoSuchItem) that names the text box, and then keeps the rows that it had.
     void SetDataSource(const RowSource* rows);
     const RowSource* DataSource() const { return m_rows; }
-    /// The column of each control of a section; -1 for what is not a text box.
+    /// The column of each control of a section; -1 for a control that is not a text box.
     const std::vector<int>& ColumnsOf(SectionKind kind) const {
         return m_columns[static_cast<std::size_t>(kind)];
     }

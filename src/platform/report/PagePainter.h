@@ -30,7 +30,7 @@ using FittedTexts = QCache<std::pair<const ControlStyle*, QString>, FittedText>;
 ///
 /// A page can be mirrored, for a language that is written from right to left: each control changes
 /// sides within its section, and what was aligned to the left is aligned to the right. The texts
-/// themselves run as their letters demand: numbers and codes are the same on both pages.
+/// themselves keep their own direction: numbers and codes look the same on both pages.
 class PagePainter {
 public:
     /// `mirroredWidth` is the width of the sections if the page is mirrored, and 0 if not.

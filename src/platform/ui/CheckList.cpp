@@ -2,7 +2,6 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QSet>
 #include <QTextDocument>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -62,25 +61,6 @@ QVariantList CheckList::CheckedTags() const {
         if (m_list->topLevelItem(row)->checkState(0) == Qt::Checked)
             tags += m_list->topLevelItem(row)->data(0, Qt::UserRole);
     return tags;
-}
-
-QStringList CheckList::UncheckedTexts() const {
-    QStringList texts;
-    for (int row = 0; row < Count(); ++row)
-        if (m_list->topLevelItem(row)->checkState(0) != Qt::Checked)
-            texts += m_list->topLevelItem(row)->text(0);
-    return texts;
-}
-
-void CheckList::Uncheck(const QStringList& texts) {
-    const QSet<QString> wanted(texts.begin(), texts.end());
-    QList<QTreeWidgetItem*> rows;
-    for (int row = 0; row < Count(); ++row)
-        if (wanted.contains(m_list->topLevelItem(row)->text(0)))
-            rows += m_list->topLevelItem(row);
-    if (rows.size() < Count())
-        for (QTreeWidgetItem* row : rows)
-            row->setCheckState(0, Qt::Unchecked);
 }
 
 void CheckList::CheckAll(Qt::CheckState state) {

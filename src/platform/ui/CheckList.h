@@ -25,9 +25,6 @@ public:
     int Count() const;
     /// The tags of the checked rows, from top to bottom.
     QVariantList CheckedTags() const;
-    QStringList UncheckedTexts() const;
-    /// Clears the rows with these texts, unless that would clear all of them.
-    void Uncheck(const QStringList& texts);
 
 private:
     void NameParts(const QString& name);

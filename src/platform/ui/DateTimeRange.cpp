@@ -60,28 +60,6 @@ void DateTimeRange::SetDays(const QDate& first, const QDate& last) {
     m_endTime->setTime(QTime(23, 59, 59));
 }
 
-QString DateTimeRange::ToText() const {
-    const QDate today = Today().ToQDate();
-    const auto moment = [&](const QDateEdit& date, const QTimeEdit& time) {
-        return QStringLiteral("%1 %2").arg(today.daysTo(date.date())).arg(time.time().toString());
-    };
-    return moment(*m_startDate, *m_startTime) + u' ' + moment(*m_endDate, *m_endTime);
-}
-
-void DateTimeRange::FromText(const QString& text) {
-    const QStringList parts = text.split(u' ');
-    const QDate today = Today().ToQDate();
-    const QDate first = today.addDays(parts[0].toInt()),
-                last = today.addDays(parts.value(2).toInt());
-    const QTime start = QTime::fromString(parts.value(1)), end = QTime::fromString(parts.value(3));
-    if (!start.isValid() || !end.isValid())
-        return;
-    m_startDate->setDate(first);
-    m_startTime->setTime(start);
-    m_endDate->setDate(last);
-    m_endTime->setTime(end);
-}
-
 DateTime DateTimeRange::Start() const { return MinuteOf(*m_startDate, *m_startTime); }
 
 DateTime DateTimeRange::End(LastMinute lastMinute) const {

@@ -22,11 +22,6 @@ public:
     /// From 00:00:00 on the first day to 23:59:59 on the last.
     void SetDays(const QDate& first, const QDate& last);
 
-    /// The range for the settings, as days from today and times.
-    QString ToText() const;
-    /// Does nothing if the text is not a range.
-    void FromText(const QString& text);
-
     /// The first second of the start's minute.
     DateTime Start() const;
     /// The last instant of the range, in whole seconds.

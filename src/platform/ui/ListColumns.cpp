@@ -166,7 +166,7 @@ private:
         m_applying = false;
     }
 
-    /// The operator's width of a column goes to the last column's account, as long as that still
+    /// If the operator makes a column wider, the last column becomes narrower, as long as that still
     /// shows its header.
     void Resized(int column) {
         if (m_applying || !m_list.isVisible())

@@ -2,7 +2,6 @@
 
 #include "Clock.h"
 #include "DatabaseReportBuilder.h"
-#include "LastChoice.h"
 #include "ReportButtons.h"
 #include "WindowTools.h"
 #include "frmWaitReport.h"
@@ -18,7 +17,6 @@ frmRptCustomParam::frmRptCustomParam(ReportViewer& viewer, QWidget* parent)
     JoinPreset(*m_ui->cmdPreset_0, 0);
     JoinPreset(*m_ui->cmdPreset_1, 7);
     JoinPreset(*m_ui->cmdPreset_2, 30);
-    RememberChoices(*this, *m_ui->cmdPrintPreview);
 }
 
 frmRptCustomParam::~frmRptCustomParam() = default;

@@ -1,7 +1,6 @@
 #include "frmRptReaderReport.h"
 
 #include "Clock.h"
-#include "LastChoice.h"
 #include "LookUps.h"
 #include "ReaderReportBuilder.h"
 #include "ReportButtons.h"
@@ -23,10 +22,9 @@ frmRptReaderReport::frmRptReaderReport(ReportViewer& viewer, QWidget* parent)
                 [this] { cmdPrintPreview_Click(); });
     });
     LoadReaders();
-    RememberChoices(*this, *m_ui->cmdPrintPreview);
-    if (const ReportProposal proposal = ProposalFor(objectName()); proposal.HasDate())
-        if (const int place = m_ui->imgcboReader->findData(proposal.readerId); place >= 0)
-            m_ui->imgcboReader->setCurrentIndex(place);
+    if (const int place = m_ui->imgcboReader->findData(ProposalFor(objectName()).readerId);
+        place >= 0)
+        m_ui->imgcboReader->setCurrentIndex(place);
     ReadSelectedReader();
 }
 
@@ -55,5 +53,6 @@ void frmRptReaderReport::cmdPrintPreview_Click() {
     ReadSelectedReader();
     StartDate = m_ui->range->Start();
     EndDate = m_ui->range->End(LastMinute::FirstSecond);
+    RememberChoice(objectName(), {ReaderId, 0, {}});
     BuildReaderReport({StartDate, EndDate, ReaderId, ReaderDesc}, m_viewer);
 }

@@ -1,7 +1,6 @@
 #include "frmRptHardwareListParam.h"
 
 #include "HardwareListBuilder.h"
-#include "LastChoice.h"
 #include "ReportButtons.h"
 #include "WindowTools.h"
 #include "mTranslations.h"
@@ -17,7 +16,6 @@ frmRptHardwareListParam::frmRptHardwareListParam(ReportViewer& viewer, QWidget* 
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel, [this, &viewer] {
         BuildHardwareListReport({PrintLocation(), PrintEvent(), PrintReader()}, viewer);
     });
-    RememberChoices(*this, *m_ui->cmdPrintPreview);
     UpdatePreviewButton();
 }
 

@@ -1,7 +1,6 @@
 #include "frmRptIncidentNew.h"
 
 #include "IncidentReportBuilder.h"
-#include "LastChoice.h"
 #include "ReportButtons.h"
 #include "ScratchTable.h"
 #include "WindowTools.h"
@@ -16,7 +15,6 @@ frmRptIncidentNew::frmRptIncidentNew(ReportViewer& viewer, QWidget* parent)
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel,
                       [this] { cmdPrintPreview_Click(); });
     Guarded("Form_Load of Form frmRptIncidentNew", [this] { InitForm(); });
-    RememberChoices(*this, *m_ui->cmdPrintPreview);
 }
 
 frmRptIncidentNew::~frmRptIncidentNew() = default;

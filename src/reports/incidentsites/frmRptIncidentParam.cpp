@@ -1,6 +1,5 @@
 #include "frmRptIncidentParam.h"
 
-#include "LastChoice.h"
 #include "ReportButtons.h"
 #include "WindowTools.h"
 #include "mErrorHandler.h"
@@ -14,7 +13,6 @@ frmRptIncidentParam::frmRptIncidentParam(ReportViewer& viewer, QWidget* parent)
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel,
                       [this] { cmdPrintPreview_Click(); });
     InitParamForm();
-    RememberChoices(*this, *m_ui->cmdPrintPreview);
 }
 
 frmRptIncidentParam::~frmRptIncidentParam() = default;

@@ -1,7 +1,6 @@
 #include "frmRptPatrolSchedule.h"
 
 #include "Format.h"
-#include "LastChoice.h"
 #include "ListColumns.h"
 #include "LookUps.h"
 #include "PatrolScheduleBuilder.h"
@@ -23,7 +22,6 @@ frmRptPatrolSchedule::frmRptPatrolSchedule(ReportViewer& viewer, QWidget* parent
     LoadTours();
     // They take more than the width of the list, so it scrolls sideways.
     ManageColumns(*m_ui->lvwMain, QStringLiteral("frmRptPatrolSchedule"), {30, 50, 30});
-    RememberChoices(*this, *m_ui->cmdPrintPreview);
 }
 
 frmRptPatrolSchedule::~frmRptPatrolSchedule() = default;
