@@ -13,6 +13,7 @@ namespace {
 
 /// The pictures are taken at 200 %.
 constexpr double PixelsOfPicture = 2;
+constexpr int PageMargin = 12;    ///< pixels
 constexpr int PrintedWidth = 600; ///< of a picture, in pixels of an ordinary screen: fits A4
 
 QSet<QString> PicturesOf(const QTextDocument& document) {
@@ -52,6 +53,7 @@ QPixmap Framed(const QByteArray& content, int width, double dense, const QColor&
 } // namespace
 
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
+    document()->setDocumentMargin(PageMargin);
     // source() still gives the old one during the signal.
     connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) {
         m_topic = url.fileName().chopped(3);

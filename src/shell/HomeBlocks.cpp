@@ -209,6 +209,9 @@ void HomeBlocks::FillTours() {
         for (int column = OnTimeColumn; column <= MissingColumn; ++column) {
             const Shade& shade = Shades[static_cast<std::size_t>(column - OnTimeColumn)];
             item->setForeground(column, dark ? shade.onDark : shade.onLight);
+            if (item->text(column).isEmpty())
+                item->setData(column, Qt::AccessibleTextRole,
+                              m_tours->headerItem()->text(column) + QStringLiteral(": 0"));
         }
     }
     m_tours->setCurrentItem(
