@@ -41,7 +41,7 @@ QString FaultOfStoreFolder() {
     if (QFileInfo::exists(storeFolder) && !QFileInfo(storeFolder).isWritable())
         return FormatStr(
             Translate("You may not write to the folder %0:s. Please ask for permission, "
-                      "or name another folder in WARDLOCK_HOME."),
+                      "or choose another folder in WARDLOCK_HOME."),
             {QDir::toNativeSeparators(storeFolder)});
     return {};
 }
