@@ -2,7 +2,9 @@
 
 #include "Controls.h"
 #include "DockingLink.h"
+#include "ListColumns.h"
 #include "ScriptedBoxes.h"
+#include "Settings.h"
 #include "TestHome.h"
 #include "TestTable.h"
 #include "WindowPlace.h"
@@ -12,14 +14,20 @@
 #include "frmEditTour.h"
 #include "frmListEdit.h"
 #include "frmMDISetup.h"
+#include "frmManualID.h"
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
+#include <QFrame>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QListView>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QTabBar>
 #include <QTimeEdit>
+#include <QToolTip>
+#include <QTreeWidget>
 
 namespace {
 
@@ -430,6 +438,10 @@ private slots:
         auto* list = Control<QTreeView>(*page, "lvwProgram");
         auto* filter = Control<QLineEdit>(*page, "txtFilter");
         QVERIFY(Control(*page, "listHint")->isVisible());
+        page->resize(page->size() + QSize(50, 40));
+        QCoreApplication::processEvents();
+        QCOMPARE(Control(*page, "listHint")->size(), list->viewport()->size());
+        QCOMPARE(list->accessibleDescription(), Control(*page, "listHint")->text());
         for (const char* name : {"Depot", " Depot ", "Yard"}) {
             Press(*page, "cmdSetup_1");
             auto* field = list->viewport()->findChild<QLineEdit*>();
@@ -475,6 +487,37 @@ private slots:
         QVERIFY(std::abs(header()->sectionSize(0) * 4 - header()->length()) < 12);
     }
 
+    // They fit rows that come later; short names stay whole, and a tool tip shows a long one.
+    void ColumnsFollowTheirRows() {
+        const QString name = QStringLiteral("test"), wide(80, u'w');
+        const auto make = [&] {
+            auto list = std::make_unique<QTreeWidget>();
+            list->setHeaderLabels({"A", "B"});
+            list->setRootIsDecorated(false);
+            list->resize(200, 200);
+            ManageColumns(*list, name);
+            list->show();
+            return list;
+        };
+        auto list = make();
+        new QTreeWidgetItem(list.get(), {"A name of letters", wide});
+        const QAbstractItemView* view = list.get();
+        QVERIFY(view->sizeHintForColumn(0) > list->columnWidth(0));
+        QTRY_VERIFY(view->sizeHintForColumn(0) <= list->columnWidth(0));
+        const QPoint cell = list->visualRect(list->model()->index(0, 1)).topLeft() + QPoint(9, 9);
+        QHelpEvent help(QEvent::ToolTip, cell, list->viewport()->mapToGlobal(cell));
+        QCoreApplication::sendEvent(list->viewport(), &help);
+        QVERIFY(QToolTip::text().contains(wide));
+        list->header()->moveSection(0, 1);
+        list.reset();
+        list = make();
+        QCOMPARE(list->header()->visualIndex(0), 1);
+        list.reset();
+        SaveSetting(SettingsApplication, QStringLiteral("Columns"), name, "1:0 0:-5");
+        list = make();
+        QVERIFY(list->columnWidth(0) > 0 && list->columnWidth(1) > 0);
+    }
+
     // What is typed in the list of sites searches; only an entry that is chosen becomes the value.
     void SitesAreSearched() {
         const auto editor = Editor();
@@ -489,12 +532,20 @@ private slots:
         sites->showPopup();
         QTest::keyClicks(Control<QListView>(*sites, "lvwFound"), "xyz");
         QTest::keyClick(search, Qt::Key_Return);
-        QVERIFY(search->isVisible());
+        auto* popup = Control<QFrame>(*sites, "searchPopup");
+        QVERIFY(popup->findChild<QLabel*>()->isVisible()); // nothing was found
         QCOMPARE(sites->currentText(), "Harbour Warehouse");
+        const QSignalSpy activated(sites, &QComboBox::activated);
         search->setText("tow");
         QTest::keyClick(search, Qt::Key_Return);
         QVERIFY(!search->isVisible() && editor->isVisible());
         QCOMPARE(sites->currentText(), "Office Tower");
+        QCOMPARE(activated.count(), 1);
+        sites->addItem(QString(60, u'w'));
+        sites->showPopup();
+        QCOMPARE(Control<QListView>(*sites, "lvwFound")->currentIndex().data(), "Office Tower");
+        QVERIFY(popup->width() > sites->width());
+        sites->hidePopup();
         QVERIFY(RowsIn(*Control<QTreeView>(*editor, "lvwLocations"))
                     .join(u'\n')
                     .contains("Server room"));
@@ -518,6 +569,12 @@ private slots:
         QCOMPARE(shown(QRect(-5000, 40, 9000, 260)), inside);
         QVERIFY(screen.contains(shown(QRect(screen.right() - 100, 40, 420, 260))));
         QVERIFY(screen.contains(shown(inside)));
+        // Saved when the texts were shorter.
+        SaveSetting(SettingsApplication, QStringLiteral("Windows"), "frmManualID", "30 40 20 20");
+        frmManualID dialog(nullptr);
+        dialog.show();
+        const auto* text = dialog.findChild<QLabel*>();
+        QVERIFY(text->height() >= text->heightForWidth(text->width()));
     }
 
     // What cannot be saved stays in the editor.
