@@ -31,17 +31,16 @@ QString FaultOfStoreFolder() {
     const QFileInfo folder(AppPath());
     const QString path = QDir::toNativeSeparators(AppPath());
     if (!folder.isDir())
-        return FormatStr(
-            Translate("The folder %0:s does not exist. Please create it, or choose "
-                      "another folder in WARDLOCK_HOME."),
-            {path});
+        return FormatStr(Translate("The folder %0:s does not exist. Please create it, or choose "
+                                   "another folder in WARDLOCK_HOME."),
+                         {path});
     // A store that is a link is written in the folder of the file that it means.
     const QString storeFolder =
         QFileInfo(FileMeantBy(AppFile(QStringLiteral("main.mdb")))).absolutePath();
     if (QFileInfo::exists(storeFolder) && !QFileInfo(storeFolder).isWritable())
         return FormatStr(
             Translate("You may not write to the folder %0:s. Please ask for permission, "
-                      "or name another folder in WARDLOCK_HOME."),
+                      "or choose another folder in WARDLOCK_HOME."),
             {QDir::toNativeSeparators(storeFolder)});
     return {};
 }
