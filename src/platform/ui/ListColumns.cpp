@@ -166,8 +166,8 @@ private:
         m_applying = false;
     }
 
-    /// If the operator makes a column wider, the last column becomes narrower, as long as that still
-    /// shows its header.
+    /// If the operator makes a column wider, the last column becomes narrower, as long as that
+    /// still shows its header.
     void Resized(int column) {
         if (m_applying || !m_list.isVisible())
             return;
