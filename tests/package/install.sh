@@ -33,6 +33,14 @@ kill "$station"
 wait "$station" || true
 station=
 
+# A store that is lost is not made again, and a folder that is missing is named.
+rm "$store"
+: >"$folder/data/wardlock/error.log"
+QT_QPA_PLATFORM=offscreen timeout 2 bin/wardlock 2>"$folder/log" || true
+[ ! -e "$store" ] || fail "a lost store was made again"
+bin/wardlockctl --home "$folder/nowhere" list tours 2>"$folder/log" && fail "a missing folder was accepted"
+grep -qF "The folder $folder/nowhere does not exist." "$folder/log" || fail "$(cat "$folder/log")"
+
 # In German, from the dictionary of the installation.
 mkdir -p "$folder/demo" "$XDG_CONFIG_HOME/Wardlock"
 printf '[Properties]\nLanguage=2\n' >"$XDG_CONFIG_HOME/Wardlock/Wardlock Lite.conf"
