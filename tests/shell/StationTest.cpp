@@ -145,7 +145,7 @@ private slots:
             dock.reset();
             QTRY_COMPARE(state->text(), "Docking Station : Not Detected");
             QVERIFY(!Action("download")->isEnabled());
-            QVERIFY(Control(*MainWindow(), "panel2")->text().startsWith(link));
+            QVERIFY(Control(*MainWindow(), "panelGone")->text().startsWith(link));
             QVERIFY(m_home->TakeLog().contains("The docking station at " + link + " is gone"));
             QFile::remove(link);
             Dock other(Night); // a device that was not chosen
@@ -163,6 +163,70 @@ private slots:
             QCOMPARE(dock->Logged("CmdDetect"), 1);
             QCOMPARE(other.Logged("CmdDetect") + other.Logged("0D 0A"), 0);
         }
+        QFile::remove(link);
+    }
+
+    // The operator does not wait until the station is found, or chooses another port.
+    void ConnectsBeforeTheStationIsFound() {
+        const QString link = m_home->File("dock");
+        std::unique_ptr<Dock> dock;
+        const auto plugIn = [&](const QByteArray& scenario) {
+            dock = std::make_unique<Dock>(scenario);
+            return QFile::link(dock->Device(), link);
+        };
+        QVERIFY(plugIn(Night));
+        Save(SettingsSection::ComPort, "Device1", link);
+        Save(SettingsSection::ComPort, "Device2", "/dev/no-such-dock");
+        Script login;
+        LogIn(login, "keeper");
+        login.Start();
+        QVERIFY(Main({}) == StartOutcome::Running && login.Finish() && gDockingDetected);
+        const auto* state = Control<QLabel>(*MainWindow(), "panel1");
+        const auto* gone = Control<QLabel>(*MainWindow(), "panelGone");
+        const auto unplug = [&] {
+            dock.reset();
+            return QTest::qWaitFor([&] { return gone->text().startsWith(link); }) &&
+                   QFile::remove(link) && !gDockingDetected;
+        };
+        const std::function<void()> ways[] = {
+            [] { Script::Find<QPushButton>("frmMdiMenu", "cmdRetry")->click(); },
+            [] { MainWindow()->GoHome(); }};
+        for (const auto& connect : ways) {
+            QVERIFY(unplug() && plugIn(Night));
+            m_home->TakeLog();
+            connect();
+            QVERIFY(gDockingDetected && gone->text().isEmpty());
+            QCOMPARE(m_home->TakeLog(), "The docking station at " + link + " is back");
+        }
+        // It still boots when the operator tries.
+        QVERIFY(unplug() && plugIn(Night + "fault silent detect\n"));
+        Script ignore({"Ignore"});
+        ignore.Start();
+        MainWindow()->GoHome();
+        QVERIFY(ignore.Finish() && !gDockingDetected);
+        dock->Say("fault none");
+        QTRY_COMPARE(state->text(), "Docking Station : OK");
+
+        QVERIFY(unplug());
+        gDictionary->InstallChooser([](Dictionary&, int& number) {
+            number = 2;
+            return true;
+        });
+        Script german({"OK"});
+        german.Start();
+        Action("mnuToolsLanguage")->trigger();
+        QVERIFY(german.Finish() && gone->text().contains(" ist nicht mehr "));
+        Script port;
+        port.With<QComboBox>("frmPrpComms", "cboLocalPort",
+                             [](QComboBox& ports) { ports.setCurrentIndex(1); });
+        port.Click("frmPrpComms", "cmdSetupOK");
+        port.Answer("OK");
+        port.Start();
+        MainWindow()->GoOptions();
+        QVERIFY(port.Finish() && gone->text().isEmpty());
+        QVERIFY(plugIn(Night));
+        QTest::qWait(300); // nine looks at the device
+        QCOMPARE(dock->Logged("CmdDetect") + dock->Logged("0D 0A"), 0);
         QFile::remove(link);
     }
 
