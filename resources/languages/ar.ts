@@ -144,6 +144,10 @@
         <translation>لم تكن هناك جولة مقررة.</translation>
     </message>
     <message>
+        <source>Readers and tours are not set up yet. A master does this on the Setup page.</source>
+        <translation>لم تُعرَّف القارئات والجولات بعد. يقوم المشرف بذلك في صفحة «الإعداد».</translation>
+    </message>
+    <message>
         <source>not downloaded or not walked</source>
         <translation>لم تُنزَّل أو لم تُنفَّذ</translation>
     </message>

@@ -144,6 +144,10 @@
         <translation>Es war kein Rundgang fällig.</translation>
     </message>
     <message>
+        <source>Readers and tours are not set up yet. A master does this on the Setup page.</source>
+        <translation>Leser und Rundgänge sind noch nicht eingerichtet. Das macht der Einsatzleiter auf der Seite „Einrichtung“.</translation>
+    </message>
+    <message>
         <source>not downloaded or not walked</source>
         <translation>nicht ausgelesen oder nicht gegangen</translation>
     </message>

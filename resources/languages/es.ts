@@ -144,6 +144,10 @@
         <translation>No había ninguna ronda prevista.</translation>
     </message>
     <message>
+        <source>Readers and tours are not set up yet. A master does this on the Setup page.</source>
+        <translation>Los lectores y las rondas aún no están definidos. El responsable lo hace en la página Configuración.</translation>
+    </message>
+    <message>
         <source>not downloaded or not walked</source>
         <translation>no descargada o no hecha</translation>
     </message>

@@ -144,6 +144,10 @@
         <translation>Aucune ronde n’était prévue.</translation>
     </message>
     <message>
+        <source>Readers and tours are not set up yet. A master does this on the Setup page.</source>
+        <translation>Les lecteurs et les rondes ne sont pas encore définis. Le responsable le fait sur la page Paramétrage.</translation>
+    </message>
+    <message>
         <source>not downloaded or not walked</source>
         <translation>non déchargée ou non faite</translation>
     </message>

@@ -144,6 +144,10 @@
         <translation>Nessuna ronda era prevista.</translation>
     </message>
     <message>
+        <source>Readers and tours are not set up yet. A master does this on the Setup page.</source>
+        <translation>I lettori e le ronde non sono ancora definiti. Lo fa il responsabile nella pagina Configurazione.</translation>
+    </message>
+    <message>
         <source>not downloaded or not walked</source>
         <translation>non scaricata o non fatta</translation>
     </message>

@@ -144,6 +144,10 @@
         <translation>Er was geen ronde gepland.</translation>
     </message>
     <message>
+        <source>Readers and tours are not set up yet. A master does this on the Setup page.</source>
+        <translation>Lezers en rondes zijn nog niet vastgelegd. De beheerder doet dat op de pagina ‘Beheer’.</translation>
+    </message>
+    <message>
         <source>not downloaded or not walked</source>
         <translation>niet uitgelezen of niet gelopen</translation>
     </message>

@@ -144,6 +144,10 @@
         <translation>W tym czasie nie planowano obchodów.</translation>
     </message>
     <message>
+        <source>Readers and tours are not set up yet. A master does this on the Setup page.</source>
+        <translation>Czytniki i obchody nie są jeszcze zdefiniowane. Robi to administrator na stronie „Definicje”.</translation>
+    </message>
+    <message>
         <source>not downloaded or not walked</source>
         <translation>nie odczytano lub nie odbyto</translation>
     </message>

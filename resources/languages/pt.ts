@@ -144,6 +144,10 @@
         <translation>Nenhuma ronda estava prevista.</translation>
     </message>
     <message>
+        <source>Readers and tours are not set up yet. A master does this on the Setup page.</source>
+        <translation>Os leitores e as rondas ainda não estão definidos. O responsável faz isso na página Configuração.</translation>
+    </message>
+    <message>
         <source>not downloaded or not walked</source>
         <translation>sem descarga/não feita</translation>
     </message>

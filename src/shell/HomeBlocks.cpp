@@ -15,6 +15,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTreeWidget>
 
 #include <array>
@@ -68,6 +69,11 @@ QString NameOf(const Reader& reader) {
     return reader.description.isEmpty() ? reader.id : ReaderText(reader);
 }
 
+bool IsSameRun(const DueTour& a, const DueTour& b) {
+    const auto readerOf = [](const DueTour& due) { return due.reader.value_or(Reader()).id; };
+    return a.tour.id == b.tour.id && a.start == b.start && readerOf(a) == readerOf(b);
+}
+
 QGroupBox* Box(const char* title, QWidget* parent) {
     auto* box = new QGroupBox(QString::fromUtf8(title), parent);
     return box;
@@ -86,6 +92,7 @@ HomeBlocks::HomeBlocks(QWidget* parent) : QWidget(parent) {
     m_station = new QLabel(stationBox);
     m_station->setWordWrap(true);
     m_device = new QLabel(stationBox);
+    m_device->setObjectName(QStringLiteral("lblDevice"));
     m_device->setWordWrap(true);
     m_retry = new QPushButton(QString::fromUtf8(QT_TR_NOOP("Retry")), stationBox);
     m_retry->setObjectName(QStringLiteral("cmdRetry"));
@@ -121,7 +128,8 @@ HomeBlocks::HomeBlocks(QWidget* parent) : QWidget(parent) {
     m_tours->installEventFilter(this);
     connect(m_tours, &QTreeWidget::itemClicked, this, &HomeBlocks::OpenCurrent);
     m_noTours = new QLabel(m_toursBox);
-    m_noTours->setText(QString::fromUtf8(QT_TR_NOOP("No tour was due.")));
+    m_noTours->setObjectName(QStringLiteral("lblNoTours"));
+    m_noTours->setWordWrap(true);
     tours->addWidget(m_tours);
     tours->addWidget(m_noTours, 1, 0, Qt::AlignTop);
 
@@ -130,6 +138,8 @@ HomeBlocks::HomeBlocks(QWidget* parent) : QWidget(parent) {
     for (std::size_t i = 0; i < Steps.size(); ++i) {
         auto* tick = new QLabel(m_stepsBox);
         auto* step = new QPushButton(QString::fromUtf8(Steps[i].text), m_stepsBox);
+        tick->setObjectName(QStringLiteral("lblStep_%1").arg(i));
+        step->setObjectName(QStringLiteral("cmdStep_%1").arg(i));
         steps->addWidget(tick, static_cast<int>(i), 0);
         steps->addWidget(step, static_cast<int>(i), 1);
         connect(step, &QPushButton::clicked, this, [this, i] { emit SetupWanted(Steps[i].tab); });
@@ -153,7 +163,8 @@ void HomeBlocks::ShowStation(bool detected, int port, const QString& device) {
     ShowIcon(*m_stationIcon, detected ? QStringLiteral("online") : QStringLiteral("offline"));
     m_station->setText(
         Translate(detected ? "Docking Station : OK" : "Docking Station : Not Detected"));
-    m_device->setText(QStringLiteral("COM%1: ").arg(port) + device);
+    m_device->setText(QStringLiteral("COM%1: ").arg(port) +
+                      (device.isEmpty() ? Translate("no device") : device));
     m_retry->setVisible(!detected);
 }
 
@@ -179,6 +190,10 @@ void HomeBlocks::FillDownload() {
 void HomeBlocks::FillSteps() {
     const bool empty = CountReaders() == 0 || !AnyTourHasPoints();
     const bool shown = empty && m_userType == MasterOperator;
+    m_noTours->setText(
+        Translate(empty ? "Readers and tours are not set up yet. A master does this on "
+                          "the Setup page."
+                        : "No tour was due."));
     m_stepsBox->setVisible(shown);
     m_toursBox->setVisible(!shown);
     if (!shown)
@@ -192,8 +207,9 @@ void HomeBlocks::FillSteps() {
 
 void HomeBlocks::FillTours() {
     const DateTime now = Now();
-    m_due = DueTours(now - DateTime::FromDays(1), now);
-    const int current = std::max(0, m_tours->indexOfTopLevelItem(m_tours->currentItem()));
+    const int before = m_tours->indexOfTopLevelItem(m_tours->currentItem());
+    const QList<DueTour> old = std::exchange(m_due, DueTours(now - DateTime::FromDays(1), now));
+    const int scrolled = m_tours->verticalScrollBar()->value();
     m_tours->setHeaderLabels({Translate("Tour"), Translate("Reader"), Translate("Start Time"),
                               Translate("On time"), Translate("Early"), Translate("Late"),
                               Translate("Missing")});
@@ -214,8 +230,12 @@ void HomeBlocks::FillTours() {
                               m_tours->headerItem()->text(column) + QStringLiteral(": 0"));
         }
     }
-    m_tours->setCurrentItem(
-        m_tours->topLevelItem(std::min<int>(current, m_tours->topLevelItemCount() - 1)));
+    int current = 0;
+    for (int i = 0; before >= 0 && i < m_due.size(); ++i)
+        if (IsSameRun(m_due[i], old[before]))
+            current = i;
+    m_tours->setCurrentItem(m_tours->topLevelItem(current));
+    m_tours->verticalScrollBar()->setValue(scrolled);
     m_tours->setVisible(!m_due.isEmpty());
     m_noTours->setVisible(m_due.isEmpty());
 }

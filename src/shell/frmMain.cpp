@@ -147,7 +147,6 @@ void frmMain::InitToolbar() {
         action->setCheckable(true);
         auto* button = static_cast<QToolButton*>(m_ui->tbrMain->widgetForAction(action));
         button->setFocusPolicy(Qt::TabFocus);
-        button->installEventFilter(this);
         button->setAccessibleName(Translate(row.caption));
     }
     QAction* first = m_ui->tbrMain->actions().first();
@@ -206,16 +205,13 @@ void frmMain::ShowChosen(QAction& action, bool chosen) {
     button->setFont(letters);
 }
 
-bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    auto* button = qobject_cast<QToolButton*>(watched);
-    if (button && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            button->click();
-            return true;
-        }
-    }
-    return QMainWindow::eventFilter(watched, event);
+/// Dialogs do so by themselves.
+void frmMain::keyPressEvent(QKeyEvent* event) {
+    auto* button = qobject_cast<QAbstractButton*>(focusWidget());
+    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        button->click();
+    else
+        QMainWindow::keyPressEvent(event);
 }
 
 void frmMain::changeEvent(QEvent* event) {

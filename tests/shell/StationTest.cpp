@@ -4,6 +4,7 @@
 #include "Dock.h"
 #include "Files.h"
 #include "ForkedChild.h"
+#include "HomeBlocks.h"
 #include "InstanceLock.h"
 #include "LockFile.h"
 #include "LookUps.h"
@@ -16,6 +17,7 @@
 #include "cReaderOptions.h"
 #include "frmAbout.h"
 #include "frmMain.h"
+#include "frmMdiMenu.h"
 #include "frmUserMaintenance.h"
 #include "mMain.h"
 #include "mOperators.h"
@@ -26,7 +28,9 @@
 #include <QDateEdit>
 #include <QFileDialog>
 #include <QMenu>
+#include <QScrollBar>
 #include <QTabBar>
+#include <QToolBar>
 #include <QTreeWidget>
 
 #include <unistd.h>
@@ -321,7 +325,27 @@ private slots:
                 QTest::mouseClick(tours->viewport(), Qt::LeftButton, {},
                                   tours->visualItemRect(tours->topLevelItem(row)).center());
             });
+        // A tour that becomes due does not move what the operator looks at.
         tours->setCurrentItem(tours->topLevelItem(1));
+        const auto refresh = [&](int first, int last) {
+            for (int tour = first; tour <= last; ++tour) {
+                gConn->Execute(QStringLiteral("INSERT INTO tblTours (ID, tName, iTolerance, "
+                                              "dtStartTime) VALUES (%1, 'New', 5, #1899-12-30 "
+                                              "10:30:00#)")
+                                   .arg(tour));
+                gConn->Execute(QStringLiteral("INSERT INTO tblTourPoints (lParentID, lIndex, "
+                                              "dtTime, tButtonCode) VALUES (%1, 1, 0, '2C0B5E')")
+                                   .arg(tour));
+            }
+            page->findChild<HomeBlocks*>()->Fill();
+        };
+        refresh(20, 59);
+        QCOMPARE(tours->currentItem()->text(0), "Night round");
+        DoEvents();
+        tours->verticalScrollBar()->setValue(20);
+        refresh(60, 60);
+        DoEvents();
+        QCOMPARE(tours->verticalScrollBar()->value(), 20);
         opened += Proposed([&] { QTest::keyClick(tours, Qt::Key_Return); });
         const QString night = "Night round - Harbour Warehouse, over midnight|4B5831A7 - Night "
                               "reader|2026-11-21";
@@ -489,6 +513,36 @@ private slots:
         QVERIFY(Action("home")->isEnabled() && !Action("reports")->isEnabled());
         QVERIFY_THROWS_EXCEPTION(RunTimeError, MainWindow()->NavigateToolbarButtons("111"));
         QVERIFY(Action("home")->isEnabled() && !Action("reports")->isEnabled());
+
+        gConn->Execute("DELETE FROM tblTours");
+        const auto press = [](QWidget* button, Qt::Key key) {
+            button->setFocus();
+            QTest::keyClick(button, key);
+        };
+        Script offline({"OK"});
+        offline.Start();
+        auto* bar = Control<QToolBar>(*MainWindow(), "tbrMain");
+        press(bar->widgetForAction(Action("home")), Qt::Key_Return);
+        QVERIFY(offline.Finish());
+        auto* nothing = Script::Find<QLabel>("frmMdiMenu", "lblNoTours");
+        QVERIFY(nothing && nothing->isVisible() == !tools);
+        QVERIFY(tools || nothing->text().startsWith("Readers and tours are not set up yet."));
+        auto* home =
+            static_cast<frmMdiMenu*>(Script::Find<QLabel>("frmMdiMenu", "lblMainTitle")->parent());
+        home->ShowStation(false, 1, {});
+        QCOMPARE(Control(*home, "lblDevice")->text(), "COM1: no device");
+        Script retry({"OK"});
+        retry.Start();
+        press(Control<QPushButton>(*home, "cmdRetry"), Qt::Key_Enter);
+        QVERIFY(retry.Finish());
+        QStringList ticks;
+        for (int step = 0; step < 4; ++step)
+            ticks += Control(*home, qPrintable(QStringLiteral("lblStep_%1").arg(step)))->text();
+        QCOMPARE(ticks.join(QString()), tools ? "✓✓✓○" : "");
+        if (!tools)
+            return;
+        press(Control<QPushButton>(*home, "cmdStep_3"), Qt::Key_Return);
+        QCOMPARE(Control<QTabBar>(*MainWindow(), "tabSetup")->currentIndex(), 2);
     }
 
     void BacksUpFromTheMenu() {
