@@ -9,6 +9,7 @@
 #include "ui_frmMdiMenu.h"
 
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -97,6 +98,18 @@ void frmMdiMenu::ReadPicture() {
         m_picture = QIcon(OwnPicture).pixmap(m_picture.size());
 }
 
+void frmMdiMenu::ShowScaledPicture(const QRect& place) {
+    m_ui->imgContact->setVisible(place.isValid() && !m_picture.isNull());
+    if (!m_ui->imgContact->isVisibleTo(this))
+        return;
+    const qreal ratio = devicePixelRatioF();
+    QPixmap scaled = m_picture.scaled((place.size().toSizeF() * ratio).toSize(),
+                                      Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(ratio);
+    m_ui->imgContact->setPixmap(scaled);
+    m_ui->imgContact->setGeometry(place);
+}
+
 void frmMdiMenu::ResizeForm() {
     const int margin = PixelsOf(Margin);
     const int width = this->width() - 2 * margin;
@@ -109,23 +122,16 @@ void frmMdiMenu::ResizeForm() {
     const int moreLines = notice - m_ui->lblCopyright->fontMetrics().lineSpacing();
     m_ui->lblCopyright->setGeometry(
         margin, height() - PixelsOf(CopyrightFromBottom) - std::max(0, moreLines), width, notice);
-    const int pictureTop = 3 * margin + titleHeight;
-    const int room = std::max(0, versionTop - pictureTop - margin);
-    // The picture takes what the blocks leave.
-    int pictureHeight =
-        std::clamp(room - m_blocks->sizeHint().height() - margin, 0, MostPictureHeight);
-    if (pictureHeight < LeastPictureHeight)
-        pictureHeight = 0;
-    m_ui->imgContact->setVisible(pictureHeight > 0 && !m_picture.isNull());
-    if (m_ui->imgContact->isVisibleTo(this)) {
-        const qreal ratio = devicePixelRatioF();
-        QPixmap scaled = m_picture.scaled(QSizeF(width * ratio, pictureHeight * ratio).toSize(),
-                                          Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        scaled.setDevicePixelRatio(ratio);
-        m_ui->imgContact->setPixmap(scaled);
-        m_ui->imgContact->setGeometry(margin, pictureTop, width, pictureHeight);
-    }
-    const int blocksTop = pictureTop + (pictureHeight > 0 ? pictureHeight + margin : 0);
+    const int top = 3 * margin + titleHeight;
+    const int room = std::max(0, versionTop - top - margin);
+    // The picture takes what the blocks leave. If that is too little, it stands beside the title.
+    const int left = room - m_blocks->sizeHint().height() - margin;
+    const int besideTitle = (width - m_ui->lblMainTitle->sizeHint().width()) / 2;
+    const bool ownRow = left >= LeastPictureHeight;
+    const QRect place = ownRow ? QRect(margin, top, width, std::min(left, MostPictureHeight))
+                               : QRect(margin, margin, besideTitle, titleHeight + 2 * margin);
+    ShowScaledPicture(QStyle::visualRect(layoutDirection(), rect(), place));
+    const int blocksTop = ownRow ? place.bottom() + 1 + margin : top;
     m_ui->areaBlocks->setGeometry(margin, blocksTop, width, std::max(0, versionTop - blocksTop));
     const QSize icon = m_ui->imgIcon->sizeHint();
     const int iconLeft = isRightToLeft() ? margin : this->width() - icon.width() - margin;

@@ -35,6 +35,8 @@ protected:
 
 private:
     void ResizeForm();
+    /// As large as the place allows.
+    void ShowScaledPicture(const QRect& place);
     void ReadPicture();
 
     QPixmap m_picture;
