@@ -319,6 +319,14 @@ private slots:
                               "Night round|4B5831A7 - Night reader|21 Nov 2026 23:15|✓ 1 on time|◀ "
                               "1 early|▶ 1 late|✗ 2 missing",
                               "Day round|0A0B0C0D|21 Nov 2026 14:00|✓ 1 on time|||✗ 3 missing"}));
+        MainWindow()->resize(641, 446); // the size of an ordinary start
+        DoEvents();
+        for (const char* part : {"lblMainTitle", "imgContact", "lblVersionMsg", "lvwTours"}) {
+            const auto* widget = Control<QWidget>(*page, part);
+            QVERIFY2(widget->visibleRegion().boundingRect() == widget->rect() &&
+                         widget->width() > 40,
+                     part);
+        }
         QStringList opened;
         for (const int row : {0, 1, 2})
             opened += Proposed([&] {
@@ -943,6 +951,8 @@ private slots:
                 ::usleep(200);
         });
         QVERIFY(Start(nullptr));
+        m_clock.reset();
+        m_clock = std::make_unique<TestClock>(3); // the other takes the store within a pause
         gConn->Execute("DELETE * FROM tblReaders");
         MainWindow()->GoSetup();
         Script script;
@@ -973,10 +983,14 @@ private slots:
             return true;
         });
         script.Answer("Yes");
-        script.With<QLabel>("frmWaitStore", "", [&](QLabel& label) {
-            QVERIFY(label.text().contains("It is in use by StationTest (process "));
+        script.Then([&] {
+            const auto* label = Script::Find<QLabel>("frmWaitStore", "");
+            // The other takes the lock first and writes its name afterwards.
+            if (!label || !label->text().contains("It is in use by StationTest (process "))
+                return false;
             if (!givesUp)
                 WriteBytes(m_home->File("end"), {});
+            return true;
         });
         if (givesUp)
             script.Click("frmWaitStore", "");
