@@ -1000,6 +1000,10 @@
         <translation>اختيار الجولة وتاريخها لإنشاء التقرير</translation>
     </message>
     <message>
+        <source>Choose the reader</source>
+        <translation>اختيار القارئ</translation>
+    </message>
+    <message>
         <source>Select the date range and reader ID to create the Reader Download Report</source>
         <translation>اختيار الفترة والقارئ لإنشاء تقرير التنزيلات</translation>
     </message>

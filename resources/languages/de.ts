@@ -1000,6 +1000,10 @@
         <translation>Rundgang und Datum für den Bericht wählen</translation>
     </message>
     <message>
+        <source>Choose the reader</source>
+        <translation>Leser wählen</translation>
+    </message>
+    <message>
         <source>Select the date range and reader ID to create the Reader Download Report</source>
         <translation>Zeitraum und Leser für den Bericht wählen</translation>
     </message>

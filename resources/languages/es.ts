@@ -1000,6 +1000,10 @@
         <translation>Elija la ronda y la fecha del informe</translation>
     </message>
     <message>
+        <source>Choose the reader</source>
+        <translation>Elija el lector</translation>
+    </message>
+    <message>
         <source>Select the date range and reader ID to create the Reader Download Report</source>
         <translation>Elija el período y el lector del informe</translation>
     </message>

@@ -1000,6 +1000,10 @@
         <translation>Choisissez la ronde et la date du rapport</translation>
     </message>
     <message>
+        <source>Choose the reader</source>
+        <translation>Choisissez le lecteur</translation>
+    </message>
+    <message>
         <source>Select the date range and reader ID to create the Reader Download Report</source>
         <translation>Choisissez la période et le lecteur du rapport</translation>
     </message>

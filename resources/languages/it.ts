@@ -1000,6 +1000,10 @@
         <translation>Scegliere la ronda e la data del rapporto</translation>
     </message>
     <message>
+        <source>Choose the reader</source>
+        <translation>Scegliere il lettore</translation>
+    </message>
+    <message>
         <source>Select the date range and reader ID to create the Reader Download Report</source>
         <translation>Scegliere il periodo e il lettore del rapporto</translation>
     </message>

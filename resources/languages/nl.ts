@@ -1000,6 +1000,10 @@
         <translation>Kies de ronde en de datum voor het rapport</translation>
     </message>
     <message>
+        <source>Choose the reader</source>
+        <translation>Kies de lezer</translation>
+    </message>
+    <message>
         <source>Select the date range and reader ID to create the Reader Download Report</source>
         <translation>Kies de periode en de lezer voor het uitleesrapport</translation>
     </message>

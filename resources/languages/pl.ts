@@ -1000,6 +1000,10 @@
         <translation>Proszę wybrać obchód i datę raportu</translation>
     </message>
     <message>
+        <source>Choose the reader</source>
+        <translation>Proszę wybrać czytnik</translation>
+    </message>
+    <message>
         <source>Select the date range and reader ID to create the Reader Download Report</source>
         <translation>Proszę wybrać okres i czytnik dla raportu odczytów</translation>
     </message>

@@ -1000,6 +1000,10 @@
         <translation>Escolha a ronda e a data do relatório</translation>
     </message>
     <message>
+        <source>Choose the reader</source>
+        <translation>Escolha o leitor</translation>
+    </message>
+    <message>
         <source>Select the date range and reader ID to create the Reader Download Report</source>
         <translation>Escolha o período e o leitor do relatório</translation>
     </message>

@@ -6,7 +6,7 @@
 
 /// What a report dialog proposes when it opens. After a download, that is what the downloaded
 /// reader recorded; otherwise what the operator chose last in the same dialog. The dialog
-/// ignores a reader or tour that no longer exists.
+/// ignores a tour that no longer exists.
 struct ReportProposal {
     QString readerId; ///< empty: none
     int tourId = 0;   ///< 0: none

@@ -11,8 +11,8 @@ constexpr int DeviceInterval = 1000; ///< ms
 constexpr int AnswerInterval = 300;
 /// As long as DockingLink::DetectStation waits.
 constexpr int Looks = 5;
-/// A station may need some time after it is plugged in. A device that is not a station is left alone
-/// after that, until it goes away and comes back.
+/// A station may need some time after it is plugged in. A device that is not a station is left
+/// alone after that, until it goes away and comes back.
 constexpr int Checks = 5;
 
 } // namespace
@@ -29,20 +29,25 @@ DockWatch::DockWatch(DockingLink& link, std::function<bool()> isBusy)
 }
 
 void DockWatch::Start() {
+    const bool back = m_missing && !m_device.isEmpty();
     m_device = DeviceOfPort(m_link.comPort().Number);
-    m_missing = false;
+    m_missing = m_gone = false;
     m_looksLeft = 0;
     m_tmrAnswer.SetEnabled(false);
     m_tmrDevice.SetEnabled(true);
+    if (back)
+        emit Found(m_device);
 }
 
 void DockWatch::NotAnswered() {
     m_missing = true;
-    m_checksLeft = 0;
+    m_gone = m_gone && !DeviceExists(m_device);
+    m_checksLeft = Checks;
 }
 
 void DockWatch::Stop() {
     m_device.clear();
+    m_gone = false;
     m_looksLeft = 0;
     m_tmrAnswer.SetEnabled(false);
     m_tmrDevice.SetEnabled(false);
@@ -61,15 +66,17 @@ void DockWatch::CheckDevice() {
 }
 
 void DockWatch::Lose() {
-    m_missing = true;
+    m_missing = m_gone = true;
     m_checksLeft = Checks;
     m_link.ClosePort();
     emit Gone(m_device);
 }
 
 void DockWatch::TryToFind() {
-    if (m_link.comPort().PortOpen() || DeviceOfPort(m_link.comPort().Number) != m_device ||
-        !m_link.OpenPort(m_link.comPort().Number))
+    if (DeviceOfPort(m_link.comPort().Number) != m_device)
+        return;
+    m_link.ClosePort(); // a try to which no station answered leaves it open
+    if (!m_link.OpenPort(m_link.comPort().Number))
         return;
     --m_checksLeft;
     m_looksLeft = Looks;
@@ -113,6 +120,6 @@ void DockWatch::EndCheck(bool found) {
         m_link.ClosePort();
         return;
     }
-    m_missing = false;
+    m_missing = m_gone = false;
     emit Found(m_device);
 }

@@ -20,17 +20,19 @@ class DockWatch : public QObject {
 public:
     DockWatch(DockingLink& link, std::function<bool()> isBusy);
 
-    /// A station has answered on the open port; from here on it is watched.
+    /// A station has answered on the open port; from here on it is watched. If one was missed, it
+    /// is found now.
     void Start();
-    /// The program has tried to connect, and no station has answered. A station that was there
-    /// before is found once its device has gone away and come back.
+    /// The program has tried to connect, and no station has answered. One that was there before may
+    /// still be starting: it is looked for a few times, and again after its device has gone away
+    /// and come back.
     void NotAnswered();
     /// Ends a check that runs: the program begins to connect by itself.
     void EndCheck() { EndCheck(false); }
     /// The operator has closed the port.
     void Stop();
-    /// The device of the station that is watched or missed; empty if none.
-    const QString& Device() const { return m_device; }
+    /// The device that has to be plugged in again; empty if none.
+    QString GoneDevice() const { return m_gone ? m_device : QString(); }
 
 signals:
     /// The device is gone, and the port is closed.
@@ -48,7 +50,9 @@ private:
     DockingLink& m_link;
     std::function<bool()> m_isBusy;
     QString m_device;
-    bool m_missing = false;
+    bool m_missing =
+        false;            ///< the station has not answered since it was gone, or since the last try
+    bool m_gone = false;  ///< the device was not there when it was looked for last
     int m_checksLeft = 0; ///< until the device goes away again
     int m_looksLeft = 0;  ///< for an answer; 0 while no check runs
     Timer m_tmrDevice;

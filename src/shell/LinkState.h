@@ -15,8 +15,8 @@ public:
 
     DockingLink& Link() { return m_link; }
     bool Online() const { return m_online; }
-    /// A station was there and is gone. Its device is watched.
-    bool IsMissed() const { return !gDockingDetected && !m_watch.Device().isEmpty(); }
+    /// The device of a station that was there and has to be plugged in again; empty if none.
+    QString GoneDevice() const { return m_watch.GoneDevice(); }
 
     /// Closes the port before the program connects.
     void PrepareToConnect();

@@ -60,17 +60,20 @@ const QSize MostFirstSize(1100, 800); ///< pixels
 
 frmMain::frmMain()
     : m_ui(std::make_unique<Ui::frmMain>()), m_panelPicture(new QLabel(this)),
-      m_panel1(new QLabel(this)), m_panel2(new QLabel(this)) {
+      m_panel1(new QLabel(this)), m_panelGone(new QLabel(this)), m_panel2(new QLabel(this)) {
     m_ui->setupUi(this);
     m_viewer = std::make_unique<PreviewViewer>(this, Translated);
     m_panelPicture->setMaximumSize(16, 16);
     m_panel1->setObjectName(QStringLiteral("panel1"));
+    m_panelGone->setObjectName(QStringLiteral("panelGone"));
     m_panel2->setObjectName(QStringLiteral("panel2"));
     m_ui->sbStatusBar->addWidget(m_panelPicture);
     m_ui->sbStatusBar->addWidget(m_panel1, 1);
+    m_ui->sbStatusBar->addPermanentWidget(m_panelGone);
     m_ui->sbStatusBar->addPermanentWidget(m_panel2);
     setWindowIcon(ProgramIcon(QStringLiteral("wardlock")));
     connect(&m_state, &LinkState::Changed, this, &frmMain::MarkPage);
+    connect(&m_state, &LinkState::Changed, this, &frmMain::ShowGoneDevice);
     connect(&m_state, &LinkState::StationGone, this, &frmMain::ShowStationGone);
     connect(&m_state, &LinkState::StationFound, this, &frmMain::ShowStationFound);
     MDIForm_Load();
@@ -441,6 +444,7 @@ void frmMain::ShowLanguage() {
     TranslateFrame();
     setWindowTitle(TitleWithVersion());
     InitToolbar();
+    ShowGoneDevice();
     if (m_state.Online()) // otherwise the home page connects, and the state is shown after that
         ShowDockingDetect(gDockingDetected);
     if (auto* home = qobject_cast<frmMdiMenu*>(m_page))

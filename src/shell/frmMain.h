@@ -63,6 +63,7 @@ private:
     void ShowChosen(QAction& action, bool chosen);
     void ShowBusy(bool busy);
     bool MayBeTalking() const;
+    void ShowGoneDevice();
     void ShowStationGone(const QString& device);
     void ShowStationFound(const QString& device);
     void OpenTourReport(const ReportProposal& proposal);
@@ -88,6 +89,7 @@ private:
     LinkState m_state{[this] { return MayBeTalking(); }};
     QLabel* m_panelPicture;
     QLabel* m_panel1;
+    QLabel* m_panelGone; ///< the station that is gone, if any
     QLabel* m_panel2;
     Page m_shown = HomePage;
     QWidget* m_page = nullptr;

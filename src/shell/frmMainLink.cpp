@@ -54,15 +54,20 @@ bool frmMain::MayBeTalking() const {
     return QApplication::activeModalWidget() || (m_downloadPage && m_downloadPage->Busy());
 }
 
+void frmMain::ShowGoneDevice() {
+    const QString device = m_state.GoneDevice();
+    m_panelGone->setText(device.isEmpty()
+                             ? QString()
+                             : FormatStr(Translate("%0:s is gone. Plug it in again."), {device}));
+}
+
 void frmMain::ShowStationGone(const QString& device) {
     ShowDockingDetect(false);
-    m_panel2->setText(FormatStr(Translate("%0:s is gone. Plug it in again."), {device}));
     WriteLog(QStringLiteral("The docking station at %1 is gone").arg(device));
 }
 
 void frmMain::ShowStationFound(const QString& device) {
     ShowDockingDetect(true);
-    m_panel2->clear();
     WriteLog(QStringLiteral("The docking station at %1 is back").arg(device));
 }
 

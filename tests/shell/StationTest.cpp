@@ -27,6 +27,7 @@
 #include <QFileDialog>
 #include <QMenu>
 #include <QTabBar>
+#include <QTreeWidget>
 
 #include <unistd.h>
 
@@ -94,6 +95,11 @@ class StationTest : public QObject {
             QFile::copy(QStringLiteral(BESIDE "/") + name, m_home->File(name));
         Save(SettingsSection::Properties, "Language", "0");
     }
+    void SetClock(int day, int hour) {
+        m_clock.reset();
+        m_clock = std::make_unique<TestClock>(
+            DateTime::FromQt(QDate(2026, 11, day)) + DateTime::FromTime(hour, 0), Speed);
+    }
     /// Starts the station and logs in.
     static bool Start(const Dock* dock, const QString& password = QStringLiteral("keeper"),
                       const char* operatorButton = "optUser_0") {
@@ -139,7 +145,7 @@ private slots:
             dock.reset();
             QTRY_COMPARE(state->text(), "Docking Station : Not Detected");
             QVERIFY(!Action("download")->isEnabled());
-            QVERIFY(Control(*MainWindow(), "panel2")->text().startsWith(link));
+            QVERIFY(Control(*MainWindow(), "panelGone")->text().startsWith(link));
             QVERIFY(m_home->TakeLog().contains("The docking station at " + link + " is gone"));
             QFile::remove(link);
             Dock other(Night); // a device that was not chosen
@@ -158,6 +164,130 @@ private slots:
             QCOMPARE(other.Logged("CmdDetect") + other.Logged("0D 0A"), 0);
         }
         QFile::remove(link);
+    }
+
+    // The operator does not wait until the station is found, or closes the port.
+    void ConnectsBeforeTheStationIsFound() {
+        const QString link = m_home->File("dock");
+        std::unique_ptr<Dock> dock;
+        const auto plugIn = [&](const QByteArray& scenario) {
+            dock = std::make_unique<Dock>(scenario);
+            return QFile::link(dock->Device(), link);
+        };
+        QVERIFY(plugIn(Night));
+        Save(SettingsSection::ComPort, "Device1", link);
+        Script login;
+        LogIn(login, "keeper");
+        login.Start();
+        QVERIFY(Main({}) == StartOutcome::Running && login.Finish() && gDockingDetected);
+        const auto* state = Control<QLabel>(*MainWindow(), "panel1");
+        const auto* gone = Control<QLabel>(*MainWindow(), "panelGone");
+        const auto unplug = [&] {
+            dock.reset();
+            return QTest::qWaitFor([&] { return gone->text().startsWith(link); }) &&
+                   QFile::remove(link) && !gDockingDetected;
+        };
+        const std::function<void()> ways[] = {
+            [] { Script::Find<QPushButton>("frmMdiMenu", "cmdRetry")->click(); },
+            [] { MainWindow()->GoHome(); }};
+        for (const auto& connect : ways) {
+            QVERIFY(unplug() && plugIn(Night));
+            m_home->TakeLog();
+            connect();
+            QVERIFY(gDockingDetected && gone->text().isEmpty());
+            QCOMPARE(m_home->TakeLog(), "The docking station at " + link + " is back");
+        }
+        // It still boots when the operator tries.
+        QVERIFY(unplug() && plugIn(Night + "fault silent detect\n"));
+        Script ignore({"Ignore"});
+        ignore.Start();
+        MainWindow()->GoHome();
+        QVERIFY(ignore.Finish() && !gDockingDetected);
+        dock->Say("fault none");
+        QTRY_COMPARE(state->text(), "Docking Station : OK");
+
+        QVERIFY(unplug());
+        gDictionary->InstallChooser([](Dictionary&, int& number) {
+            number = 2;
+            return true;
+        });
+        Script german({"OK"});
+        german.Start();
+        Action("mnuToolsLanguage")->trigger();
+        QVERIFY(german.Finish() && gone->text().contains(" ist nicht mehr "));
+        Script port; // without a choice, the port stays closed
+        port.Click("frmPrpComms", "cmdSetupCancel");
+        port.Start();
+        MainWindow()->GoOptions();
+        QVERIFY(port.Finish() && gone->text().isEmpty());
+        QVERIFY(plugIn(Night));
+        QTest::qWait(300); // nine looks at the device
+        QCOMPARE(dock->Logged("CmdDetect") + dock->Logged("0D 0A"), 0);
+        QFile::remove(link);
+    }
+
+    // At noon after a night: one tour was walked, one by a reader that was never taught, and one by
+    // nobody. A click or Enter opens the report dialog for that tour and day.
+    void HomeShowsTheNightAndOpensItsReports() {
+        SetClock(22, 12);
+        QVERIFY(m_home->Open());
+        gConn->Execute("INSERT INTO tblTours (ID, tName, iTolerance, dtStartTime) VALUES "
+                       "(9, 'Roof', 5, #1899-12-30 10:00:00#)");
+        gConn->Execute("INSERT INTO tblTourPoints (lParentID, lIndex, dtTime, tButtonCode) VALUES "
+                       "(9, 1, 0, '2C0B5E')");
+        for (const auto& [reader, time, code] : {std::tuple("0A0B0C0D", "21 14:00", "2C0918"),
+                                                 {"4B5831A7", "21 23:15", "1A40C2"},
+                                                 {"4B5831A7", "21 23:25", "1A40C7"},
+                                                 {"4B5831A7", "22 00:02", "1A41D0"}})
+            gConn->Execute(
+                QStringLiteral("INSERT INTO tblEvents (tPipeID, dtDLDateTime, dtDateTime, "
+                               "tButtonCode, wGroupType) VALUES ('%1', #2026-11-22 "
+                               "06:00:00#, #2026-11-%2:00#, '%3', 1)")
+                    .arg(QString::fromLatin1(reader), QString::fromLatin1(time),
+                         QString::fromLatin1(code)));
+        TestHome::Close();
+        Save(SettingsSection::Settings, "frmRptTourReader", "4B5831A7"); // the last choice
+        QVERIFY(Start(nullptr));
+        QWidget* page = MainWindow()->findChild<QWidget*>("frmMdiMenu");
+        QCOMPARE(Control(*page, "lblLastDownload")->text(),
+                 "4B5831A7 - Night reader\n22 Nov 2026 06:00\nData Readings = 4");
+        auto* tours = Control<QTreeWidget>(*page, "lvwTours");
+        QCOMPARE(RowsIn(*tours),
+                 (QStringList{"Roof|not downloaded or not walked|22 Nov 2026 10:00||||✗ 1 missing",
+                              "Night round|4B5831A7 - Night reader|21 Nov 2026 23:15|✓ 1 on time|◀ "
+                              "1 early|▶ 1 late|✗ 2 missing",
+                              "Day round|0A0B0C0D|21 Nov 2026 14:00|✓ 1 on time|||✗ 3 missing"}));
+        QStringList opened;
+        const auto open = [&](const std::function<void()>& act) {
+            Script script;
+            script.Then([&] {
+                QWidget* dialog = QApplication::activeModalWidget();
+                if (!dialog)
+                    return false;
+                opened += Control<QComboBox>(*dialog, "imgcboTour")->currentText() + u'|' +
+                          Control<QComboBox>(*dialog, "imgcboReader")->currentText() + u'|' +
+                          Control<QDateEdit>(*dialog, "dtpStartDate")->date().toString(Qt::ISODate);
+                // A report of another reader would be wrong without a word.
+                QTEST_ASSERT(Control<QPushButton>(*dialog, "cmdPrintPreview")->isEnabled() ==
+                             opened.last().contains("4B5831A7"));
+                dialog->close();
+                return true;
+            });
+            script.Start();
+            act();
+            return script.Finish();
+        };
+        for (const int row : {0, 1, 2})
+            QVERIFY(open([&] {
+                QTest::mouseClick(tours->viewport(), Qt::LeftButton, {},
+                                  tours->visualItemRect(tours->topLevelItem(row)).center());
+            }));
+        tours->setCurrentItem(tours->topLevelItem(1));
+        QVERIFY(open([&] { QTest::keyClick(tours, Qt::Key_Return); }));
+        const QString night = "Night round - Harbour Warehouse, over midnight|4B5831A7 - Night "
+                              "reader|2026-11-21";
+        QCOMPARE(opened, (QStringList{"Roof - ||2026-11-22", night,
+                                      "Day round - Office Tower, once a day||2026-11-21", night}));
     }
 
     void RunsTheMainJobThroughItsWindows() {

@@ -52,20 +52,20 @@ void frmRptTour::FillTours() {
     for (const Tour& tour : ToursByName())
         m_ui->imgcboTour->addItem(icon, tour.name + QStringLiteral(" - ") + tour.description,
                                   tour.id);
-    m_ui->cmdPrintPreview->setEnabled(m_ui->imgcboTour->count() > 0);
 }
 
 void frmRptTour::FillReaders() {
     const QIcon icon = ProgramIcon(QStringLiteral("reader"));
     for (const Reader& reader : ReadersByDescription())
         m_ui->imgcboReader->addItem(icon, ReaderText(reader), reader.id);
-    const bool any = m_ui->imgcboReader->count() > 0;
-    m_ui->imgcboReader->setEnabled(any);
-    // With readers but no tour the button stays enabled; the report then says what is missing.
-    m_ui->cmdPrintPreview->setEnabled(any);
+    m_ui->imgcboReader->setEnabled(m_ui->imgcboReader->count() > 0);
+    m_ui->imgcboReader->setPlaceholderText(Translate("Choose the reader"));
 }
 
-void frmRptTour::ReadSelectedReader() { ReaderId = m_ui->imgcboReader->currentData().toString(); }
+void frmRptTour::ReadSelectedReader() {
+    ReaderId = m_ui->imgcboReader->currentData().toString();
+    m_ui->cmdPrintPreview->setEnabled(m_ui->imgcboReader->currentIndex() >= 0);
+}
 
 void frmRptTour::ReadOptions() {
     m_ui->chkIncludeEvents->setChecked(SavedOption(ShowEventsKey));
@@ -74,12 +74,16 @@ void frmRptTour::ReadOptions() {
 }
 
 void frmRptTour::Propose(const ReportProposal& proposal) {
-    for (const auto& [list, tag] : {std::pair(m_ui->imgcboTour, QVariant(proposal.tourId)),
-                                    std::pair(m_ui->imgcboReader, QVariant(proposal.readerId))})
-        if (const int place = list->findData(tag); place >= 0)
-            list->setCurrentIndex(place);
+    if (const int place = m_ui->imgcboTour->findData(proposal.tourId); place >= 0)
+        m_ui->imgcboTour->setCurrentIndex(place);
+    const int reader = m_ui->imgcboReader->findData(proposal.readerId);
+    // A date means a certain run of the tour: another reader had nothing to do with it.
+    if (reader >= 0 || proposal.HasDate())
+        m_ui->imgcboReader->setCurrentIndex(reader);
     if (proposal.HasDate())
         m_ui->dtpStartDate->setDate(proposal.date.ToQDate());
+    if (reader < 0 && proposal.HasDate())
+        m_ui->imgcboReader->setFocus();
 }
 
 int frmRptTour::TourID() const { return m_ui->imgcboTour->currentData().toInt(); }
@@ -89,7 +93,6 @@ DateTime frmRptTour::StartDate() const { return DateTime::FromQt(m_ui->dtpStartD
 bool frmRptTour::IncludeEvents() const { return m_ui->chkIncludeEvents->isChecked(); }
 
 void frmRptTour::cmdPrintPreview_Click() {
-    ReadSelectedReader();
     m_reported = true;
     BuildTourReport({TourID(), StartDate(), ReaderId, m_ui->imgcboReader->currentText(),
                      IncludeEvents(), m_ui->optShowAll_1->isChecked()},

@@ -26,9 +26,10 @@ public:
     bool IncludeEvents() const;
     /// Always false: the dialog makes its reports itself.
     bool OK() const { return result() == Accepted; }
-    /// Follows the choice of the reader.
+    /// Follows the choice of the reader. Empty if none is chosen: there is no report without one.
     QString ReaderId;
-    /// Chooses what is proposed, as far as it exists.
+    /// Chooses what is proposed, as far as it exists. If the proposal has a date but no reader of
+    /// the list, no reader is chosen.
     void Propose(const ReportProposal& proposal);
     /// Sets the caption.
     void Title(const QString& text) { setWindowTitle(text); }
