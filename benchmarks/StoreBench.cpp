@@ -302,6 +302,62 @@ void BenchHome(Figures& figures, const QString& path) {
     gConn.reset();
 }
 
+/// What the home page reads of a busy office, and what is read to offer reports after the first
+/// download of a reader: 60 tours of 15 points, six
+/// at each of ten sites, of which each of 20 readers walks three every day.
+void BenchOffers(Figures& figures, const QString& path) {
+    MakeStore(path, 60);
+    constexpr int tours = 60, points = 15, readers = 20, toursOfReader = tours / readers;
+    constexpr int days = EventCount / (tours * points);
+    const auto codeOf = [](int tour, int point) { return CodeOf(tour % 10 * points + point); };
+    const auto startOf = [](int tour) { return DateTime::FromTime(tour * 7 % 24, 0); };
+    {
+        Bare bare(path);
+        bare.Run("BEGIN");
+        bare.Run("DELETE FROM tblTours");
+        bare.Run("DELETE FROM tblTourPoints");
+        sqlite3_stmt* insert = bare.Prepare(InsertEvent);
+        for (int tour = 0; tour < tours; ++tour) {
+            const std::string id = std::to_string(tour + 1);
+            bare.Run(("INSERT INTO tblTours VALUES (" + id + ", 'Round " + id + "', '', 5, " +
+                      std::to_string(startOf(tour).ToStore()) + ")")
+                         .c_str());
+            for (int point = 0; point < points; ++point)
+                bare.Run(("INSERT INTO tblTourPoints (lParentID, lIndex, dtTime, tButtonCode) "
+                          "VALUES (" +
+                          id + ", " + std::to_string(point) + ", 10.0/1440, '" +
+                          codeOf(tour, point) + "')")
+                             .c_str());
+        }
+        for (int day = days; day > 0; --day)
+            for (int tour = 0; tour < tours; ++tour)
+                for (int point = 0; point < points; ++point) {
+                    const DateTime date = TourDay - DateTime::FromDays(day) + startOf(tour) +
+                                          DateTime::FromTime(0, 10 * (point + 1) + day % 3);
+                    Insert(insert, {TourDay.ToStore(), date.ToStore(), codeOf(tour, point),
+                                    "Loading bay", "", 1, "Harbour Warehouse", "",
+                                    "500000" + std::to_string(10 + tour / toursOfReader)});
+                }
+        sqlite3_finalize(insert);
+        bare.Run("COMMIT");
+    }
+    if (!ADOInit(path, StorePassword))
+        qFatal("the store does not open");
+    QElapsedTimer timer;
+    timer.start();
+    if (DueTours(TourDay - DateTime::FromDays(1), TourDay).size() < tours)
+        qFatal("tours are not listed");
+    const double night = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    figures.Report("60 tours of the last 24 hours, 1,000,000 events", "ms", night, 200.0, 1.0);
+    timer.restart();
+    const auto due = DueToursOfReader("50000010", TourDay - DateTime::FromDays(31), TourDay);
+    const double time = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    if (due.size() < 31 * toursOfReader - 2)
+        qFatal("%d tours are offered", static_cast<int>(due.size()));
+    figures.Report("the offers after a first download, 1,000,000 events", "ms", time, 300.0, 1.0);
+    gConn.reset();
+}
+
 struct PlainRow {
     qint64 id;
     double downloaded;
@@ -695,6 +751,7 @@ int main(int argc, char* argv[]) {
     const QGuiApplication app(argc, argv); // reports need fonts
     BenchDownload(figures, folder);
     BenchHome(figures, many);
+    BenchOffers(figures, folder.filePath("offers.mdb"));
     BenchWalk(figures, many);
     BenchTour(figures, many, few);
     BenchDatabase(figures, many);

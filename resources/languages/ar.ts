@@ -260,6 +260,10 @@
         <translation>تقارير الجولات في هذا التنزيل</translation>
     </message>
     <message>
+        <source>More on the Reports page: %0:s</source>
+        <translation>المزيد في صفحة «التقارير»: %0:s</translation>
+    </message>
+    <message>
         <source>Data Readings = </source>
         <translation>عدد القراءات: </translation>
     </message>

@@ -260,6 +260,10 @@
         <translation>Berichte zu den ausgelesenen Rundgängen</translation>
     </message>
     <message>
+        <source>More on the Reports page: %0:s</source>
+        <translation>Weitere auf der Seite „Berichte“: %0:s</translation>
+    </message>
+    <message>
         <source>Data Readings = </source>
         <translation>Erfassungen: </translation>
     </message>

@@ -260,6 +260,10 @@
         <translation>Informes de las rondas de esta descarga</translation>
     </message>
     <message>
+        <source>More on the Reports page: %0:s</source>
+        <translation>Más en la página Informes: %0:s</translation>
+    </message>
+    <message>
         <source>Data Readings = </source>
         <translation>Lecturas: </translation>
     </message>

@@ -260,6 +260,10 @@
         <translation>Rapports des rondes de ce déchargement</translation>
     </message>
     <message>
+        <source>More on the Reports page: %0:s</source>
+        <translation>Autres, à la page Rapports : %0:s</translation>
+    </message>
+    <message>
         <source>Data Readings = </source>
         <translation>Pointages : </translation>
     </message>

@@ -260,6 +260,10 @@
         <translation>Rapporti delle ronde di questo scarico</translation>
     </message>
     <message>
+        <source>More on the Reports page: %0:s</source>
+        <translation>Altri nella pagina Rapporti: %0:s</translation>
+    </message>
+    <message>
         <source>Data Readings = </source>
         <translation>Letture: </translation>
     </message>

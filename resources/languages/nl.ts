@@ -260,6 +260,10 @@
         <translation>Rapporten van de uitgelezen rondes</translation>
     </message>
     <message>
+        <source>More on the Reports page: %0:s</source>
+        <translation>Meer op de pagina ‘Rapporten’: %0:s</translation>
+    </message>
+    <message>
         <source>Data Readings = </source>
         <translation>Registraties: </translation>
     </message>

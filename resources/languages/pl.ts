@@ -260,6 +260,10 @@
         <translation>Raporty z odczytanych obchodów</translation>
     </message>
     <message>
+        <source>More on the Reports page: %0:s</source>
+        <translation>Więcej na stronie „Raporty”: %0:s</translation>
+    </message>
+    <message>
         <source>Data Readings = </source>
         <translation>Rejestracje: </translation>
     </message>

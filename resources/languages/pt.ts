@@ -260,6 +260,10 @@
         <translation>Relatórios das rondas desta descarga</translation>
     </message>
     <message>
+        <source>More on the Reports page: %0:s</source>
+        <translation>Mais na página Relatórios: %0:s</translation>
+    </message>
+    <message>
         <source>Data Readings = </source>
         <translation>Leituras: </translation>
     </message>

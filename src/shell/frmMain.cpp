@@ -281,9 +281,8 @@ void frmMain::ShowHomeStation(frmMdiMenu& page) {
 
 void frmMain::OpenTourReport(const ReportProposal& proposal) {
     Guarded("OpenTourReport of Form frmMain", [&] {
-        frmRptTour dialog(*m_viewer, this);
+        frmRptTour dialog(*m_viewer, this, &proposal);
         dialog.Title(Translate("Tour / Exception Report"));
-        dialog.Propose(proposal);
         dialog.exec();
     });
 }

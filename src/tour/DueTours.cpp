@@ -40,21 +40,33 @@ Plan Moved(Plan plan, DateTime day) {
     return plan;
 }
 
-/// In order of time.
-std::vector<Evidence> EvidenceBetween(DateTime from, DateTime to) {
+/// The widest margin around a tour in which the evaluation reads touches.
+const DateTime Margin = DateTime::FromTime(1, 0);
+
+/// Everything around these plans, in order of time; of one reader alone, if named.
+std::vector<Evidence> EvidenceAround(const std::vector<Plan>& plans, const QString& readerId = {}) {
+    if (plans.empty())
+        return {};
+    DateTime from = plans.front().First().PointDateTime, to = plans.front().End();
+    for (const Plan& plan : plans) {
+        from = std::min(from, plan.First().PointDateTime);
+        to = std::max(to, plan.End());
+    }
+    const QString condition = readerId.isEmpty() ? QString() : QStringLiteral("tPipeID = ? AND ");
+    Values values{from - Margin, to + Margin};
+    if (!readerId.isEmpty())
+        values.insert(values.begin(), readerId);
     std::vector<Evidence> evidence;
-    for (Rows rows(QStringLiteral("SELECT dtDateTime, tButtonCode, tPipeID FROM tblEvents "
-                                  "WHERE wGroupType = 1 AND dtDateTime >= ? AND dtDateTime <= ? "
-                                  "ORDER BY dtDateTime"),
-                   {from, to});
+    for (Rows rows(QStringLiteral("SELECT dtDateTime, tButtonCode, tPipeID FROM tblEvents WHERE ") +
+                       condition +
+                       QStringLiteral("wGroupType = 1 AND dtDateTime >= ? AND dtDateTime <= ? "
+                                      "ORDER BY dtDateTime"),
+                   values);
          !rows.Eof(); rows.MoveNext())
         evidence.push_back({rows.Date(u"dtDateTime"), FixedCode(rows.Text(u"tButtonCode")),
                             rows.Text(u"tPipeID")});
     return evidence;
 }
-
-/// The widest margin around a tour in which the evaluation reads touches.
-const DateTime Margin = DateTime::FromTime(1, 0);
 
 /// The readers that touched a point of the tour, ordered by identifier. The evaluation decides
 /// whether that counts.
@@ -116,9 +128,8 @@ void AddDay(const Plan& plan, const std::vector<Evidence>& evidence, QList<DueTo
     }
 }
 
-} // namespace
-
-QList<DueTour> DueTours(DateTime after, DateTime until) {
+/// The tours that were due in the span.
+std::vector<Plan> PlansDue(DateTime after, DateTime until) {
     std::vector<Plan> plans;
     for (const Tour& tour : ToursByName()) {
         const auto today = PlanOn(tour, until.DatePart());
@@ -131,24 +142,37 @@ QList<DueTour> DueTours(DateTime after, DateTime until) {
             if (day + length > after && day + length <= until)
                 plans.push_back(Moved(*today, day));
     }
-    if (plans.empty())
-        return {};
-    DateTime from = plans.front().First().PointDateTime, to = until;
-    for (const Plan& plan : plans) {
-        from = std::min(from, plan.First().PointDateTime);
-        to = std::max(to, plan.End());
-    }
-    const std::vector<Evidence> evidence = EvidenceBetween(from - Margin, to + Margin);
-    QList<DueTour> due;
-    for (const Plan& plan : plans)
-        AddDay(plan, evidence, due);
+    return plans;
+}
+
+QList<DueTour> NewestFirst(QList<DueTour> due) {
     std::stable_sort(due.begin(), due.end(),
                      [](const DueTour& a, const DueTour& b) { return a.start > b.start; });
     return due;
 }
 
+} // namespace
+
+QList<DueTour> DueTours(DateTime after, DateTime until) {
+    const std::vector<Plan> plans = PlansDue(after, until);
+    const std::vector<Evidence> evidence = EvidenceAround(plans);
+    QList<DueTour> due;
+    for (const Plan& plan : plans)
+        AddDay(plan, evidence, due);
+    return NewestFirst(std::move(due));
+}
+
 QList<DueTour> DueToursOfReader(const QString& readerId, DateTime after, DateTime until) {
-    QList<DueTour> due = DueTours(after, until);
+    const std::vector<Plan> plans = PlansDue(after, until);
+    const std::vector<Evidence> own = EvidenceAround(plans, readerId);
+    QList<DueTour> due;
+    for (const Plan& plan : plans) {
+        if (ReadersNear(plan.layout, own).isEmpty())
+            continue;
+        const auto counts = Evaluate(plan.layout, readerId);
+        if (counts && counts->Found() > 0) // others may show that it was only passing
+            AddDay(plan, EvidenceAround({plan}), due);
+    }
     due.removeIf([&](const DueTour& one) { return !one.reader || one.reader->id != readerId; });
-    return due;
+    return NewestFirst(std::move(due));
 }

@@ -226,6 +226,64 @@ private slots:
         QFile::remove(link);
     }
 
+    /// What the dialog of the tour report proposes: tour, reader and date.
+    static QString Proposed(const std::function<void()>& open) {
+        QString proposed;
+        Script script;
+        script.Then([&] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            if (!dialog)
+                return false;
+            const QString reader = Control<QComboBox>(*dialog, "imgcboReader")->currentText();
+            proposed = Control<QComboBox>(*dialog, "imgcboTour")->currentText() + u'|' + reader +
+                       u'|' +
+                       Control<QDateEdit>(*dialog, "dtpStartDate")->date().toString(Qt::ISODate);
+            // A report of another reader would be wrong without a word.
+            if (Control<QPushButton>(*dialog, "cmdPrintPreview")->isEnabled() == reader.isEmpty())
+                proposed += "|wrong button";
+            dialog->close();
+            return true;
+        });
+        script.Start();
+        open();
+        return script.Finish() ? proposed : QString();
+    }
+
+    void OffersReportsAfterADownload() {
+        SetClock(22, 12);
+        QVERIFY(m_home->Open());
+        for (int tour = 11; tour < 18; ++tour) {
+            gConn->Execute(
+                QStringLiteral("INSERT INTO tblTours (ID, tName, iTolerance, dtStartTime) "
+                               "VALUES (%1, 'Gate', 5, #1899-12-30 23:14:00#)")
+                    .arg(tour));
+            gConn->Execute(QStringLiteral("INSERT INTO tblTourPoints (lParentID, lIndex, dtTime, "
+                                          "tButtonCode) VALUES (%1, 1, 0, '1A40C2')")
+                               .arg(tour));
+        }
+        TestHome::Close();
+        Dock dock(Night);
+        QVERIFY(Start(&dock));
+        MainWindow()->GoOnline();
+        Script::Find<QAbstractButton>("frmMdiDownload", "cmdOnline_0")->click();
+        auto* reports = Script::Find<QWidget>("frmMdiDownload", "fraReports");
+        QVERIFY(reports && reports->isVisible());
+        const auto offers = reports->findChildren<QPushButton*>();
+        QCOMPARE(offers.size(), 5);
+        QVERIFY2(offers[0]->text().startsWith("Night round - 21 Nov 2026 - 5 points: 1 on time"),
+                 qPrintable(offers[0]->text()));
+        QCOMPARE(Control(*reports, "lblMoreReports")->text(), "More on the Reports page: 3");
+        const QString reader = "|4B5831A7 - Night reader|2026-11-21";
+        QCOMPARE(Proposed([&] { offers[1]->click(); }), "Gate - " + reader);
+        QCOMPARE(Proposed([] {
+                     MainWindow()->GoReports();
+                     auto* list = Script::Find<QTreeWidget>("frmMdiReports", "lvwReports");
+                     list->setCurrentItem(list->topLevelItem(0));
+                     list->actions().first()->trigger();
+                 }),
+                 "Night round - Harbour Warehouse, over midnight" + reader);
+    }
+
     // At noon after a night: one tour was walked, one by a reader that was never taught, and one by
     // nobody. A click or Enter opens the report dialog for that tour and day.
     void HomeShowsTheNightAndOpensItsReports() {
@@ -258,32 +316,13 @@ private slots:
                               "1 early|▶ 1 late|✗ 2 missing",
                               "Day round|0A0B0C0D|21 Nov 2026 14:00|✓ 1 on time|||✗ 3 missing"}));
         QStringList opened;
-        const auto open = [&](const std::function<void()>& act) {
-            Script script;
-            script.Then([&] {
-                QWidget* dialog = QApplication::activeModalWidget();
-                if (!dialog)
-                    return false;
-                opened += Control<QComboBox>(*dialog, "imgcboTour")->currentText() + u'|' +
-                          Control<QComboBox>(*dialog, "imgcboReader")->currentText() + u'|' +
-                          Control<QDateEdit>(*dialog, "dtpStartDate")->date().toString(Qt::ISODate);
-                // A report of another reader would be wrong without a word.
-                QTEST_ASSERT(Control<QPushButton>(*dialog, "cmdPrintPreview")->isEnabled() ==
-                             opened.last().contains("4B5831A7"));
-                dialog->close();
-                return true;
-            });
-            script.Start();
-            act();
-            return script.Finish();
-        };
         for (const int row : {0, 1, 2})
-            QVERIFY(open([&] {
+            opened += Proposed([&] {
                 QTest::mouseClick(tours->viewport(), Qt::LeftButton, {},
                                   tours->visualItemRect(tours->topLevelItem(row)).center());
-            }));
+            });
         tours->setCurrentItem(tours->topLevelItem(1));
-        QVERIFY(open([&] { QTest::keyClick(tours, Qt::Key_Return); }));
+        opened += Proposed([&] { QTest::keyClick(tours, Qt::Key_Return); });
         const QString night = "Night round - Harbour Warehouse, over midnight|4B5831A7 - Night "
                               "reader|2026-11-21";
         QCOMPARE(opened, (QStringList{"Roof - ||2026-11-22", night,

@@ -108,8 +108,11 @@ void frmMdiDownload::OfferReports() {
         const ReportProposal proposal{outcome.readerId, tour.tour.id, tour.start.DatePart()};
         connect(offer, &QPushButton::clicked, this,
                 [this, proposal] { emit ReportWanted(proposal); });
-        m_ui->layReports->addWidget(offer);
+        m_ui->layReports->insertWidget(m_ui->layReports->count() - 1, offer);
     }
+    m_ui->lblMoreReports->setVisible(due.size() > MostOffers);
+    m_ui->lblMoreReports->setText(FormatStr(::Translate("More on the Reports page: %0:s"),
+                                            {QString::number(due.size() - MostOffers)}));
     m_ui->fraReports->setVisible(!due.isEmpty());
     ProposeAfterDownload(
         due.isEmpty()

@@ -26,7 +26,7 @@ void SaveOption(const QString& key, bool value) {
 
 } // namespace
 
-frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
+frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent, const ReportProposal* proposal)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmRptTour>()), m_viewer(viewer) {
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
@@ -36,11 +36,11 @@ frmRptTour::frmRptTour(ReportViewer& viewer, QWidget* parent)
             &frmRptTour::ReadSelectedReader);
     JoinReportButtons(*this, *m_ui->cmdPrintPreview, *m_ui->cmdCancel,
                       [this] { cmdPrintPreview_Click(); });
-    Guarded("Form_Load of Form frmRptTour", [this] {
+    Guarded("Form_Load of Form frmRptTour", [&] {
         ReadOptions(); // first: closing saves them, even if the lists cannot be filled
         FillTours();
         FillReaders();
-        Propose(ProposalFor(DialogName));
+        Propose(proposal ? *proposal : ProposalFor(DialogName));
         ReadSelectedReader();
     });
 }

@@ -16,8 +16,9 @@ class frmRptTour;
 class frmRptTour : public QDialog {
     Q_OBJECT
 public:
-    /// The viewer must outlive the dialog.
-    frmRptTour(ReportViewer& viewer, QWidget* parent);
+    /// The viewer must outlive the dialog. Without a proposal, it is the one for this dialog
+    /// (ProposalFor), which is not used up otherwise.
+    frmRptTour(ReportViewer& viewer, QWidget* parent, const ReportProposal* proposal = nullptr);
     ~frmRptTour() override;
 
     /// The current choice.
@@ -28,9 +29,6 @@ public:
     bool OK() const { return result() == Accepted; }
     /// Follows the choice of the reader. Empty if none is chosen: there is no report without one.
     QString ReaderId;
-    /// Chooses what is proposed, as far as it exists. If the proposal has a date but no reader of
-    /// the list, no reader is chosen.
-    void Propose(const ReportProposal& proposal);
     /// Sets the caption.
     void Title(const QString& text) { setWindowTitle(text); }
 
@@ -42,6 +40,9 @@ private:
     void FillReaders();
     void ReadSelectedReader();
     void ReadOptions();
+    /// Chooses what is proposed, as far as it exists. If the proposal has a date but no reader of
+    /// the list, no reader is chosen.
+    void Propose(const ReportProposal& proposal);
     void cmdPrintPreview_Click();
 
     std::unique_ptr<Ui::frmRptTour> m_ui;
