@@ -1068,8 +1068,12 @@
         <translation>الجولة</translation>
     </message>
     <message>
-        <source>Tour Date</source>
-        <translation>تاريخ الجولة</translation>
+        <source>&amp;Tour</source>
+        <translation>ال&amp;جولة</translation>
+    </message>
+    <message>
+        <source>Tour &amp;Date</source>
+        <translation>&amp;تاريخ الجولة</translation>
     </message>
     <message>
         <source>Reader</source>
@@ -1084,16 +1088,16 @@
         <translation>خيارات التقرير</translation>
     </message>
     <message>
-        <source>Show All Tour Points</source>
-        <translation>عرض جميع نقاط الجولة</translation>
+        <source>Show &amp;All Tour Points</source>
+        <translation>ع&amp;رض جميع نقاط الجولة</translation>
     </message>
     <message>
-        <source>Only Show Exceptions</source>
-        <translation>عرض المخالفات فقط</translation>
+        <source>Only Show &amp;Exceptions</source>
+        <translation>عر&amp;ض المخالفات فقط</translation>
     </message>
     <message>
-        <source>Include Events</source>
-        <translation>تضمين الأحداث</translation>
+        <source>&amp;Include Events</source>
+        <translation>تض&amp;مين الأحداث</translation>
     </message>
     <message>
         <source>Also shows the incidents recorded at each point</source>

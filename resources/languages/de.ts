@@ -1068,8 +1068,12 @@
         <translation>Rundgang</translation>
     </message>
     <message>
-        <source>Tour Date</source>
-        <translation>Datum</translation>
+        <source>&amp;Tour</source>
+        <translation>&amp;Rundgang</translation>
+    </message>
+    <message>
+        <source>Tour &amp;Date</source>
+        <translation>&amp;Datum</translation>
     </message>
     <message>
         <source>Reader</source>
@@ -1084,16 +1088,16 @@
         <translation>Umfang</translation>
     </message>
     <message>
-        <source>Show All Tour Points</source>
-        <translation>Alle Punkte zeigen</translation>
+        <source>Show &amp;All Tour Points</source>
+        <translation>Alle &amp;Punkte zeigen</translation>
     </message>
     <message>
-        <source>Only Show Exceptions</source>
-        <translation>Nur Abweichungen zeigen</translation>
+        <source>Only Show &amp;Exceptions</source>
+        <translation>&amp;Nur Abweichungen zeigen</translation>
     </message>
     <message>
-        <source>Include Events</source>
-        <translation>Mit Ereignissen</translation>
+        <source>&amp;Include Events</source>
+        <translation>&amp;Mit Ereignissen</translation>
     </message>
     <message>
         <source>Also shows the incidents recorded at each point</source>

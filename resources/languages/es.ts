@@ -1068,8 +1068,12 @@
         <translation>Ronda</translation>
     </message>
     <message>
-        <source>Tour Date</source>
-        <translation>Fecha de la ronda</translation>
+        <source>&amp;Tour</source>
+        <translation>&amp;Ronda</translation>
+    </message>
+    <message>
+        <source>Tour &amp;Date</source>
+        <translation>&amp;Fecha de la ronda</translation>
     </message>
     <message>
         <source>Reader</source>
@@ -1084,16 +1088,16 @@
         <translation>Contenido del informe</translation>
     </message>
     <message>
-        <source>Show All Tour Points</source>
-        <translation>Todos los puntos de la ronda</translation>
+        <source>Show &amp;All Tour Points</source>
+        <translation>&amp;Todos los puntos de la ronda</translation>
     </message>
     <message>
-        <source>Only Show Exceptions</source>
-        <translation>Solo anomalías</translation>
+        <source>Only Show &amp;Exceptions</source>
+        <translation>&amp;Solo anomalías</translation>
     </message>
     <message>
-        <source>Include Events</source>
-        <translation>Con incidencias</translation>
+        <source>&amp;Include Events</source>
+        <translation>Con &amp;incidencias</translation>
     </message>
     <message>
         <source>Also shows the incidents recorded at each point</source>

@@ -1068,8 +1068,12 @@
         <translation>Ronde</translation>
     </message>
     <message>
-        <source>Tour Date</source>
-        <translation>Date de la ronde</translation>
+        <source>&amp;Tour</source>
+        <translation>&amp;Ronde</translation>
+    </message>
+    <message>
+        <source>Tour &amp;Date</source>
+        <translation>&amp;Date de la ronde</translation>
     </message>
     <message>
         <source>Reader</source>
@@ -1084,16 +1088,16 @@
         <translation>Contenu du rapport</translation>
     </message>
     <message>
-        <source>Show All Tour Points</source>
-        <translation>Tous les points de la ronde</translation>
+        <source>Show &amp;All Tour Points</source>
+        <translation>&amp;Tous les points de la ronde</translation>
     </message>
     <message>
-        <source>Only Show Exceptions</source>
-        <translation>Anomalies seulement</translation>
+        <source>Only Show &amp;Exceptions</source>
+        <translation>Anomalies &amp;seulement</translation>
     </message>
     <message>
-        <source>Include Events</source>
-        <translation>Avec les événements</translation>
+        <source>&amp;Include Events</source>
+        <translation>A&amp;vec les événements</translation>
     </message>
     <message>
         <source>Also shows the incidents recorded at each point</source>

@@ -1068,8 +1068,12 @@
         <translation>Ronda</translation>
     </message>
     <message>
-        <source>Tour Date</source>
-        <translation>Data della ronda</translation>
+        <source>&amp;Tour</source>
+        <translation>&amp;Ronda</translation>
+    </message>
+    <message>
+        <source>Tour &amp;Date</source>
+        <translation>&amp;Data della ronda</translation>
     </message>
     <message>
         <source>Reader</source>
@@ -1084,16 +1088,16 @@
         <translation>Contenuto del rapporto</translation>
     </message>
     <message>
-        <source>Show All Tour Points</source>
-        <translation>Tutti i punti della ronda</translation>
+        <source>Show &amp;All Tour Points</source>
+        <translation>&amp;Tutti i punti della ronda</translation>
     </message>
     <message>
-        <source>Only Show Exceptions</source>
-        <translation>Solo anomalie</translation>
+        <source>Only Show &amp;Exceptions</source>
+        <translation>&amp;Solo anomalie</translation>
     </message>
     <message>
-        <source>Include Events</source>
-        <translation>Con eventi</translation>
+        <source>&amp;Include Events</source>
+        <translation>&amp;Con eventi</translation>
     </message>
     <message>
         <source>Also shows the incidents recorded at each point</source>

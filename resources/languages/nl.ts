@@ -1068,8 +1068,12 @@
         <translation>Ronde</translation>
     </message>
     <message>
-        <source>Tour Date</source>
-        <translation>Datum ronde</translation>
+        <source>&amp;Tour</source>
+        <translation>&amp;Ronde</translation>
+    </message>
+    <message>
+        <source>Tour &amp;Date</source>
+        <translation>&amp;Datum ronde</translation>
     </message>
     <message>
         <source>Reader</source>
@@ -1084,16 +1088,16 @@
         <translation>Rapportopties</translation>
     </message>
     <message>
-        <source>Show All Tour Points</source>
-        <translation>Alle punten tonen</translation>
+        <source>Show &amp;All Tour Points</source>
+        <translation>Alle &amp;punten tonen</translation>
     </message>
     <message>
-        <source>Only Show Exceptions</source>
-        <translation>Alleen afwijkingen tonen</translation>
+        <source>Only Show &amp;Exceptions</source>
+        <translation>Alleen afwijkingen &amp;tonen</translation>
     </message>
     <message>
-        <source>Include Events</source>
-        <translation>Met incidenten</translation>
+        <source>&amp;Include Events</source>
+        <translation>&amp;Met incidenten</translation>
     </message>
     <message>
         <source>Also shows the incidents recorded at each point</source>

@@ -1068,8 +1068,12 @@
         <translation>Obchód</translation>
     </message>
     <message>
-        <source>Tour Date</source>
-        <translation>Data obchodu</translation>
+        <source>&amp;Tour</source>
+        <translation>&amp;Obchód</translation>
+    </message>
+    <message>
+        <source>Tour &amp;Date</source>
+        <translation>&amp;Data obchodu</translation>
     </message>
     <message>
         <source>Reader</source>
@@ -1084,16 +1088,16 @@
         <translation>Opcje raportu</translation>
     </message>
     <message>
-        <source>Show All Tour Points</source>
-        <translation>Wszystkie punkty obchodu</translation>
+        <source>Show &amp;All Tour Points</source>
+        <translation>&amp;Wszystkie punkty obchodu</translation>
     </message>
     <message>
-        <source>Only Show Exceptions</source>
-        <translation>Tylko odchylenia</translation>
+        <source>Only Show &amp;Exceptions</source>
+        <translation>&amp;Tylko odchylenia</translation>
     </message>
     <message>
-        <source>Include Events</source>
-        <translation>Ze zdarzeniami</translation>
+        <source>&amp;Include Events</source>
+        <translation>&amp;Ze zdarzeniami</translation>
     </message>
     <message>
         <source>Also shows the incidents recorded at each point</source>

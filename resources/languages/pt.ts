@@ -1068,8 +1068,12 @@
         <translation>Ronda</translation>
     </message>
     <message>
-        <source>Tour Date</source>
-        <translation>Data da ronda</translation>
+        <source>&amp;Tour</source>
+        <translation>&amp;Ronda</translation>
+    </message>
+    <message>
+        <source>Tour &amp;Date</source>
+        <translation>&amp;Data da ronda</translation>
     </message>
     <message>
         <source>Reader</source>
@@ -1084,16 +1088,16 @@
         <translation>Conteúdo do relatório</translation>
     </message>
     <message>
-        <source>Show All Tour Points</source>
-        <translation>Todos os pontos da ronda</translation>
+        <source>Show &amp;All Tour Points</source>
+        <translation>&amp;Todos os pontos da ronda</translation>
     </message>
     <message>
-        <source>Only Show Exceptions</source>
-        <translation>Só anomalias</translation>
+        <source>Only Show &amp;Exceptions</source>
+        <translation>&amp;Só anomalias</translation>
     </message>
     <message>
-        <source>Include Events</source>
-        <translation>Com ocorrências</translation>
+        <source>&amp;Include Events</source>
+        <translation>Com &amp;ocorrências</translation>
     </message>
     <message>
         <source>Also shows the incidents recorded at each point</source>

@@ -11,6 +11,8 @@
 #include <QLocale>
 #include <QScopeGuard>
 
+#include <algorithm>
+
 QString Translate(const QString& text) { return gDictionary ? gDictionary->Translate(text) : text; }
 
 QString Translate(const char* text) { return Translate(QString::fromUtf8(text)); }
@@ -29,8 +31,23 @@ MessageAnswer IvMessageBox(const QString& text, const QString& advice, MessageKi
                        : ShowMessage({text, {}, kind, buttons, ButtonWords(buttons), advice});
 }
 
+bool ReadsLeftwards() { return QLocale(PresentLocale()).textDirection() == Qt::RightToLeft; }
+
 QString FormatStr(const QString& pattern, const QStringList& values) {
-    return Dictionary::FormatStr(pattern, values);
+    if (!ReadsLeftwards())
+        return Dictionary::FormatStr(pattern, values);
+    QStringList isolated;
+    for (const QString& value : values) {
+        const bool latin = std::any_of(value.begin(), value.end(), [](QChar letter) {
+            return letter.direction() == QChar::DirL;
+        });
+        isolated += latin ? QChar(0x2068) + value + QChar(0x2069) : value;
+    }
+    return Dictionary::FormatStr(pattern, isolated);
+}
+
+QString InReadingDirection(const QString& text) {
+    return ReadsLeftwards() ? QChar(0x200F) + text : text;
 }
 
 QString Labelled(const QString& label, const QString& value) {

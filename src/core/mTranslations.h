@@ -25,8 +25,18 @@ MessageAnswer IvMessageBox(const QString& text, const QString& advice,
                            MessageKind kind = MessageKind::Warning,
                            MessageButtons buttons = MessageButtons::Ok);
 
-/// Replaces "%0:s" and so on in a translated pattern.
+/// Whether the present language is written from right to left.
+bool ReadsLeftwards();
+
+/// Replaces "%0:s" and so on in a translated pattern. In a language that is written from right to
+/// left, Latin values such as paths are kept apart from the text around them by invisible marks
+/// (U+2068, U+2069), or their first and last signs would change sides.
 QString FormatStr(const QString& pattern, const QStringList& values);
+
+/// A text for a label that may begin with a name, a code or a date. The windows choose a text's
+/// direction by its first letter; from right to left, an invisible mark (U+200F) makes it the
+/// direction of the language.
+QString InReadingDirection(const QString& text);
 
 /// "Label: value". French has a space before the colon.
 QString Labelled(const QString& label, const QString& value);

@@ -2,6 +2,7 @@
 
 #include "Clock.h"
 #include "DockingLink.h"
+#include "Downloads.h"
 #include "MemoryTransfer.h"
 #include "ReaderErasure.h"
 #include "StoreFailure.h"
@@ -127,11 +128,22 @@ void MemoryDownload::EraseReader(bool silent, bool& succeeded) {
     IvMessageBox(Translate("Reader Erased"), MessageKind::Information);
 }
 
+/// The reader that was downloaded last, by this page or as the store says; empty if not known.
+QString MemoryDownload::LastReaderRead() const {
+    QString last = m_outcome.readerId;
+    if (last.isEmpty())
+        IgnoringErrors([&] { // without its name the question is still right
+            if (const auto download = LastDownload())
+                last = download->readerId;
+        });
+    return last;
+}
+
 bool MemoryDownload::EraseIfSure(ReaderErasure& erasure, bool silent) {
     if (!erasure.IsAllowed())
         return false;
     if (!silent) {
-        if (!MayClearReader({}, m_outcome.readerId))
+        if (!MayClearReader({}, LastReaderRead()))
             return false;
         m_view.ShowStatus({}); // the text of an earlier erase
     }

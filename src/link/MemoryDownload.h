@@ -65,6 +65,7 @@ private:
     bool Store();
     bool SetClock();
     void Pause(int milliseconds);
+    QString LastReaderRead() const;
     bool EraseIfSure(ReaderErasure& erasure, bool silent);
     void ShowText(const QString& text);
 

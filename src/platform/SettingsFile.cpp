@@ -2,6 +2,8 @@
 
 #include <QFileDevice>
 
+#include <array>
+
 namespace {
 
 /// `text` in quotes, as one line.
@@ -32,8 +34,9 @@ QString Escaped(const QString& line, qsizetype& at) {
             ++at;
         return QChar(line.mid(digits, at - digits).toUShort(nullptr, 16));
     }
+    constexpr std::array<QChar, 4> Meanings = {u'\n', u'\r', u'\t', u'\0'};
     const qsizetype known = QStringView(u"nrt0").indexOf(letter);
-    return known < 0 ? letter : QStringView(u"\n\r\t\0")[known];
+    return known < 0 ? letter : Meanings[static_cast<std::size_t>(known)];
 }
 
 /// A value as it stands in the file. Text outside of quotes counts too, so a value that was edited

@@ -163,8 +163,8 @@ void HomeBlocks::ShowStation(bool detected, int port, const QString& device) {
     ShowIcon(*m_stationIcon, detected ? QStringLiteral("online") : QStringLiteral("offline"));
     m_station->setText(
         Translate(detected ? "Docking Station : OK" : "Docking Station : Not Detected"));
-    m_device->setText(QStringLiteral("COM%1: ").arg(port) +
-                      (device.isEmpty() ? Translate("no device") : device));
+    m_device->setText(InReadingDirection(QStringLiteral("COM%1: ").arg(port) +
+                                         (device.isEmpty() ? Translate("no device") : device)));
     m_retry->setVisible(!detected);
 }
 
@@ -182,9 +182,10 @@ void HomeBlocks::FillDownload() {
         m_download->setText(Translate("none yet"));
         return;
     }
-    m_download->setText(NameOf(FindReader(last->readerId).value_or(Reader{last->readerId, {}})) +
-                        u'\n' + MomentOf(last->time) + u'\n' + Translate("Data Readings = ") +
-                        QString::number(last->touches));
+    m_download->setText(
+        InReadingDirection(NameOf(FindReader(last->readerId).value_or(Reader{last->readerId, {}})) +
+                           u'\n' + MomentOf(last->time) + u'\n' + Translate("Data Readings = ") +
+                           QString::number(last->touches)));
 }
 
 void HomeBlocks::FillSteps() {

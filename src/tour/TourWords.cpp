@@ -2,16 +2,12 @@
 
 #include "mTranslations.h"
 
-#include <QLocale>
-
 namespace {
 
 // All of them are in DejaVu Sans, which the fonts of screen and paper fall back on.
 constexpr QChar OnTimeSign(0x2713), ExceptionSign(0x25B3), MissingSign(0x2717);
 constexpr QChar BackwardSign(0x25C0), ForwardSign(0x25B6);
 constexpr QChar OutOfSequenceSign(0x21C5), NotOnTourSign(0x25CB), EventSign(0x2022);
-
-bool ReadsLeftwards() { return QLocale(PresentLocale()).textDirection() == Qt::RightToLeft; }
 
 QChar EarlySign() { return ReadsLeftwards() ? ForwardSign : BackwardSign; }
 QChar LateSign() { return ReadsLeftwards() ? BackwardSign : ForwardSign; }

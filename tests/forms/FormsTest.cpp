@@ -230,6 +230,17 @@ private slots:
             QVERIFY2(AllWindows().contains(form), qPrintable(form));
     }
 
+    // Latin values are kept apart from the Arabic around them, numbers and other languages are not.
+    void ValuesInArabic() {
+        const auto shown = [](int language) {
+            gLanguage = language;
+            OpenDictionary();
+            return FormatStr("%0:s, %1:s", {"/a/b", "5"}) + InReadingDirection("c");
+        };
+        QCOMPARE(shown(9), QStringLiteral(u"\u2068/a/b\u2069, 5\u200Fc"));
+        QCOMPARE(shown(2), "/a/b, 5c");
+    }
+
     void Shows_data() {
         QTest::addColumn<int>("language");
         QTest::addColumn<QString>("form");

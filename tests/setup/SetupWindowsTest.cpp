@@ -457,6 +457,7 @@ private slots:
         QVERIFY(list->isRowHidden(0, {}) && list->currentIndex().data() == "Yard");
         filter->setText("none");
         QVERIFY(!Control<QPushButton>(*page, "cmdSetup_2")->isEnabled());
+        QCOMPARE(list->accessibleDescription(), "No entry contains this.");
         QTest::keyClick(page.get(), Qt::Key_Delete);
         QVERIFY(m_boxes.TakeTexts().isEmpty());
         Press(*page, "cmdSetup_1"); // a new row is always seen

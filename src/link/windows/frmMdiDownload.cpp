@@ -99,11 +99,12 @@ void frmMdiDownload::OfferReports() {
     due.removeIf([&](const DueTour& tour) { return tour.start > now; });
     qDeleteAll(m_ui->fraReports->findChildren<QPushButton*>());
     for (const DueTour& tour : due.first(std::min<qsizetype>(due.size(), MostOffers))) {
+        QString text = tour.tour.name + QStringLiteral(" - ") +
+                       Format(tour.start, QStringLiteral("Short Date")) + QStringLiteral(" - ") +
+                       PointSummary(tour.points);
+        text.replace(u'&', QStringLiteral("&&")); // not a mnemonic
         auto* offer = new QPushButton(ProgramIcon(QStringLiteral("report")),
-                                      tour.tour.name + QStringLiteral(" - ") +
-                                          Format(tour.start, QStringLiteral("Short Date")) +
-                                          QStringLiteral(" - ") + PointSummary(tour.points),
-                                      m_ui->fraReports);
+                                      InReadingDirection(text), m_ui->fraReports);
         const ReportProposal proposal{outcome.readerId, tour.tour.id, tour.start.DatePart()};
         connect(offer, &QPushButton::clicked, this,
                 [this, proposal] { emit ReportWanted(proposal); });

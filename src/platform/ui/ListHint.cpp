@@ -43,7 +43,9 @@ public:
 
 private:
     void Follow() {
-        const bool empty = m_list.model()->rowCount() == 0 && !text().isEmpty();
+        bool empty = !text().isEmpty();
+        for (int row = 0; empty && row < m_list.model()->rowCount(); ++row)
+            empty = m_list.isRowHidden(row, {});
         setGeometry(m_list.viewport()->rect());
         setVisible(empty);
         m_list.setAccessibleDescription(empty ? text() : QString());

@@ -1,5 +1,6 @@
 #include "IncidentReportBuilder.h"
 
+#include "Dictionary.h"
 #include "ReportViewer.h"
 #include "Rows.h"
 #include "ScratchTable.h"
@@ -99,10 +100,11 @@ public:
 
 private:
     QString PlaceText(qsizetype location) const {
-        return FormatStr(m_placePattern,
-                         {m_events.TextAt(location, NameColumn),
-                          m_events.TextAt(location, GroupColumn),
-                          QStringLiteral("Reader ") + m_events.TextAt(location, ReaderColumn)});
+        // Without marks for the reading direction: the text is also exported to files.
+        return Dictionary::FormatStr(
+            m_placePattern,
+            {m_events.TextAt(location, NameColumn), m_events.TextAt(location, GroupColumn),
+             QStringLiteral("Reader ") + m_events.TextAt(location, ReaderColumn)});
     }
 
     void Add(const QString& heading, const QString& when, const QString& place) {

@@ -146,7 +146,6 @@ void frmMDISetup::ShowTab() {
     ManageColumns(*m_ui->lvwProgram,
                   QStringLiteral("frmMDISetup.") + QString::fromLatin1(Present().icon),
                   Present().widths);
-    ShowWhenEmpty(*m_ui->lvwProgram, ::Translate(Present().hint));
     FillList();
     SelectPlace(*m_ui->lvwProgram, 0);
 }
@@ -171,6 +170,8 @@ void frmMDISetup::Filter() {
         SelectPlace(*m_ui->lvwProgram, first);
     m_ui->cmdSetup_0->setEnabled(first >= 0);
     m_ui->cmdSetup_2->setEnabled(first >= 0);
+    ShowWhenEmpty(*m_ui->lvwProgram,
+                  ::Translate(wanted.isEmpty() ? Present().hint : "No entry contains this."));
 }
 
 void frmMDISetup::ShowLink() {
@@ -349,7 +350,7 @@ void frmMDISetup::DeleteReader() {
                                row->texts[0] + QStringLiteral("\n\n") +
                                FormatStr(::Translate("\"%0:s\" will be lost. Touches that are "
                                                      "already downloaded are kept."),
-                                         {row->texts[1]})))
+                                         {row->texts[row->texts[1].isEmpty() ? 0 : 1]})))
             return;
         ::DeleteReader(row->texts[0]);
         FillListAfterDelete();
