@@ -100,6 +100,14 @@
         <translation>يُرجى التحقق من الإعدادات وإعادة المحاولة.</translation>
     </message>
     <message>
+        <source>The master chooses the port under Tools, Com Options.</source>
+        <translation>يختار المشرف المنفذ من القائمة «أدوات»، «منفذ COM».</translation>
+    </message>
+    <message>
+        <source>Is the docking station plugged in, and is this its device?</source>
+        <translation>هل محطة الإرساء موصولة، وهل هذا هو جهازها؟</translation>
+    </message>
+    <message>
         <source>Could not connect to the docking station.</source>
         <translation>تعذّر الاتصال بمحطة الإرساء.</translation>
     </message>

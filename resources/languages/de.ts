@@ -100,6 +100,14 @@
         <translation>Bitte die Einstellungen prüfen und noch einmal versuchen.</translation>
     </message>
     <message>
+        <source>The master chooses the port under Tools, Com Options.</source>
+        <translation>Der Einsatzleiter wählt den Anschluss unter Extras, COM-Anschluss.</translation>
+    </message>
+    <message>
+        <source>Is the docking station plugged in, and is this its device?</source>
+        <translation>Ist die Dockingstation angeschlossen, und ist dies ihr Gerät?</translation>
+    </message>
+    <message>
         <source>Could not connect to the docking station.</source>
         <translation>Keine Verbindung zur Dockingstation.</translation>
     </message>

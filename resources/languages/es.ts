@@ -100,6 +100,14 @@
         <translation>Compruebe los ajustes y vuelva a intentarlo.</translation>
     </message>
     <message>
+        <source>The master chooses the port under Tools, Com Options.</source>
+        <translation>El responsable elige el puerto en Herramientas, Puerto COM.</translation>
+    </message>
+    <message>
+        <source>Is the docking station plugged in, and is this its device?</source>
+        <translation>¿Está conectada la base de descarga y es este su dispositivo?</translation>
+    </message>
+    <message>
         <source>Could not connect to the docking station.</source>
         <translation>No hay conexión con la base de descarga.</translation>
     </message>

@@ -100,6 +100,14 @@
         <translation>Vérifiez les réglages, puis réessayez.</translation>
     </message>
     <message>
+        <source>The master chooses the port under Tools, Com Options.</source>
+        <translation>Le responsable choisit le port sous Outils, Port COM.</translation>
+    </message>
+    <message>
+        <source>Is the docking station plugged in, and is this its device?</source>
+        <translation>La station d’accueil est-elle branchée, et est-ce bien son périphérique ?</translation>
+    </message>
+    <message>
         <source>Could not connect to the docking station.</source>
         <translation>Impossible de se connecter à la station d’accueil.</translation>
     </message>

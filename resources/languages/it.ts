@@ -100,6 +100,14 @@
         <translation>Controllare le impostazioni e riprovare.</translation>
     </message>
     <message>
+        <source>The master chooses the port under Tools, Com Options.</source>
+        <translation>Il responsabile sceglie la porta in Strumenti, Porta COM.</translation>
+    </message>
+    <message>
+        <source>Is the docking station plugged in, and is this its device?</source>
+        <translation>La base di scarico è collegata ed è questo il suo dispositivo?</translation>
+    </message>
+    <message>
         <source>Could not connect to the docking station.</source>
         <translation>Impossibile collegarsi alla base di scarico.</translation>
     </message>

@@ -100,6 +100,14 @@
         <translation>Controleer de instellingen en probeer het opnieuw.</translation>
     </message>
     <message>
+        <source>The master chooses the port under Tools, Com Options.</source>
+        <translation>De beheerder kiest de poort onder Extra, COM-poort.</translation>
+    </message>
+    <message>
+        <source>Is the docking station plugged in, and is this its device?</source>
+        <translation>Is het dockingstation aangesloten en is dit het apparaat ervan?</translation>
+    </message>
+    <message>
         <source>Could not connect to the docking station.</source>
         <translation>Geen verbinding met het dockingstation.</translation>
     </message>

@@ -100,6 +100,14 @@
         <translation>Proszę sprawdzić ustawienia i spróbować ponownie.</translation>
     </message>
     <message>
+        <source>The master chooses the port under Tools, Com Options.</source>
+        <translation>Administrator wybiera port w menu Narzędzia, Port COM.</translation>
+    </message>
+    <message>
+        <source>Is the docking station plugged in, and is this its device?</source>
+        <translation>Czy stacja dokująca jest podłączona i czy to jest jej urządzenie?</translation>
+    </message>
+    <message>
         <source>Could not connect to the docking station.</source>
         <translation>Brak połączenia ze stacją dokującą.</translation>
     </message>

@@ -100,6 +100,14 @@
         <translation>Verifique as definições e tente novamente.</translation>
     </message>
     <message>
+        <source>The master chooses the port under Tools, Com Options.</source>
+        <translation>O responsável escolhe a porta em Ferramentas, Porta COM.</translation>
+    </message>
+    <message>
+        <source>Is the docking station plugged in, and is this its device?</source>
+        <translation>A base de descarga está ligada e este é o seu dispositivo?</translation>
+    </message>
+    <message>
         <source>Could not connect to the docking station.</source>
         <translation>Não foi possível ligar à base de descarga.</translation>
     </message>

@@ -88,14 +88,16 @@ void DockingLink::Receive() {
 bool DockingLink::OpenPort(int number, const QString& settings) {
     if (m_comPort.PortOpen())
         return true;
-    return IgnoringErrors([&] {
+    const auto open = [&] {
         m_comPort.Number = number;
         m_comPort.Settings = settings;
         m_comPort.SetPortOpen(true);
         m_comPort.Input();
         m_comPort.Output("\r\n");
         m_comPort.Output("\r\n");
-    });
+        return true;
+    };
+    return Trapped(open, [&](const RunTimeError& error) { m_openFault = error.Description(); });
 }
 
 void DockingLink::ClosePort() {

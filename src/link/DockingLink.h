@@ -31,6 +31,8 @@ public:
 
     /// True if the port is open already or could be opened.
     bool OpenPort(int number, const QString& settings = CommSettings);
+    /// Why the port could not be opened at the last try, in the system's words.
+    const QString& OpenFault() const { return m_openFault; }
     /// Closes the port if it is open.
     void ClosePort();
 
@@ -80,6 +82,7 @@ private:
     void Receive();
 
     CommPort m_comPort;
+    QString m_openFault;
     cInBuffer m_inBuffer;
     std::optional<cInBuffer> m_watched; ///< what has arrived since WatchForRemoval
     std::optional<std::int64_t> m_waitEnd;

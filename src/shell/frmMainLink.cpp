@@ -18,6 +18,18 @@
 #include <QApplication>
 #include <QLabel>
 
+namespace {
+
+/// Which device was tried, and what to do next.
+QString PortAdvice(int port, const char* next) {
+    const QString device = DeviceOfPort(port);
+    return Labelled(QStringLiteral("COM%1").arg(port),
+                    device.isEmpty() ? Translate("no device") : device) +
+           u'\n' + Translate(next);
+}
+
+} // namespace
+
 void frmMain::GoConnect() {
     for (bool done = false; !done;) {
         done = true;
@@ -30,17 +42,23 @@ void frmMain::GoConnect() {
         dialog.exec();
         if (!dialog.OK()) {
             m_state.Set(false, false);
-            IvMessageBox(Translate("Could not open the com port.") + u'\n' +
-                             Translate("Check settings and try again.") + u'\n' +
-                             Translate("Working in Offline Mode"),
-                         MessageKind::Information);
+            IvMessageBox(
+                Translate("Could not open the com port.") + u'\n' +
+                    Translate("Check settings and try again.") + u'\n' +
+                    Translate("Working in Offline Mode"),
+                PortAdvice(m_state.Port, QT_TR_NOOP("The master chooses the port under Tools, Com "
+                                                    "Options.")) +
+                    u'\n' + m_state.Link().OpenFault(),
+                MessageKind::Information);
         } else {
             m_state.Set(dialog.Online, dialog.DockingDetected);
             if (!gDockingDetected) {
-                const auto answer =
-                    IvMessageBox(Translate("Could not connect to the docking station.") + u'\n' +
-                                     Translate("Check hardware and settings and try again."),
-                                 MessageKind::Information, MessageButtons::RetryIgnore);
+                const auto answer = IvMessageBox(
+                    Translate("Could not connect to the docking station.") + u'\n' +
+                        Translate("Check hardware and settings and try again."),
+                    PortAdvice(m_state.Port, QT_TR_NOOP("Is the docking station plugged in, and "
+                                                        "is this its device?")),
+                    MessageKind::Information, MessageButtons::RetryIgnore);
                 done = answer == MessageAnswer::Ignore;
             }
         }
