@@ -31,7 +31,6 @@ public:
     HelpBook(const HelpBook&) = delete;
     HelpBook& operator=(const HelpBook&) = delete;
 
-    const QString& Path() const { return m_path; }
     /// The language, such as "de".
     QString Locale() const;
     const QStringList& Topics() const { return m_topics; }

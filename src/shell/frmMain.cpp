@@ -257,7 +257,8 @@ void frmMain::GoHome() {
         return;
     auto* page = new frmMdiMenu(m_ui->pageArea);
     page->SetUserType(m_userType);
-    connect(page, &frmMdiMenu::RetryWanted, this, &frmMain::GoConnect);
+    connect(page, &frmMdiMenu::RetryWanted, this,
+            [this] { Guarded("cmdRetry_Click of Form frmMdiMenu", [this] { GoConnect(); }); });
     connect(page, &frmMdiMenu::ReportWanted, this, &frmMain::OpenTourReport);
     connect(page, &frmMdiMenu::SetupWanted, this, &frmMain::GoSetupTab);
     connect(&m_state, &LinkState::Changed, page, [this, page] { ShowHomeStation(*page); });

@@ -195,18 +195,21 @@ void frmMDISetup::FillListAndName(const QVariant& tag) {
 }
 
 void frmMDISetup::Rename(const QVariant& tag, const QString& text) {
-    Guarded("Rename of Form frmMDISetup", ErrorShow::Dialog, [&] {
+    Guarded("Rename of Form frmMDISetup", [&] {
         const int place = m_rows.PlaceOf(tag);
         if (place < 0 || !Present().actions.rename)
             return;
         const QString old = m_rows.Row(place).texts[0], name = text.trimmed();
         const QString fault = NameFault(Named::Group, name, m_rows.TextsOf(0), old);
-        if (fault.isEmpty()) {
+        const auto save = [&] {
             (this->*Present().actions.rename)(m_rows.Row(place), name);
-            FillListAndSelect(tag);
-        } else {
+            return true;
+        };
+        if (!fault.isEmpty())
             IvMessageBox(fault);
-        }
+        else if (Saved(save, "Rename of Form frmMDISetup",
+                       QT_TR_NOOP("The name could not be saved. Nothing was changed.")))
+            FillListAndSelect(tag);
     });
 }
 
@@ -232,6 +235,8 @@ void frmMDISetup::FillListAfterDelete() {
     const int place = SelectedPlace(*m_ui->lvwProgram);
     FillList();
     SelectPlace(*m_ui->lvwProgram, place);
+    if (!SelectedRow()) // the filter hides the row that is there now
+        Filter();
     m_ui->lvwProgram->setFocus(); // the Delete button had it, and may be disabled now
 }
 
