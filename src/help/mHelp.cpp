@@ -53,8 +53,6 @@ public:
 
 } // namespace
 
-const QString& HelpFile() { return g_helpFile; }
-
 void SetHelpFile(const QString& path) { g_helpFile = path; }
 
 void UpdateLanguage() {

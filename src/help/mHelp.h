@@ -6,7 +6,6 @@ class QWidget;
 
 /// The application's help file: its path, and the window that shows it.
 
-const QString& HelpFile();
 void SetHelpFile(const QString& path);
 
 /// Sets the help file of the present language if it is beside the program. An open help window

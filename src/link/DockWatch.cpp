@@ -54,15 +54,15 @@ void DockWatch::Stop() {
 }
 
 void DockWatch::CheckDevice() {
-    const bool there = DeviceExists(m_device);
-    if (!there)
-        m_checksLeft = Checks;
-    if (!m_missing) {
-        if (!there)
+    if (!DeviceExists(m_device)) {
+        if (!m_gone)
             Lose();
-    } else if (there && m_looksLeft == 0 && m_checksLeft > 0 && !m_isBusy()) {
-        TryToFind();
+        return;
     }
+    if (std::exchange(m_gone, false))
+        emit Returned();
+    if (m_missing && m_looksLeft == 0 && m_checksLeft > 0 && !m_isBusy())
+        TryToFind();
 }
 
 void DockWatch::Lose() {

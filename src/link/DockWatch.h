@@ -37,6 +37,8 @@ public:
 signals:
     /// The device is gone, and the port is closed.
     void Gone(const QString& device);
+    /// The device is back. Whether its station answers is not known yet.
+    void Returned();
     /// The station answers again, on the open port.
     void Found(const QString& device);
 

@@ -5,6 +5,7 @@ LinkState::LinkState(std::function<bool()> isBusy) : m_watch(m_link, std::move(i
         Publish(false, false);
         emit StationGone(device);
     });
+    connect(&m_watch, &DockWatch::Returned, this, [this] { Publish(m_online, gDockingDetected); });
     connect(&m_watch, &DockWatch::Found, this, [this](const QString& device) {
         Publish(m_online, true);
         emit StationFound(device);

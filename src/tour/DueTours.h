@@ -25,8 +25,8 @@ struct DueTour {
 };
 
 /// The tours that were due after `after` and not later than `until`, newest first: by their start,
-/// then by name. A tour without points is never due. Reads the events of that time only. Throws
-/// RunTimeError.
+/// then by name. A tour without points is never due; one that cannot be read is logged and left
+/// out. Reads the events of that time only. Throws RunTimeError.
 QList<DueTour> DueTours(DateTime after, DateTime until);
 
 /// Only those that this reader walked.

@@ -232,9 +232,7 @@ class SeenTest : public QObject {
 private slots:
     void initTestCase() {
         m_home = std::make_unique<TestHome>(TestHome::DemoSite);
-        for (const char* name : {"WK3.MLD", "login.bmp", "contact.bmp", "WK3_ENG.HLP"})
-            QVERIFY(QFile::copy(QStringLiteral(BESIDE "/") + QString::fromLatin1(name),
-                                m_home->File(QString::fromLatin1(name))));
+        m_home->CopyProgramFiles(QStringLiteral(BESIDE));
         gLanguage = 0;
         OpenDictionary();
         QApplication::setStyle("Fusion");

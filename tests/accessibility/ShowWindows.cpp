@@ -37,9 +37,7 @@ bool AwaitLine() {
 int main(int argc, char* argv[]) {
     const QApplication app(argc, argv);
     const TestHome home(TestHome::DemoSite);
-    for (const char* name : {"WK3.MLD", "login.bmp", "contact.bmp", "WK3_ENG.HLP"})
-        QFile::copy(QStringLiteral(BESIDE "/") + QString::fromLatin1(name),
-                    home.File(QString::fromLatin1(name)));
+    home.CopyProgramFiles(QStringLiteral(BESIDE));
     gLanguage = 0;
     OpenDictionary();
     DockingLink link;

@@ -83,7 +83,12 @@ public:
     }
     /// Handles events until every step is done; false after half a minute.
     bool Finish() {
-        return QTest::qWaitFor([this] { return m_next >= m_steps.size(); }, 30'000);
+        if (QTest::qWaitFor([this] { return m_next >= m_steps.size(); }, 30'000))
+            return true;
+        const QWidget* focus = QApplication::focusWidget();
+        qWarning("the script waits at step %zu; the focus is on %s", m_next,
+                 focus ? qPrintable(focus->objectName()) : "nothing");
+        return false;
     }
     const QStringList& Texts() const { return m_texts; }
 

@@ -28,6 +28,13 @@ TestHome::~TestHome() {
     SetAppPath({});
 }
 
+void TestHome::CopyProgramFiles(const QString& programs) const {
+    for (const char* name : {"WK3.MLD", "login.bmp", "contact.bmp", "WK3_ENG.HLP", "WK3_DEU.HLP"})
+        if (!QFile::copy(programs + u'/' + QString::fromLatin1(name),
+                         File(QString::fromLatin1(name))))
+            qFatal("cannot copy %s", name);
+}
+
 QString TestHome::TakeLog() const {
     QStringList lines = QString::fromUtf8(BytesOf(File("error.log"))).split(u'\n');
     QFile::remove(File("error.log"));

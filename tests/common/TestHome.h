@@ -22,6 +22,9 @@ public:
     QString Store() const { return File("main.mdb"); }
     QString Temp() const { return File("temp.mdb"); }
 
+    /// Copies the dictionary, the help and the pictures from the folder of the programs.
+    void CopyProgramFiles(const QString& programs) const;
+
     bool Open() const { return ADOInit(Store(), StorePassword); }
     static void Close() { gConn.reset(); }
     void Compact() const { CompactStore(ProviderText, Store(), Temp(), StorePassword); }

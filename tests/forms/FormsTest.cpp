@@ -214,10 +214,7 @@ class FormsTest : public QObject {
 private slots:
     void initTestCase() {
         m_home = std::make_unique<TestHome>(TestHome::DemoSite);
-        for (const char* name :
-             {"WK3.MLD", "login.bmp", "contact.bmp", "WK3_ENG.HLP", "WK3_DEU.HLP"})
-            QVERIFY(QFile::copy(QStringLiteral(BESIDE "/") + QString::fromLatin1(name),
-                                m_home->File(QString::fromLatin1(name))));
+        m_home->CopyProgramFiles(QStringLiteral(BESIDE));
     }
     void cleanupTestCase() {
         gReaderOptions.reset();

@@ -142,8 +142,7 @@ int main(int argc, char** argv) {
     g_folder = QString::fromLocal8Bit(argv[2]);
     TestHome home(TestHome::DemoSite);
     TestHome::Close();
-    for (const QString name : {"WK3.MLD", "login.bmp", "contact.bmp", "WK3_ENG.HLP", "WK3_DEU.HLP"})
-        QFile::copy(QStringLiteral(BESIDE "/") + name, home.File(name));
+    home.CopyProgramFiles(QStringLiteral(BESIDE));
     SaveSetting(SettingsApplication, SettingsSection::Properties, QStringLiteral("Language"),
                 QString::fromLatin1(argv[1]));
     const TestClock clock(DateTime::FromDays(46348) + DateTime::FromTime(7, 30), 30);

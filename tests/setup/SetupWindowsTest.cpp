@@ -463,8 +463,39 @@ private slots:
         Press(*page, "cmdSetup_1"); // a new row is always seen
         QCOMPARE(list->currentIndex().data(), "Site 002");
         QVERIFY(!list->isRowHidden(0, {}));
-        QTest::keyClick(page.get(), Qt::Key_Tab, Qt::ControlModifier);
-        QCOMPARE(Control<QTabBar>(*page, "tabSetup")->currentIndex(), EventBooks);
+        // A name that is being typed is saved, however the list is left.
+        auto* tabs = Control<QTabBar>(*page, "tabSetup");
+        const auto typeName = [&](const char* name) {
+            auto* field = list->viewport()->findChild<QLineEdit*>();
+            field->setText(name);
+            field->setFocus();
+        };
+        typeName("Quay");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(tabs->currentIndex(), EventBooks);
+        QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(Sites).center());
+        QCOMPARE(RowsIn(*list), (QStringList{"Depot|", "Quay|", "Site 001|", "Yard|"}));
+        const auto editRow = [&](int row) {
+            SelectPlace(*list, row);
+            list->edit(list->currentIndex());
+        };
+        QTRY_VERIFY(!list->viewport()->findChild<QLineEdit*>());
+        editRow(1);
+        typeName("Wharf");
+        QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(EventBooks).center());
+        QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(Sites).center());
+        QTRY_VERIFY(!list->viewport()->findChild<QLineEdit*>());
+        editRow(2);
+        typeName("Weir");
+        page->close();
+        page->show();
+        QCOMPARE(RowsIn(*list), (QStringList{"Depot|", "Site 001|", "Weir|", "Yard|"}));
+        // After a deletion no hidden row is chosen: "Site 001" follows "Depot".
+        filter->setText("D");
+        SelectPlace(*list, 0);
+        m_boxes.Answers += MessageAnswer::Yes;
+        QTest::keyClick(list, Qt::Key_Delete);
+        QCOMPARE(list->currentIndex().data(), "Yard");
     }
 
     // Columns fit their rows, and stay as the operator made them: in a narrower list, and in the

@@ -23,5 +23,6 @@ void CapturedIdControls::ShowVerdict(bool good) const {
 
 void CapturedIdControls::ClearPicture() const {
     img1.clear();
+    img1.setAccessibleName({});
     img1.repaint();
 }

@@ -14,6 +14,8 @@
 #include "mTranslations.h"
 #include "ui_frmMDISetup.h"
 
+#include <QApplication>
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QShortcut>
 
@@ -78,6 +80,7 @@ frmMDISetup::frmMDISetup(DockingLink& link, QWidget* parent)
             qOverload<>(&QWidget::setFocus));
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_ui->txtFilter,
             qOverload<>(&QWidget::setFocus));
+    connect(m_ui->tabSetup, &QTabBar::tabBarClicked, this, &frmMDISetup::FinishNaming);
     connect(m_ui->tabSetup, &QTabBar::currentChanged, this, [this] { ShowTab(); });
     connect(m_ui->lvwProgram, &QTreeView::doubleClicked, this, [this] { Do(&Actions::edit); });
     connect(m_ui->cmdSetup_0, &QPushButton::clicked, this, [this] { Do(&Actions::edit); });
@@ -88,6 +91,7 @@ frmMDISetup::frmMDISetup(DockingLink& link, QWidget* parent)
         auto* shortcut = new QShortcut(this);
         shortcut->setKeys(step > 0 ? QKeySequence::NextChild : QKeySequence::PreviousChild);
         connect(shortcut, &QShortcut::activated, this, [this, step] {
+            FinishNaming();
             const int tabs = m_ui->tabSetup->count();
             m_ui->tabSetup->setCurrentIndex((m_ui->tabSetup->currentIndex() + step + tabs) % tabs);
         });
@@ -192,6 +196,20 @@ void frmMDISetup::FillListAndName(const QVariant& tag) {
     FillListAndSelect(tag);
     m_ui->lvwProgram->setFocus();
     m_ui->lvwProgram->edit(m_ui->lvwProgram->currentIndex());
+}
+
+/// Saves the name that is being typed into the list, if there is one.
+void frmMDISetup::FinishNaming() {
+    const QWidget* field = QApplication::focusWidget();
+    if (!field || !m_ui->lvwProgram->viewport()->isAncestorOf(field))
+        return;
+    m_ui->lvwProgram->setFocus(); // the field loses it, and hands over the name
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+}
+
+void frmMDISetup::closeEvent(QCloseEvent* event) {
+    FinishNaming();
+    QWidget::closeEvent(event);
 }
 
 void frmMDISetup::Rename(const QVariant& tag, const QString& text) {

@@ -37,6 +37,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     struct Actions {
@@ -68,6 +69,7 @@ private:
     void Filter();
     void FillListAndSelect(const QVariant& tag);
     void FillListAndName(const QVariant& tag);
+    void FinishNaming();
     void Rename(const QVariant& tag, const QString& text);
     void FillListAfterDelete();
     /// Asks, with a warning if parts would be deleted too, and deletes by ID. `lost` says with the
