@@ -45,8 +45,12 @@ HelpBook::HelpBook(const QString& path) : m_path(path) {
     // A folder of its own for each book, because two may be open at the same time.
     static int count = 0;
     m_root = QStringLiteral("/help/%1").arg(++count);
-    if (!QResource::registerResource(path, m_root))
+    const bool registered = QResource::registerResource(path, m_root);
+    if (Content(Contents + QStringLiteral(".md")).isEmpty()) {
+        if (registered) // such as a dictionary
+            QResource::unregisterResource(path, m_root);
         fail(RunTimeErrorNumber::FileAccess, Translate("It is not a help file of this program."));
+    }
     const auto load = [this](const QString& topic) -> QTextDocument& {
         auto& document = m_documents[topic];
         document = std::make_unique<QTextDocument>();

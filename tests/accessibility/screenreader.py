@@ -18,6 +18,8 @@ LONGEST_WAIT = 10  # seconds, for a window to appear on the bus
 # Parts that Qt makes inside a widget: the list of a combo box, the field of an editable one, and the
 # parts of a calendar. Their widget is named.
 INNER = {('combo box', 'list'), ('combo box', 'text')}
+# Windows that only show something.
+WITHOUT_FOCUS = {'frmGoOnline', 'frmSplash'}
 # An area that scrolls is a "filler" for Qt, so that role counts.
 NO_ROLE = {'invalid', 'unknown', 'redundant object'}
 
@@ -110,6 +112,9 @@ def read_windows(program):
             if fault:
                 faults += 1
                 print(f'{window}: {fault}, in "{parent.get_name()}" ({parent.get_role_name()})')
+        if not found and window not in WITHOUT_FOCUS:
+            faults += 1
+            print(f'{window}: nothing takes the focus')
         parts += found
         shown.stdin.write('\n')
         shown.stdin.flush()

@@ -120,7 +120,8 @@ private slots:
 
     void RefusesAnotherFile() {
         QCOMPARE(ErrorOf([] { HelpBook(BESIDE "/no.HLP"); }), RunTimeErrorNumber::FileNotFound);
-        QCOMPARE(ErrorOf([] { HelpBook(BESIDE "/login.bmp"); }), RunTimeErrorNumber::FileAccess);
+        for (const QString other : {"/login.bmp", "/WK3.MLD"})
+            QCOMPARE(ErrorOf([&] { HelpBook(BESIDE + other); }), RunTimeErrorNumber::FileAccess);
     }
 
     void FindsAndMarksWords() {

@@ -7,6 +7,7 @@
 #include "NameField.h"
 #include "Number.h"
 #include "TourListDrag.h"
+#include "WindowPlace.h"
 #include "WindowTools.h"
 #include "frmEditTime.h"
 #include "mErrorHandler.h"
@@ -36,7 +37,8 @@ frmEditTour::frmEditTour(QWidget* parent)
     m_ui->setupUi(this);
     TranslateWindow(*this, Translated);
     if (parent)
-        move(parent->pos() + QPoint(PixelsOf(Right), PixelsOf(Below)));
+        move(OnScreen({parent->pos() + QPoint(PixelsOf(Right), PixelsOf(Below)), size()}, *this)
+                 .topLeft());
     JoinList(*m_ui->lvwLocations, m_locations);
     JoinList(*m_ui->lvwSelected, m_selected);
     SelectSectionOnFocus(*m_ui->dtpStartTime);
